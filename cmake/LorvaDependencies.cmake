@@ -1,0 +1,19 @@
+# SPDX-FileCopyrightText: 2026 The Lorva developers
+# SPDX-License-Identifier: MIT
+# Every library the project uses, found once. CONTRIBUTING.md says what each is for.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Concurrent Svg)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(HARFBUZZ REQUIRED IMPORTED_TARGET harfbuzz>=6.0)
+pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig>=2.14)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc icu-i18n)
+pkg_check_modules(SQLITE REQUIRED IMPORTED_TARGET sqlite3)
+pkg_check_modules(SIMDJSON REQUIRED IMPORTED_TARGET simdjson)
+find_package(tl-expected REQUIRED)
+
+if(LORVA_BUILD_TESTS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  find_package(GTest REQUIRED)
+endif()
+if(LORVA_BUILD_BENCHMARKS)
+  find_package(benchmark REQUIRED)
+endif()
