@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "base/AtomicFile.h"
+
+#include "base/SystemError.h"
+
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lorva {
+
+namespace {
+
+constexpr int kNameAttempts = 16;
+
+/// A new file that is removed again unless it was kept.
+class TemporaryFile
+{
+public:
+    TemporaryFile() = default;
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    ~TemporaryFile()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+        if (!m_path.isEmpty())
+            ::unlink(m_path.c_str());
+    }
+
+    /// Each of these gives 0 or the system's error number.
+    int create(const FilePath &folder)
+    {
+        for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
+            const QByteArray random = QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+            const FilePath path = folder.child(QByteArray(".lorva-" + random + ".tmp"));
+            m_descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            if (m_descriptor >= 0) {
+                m_path = path;
+                return 0;
+            }
+            if (errno != EEXIST)
+                return errno;
+        }
+        return EEXIST;
+    }
+
+    int write(QByteArrayView bytes)
+    {
+        while (!bytes.isEmpty()) {
+            const ssize_t written = ::write(m_descriptor, bytes.data(), size_t(bytes.size()));
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written < 0)
+                return errno;
+            bytes = bytes.sliced(written);
+        }
+        return 0;
+    }
+
+    /// File systems without permissions are no reason to fail.
+    void takePermissionsOf(const FilePath &path)
+    {
+        struct stat info;
+        if (::stat(path.c_str(), &info) == 0)
+            std::ignore = ::fchmod(m_descriptor, info.st_mode & 07777);
+    }
+
+    int flush()
+    {
+        if (::fsync(m_descriptor) != 0)
+            return errno;
+        return ::close(std::exchange(m_descriptor, -1)) == 0 ? 0 : errno;
+    }
+
+    int renameTo(const FilePath &path)
+    {
+        if (std::rename(m_path.c_str(), path.c_str()) != 0)
+            return errno;
+        m_path = FilePath();
+        return 0;
+    }
+
+private:
+    int m_descriptor = -1;
+    FilePath m_path;
+};
+
+/// The file that `path` leads to through links; `path` itself when there is none.
+FilePath withLinksFollowed(const FilePath &path)
+{
+    struct FreeDeleter {
+        void operator()(char *memory) const { std::free(memory); }
+    };
+    const std::unique_ptr<char, FreeDeleter> real(::realpath(path.c_str(), nullptr));
+    return real ? FilePath(QByteArray(real.get())) : path;
+}
+
+/// Makes the new name last; not every file system can, and the bytes are safe in either case.
+void flushFolder(const FilePath &folder)
+{
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
+} // namespace
+
+Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes)
+{
+    const FilePath target = withLinksFollowed(path);
+    TemporaryFile file;
+    int code = file.create(target.parent());
+    if (code == 0)
+        code = file.write(bytes);
+    if (code == 0) {
+        file.takePermissionsOf(target);
+        code = file.flush();
+    }
+    if (code == 0)
+        code = file.renameTo(target);
+    if (code != 0)
+        return systemFailure(code, "write", path);
+    flushFolder(target.parent());
+    return {};
+}
+
+} // namespace lorva

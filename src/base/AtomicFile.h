@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/FilePath.h"
+#include "base/Result.h"
+
+namespace lorva {
+
+/// Makes `path` a file that holds exactly `bytes`, or leaves what was there untouched: the bytes go to a
+/// new file in the same folder, are flushed to the disk, and take the name over. A link is followed, so
+/// that it keeps pointing at the file. An existing file's permissions are kept.
+///
+/// The folder must exist. Fails with notFound, permissionDenied, notRegularFile (a folder has that name)
+/// or ioFailure (a full disk, …); no new file stays behind. Thread: any.
+Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes);
+
+} // namespace lorva

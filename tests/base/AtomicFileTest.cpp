@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "base/AtomicFile.h"
+
+#include "support/TestHome.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lorva {
+
+namespace {
+
+using test::readFile;
+using test::TestHome;
+using test::writeFile;
+
+/// Permissions do not bind root, so the case acts as nobody meanwhile.
+class AsOrdinaryUser
+{
+public:
+    AsOrdinaryUser() : m_isRoot(::geteuid() == 0)
+    {
+        if (m_isRoot && ::seteuid(65534) != 0)
+            ADD_FAILURE() << "cannot act as nobody";
+    }
+    ~AsOrdinaryUser()
+    {
+        if (m_isRoot && ::seteuid(0) != 0)
+            ADD_FAILURE() << "cannot act as root again";
+    }
+
+private:
+    const bool m_isRoot;
+};
+
+QStringList namesIn(const FilePath &folder)
+{
+    return QDir(folder.displayText()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+mode_t permissionsOf(const FilePath &path)
+{
+    struct stat info {};
+    EXPECT_EQ(::stat(path.c_str(), &info), 0);
+    return info.st_mode & 07777;
+}
+
+TEST(AtomicFile, WritesAndReplaces)
+{
+    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath path = folder.child("na\xFFme.json"); // no UTF-8
+    ASSERT_TRUE(writeFileAtomically(path, "one"));
+    EXPECT_EQ(readFile(path), "one");
+    const QByteArray big(3'000'000, 'x');
+    ASSERT_TRUE(writeFileAtomically(path, big));
+    EXPECT_EQ(readFile(path), big);
+    ASSERT_TRUE(writeFileAtomically(path, {}));
+    EXPECT_EQ(readFile(path), "");
+    EXPECT_EQ(namesIn(folder).size(), 1);
+}
+
+TEST(AtomicFile, KeepsPermissionsAndLinks)
+{
+    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath path = writeFile(folder, "real", "old");
+    ::chmod(path.c_str(), 0640);
+    const FilePath link = folder.child("link");
+    ASSERT_EQ(::symlink("real", link.c_str()), 0);
+    ASSERT_TRUE(writeFileAtomically(link, "new"));
+    EXPECT_EQ(readFile(path), "new");
+    EXPECT_EQ(permissionsOf(path), mode_t(0640));
+    char target[16] {};
+    EXPECT_EQ(::readlink(link.c_str(), target, sizeof target), 4);
+}
+
+TEST(AtomicFile, ReplacesALinkThatLeadsNowhere)
+{
+    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath link = folder.child("link");
+    ASSERT_EQ(::symlink("/nowhere/at/all", link.c_str()), 0);
+    ASSERT_TRUE(writeFileAtomically(link, "new"));
+    EXPECT_EQ(readFile(link), "new");
+}
+
+TEST(AtomicFile, FailsWithoutItsFolder)
+{
+    const FilePath path = TestHome::instance().root().child("missing").child("file");
+    const Result<void> result = writeFileAtomically(path, "x");
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().kind, ErrorKind::notFound);
+    EXPECT_TRUE(result.error().detail.startsWith(u"cannot write "));
+    EXPECT_TRUE(result.error().detail.contains(path.displayText()));
+}
+
+TEST(AtomicFile, FailsOverAFolderAndLeavesNothingBehind)
+{
+    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath target = TestHome::instance().makeFolder("atomic/target");
+    const Result<void> result = writeFileAtomically(target, "x");
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().kind, ErrorKind::notRegularFile);
+    EXPECT_EQ(namesIn(folder), QStringList {QStringLiteral("target")});
+}
+
+TEST(AtomicFile, FailsInAReadOnlyFolderAndKeepsTheOldFile)
+{
+    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath path = writeFile(folder, "file", "old");
+    ::chmod(TestHome::instance().root().c_str(), 0755);
+    ::chmod(path.c_str(), 0666);
+    ::chmod(folder.c_str(), 0555);
+    {
+        const AsOrdinaryUser user;
+        const Result<void> result = writeFileAtomically(path, "new");
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().kind, ErrorKind::permissionDenied);
+    }
+    ::chmod(folder.c_str(), 0755);
+    EXPECT_EQ(readFile(path), "old");
+    EXPECT_EQ(namesIn(folder).size(), 1);
+}
+
+TEST(AtomicFile, FailsOnAFullDiskAndKeepsTheOldFile)
+{
+    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath path = writeFile(folder, "file", "old");
+    // A limit on the size of files stands for the full disk: the write ends in the middle.
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit {4096, RLIM_INFINITY};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const Result<void> result = writeFileAtomically(path, QByteArray(10000, 'x'));
+    const rlimit none {RLIM_INFINITY, RLIM_INFINITY};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().kind, ErrorKind::tooLarge);
+    EXPECT_EQ(readFile(path), "old");
+    EXPECT_EQ(namesIn(folder).size(), 1);
+}
+
+} // namespace
+
+} // namespace lorva
