@@ -50,8 +50,9 @@ void TestHome::setUp()
 {
     m_dir.emplace();
     const FilePath data = home().child(".local").child("share");
-    for (const FilePath &folder : {home(), home().child(".local"), data, userFonts(), systemFonts(),
-                                   root().child("cache"), root().child("config")})
+    for (const FilePath &folder :
+         {home(), home().child(".local"), data, userFonts(), systemFonts(), root().child("cache"),
+          root().child("config"), root().child("runtime")})
         ::mkdir(folder.c_str(), 0700);
 
     const QByteArray conf = QString::fromUtf8(kFontsConf)
@@ -64,6 +65,7 @@ void TestHome::setUp()
     ::setenv("XDG_DATA_HOME", data.c_str(), 1);
     ::setenv("XDG_CACHE_HOME", root().child("cache").c_str(), 1);
     ::setenv("XDG_CONFIG_HOME", root().child("config").c_str(), 1);
+    ::setenv("XDG_RUNTIME_DIR", root().child("runtime").c_str(), 1);
     ::setenv("XDG_DATA_DIRS", root().child("data-dirs").c_str(), 1);
     ::setenv("FONTCONFIG_FILE", root().child("fonts.conf").c_str(), 1);
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);

@@ -11,8 +11,8 @@
 
 namespace lorva::test {
 
-/// The world of one test process: a private home, private XDG folders, and a fontconfig that sees only
-/// the fonts that the case puts there. Made by the test main before any case runs.
+/// The world of one test process: a private home, private XDG folders, and a fontconfig that sees
+/// only the fonts that the case puts there. Made by the test main before any case runs.
 class TestHome
 {
 public:
@@ -33,14 +33,14 @@ private:
     std::optional<QTemporaryDir> m_dir;
 };
 
-/// Writes `bytes` to a new file in `folder` (which is made if missing) and gives its path. Names may be
-/// any bytes.
+/// Writes `bytes` to a new file in `folder` (which is made if missing) and gives its path. Names
+/// may be any bytes.
 FilePath writeFile(const FilePath &folder, const QByteArray &name, const QByteArray &bytes);
 /// The whole file; empty when it cannot be read.
 QByteArray readFile(const FilePath &path);
 
-/// A font file of a Debian package, by a path below /usr/share/fonts. Fails the running case when it is
-/// not installed (scripts/test installs it).
+/// A font file of a Debian package, by a path below /usr/share/fonts. Fails the running case when
+/// it is not installed (scripts/test installs it).
 FilePath realFont(const QByteArray &pathBelowUsrShareFonts);
 
 } // namespace lorva::test

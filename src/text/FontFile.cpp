@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "text/FontFile.h"
+
+#include "text/FaceDescribing.h"
+#include "text/FontFaceData.h"
+#include "text/FontFileData.h"
+#include "text/FontLimits.h"
+
+namespace lorva {
+
+namespace {
+
+tl::unexpected<Error> named(const FilePath &path, const Error &error)
+{
+    return failure(error.kind, path.displayText() + u": " + error.detail);
+}
+
+/// Only asked of faces without a name, so the cost of HarfBuzz does not matter.
+bool hasCharacterMap(const std::shared_ptr<const FontFile::Data> &file, int faceIndex,
+                     const SfntDirectory &directory)
+{
+    return directory.has(fontTag('c', 'm', 'a', 'p'))
+        && mapsAnyCharacter(file, faceIndex, directory);
+}
+
+} // namespace
+
+Result<std::shared_ptr<const OpenedFile>> FontFile::Data::reopen() const
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (auto kept = m_opening.lock())
+            return kept;
+    }
+    auto opened = OpenedFile::open(path);
+    if (opened && (*opened)->identity() != identity)
+        return failure(ErrorKind::malformed, path.displayText() + u": has changed while in use");
+    return opened;
+}
+
+void FontFile::Data::keepOpen(const std::shared_ptr<const OpenedFile> &opening) const
+{
+    const std::lock_guard lock(m_mutex);
+    m_opening = opening;
+}
+
+FontFile::FontFile(std::shared_ptr<const Data> data)
+    : m_data(std::move(data))
+{
+}
+
+FontFile::~FontFile() = default;
+
+Result<std::shared_ptr<const FontFile>> FontFile::open(const FilePath &path)
+{
+    return openForReading(path).map([](const KeptOpen &opened) { return opened.file; });
+}
+
+Result<FontFile::KeptOpen> FontFile::openForReading(const FilePath &path)
+{
+    auto opened = OpenedFile::open(path);
+    if (!opened)
+        return tl::unexpected(opened.error());
+    auto locations = readFaceLocations(**opened);
+    if (!locations)
+        return named(path, locations.error());
+    // The one face of a plain font decides about the file; of several, the sound ones count.
+    if (locations->size() == 1) {
+        if (const auto directory = readDirectory(**opened, locations->front()); !directory)
+            return named(path, directory.error());
+    }
+    auto data = std::make_shared<Data>();
+    data->path = path;
+    data->identity = (*opened)->identity();
+    data->locations = std::move(*locations);
+    data->keepOpen(*opened);
+    return KeptOpen{std::shared_ptr<const FontFile>(new FontFile(std::move(data))), *opened};
+}
+
+const FilePath &FontFile::path() const
+{
+    return m_data->path;
+}
+
+int FontFile::faceCount() const
+{
+    return int(m_data->locations.size());
+}
+
+Result<std::vector<FaceDescriptor>> FontFile::descriptors() const
+{
+    const auto opened = m_data->reopen();
+    if (!opened)
+        return tl::unexpected(opened.error());
+    std::vector<FaceDescriptor> all;
+    Error lastError{ErrorKind::malformed, QStringLiteral("has neither names nor a character map")};
+    for (int i = 0; i < faceCount() && all.size() < kMaxDescriptorsPerFile; ++i) {
+        const auto directory = readDirectory(**opened, m_data->locations[size_t(i)]);
+        if (!directory) {
+            lastError = directory.error();
+            continue;
+        }
+        const FaceFacts facts = readFaceFacts(**opened, *directory);
+        if (!facts.hasReadableName() && !hasCharacterMap(m_data, i, *directory))
+            continue;
+        auto faces = describeFace(facts, i, kMaxDescriptorsPerFile - all.size());
+        all.insert(all.end(), std::move_iterator(faces.begin()), std::move_iterator(faces.end()));
+    }
+    if (all.empty())
+        return named(m_data->path, lastError);
+    return all;
+}
+
+Result<std::shared_ptr<const FontFace>> FontFile::face(FaceKey key) const
+{
+    if (key.faceIndex < 0 || key.faceIndex >= faceCount())
+        return failure(ErrorKind::notFound,
+                       m_data->path.displayText() + u": has no face number "
+                           + QString::number(key.faceIndex));
+    const auto opened = m_data->reopen();
+    if (!opened)
+        return tl::unexpected(opened.error());
+    auto directory = readDirectory(**opened, m_data->locations[size_t(key.faceIndex)]);
+    if (!directory)
+        return named(m_data->path, directory.error());
+    auto data = readFaceData(m_data, **opened, std::move(*directory), key);
+    if (!data)
+        return failure(ErrorKind::notFound,
+                       m_data->path.displayText() + u": has no named instance number "
+                           + QString::number(key.namedInstance));
+    return std::make_shared<const FontFace>(std::move(data));
+}
+
+} // namespace lorva

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "text/TextLayout.h"
+
+#include <QPainterPath>
+
+#include <functional>
+
+namespace lorva {
+
+/// Outlines of the glyphs of one font at its size.
+///
+/// Thread: any, one at a time per object. Units: points, y down.
+/// Hostile fonts: a glyph of more than kMaxOutlineSegments segments, or one that reaches further than any
+/// type does, is left out.
+class GlyphOutliner
+{
+public:
+    explicit GlyphOutliner(const Font &font);
+
+    /// Appends the glyph with its origin at `at`; gives the number of segments that this took, drawn or
+    /// not.
+    int append(QPainterPath &path, quint32 glyph, QPointF at) const;
+
+private:
+    std::shared_ptr<hb_font_t> m_font;
+    double m_pointsPerUnit = 0;
+    double m_reach = 0;
+};
+
+/// The outlines of each line that has any, in the layout's coordinates, with non-zero winding. One path
+/// per line: glyphs that touch (joined scripts) are filled without a seam. Ends early when the whole
+/// takes more segments than any text does.
+void forEachLineOutline(const TextLayout &layout,
+                        const std::function<void(const QPainterPath &)> &visit);
+
+} // namespace lorva

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "text/OpenedFile.h"
+
+#include "text/FontLimits.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lorva {
+
+namespace {
+
+tl::unexpected<Error> openFailure(const FilePath &path, int error)
+{
+    const QString name = path.displayText();
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return failure(ErrorKind::notFound, name + u": no such file");
+    case EACCES:
+    case EPERM:
+        return failure(ErrorKind::permissionDenied, name + u": may not be read");
+    case ELOOP:
+        return failure(ErrorKind::notFound, name + u": is a link that leads in a circle");
+    case ENXIO:
+    case ENODEV:
+        return failure(ErrorKind::notRegularFile, name + u": is not a regular file");
+    default:
+        return failure(ErrorKind::ioFailure,
+                       name + u": cannot be opened: "
+                           + QString::fromLocal8Bit(std::strerror(error)));
+    }
+}
+
+FileIdentity identityOf(const struct stat &info)
+{
+    return {quint64(info.st_dev), quint64(info.st_ino), qint64(info.st_size),
+            qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec};
+}
+
+} // namespace
+
+Result<std::shared_ptr<const OpenedFile>> OpenedFile::open(const FilePath &path)
+{
+    // O_NONBLOCK: opening a FIFO that nobody writes to would wait for ever.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0)
+        return openFailure(path, errno);
+    std::shared_ptr<OpenedFile> file(new OpenedFile(fd));
+    struct stat info;
+    if (::fstat(fd, &info) != 0)
+        return openFailure(path, errno);
+    if (!S_ISREG(info.st_mode))
+        return failure(ErrorKind::notRegularFile, path.displayText() + u": is not a regular file");
+    if (info.st_size > kMaxFileSize)
+        return failure(ErrorKind::tooLarge, path.displayText() + u": is larger than any font");
+    file->m_identity = identityOf(info);
+    file->readFirstPage();
+    return file;
+}
+
+OpenedFile::~OpenedFile()
+{
+    ::close(m_fd);
+}
+
+void OpenedFile::readFirstPage()
+{
+    const quint64 wanted = std::min<quint64>(size(), m_firstPage.size());
+    if (read(0, m_firstPage.data(), wanted))
+        m_firstPageSize = wanted;
+}
+
+bool OpenedFile::read(quint64 offset, char *out, quint64 length) const
+{
+    if (offset > size() || length > size() - offset)
+        return false;
+    if (offset + length <= m_firstPageSize) {
+        std::memcpy(out, m_firstPage.data() + offset, length);
+        return true;
+    }
+    while (length > 0) {
+        const ssize_t got = ::pread(m_fd, out, length, off_t(offset));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return false;
+        offset += quint64(got);
+        out += got;
+        length -= quint64(got);
+    }
+    return true;
+}
+
+QByteArray OpenedFile::bytes(quint64 offset, quint64 length) const
+{
+    // Before anything is allocated: a damaged length must not cost memory.
+    if (offset > size() || length > size() - offset)
+        return {};
+    QByteArray out(qsizetype(length), Qt::Uninitialized);
+    return read(offset, out.data(), length) ? out : QByteArray();
+}
+
+} // namespace lorva

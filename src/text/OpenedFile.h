@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/FilePath.h"
+#include "base/Result.h"
+
+#include <array>
+#include <memory>
+
+namespace lorva {
+
+/// Tells whether a path still leads to the very bytes that were looked at before.
+struct FileIdentity
+{
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;
+    qint64 modifiedNs = 0;
+    bool operator==(const FileIdentity &) const = default;
+};
+
+/// One opening of a font file: a descriptor, closed at the end of its scope, and the file's first
+/// page, which nearly always holds the whole table directory.
+///
+/// Thread: any; reads carry their own position. A file that shrinks meanwhile gives failed reads,
+/// never a signal: nothing is mapped.
+class OpenedFile
+{
+public:
+    /// Opens without ever waiting, regular files only. Fails with notFound, permissionDenied,
+    /// notRegularFile, tooLarge or ioFailure.
+    static Result<std::shared_ptr<const OpenedFile>> open(const FilePath &path);
+    ~OpenedFile();
+    OpenedFile(const OpenedFile &) = delete;
+    OpenedFile &operator=(const OpenedFile &) = delete;
+
+    const FileIdentity &identity() const { return m_identity; }
+    quint64 size() const { return quint64(m_identity.size); }
+
+    /// Fills `out` with exactly `length` bytes; false if the file does not give them.
+    bool read(quint64 offset, char *out, quint64 length) const;
+    /// Exactly `length` bytes, or a null array.
+    QByteArray bytes(quint64 offset, quint64 length) const;
+
+private:
+    explicit OpenedFile(int fd)
+        : m_fd(fd)
+    {
+    }
+    void readFirstPage();
+
+    int m_fd;
+    FileIdentity m_identity;
+    quint64 m_firstPageSize = 0;
+    std::array<char, 4096> m_firstPage;
+};
+
+} // namespace lorva

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "text/TextShaper.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lorva {
+
+namespace {
+
+/// The widest real glyphs (ligatures of whole phrases) take some twenty ems.
+constexpr double kMaxAdvanceEms = 64;
+constexpr double kMaxLetterSpacing = 16384;
+
+using BufferPtr = std::unique_ptr<hb_buffer_t, decltype(&hb_buffer_destroy)>;
+
+hb_buffer_t *threadBuffer()
+{
+    thread_local const BufferPtr buffer(hb_buffer_create(), &hb_buffer_destroy);
+    hb_buffer_clear_contents(buffer.get());
+    return buffer.get();
+}
+
+hb_feature_t everywhere(hb_tag_t tag, quint32 value)
+{
+    return {tag, value, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END};
+}
+
+/// Ligatures would stand as tight lumps in spaced-out text. The font's own settings come after, and win.
+std::vector<hb_feature_t> shapingFeatures(const Font &font, double letterSpacing)
+{
+    std::vector<hb_feature_t> features;
+    if (letterSpacing != 0) {
+        features.push_back(everywhere(HB_TAG('l', 'i', 'g', 'a'), 0));
+        features.push_back(everywhere(HB_TAG('c', 'l', 'i', 'g'), 0));
+    }
+    for (const FeatureSetting &setting : font.features())
+        features.push_back(everywhere(setting.tag, setting.value));
+    return features;
+}
+
+double totalAdvance(std::span<const ShapedGlyph> glyphs)
+{
+    double sum = 0;
+    for (const ShapedGlyph &glyph : glyphs)
+        sum += glyph.advance;
+    return sum;
+}
+
+} // namespace
+
+TextShaper::TextShaper(const Font &font, double letterSpacing, const QByteArray &language)
+    : m_font(font)
+    , m_shapingFont(font.shapingFont())
+    , m_letterSpacing(std::isfinite(letterSpacing)
+                          ? std::clamp(letterSpacing, -kMaxLetterSpacing, kMaxLetterSpacing)
+                          : 0)
+{
+    m_features = shapingFeatures(font, m_letterSpacing);
+    if (!font.isNull())
+        m_pointsPerUnit = font.pointSize() / std::max(1, font.face()->metrics().unitsPerEm);
+    if (!language.isEmpty())
+        m_language = hb_language_from_string(language.constData(), int(language.size()));
+}
+
+double TextShaper::toPoints(hb_position_t units) const
+{
+    const double limit = kMaxAdvanceEms * m_font.pointSize();
+    return std::clamp(units * m_pointsPerUnit, -limit, limit);
+}
+
+hb_language_t TextShaper::languageFor(quint32 script) const
+{
+    if (m_language != HB_LANGUAGE_INVALID)
+        return m_language;
+    switch (script) {
+    case HB_SCRIPT_HIRAGANA:
+    case HB_SCRIPT_KATAKANA:
+        return hb_language_from_string("ja", -1);
+    case HB_SCRIPT_HANGUL:
+        return hb_language_from_string("ko", -1);
+    case HB_SCRIPT_BOPOMOFO:
+        return hb_language_from_string("zh-Hant", -1);
+    default:
+        return hb_language_get_default();
+    }
+}
+
+std::vector<ShapedGlyph> TextShaper::glyphsIn(hb_buffer_t *buffer) const
+{
+    unsigned count = 0;
+    unsigned positionCount = 0;
+    const hb_glyph_info_t *infos = hb_buffer_get_glyph_infos(buffer, &count);
+    const hb_glyph_position_t *positions = hb_buffer_get_glyph_positions(buffer, &positionCount);
+    std::vector<ShapedGlyph> glyphs;
+    glyphs.reserve(count);
+    for (unsigned i = 0; i < std::min(count, positionCount); ++i) {
+        const hb_glyph_position_t &at = positions[i];
+        const bool unsafe = hb_glyph_info_get_glyph_flags(&infos[i]) & HB_GLYPH_FLAG_UNSAFE_TO_BREAK;
+        glyphs.push_back({infos[i].codepoint, int(infos[i].cluster), toPoints(at.x_advance),
+                          QPointF(toPoints(at.x_offset), -toPoints(at.y_offset)), unsafe});
+    }
+    return glyphs;
+}
+
+ShapedRun TextShaper::shape(QStringView paragraph, const TextItem &item) const
+{
+    ShapedRun run {item, {}};
+    if (m_font.isNull() || item.end <= item.start)
+        return run;
+    hb_buffer_t *buffer = threadBuffer();
+    hb_buffer_add_utf16(buffer, reinterpret_cast<const uint16_t *>(paragraph.utf16()),
+                        int(paragraph.size()), unsigned(item.start), item.end - item.start);
+    hb_buffer_set_direction(buffer, item.isRightToLeft() ? HB_DIRECTION_RTL : HB_DIRECTION_LTR);
+    hb_buffer_set_script(buffer, hb_script_t(item.script));
+    hb_buffer_set_language(buffer, languageFor(item.script));
+    hb_shape(m_shapingFont.get(), buffer, m_features.data(), unsigned(m_features.size()));
+    run.glyphs = glyphsIn(buffer);
+    addLetterSpacing(run);
+    return run;
+}
+
+/// Space follows a cluster in reading direction; clusters without width (joiners, lone marks) get none.
+void TextShaper::addLetterSpacing(ShapedRun &run) const
+{
+    if (m_letterSpacing == 0)
+        return;
+    std::span<ShapedGlyph> glyphs(run.glyphs);
+    for (size_t start = 0; start < glyphs.size();) {
+        size_t end = start + 1;
+        while (end < glyphs.size() && glyphs[end].cluster == glyphs[start].cluster)
+            ++end;
+        ShapedGlyph &edge = run.item.isRightToLeft() ? glyphs[start] : glyphs[end - 1];
+        if (totalAdvance(glyphs.subspan(start, end - start)) != 0) {
+            edge.advance += m_letterSpacing;
+            if (run.item.isRightToLeft())
+                edge.offset.rx() += m_letterSpacing;
+        }
+        start = end;
+    }
+}
+
+ShapedRun TextShaper::shapeEllipsis(const TextItem &item) const
+{
+    QStringView text;
+    if (m_font.hasGlyphFor(U'\u2026'))
+        text = u"\u2026";
+    else if (m_font.hasGlyphFor(U'.'))
+        text = u"...";
+    ShapedRun run = shape(text, {0, int(text.size()), item.level, item.script});
+    run.item = item;
+    for (ShapedGlyph &glyph : run.glyphs)
+        glyph.cluster = item.start;
+    return run;
+}
+
+} // namespace lorva

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/LorvaAppModel.h"
+#include "support/FontBuilder.h"
+#include "support/TestHome.h"
+#include "support/Waiting.h"
+
+#include <memory>
+
+namespace lorva::test {
+
+/// The files of a folder, as the system's fonts.
+class FolderFonts final : public AvailableFonts
+{
+public:
+    std::vector<FilePath> files;
+    std::vector<FilePath> fontFiles(const std::function<void(int)> &,
+                                    std::stop_token) const override
+    {
+        return files;
+    }
+};
+
+/// The stand-in for faces that cannot be found is the first fixture font.
+class FixtureSystemFont final : public SystemFontLocator
+{
+public:
+    FilePath path;
+    Location systemFont() const override { return {path, 0}; }
+};
+
+/// A model over fonts built for the case: families "<prefix> 000", "<prefix> 001", …
+struct LibraryFixture
+{
+    std::shared_ptr<FolderFonts> fonts = std::make_shared<FolderFonts>();
+    std::shared_ptr<FixtureSystemFont> systemFont = std::make_shared<FixtureSystemFont>();
+    std::unique_ptr<LorvaAppModel> model;
+
+    LibraryFixture()
+    {
+        systemFont->path = addFamily(QStringLiteral("Stand In"));
+        fonts->files.clear();
+        model = std::make_unique<LorvaAppModel>(
+            std::make_unique<FontLibraryService>(
+                FontLibraryService::Dependencies{fonts, systemFont}),
+            std::make_unique<CatalogActivation>(PlatformFolders()));
+    }
+
+    FilePath addFamily(const QString &name, const std::u32string &characters = U"Aa 123")
+    {
+        const QByteArray fileName = name.toUtf8() + ".ttf";
+        const FilePath file = writeFile(TestHome::instance().root().child("library"), fileName,
+                                        FontBuilder(name)
+                                            .postScriptName(QString(name).remove(u' '))
+                                            .codePoints(characters)
+                                            .build());
+        fonts->files.push_back(file);
+        return file;
+    }
+
+    void addFamilies(const QString &prefix, int count)
+    {
+        for (int i = 0; i < count; ++i)
+            addFamily(QStringLiteral("%1 %2").arg(prefix).arg(i, 3, 10, QChar(u'0')));
+    }
+
+    bool load()
+    {
+        model->loadCatalog();
+        return waitUntil([this] { return !model->isLoading(); });
+    }
+
+    QStringList visibleNames()
+    {
+        QStringList names;
+        for (const FontFamilyRecord &family : *model->visibleFamilies())
+            names.append(family.familyName);
+        return names;
+    }
+};
+
+} // namespace lorva::test
