@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "catalog/FontLibraryService.h"
+
+#include "catalog/FaceResolver.h"
+#include "catalog/FontCatalogLoader.h"
+#include "catalog/MainThreadQueue.h"
+#include "catalog/WorkerThreads.h"
+#include "install/FontFolderWalk.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <chrono>
+#include <deque>
+#include <mutex>
+
+namespace lorva {
+
+namespace {
+
+/// Lets some thirty reports a second through, and each new phase's first at once.
+class ProgressThrottle
+{
+public:
+    bool lets(const FontScanPhase &phase)
+    {
+        const auto now = std::chrono::steady_clock::now();
+        if (m_last && m_last->kind == phase.kind && now - m_lastTime < std::chrono::milliseconds(33))
+            return false;
+        m_last = phase;
+        m_lastTime = now;
+        return true;
+    }
+
+private:
+    std::optional<FontScanPhase> m_last;
+    std::chrono::steady_clock::time_point m_lastTime;
+};
+
+std::vector<FilePath> watchedFiles(const std::vector<FilePath> &folders, const std::stop_token &stop)
+{
+    std::vector<FilePath> files;
+    for (const FilePath &folder : folders) {
+        const std::vector<FilePath> found = fontFilesInFolder(folder, stop);
+        files.insert(files.end(), found.begin(), found.end());
+    }
+    return files;
+}
+
+} // namespace
+
+struct FontLibraryService::Private {
+    /// One request of a scan, from its asking to the delivery of its result.
+    struct Load {
+        std::vector<FilePath> folders;
+        ProgressCallback progress;
+        CatalogCallback done;
+        std::stop_source stop;
+    };
+
+    explicit Private(Dependencies given)
+        : dependencies(std::move(given))
+        , systemFont(std::make_shared<SystemFont>(dependencies.systemFont))
+        , loader({dependencies.availableFonts ? dependencies.availableFonts
+                                              : std::make_shared<NoAvailableFonts>(),
+                  dependencies.identifier})
+        , faceResolver(makeResolver({}))
+    {
+    }
+
+    ~Private()
+    {
+        // Loads that wait behind the running one were never started.
+        if (!loads.empty())
+            loads.front()->stop.request_stop();
+    }
+
+    std::shared_ptr<const FaceResolver> makeResolver(std::vector<FontFamilyRecord> families) const
+    {
+        const SteadyClock now
+            = dependencies.now ? dependencies.now : SteadyClock(std::chrono::steady_clock::now);
+        return std::make_shared<FaceResolver>(std::move(families), systemFont, now);
+    }
+
+    std::shared_ptr<const FaceResolver> currentResolver() const
+    {
+        const std::lock_guard lock(resolverLock);
+        return faceResolver;
+    }
+
+    void install(std::shared_ptr<const FaceResolver> resolver)
+    {
+        const std::lock_guard lock(resolverLock);
+        faceResolver.swap(resolver);
+    }
+
+    void startLoad();
+    void run(const std::shared_ptr<Load> &load);
+    void finishLoad(const std::optional<FontCatalogResult> &result,
+                    std::shared_ptr<const FaceResolver> resolver);
+    void serve(PendingResolve &request);
+
+    const Dependencies dependencies;
+    const std::shared_ptr<const SystemFont> systemFont;
+    FontCatalogLoader loader;
+    mutable std::mutex resolverLock;
+    std::shared_ptr<const FaceResolver> faceResolver;
+    /// The first one runs. Thread: main.
+    std::deque<std::shared_ptr<Load>> loads;
+    MainThreadQueue mainThread;
+    // Last, so that both are stopped before anything they use goes.
+    WorkerThreads loaderThread {1};
+    WorkerThreads resolveWorkers {kMaxResolveWorkers};
+};
+
+void FontLibraryService::Private::startLoad()
+{
+    loaderThread.push([this, load = loads.front()] { run(load); });
+}
+
+/// Thread: the loader's.
+void FontLibraryService::Private::run(const std::shared_ptr<Load> &load)
+{
+    ProgressThrottle throttle;
+    const auto report = [&](const FontScanPhase &phase) {
+        if (!load->progress || !throttle.lets(phase))
+            return;
+        mainThread.post([load, phase] {
+            if (!load->stop.stop_requested())
+                load->progress(phase);
+        });
+    };
+    report(FontScanPhase::enumerating(0));
+    const std::stop_token stop = load->stop.get_token();
+    auto result = std::make_shared<std::optional<FontCatalogResult>>(
+        loader.scan(watchedFiles(load->folders, stop), report, stop));
+    std::shared_ptr<const FaceResolver> resolver;
+    if (*result) {
+        resolver = makeResolver((*result)->families);
+        resolver->prepare();
+    }
+    mainThread.post([this, result, resolver] { finishLoad(*result, resolver); });
+}
+
+void FontLibraryService::Private::finishLoad(const std::optional<FontCatalogResult> &result,
+                                             std::shared_ptr<const FaceResolver> resolver)
+{
+    const std::shared_ptr<Load> load = loads.front();
+    loads.pop_front();
+    if (!loads.empty())
+        startLoad();
+    if (!result || load->stop.stop_requested())
+        return;
+    install(std::move(resolver));
+    // Nothing of the service is touched behind this line: the callback may destroy it.
+    if (load->done)
+        load->done(*result);
+}
+
+/// Thread: worker.
+void FontLibraryService::Private::serve(PendingResolve &request)
+{
+    if (request.isWanted && !request.isWanted())
+        return;
+    ResolvedFace face;
+    face.font
+        = currentResolver()->resolve(request.familyName, request.style, request.pointSize);
+    if (request.prepare)
+        face.prepared = request.prepare(face.font);
+    if (!request.completion)
+        return;
+    mainThread.post([completion = std::move(request.completion), face = std::move(face)] {
+        completion(face);
+    });
+}
+
+FontLibraryService::FontLibraryService(Dependencies dependencies, QObject *parent)
+    : QObject(parent), d(std::make_unique<Private>(std::move(dependencies)))
+{
+}
+
+FontLibraryService::~FontLibraryService() = default;
+
+void FontLibraryService::loadCatalog(std::vector<FilePath> watchedFolders, ProgressCallback progress,
+                                     CatalogCallback done)
+{
+    Q_ASSERT(QThread::currentThread() == thread());
+    d->loads.push_back(std::make_shared<Private::Load>(
+        Private::Load {std::move(watchedFolders), std::move(progress), std::move(done), {}}));
+    if (d->loads.size() == 1)
+        d->startLoad();
+}
+
+void FontLibraryService::cancelLoad()
+{
+    Q_ASSERT(QThread::currentThread() == thread());
+    if (!d->loads.empty())
+        d->loads.front()->stop.request_stop();
+}
+
+std::optional<Font> FontLibraryService::cachedFont(const QString &familyName,
+                                                   const std::optional<FontStyleRecord> &style,
+                                                   double pointSize) const
+{
+    return d->currentResolver()->cachedFont(familyName, style, pointSize);
+}
+
+Font FontLibraryService::resolve(const QString &familyName,
+                                 const std::optional<FontStyleRecord> &style, double pointSize) const
+{
+    return d->currentResolver()->resolve(familyName, style, pointSize);
+}
+
+void FontLibraryService::resolveAsync(PendingResolve request)
+{
+    d->resolveWorkers.push(
+        [service = d.get(), request = std::move(request)]() mutable { service->serve(request); });
+}
+
+void FontLibraryService::setFamilies(const std::vector<FontFamilyRecord> &families)
+{
+    d->install(d->makeResolver(families));
+}
+
+} // namespace lorva

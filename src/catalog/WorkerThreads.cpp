@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "catalog/WorkerThreads.h"
+
+#include <algorithm>
+
+namespace lorva {
+
+WorkerThreads::WorkerThreads(int most) : m_most(size_t(std::max(most, 1))) { }
+
+WorkerThreads::~WorkerThreads()
+{
+    std::vector<std::jthread> threads;
+    {
+        const std::lock_guard lock(m_lock);
+        threads.swap(m_threads);
+    }
+    for (std::jthread &thread : threads)
+        thread.request_stop();
+    for (std::jthread &thread : threads)
+        thread.join();
+}
+
+void WorkerThreads::push(std::function<void()> task)
+{
+    const std::lock_guard lock(m_lock);
+    m_pending.push_back(std::move(task));
+    if (m_idle < m_pending.size() && m_threads.size() < m_most)
+        m_threads.emplace_back([this](const std::stop_token &stop) { run(stop); });
+    m_changed.notify_one();
+}
+
+void WorkerThreads::run(const std::stop_token &stop)
+{
+    std::unique_lock lock(m_lock);
+    while (!stop.stop_requested()) {
+        ++m_idle;
+        m_changed.wait(lock, stop, [this] { return !m_pending.empty(); });
+        --m_idle;
+        if (stop.stop_requested() || m_pending.empty())
+            return;
+        std::function<void()> task = std::move(m_pending.back());
+        m_pending.pop_back();
+        lock.unlock();
+        task();
+        // Gone before the lock is taken: what the task holds may be slow to let go.
+        task = nullptr;
+        lock.lock();
+    }
+}
+
+} // namespace lorva
