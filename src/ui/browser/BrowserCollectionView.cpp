@@ -1,0 +1,324 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/browser/BrowserCollectionView.h"
+
+#include "ui/browser/FontCollectionItem.h"
+#include "ui/browser/OverlayScrollBar.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <cmath>
+
+namespace lorva {
+
+namespace {
+
+constexpr int kWheelStep = 40;
+/// Cards kept for the next scroll beyond those on screen.
+constexpr size_t kMaxSpareItems = 12;
+/// Width changes up to this are jitter of the window system, not a resize.
+constexpr int kIgnoredWidthChange = 1;
+
+std::optional<BrowserLayout::Step> stepFor(const QKeyEvent &event, Qt::LayoutDirection direction)
+{
+    const bool mirrored = direction == Qt::RightToLeft;
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return mirrored ? BrowserLayout::Step::right : BrowserLayout::Step::left;
+    case Qt::Key_Right:
+        return mirrored ? BrowserLayout::Step::left : BrowserLayout::Step::right;
+    case Qt::Key_Up:
+        return BrowserLayout::Step::up;
+    case Qt::Key_Down:
+        return BrowserLayout::Step::down;
+    case Qt::Key_PageUp:
+        return BrowserLayout::Step::pageUp;
+    case Qt::Key_PageDown:
+        return BrowserLayout::Step::pageDown;
+    case Qt::Key_Home:
+        return BrowserLayout::Step::home;
+    case Qt::Key_End:
+        return BrowserLayout::Step::end;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+BrowserCollectionView::BrowserCollectionView(QWidget *parent)
+    : QAbstractScrollArea(parent)
+    , m_overlay(new OverlayScrollBar(this))
+{
+    setObjectName(QStringLiteral("BrowserCollectionView"));
+    setAccessibleName(tr("Fonts"));
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->setSingleStep(kWheelStep);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    m_overlay->follow(verticalScrollBar());
+}
+
+BrowserCollectionView::~BrowserCollectionView() = default;
+
+void BrowserCollectionView::setItems(const QStringList &ids)
+{
+    if (ids == m_ids) {
+        reconfigureVisibleItems();
+        return;
+    }
+    const Anchor anchor = currentAnchor();
+    // Cards are handed over by family, so that what stays on screen is not set anew.
+    QHash<QString, FontCollectionItem *> byID;
+    for (const auto &[index, item] : m_visible)
+        byID.insert(m_ids.at(index), item);
+    m_visible.clear();
+
+    m_ids = ids;
+    m_indexByID.clear();
+    m_indexByID.reserve(ids.size());
+    for (int index = 0; index < ids.size(); ++index)
+        m_indexByID.insert(ids.at(index), index);
+
+    for (auto it = byID.cbegin(); it != byID.cend(); ++it) {
+        if (const auto found = m_indexByID.constFind(it.key()); found != m_indexByID.cend())
+            m_visible.emplace(*found, it.value());
+        else {
+            it.value()->hide();
+            m_spare.push_back(it.value());
+        }
+    }
+    relayout(anchor);
+    reconfigureVisibleItems();
+}
+
+void BrowserCollectionView::setArrangement(ViewMode mode, double pointSize)
+{
+    if (mode == m_mode && pointSize == m_pointSize)
+        return;
+    const Anchor anchor = currentAnchor();
+    m_mode = mode;
+    m_pointSize = pointSize;
+    relayout(anchor);
+    reconfigureVisibleItems();
+}
+
+void BrowserCollectionView::setColors(const QColor &foreground, const QColor &background)
+{
+    m_foreground = foreground;
+    m_background = background;
+    m_overlay->setForeground(foreground);
+    viewport()->update();
+}
+
+void BrowserCollectionView::setSelectedID(const QString &id)
+{
+    if (id == m_selectedID)
+        return;
+    m_selectedID = id;
+    reconfigureVisibleItems();
+}
+
+void BrowserCollectionView::reconfigureVisibleItems()
+{
+    if (!configureItem)
+        return;
+    for (const auto &[index, item] : m_visible)
+        configureItem(*item, index);
+}
+
+int BrowserCollectionView::scrollOffset() const
+{
+    return verticalScrollBar()->value();
+}
+
+void BrowserCollectionView::setScrollOffset(int offset)
+{
+    verticalScrollBar()->setValue(offset);
+}
+
+void BrowserCollectionView::scrollToItem(int index)
+{
+    const QRect card = m_layout.cardRect(index);
+    const int top = scrollOffset();
+    if (card.top() < top)
+        setScrollOffset(card.top());
+    else if (card.bottom() >= top + viewport()->height())
+        setScrollOffset(std::min(card.top(), card.bottom() + 1 - viewport()->height()));
+}
+
+BrowserCollectionView::Anchor BrowserCollectionView::currentAnchor() const
+{
+    if (m_ids.isEmpty() || scrollOffset() == 0)
+        return {};
+    const int top = scrollOffset();
+    const auto range = m_layout.visibleRange(top, viewport()->height());
+    // The selected card, when in sight, is what the eye rests on; else the first one in sight.
+    int index = m_indexByID.value(m_selectedID, -1);
+    if (index < range.first || index >= range.last)
+        index = range.first;
+    if (index >= m_ids.size())
+        return {};
+    return {m_ids.at(index), double(m_layout.cardRect(index).top() - top) / m_layout.rowHeight()};
+}
+
+void BrowserCollectionView::relayout(const Anchor &anchor)
+{
+    m_layout = BrowserLayout(m_mode, viewport()->width(), m_pointSize, int(m_ids.size()));
+    const int overflow = std::max(m_layout.contentHeight() - viewport()->height(), 0);
+    {
+        const QSignalBlocker blocker(verticalScrollBar());
+        verticalScrollBar()->setPageStep(viewport()->height());
+        verticalScrollBar()->setRange(0, overflow);
+        if (const auto found = m_indexByID.constFind(anchor.id); found != m_indexByID.cend()) {
+            const double top =
+                m_layout.cardRect(*found).top() - anchor.offset * m_layout.rowHeight();
+            verticalScrollBar()->setValue(int(std::lround(top)));
+        }
+    }
+    m_overlay->adapt();
+    placeVisibleItems();
+    viewport()->update();
+}
+
+void BrowserCollectionView::placeVisibleItems()
+{
+    const int top = scrollOffset();
+    const auto range = m_layout.visibleRange(top, viewport()->height());
+    for (auto it = m_visible.begin(); it != m_visible.end();) {
+        if (it->first >= range.first && it->first < range.last) {
+            ++it;
+            continue;
+        }
+        it->second->hide();
+        m_spare.push_back(it->second);
+        it = m_visible.erase(it);
+    }
+    for (int index = range.first; index < range.last; ++index) {
+        const QRect place = m_layout.cardRect(index).translated(0, -top);
+        const QRect mirrored = QStyle::visualRect(layoutDirection(), viewport()->rect(), place);
+        if (const auto found = m_visible.find(index); found != m_visible.end()) {
+            found->second->setGeometry(mirrored);
+            found->second->show();
+            continue;
+        }
+        FontCollectionItem *item = takeSpareItem();
+        item->setGeometry(mirrored);
+        m_visible.emplace(index, item);
+        if (configureItem)
+            configureItem(*item, index);
+        item->show();
+    }
+    while (m_spare.size() > kMaxSpareItems) {
+        delete m_spare.back();
+        m_spare.pop_back();
+    }
+}
+
+FontCollectionItem *BrowserCollectionView::takeSpareItem()
+{
+    if (m_spare.empty())
+        return makeItem(viewport());
+    FontCollectionItem *item = m_spare.back();
+    m_spare.pop_back();
+    return item;
+}
+
+bool BrowserCollectionView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Paint) {
+        paintViewport(static_cast<QPaintEvent *>(event)->rect());
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+void BrowserCollectionView::paintViewport(const QRect &exposed)
+{
+    QPainter painter(viewport());
+    if (m_background.alpha() < 255)
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(exposed, m_background);
+}
+
+void BrowserCollectionView::resizeEvent(QResizeEvent *event)
+{
+    m_overlay->adapt();
+    const int widthChange =
+        std::abs(viewport()->width() - m_layout.cardRect(0).width() * m_layout.columns());
+    const bool heightChanged = event->size().height() != event->oldSize().height();
+    if (widthChange <= kIgnoredWidthChange && !heightChanged && m_layout.itemCount() > 0)
+        return;
+    const int columns = m_layout.columns();
+    relayout(currentAnchor());
+    if (m_layout.columns() != columns)
+        reconfigureVisibleItems();
+}
+
+void BrowserCollectionView::scrollContentsBy(int, int)
+{
+    placeVisibleItems();
+    m_overlay->flash();
+}
+
+void BrowserCollectionView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (onActivateSelection)
+            onActivateSelection();
+        return;
+    }
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (const auto step = stepFor(*event, layoutDirection()); step && modifiers == Qt::NoModifier) {
+        const int current = m_indexByID.value(m_selectedID, -1);
+        select(m_layout.neighbour(current, *step, viewport()->height()));
+        return;
+    }
+    QAbstractScrollArea::keyPressEvent(event);
+}
+
+void BrowserCollectionView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QAbstractScrollArea::mousePressEvent(event);
+        return;
+    }
+    const QRect point(event->position().toPoint(), QSize(1, 1));
+    const QPoint logical =
+        QStyle::visualRect(layoutDirection(), viewport()->rect(), point).topLeft();
+    select(m_layout.indexAt(logical + QPoint(0, scrollOffset())));
+}
+
+void BrowserCollectionView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && !m_selectedID.isEmpty() && onDoubleClick)
+        onDoubleClick();
+}
+
+void BrowserCollectionView::changeEvent(QEvent *event)
+{
+    QAbstractScrollArea::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        relayout(currentAnchor());
+}
+
+void BrowserCollectionView::select(int index)
+{
+    const QString id = index < 0 ? QString() : m_ids.at(index);
+    if (index >= 0)
+        scrollToItem(index);
+    if (id == m_selectedID)
+        return;
+    setSelectedID(id);
+    if (onSelectionChanged)
+        onSelectionChanged(id);
+}
+
+} // namespace lorva

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/browser/FontBrowserState.h"
+
+#include <QColor>
+#include <QWidget>
+
+namespace lorva {
+
+/// What stands in the pane when there are no cards: a symbol, a title, a sentence, and, where it
+/// helps, a button that watches a folder. Thread: main.
+class BrowserEmptyStateView final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit BrowserEmptyStateView(QWidget *parent);
+
+    std::function<void()> onWatchFolder;
+
+    void show(const BrowserEmptyState &state);
+    void setForeground(const QColor &foreground);
+    const QString &title() const { return m_title; }
+    const QString &subtitle() const { return m_subtitle; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_symbol;
+    QString m_title;
+    QString m_subtitle;
+    QColor m_foreground = Qt::black;
+};
+
+} // namespace lorva

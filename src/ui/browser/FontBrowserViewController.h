@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/browser/FontBrowserState.h"
+#include "ui/browser/FontCardConfiguration.h"
+#include "ui/preview/FontResolver.h"
+
+#include <QHash>
+#include <QWidget>
+
+namespace lorva {
+
+class BrowserCollectionView;
+class BrowserEmptyStateView;
+class BrowserLoadingView;
+class BrowserTopBar;
+
+/// The main pane: a top bar over the grid or list of font cards.
+///
+/// Owns no library data: it renders the state it is given and reports what the user does to its
+/// delegate. Thread: main.
+class FontBrowserViewController final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit FontBrowserViewController(std::shared_ptr<FontResolver> resolver,
+                                       QWidget *parent = nullptr);
+    ~FontBrowserViewController() override;
+
+    /// Does not own it; it must outlive this view.
+    void setDelegate(FontBrowserDelegate *delegate) { m_delegate = delegate; }
+    /// Renders a new state whole. Cards are touched only as far as they changed.
+    void apply(const FontBrowserState &state);
+    const FontBrowserState &state() const { return m_state; }
+
+    BrowserCollectionView &collectionView() { return *m_collection; }
+    /// True once every card on screen shows its specimen (or there are none to show).
+    bool isSettled() const;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void applyItems(const FontBrowserState &previous);
+    void applyColors();
+    FontCardConfiguration cardConfiguration(int index) const;
+    void openSelection();
+
+    const std::shared_ptr<FontResolver> m_resolver;
+    FontBrowserDelegate *m_delegate = nullptr;
+    FontBrowserState m_state;
+    QStringList m_orderedIDs;
+    QHash<BrowserSource, int> m_scrollOriginBySource;
+    std::optional<BrowserSource> m_lastRenderedSource;
+
+    BrowserTopBar *m_topBar;
+    BrowserCollectionView *m_collection;
+    BrowserEmptyStateView *m_empty;
+    BrowserLoadingView *m_loading;
+};
+
+} // namespace lorva

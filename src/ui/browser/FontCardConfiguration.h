@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/records/Activation.h"
+#include "model/records/DisplayRecords.h"
+#include "model/records/FontRecords.h"
+
+#include <QColor>
+#include <QImage>
+
+#include <optional>
+
+namespace lorva {
+
+/// What one card shows. A value; lengths in points.
+struct FontCardConfiguration
+{
+    FontFamilyRecord family;
+    /// The style chosen by the weight control; absent: the family's default face.
+    std::optional<FontStyleRecord> style;
+    QString previewText;
+    double pointSize = 36;
+    ViewMode viewMode = ViewMode::grid;
+    bool isSelected = false;
+    bool isFirstColumn = false;
+    /// The top bar's hairline stands above the first row; a second one would double it.
+    bool isFirstRow = false;
+    QColor foregroundColor = Qt::black;
+    QColor backgroundColor = Qt::white;
+    std::optional<QImage> logoImage;
+    double logoSizeRatio = 1.0;
+    double logoSpacing = 0.15;
+    std::optional<FontFamilyActivation> activation;
+    bool isSystem = false;
+};
+
+} // namespace lorva

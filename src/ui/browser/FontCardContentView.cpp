@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/browser/FontCardContentView.h"
+
+#include "ui/style/Hairline.h"
+#include "ui/style/Palette.h"
+#include "ui/style/Style.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+namespace lorva {
+
+namespace {
+
+constexpr double kTextAlpha = 0.5;
+constexpr double kTagPillAlpha = 0.05;
+constexpr double kTagLabelAlpha = 0.25;
+constexpr double kSelectionFillAlpha = 0.04;
+constexpr double kSelectionRingAlpha = 0.3;
+constexpr int kSelectionRingWidth = 2;
+constexpr int kTagHeight = 18;
+constexpr int kTagPadding = 8;
+/// The specimen is centred in what the title leaves: this much of the card's top is not counted.
+constexpr int kTitleRoom = spacing::k28;
+
+QFont titleFont()
+{
+    return interfaceFont(InterfaceSize::label, InterfaceWeight::medium);
+}
+
+QFont subtitleFont()
+{
+    return interfaceFont(InterfaceSize::tag, InterfaceWeight::regular, Figures::tabular);
+}
+
+/// Draws at most `maximumLines` lines, the last one shortened with an ellipsis, and gives the
+/// height used.
+double drawLines(QPainter &painter, const QString &text, const QFont &font, const QRectF &room,
+                 int maximumLines)
+{
+    const QFontMetricsF metrics(font);
+    painter.setFont(font);
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    double y = 0;
+    for (int line = 1; line <= maximumLines; ++line) {
+        QTextLine set = layout.createLine();
+        if (!set.isValid())
+            break;
+        set.setLineWidth(room.width());
+        const bool isLast = line == maximumLines;
+        const QString rest = text.mid(set.textStart(), isLast ? -1 : set.textLength());
+        const QRectF place(room.left(), room.top() + y, room.width(), metrics.height());
+        painter.drawText(place, int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine),
+                         metrics.elidedText(rest, Qt::ElideRight, room.width()));
+        y += metrics.height();
+    }
+    layout.endLayout();
+    return y;
+}
+
+} // namespace
+
+FontCardContentView::FontCardContentView(std::shared_ptr<FontResolver> resolver, QWidget *parent)
+    : QWidget(parent)
+    , m_preview(new FontPreviewNSView(std::move(resolver), this))
+{
+    setObjectName(QStringLiteral("FontCardContentView"));
+}
+
+void FontCardContentView::configure(const FontCardConfiguration &configuration)
+{
+    m_configuration = configuration;
+    applyPreview();
+    update();
+}
+
+QString FontCardContentView::subtitleText() const
+{
+    return QLocale().toString(qlonglong(m_configuration.family.styles.size()))
+        + QStringLiteral(" styles");
+}
+
+void FontCardContentView::applyPreview()
+{
+    const bool isList = m_configuration.viewMode == ViewMode::list;
+    FontPreviewConfiguration preview;
+    preview.text = m_configuration.previewText;
+    preview.familyName = m_configuration.family.familyName;
+    preview.style = m_configuration.style;
+    preview.pointSize = m_configuration.pointSize * (isList ? kListSizeRatio : 1.0);
+    preview.alignment = isList ? TextAlignment::left : TextAlignment::center;
+    preview.textColor = m_configuration.foregroundColor;
+    preview.logoImage = m_configuration.logoImage;
+    preview.logoSizeRatio = m_configuration.logoSizeRatio;
+    preview.logoSpacing = m_configuration.logoSpacing;
+    preview.singleLine = true;
+    preview.primaryScript = m_configuration.family.primaryScript.value_or(WritingScript::latin);
+    preview.prefersAsyncResolution =
+        !m_configuration.activation || !m_configuration.activation->isActive();
+    if (preview == m_appliedPreview)
+        return;
+    m_appliedPreview = preview;
+    m_preview->apply(preview);
+}
+
+void FontCardContentView::resizeEvent(QResizeEvent *)
+{
+    m_preview->setGeometry(rect().adjusted(0, kTitleRoom, 0, 0));
+}
+
+void FontCardContentView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintSelection(painter);
+    paintHairlines(painter);
+    paintTexts(painter);
+    if (m_configuration.isSystem)
+        paintSystemTag(painter);
+}
+
+void FontCardContentView::paintSelection(QPainter &painter) const
+{
+    if (!m_configuration.isSelected)
+        return;
+    painter.fillRect(rect(), withAlpha(m_configuration.foregroundColor, kSelectionFillAlpha));
+    const double inset = kSelectionRingWidth / 2.0;
+    painter.setBrush(Qt::NoBrush);
+    QPen ring(withAlpha(m_configuration.foregroundColor, kSelectionRingAlpha), kSelectionRingWidth);
+    ring.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(ring);
+    painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
+}
+
+void FontCardContentView::paintHairlines(QPainter &painter) const
+{
+    const QColor color =
+        hairlineColor(m_configuration.foregroundColor, m_configuration.backgroundColor);
+    if (!m_configuration.isFirstRow)
+        drawHairline(painter, rect(), Qt::TopEdge, color);
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    if (!m_configuration.isFirstColumn)
+        drawHairline(painter, rect(), mirrored ? Qt::RightEdge : Qt::LeftEdge, color);
+}
+
+QRect FontCardContentView::systemTagRect() const
+{
+    const QFontMetrics metrics(interfaceFont(InterfaceSize::tag));
+    const int pillWidth = metrics.horizontalAdvance(tr("System")) + 2 * kTagPadding;
+    const QRect place(width() - spacing::k20 - pillWidth, spacing::k16 - 2, pillWidth, kTagHeight);
+    return QStyle::visualRect(layoutDirection(), rect(), place);
+}
+
+void FontCardContentView::paintTexts(QPainter &painter) const
+{
+    const bool isList = m_configuration.viewMode == ViewMode::list;
+    QRect room = rect().adjusted(spacing::k20, spacing::k16, -spacing::k20, 0);
+    if (m_configuration.isSystem) {
+        const int taken = systemTagRect().width() + spacing::k12;
+        room = layoutDirection() == Qt::RightToLeft ? room.adjusted(taken, 0, 0, 0)
+                                                    : room.adjusted(0, 0, -taken, 0);
+    }
+    painter.setPen(withAlpha(m_configuration.foregroundColor, kTextAlpha));
+    const double used =
+        drawLines(painter, titleText(), titleFont(), room, isList ? 1 : 2) + spacing::k2;
+    drawLines(painter, subtitleText(), subtitleFont(), QRectF(room).adjusted(0, used, 0, 0), 1);
+}
+
+void FontCardContentView::paintSystemTag(QPainter &painter) const
+{
+    const QRect pill = systemTagRect();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(withAlpha(m_configuration.foregroundColor, kTagPillAlpha));
+    painter.drawRoundedRect(pill, kTagHeight / 2.0, kTagHeight / 2.0);
+    painter.setFont(interfaceFont(InterfaceSize::tag));
+    painter.setPen(withAlpha(m_configuration.foregroundColor, kTagLabelAlpha));
+    painter.drawText(pill, Qt::AlignCenter, tr("System"));
+}
+
+} // namespace lorva

@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "ui/preview/SpecimenImage.h"
+
+#include "text/GlyphPainter.h"
+#include "ui/preview/PreviewText.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace lorva {
+
+namespace {
+
+/// A logo scaled beyond this is painted straight onto the canvas, so that no ratio can ask for gigabytes.
+constexpr double kMaxScaledLogoDevicePx = 4096;
+/// Antialiasing reaches this far beyond the outlines.
+constexpr int kInkOutsetDevicePx = 2;
+
+bool hasLogo(const FontPreviewConfiguration &configuration)
+{
+    return configuration.logoImage.has_value();
+}
+
+double logoGap(const FontPreviewConfiguration &configuration, const Font &font)
+{
+    return std::max(0.0, configuration.logoSpacing * font.pointSize());
+}
+
+TextLayoutOptions layoutOptions(const FontPreviewConfiguration &configuration, double width,
+                                double inset)
+{
+    TextLayoutOptions options;
+    options.width = std::max(1.0, width - 2 * kSpecimenMargin);
+    options.alignment = configuration.alignment;
+    options.lineBreakMode
+        = configuration.singleLine ? LineBreakMode::truncateTail : LineBreakMode::wordWrap;
+    options.maximumLines = configuration.singleLine ? 1 : 0;
+    options.firstLineInset = inset;
+    return options;
+}
+
+/// The logo's place in the layout's box: at the leading edge of the first line, centred on the cap height.
+QRectF logoRectInLayout(const LayoutLine &line, QSizeF size, double capHeight)
+{
+    const double left = line.origin.x() + (line.isRightToLeft ? line.width - size.width() : 0.0);
+    const double bottomAboveBaseline = (capHeight - size.height()) * 0.5;
+    const double top = line.origin.y() - bottomAboveBaseline - size.height();
+    return QRectF(QPointF(left, top), size);
+}
+
+/// The line box, which stands in for the ink of a text that has none.
+QRectF layoutBox(const TextLayout &layout)
+{
+    return QRectF(QPointF(0, 0), layout.size());
+}
+
+/// A line that stands alone in the middle is centred on its ink; side bearings, which differ from font to
+/// font, would push it off. Wrapped and truncated lines fill their measure and stay where they are.
+bool isCenteredOnInk(const FontPreviewConfiguration &configuration, const TextLayout &layout)
+{
+    return configuration.alignment == TextAlignment::center && layout.lines().size() == 1
+        && !layout.isTruncated();
+}
+
+/// Stems are upright and bars level: a baseline between two pixel rows would blur every bar of the line.
+double snapped(double points, double devicePixelRatio)
+{
+    return std::round(points * devicePixelRatio) / devicePixelRatio;
+}
+
+QPointF specimenOrigin(const FontPreviewConfiguration &configuration, const TextLayout &layout,
+                       const QRectF &ink, const SpecimenCanvas &canvas)
+{
+    const QRectF box = ink.isEmpty() ? layoutBox(layout) : ink;
+    double x = kSpecimenMargin;
+    if (isCenteredOnInk(configuration, layout))
+        x = canvas.size.width() / 2.0 - box.center().x();
+    const double baseline = layout.lines().empty() ? 0.0 : layout.lines().front().origin.y();
+    const double y = canvas.size.height() / 2.0 - box.center().y();
+    return QPointF(x, snapped(y + baseline, canvas.devicePixelRatio) - baseline);
+}
+
+/// The whole device pixels of the view that the ink touches.
+QRect inkDeviceRect(const QRectF &ink, const SpecimenCanvas &canvas)
+{
+    const double ratio = canvas.devicePixelRatio;
+    const QRect view(0, 0, int(std::ceil(canvas.size.width() * ratio)),
+                     int(std::ceil(canvas.size.height() * ratio)));
+    const QRectF devicePx(ink.topLeft() * ratio, ink.size() * ratio);
+    // Cut in floating point first: the ink of a hostile font may lie beyond the range of int.
+    const QRectF cut = devicePx.intersected(QRectF(view).adjusted(-8, -8, 8, 8));
+    if (cut.isEmpty())
+        return {};
+    constexpr int outset = kInkOutsetDevicePx;
+    return cut.toAlignedRect().adjusted(-outset, -outset, outset, outset).intersected(view);
+}
+
+/// The logo's shape in the text's colour.
+QImage tinted(QImage logo, const QColor &color)
+{
+    logo.convertTo(QImage::Format_ARGB32_Premultiplied);
+    logo.setDevicePixelRatio(1.0);
+    QPainter painter(&logo);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.fillRect(logo.rect(), color);
+    return logo;
+}
+
+/// Scaled with a filter that reads every pixel: a painter's own would drop rows of a large logo.
+QImage scaledForCanvas(const QImage &logo, QSizeF size, double devicePixelRatio)
+{
+    const QSizeF wanted = size * devicePixelRatio;
+    if (std::max(wanted.width(), wanted.height()) > kMaxScaledLogoDevicePx)
+        return logo;
+    const QSize devicePx(std::max(1, qRound(wanted.width())), std::max(1, qRound(wanted.height())));
+    return logo.scaled(devicePx, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+void paintLogo(QImage &image, const QImage &logo, const QRectF &rect, const QColor &color)
+{
+    if (logo.isNull() || rect.isEmpty())
+        return;
+    const QImage shape = scaledForCanvas(logo, rect.size(), image.devicePixelRatio());
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(rect, tinted(shape, color), QRectF(shape.rect()));
+}
+
+} // namespace
+
+QSizeF logoSize(QSizeF imageSize, double capHeight, double sizeRatio)
+{
+    const double height = std::max(0.0, capHeight * sizeRatio);
+    return QSizeF(height * imageSize.width() / std::max(1.0, imageSize.height()), height);
+}
+
+Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &font,
+                        const SpecimenCanvas &canvas)
+{
+    Specimen specimen;
+    if (font.isNull())
+        return specimen;
+    specimen.text = specimenText(configuration.text, font, configuration.primaryScript);
+
+    QSizeF logo;
+    if (hasLogo(configuration))
+        logo = logoSize(configuration.logoImage->size(), font.capHeight(),
+                        configuration.logoSizeRatio);
+    const double inset = hasLogo(configuration) ? logo.width() + logoGap(configuration, font) : 0.0;
+    specimen.layout = TextLayout(
+        specimen.text, font, layoutOptions(configuration, canvas.size.width(), inset));
+
+    QRectF ink = specimen.layout.inkBounds();
+    if (hasLogo(configuration) && !specimen.layout.lines().empty()) {
+        specimen.logoRect = logoRectInLayout(specimen.layout.lines().front(), logo,
+                                             font.capHeight());
+        ink = ink.united(specimen.logoRect);
+    }
+    specimen.origin = specimenOrigin(configuration, specimen.layout, ink, canvas);
+    if (!specimen.logoRect.isNull())
+        specimen.logoRect.translate(specimen.origin);
+    if (!ink.isNull())
+        specimen.inkBounds = ink.translated(specimen.origin);
+    return specimen;
+}
+
+SpecimenImage paintSpecimen(const Specimen &specimen, const FontPreviewConfiguration &configuration,
+                            const SpecimenCanvas &canvas)
+{
+    const QRect devicePx = inkDeviceRect(specimen.inkBounds, canvas);
+    if (devicePx.isEmpty())
+        return {};
+    QImage image(devicePx.size(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return {};
+    image.fill(Qt::transparent);
+    image.setDevicePixelRatio(canvas.devicePixelRatio);
+    const QPointF corner = QPointF(devicePx.topLeft()) / canvas.devicePixelRatio;
+    if (hasLogo(configuration))
+        paintLogo(image, *configuration.logoImage, specimen.logoRect.translated(-corner),
+                  configuration.textColor);
+    GlyphPainter::paint(image, specimen.layout, specimen.origin - corner, configuration.textColor);
+    return {image, devicePx.topLeft()};
+}
+
+} // namespace lorva

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+namespace lorva {
+
+// The colours of the interface. Pure functions but where they ask the desktop. Thread: any; main for those.
+
+/// What sidebar, inspector, Discover, Settings and sheets are coloured with.
+struct NeutralColors {
+    QColor ground;
+    QColor sidebar;
+    QColor text;
+};
+
+NeutralColors neutralColors(bool isDark);
+/// True when the desktop's windows are dark. Thread: main.
+bool isDarkDesktop();
+/// The desktop's own accent, for caret, focus and default buttons only. Thread: main.
+QColor accentColor();
+
+/// `color` with its alpha multiplied by `alpha` (0 … 1).
+QColor withAlpha(QColor color, double alpha);
+/// `over` laid on an opaque `ground`.
+QColor blended(const QColor &over, const QColor &ground);
+
+/// From 1 (the same) to 21 (black on white); alpha is not looked at (WCAG 2, relative luminance).
+double contrastRatio(const QColor &a, const QColor &b);
+/// Black or white, whichever is seen better on `background`.
+QColor contrastingNeutral(const QColor &background);
+/// `foreground` where controls drawn in it can be seen on `background`, else black or white. A background
+/// that is not opaque is taken as it would be on white.
+QColor controlColor(const QColor &foreground, const QColor &background);
+
+/// Lines between cards: 8.5 % of black on a white ground, 13 % of white on a black one, 20 % of the
+/// foreground on a colour.
+QColor hairlineColor(const QColor &foreground, const QColor &background);
+
+} // namespace lorva

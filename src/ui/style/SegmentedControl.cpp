@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "ui/style/SegmentedControl.h"
+
+#include "ui/style/ControlColors.h"
+#include "ui/style/DeviceSpace.h"
+#include "ui/style/SymbolImage.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QFocusEvent>
+#include <QPainter>
+
+namespace lorva {
+
+namespace {
+
+constexpr int kHeight = 24;
+constexpr int kSegmentWidth = 30;
+constexpr int kPadding = 2;
+constexpr double kRadius = 7;
+constexpr double kSegmentRadius = kRadius - kPadding;
+constexpr double kSymbolSize = 16;
+
+bool isKeyboardFocus(Qt::FocusReason reason)
+{
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+        || reason == Qt::ShortcutFocusReason;
+}
+
+} // namespace
+
+class SegmentedControl::Segment final : public QAbstractButton
+{
+public:
+    Segment(const QString &symbol, const QString &label, SegmentedControl *parent)
+        : QAbstractButton(parent)
+        , m_symbol(symbol)
+        , m_control(parent)
+    {
+        setCheckable(true);
+        // Clicking must not take the keyboard away from the specimens.
+        setFocusPolicy(Qt::TabFocus);
+        setToolTip(label);
+        setAccessibleName(label);
+    }
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        m_showsFocus = isKeyboardFocus(event->reason());
+        QAbstractButton::focusInEvent(event);
+    }
+
+    void paintEvent(QPaintEvent *) override
+    {
+        const ControlColors colors
+            = ControlColors::from(m_control->m_foreground, m_control->m_background);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF box = QRectF(rect()).adjusted(kPadding, kPadding, -kPadding, -kPadding);
+        if (isChecked())
+            drawRaised(painter, box, kSegmentRadius, colors);
+        if (hasFocus() && m_showsFocus)
+            drawFocusRing(painter, box, kSegmentRadius);
+        paintSymbol(painter, isChecked() ? colors.inkOnRaised : colors.ink);
+    }
+
+private:
+    void paintSymbol(QPainter &painter, QColor color) const
+    {
+        if (!isEnabled())
+            color.setAlphaF(color.alphaF() * 0.4f);
+        const DeviceSpace device(painter);
+        const QPointF corner((width() - kSymbolSize) / 2, (height() - kSymbolSize) / 2);
+        device.drawImage(corner, {}, symbolImage(m_symbol, kSymbolSize, color, device.ratio()));
+    }
+
+    const QString m_symbol;
+    SegmentedControl *const m_control;
+    bool m_showsFocus = false;
+};
+
+SegmentedControl::SegmentedControl(QWidget *parent)
+    : QWidget(parent)
+    , m_group(new QButtonGroup(this))
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(m_group, &QButtonGroup::idClicked, this, &SegmentedControl::activated);
+}
+
+int SegmentedControl::addSegment(const QString &symbol, const QString &label)
+{
+    const int index = int(m_group->buttons().size());
+    auto *segment = new Segment(symbol, label, this);
+    m_group->addButton(segment, index);
+    updateGeometry();
+    placeSegments();
+    segment->show();
+    return index;
+}
+
+int SegmentedControl::currentIndex() const
+{
+    return m_group->checkedId();
+}
+
+void SegmentedControl::setCurrentIndex(int index)
+{
+    if (QAbstractButton *segment = m_group->button(index))
+        segment->setChecked(true);
+}
+
+void SegmentedControl::setColors(const QColor &foreground, const QColor &background)
+{
+    m_foreground = foreground;
+    m_background = background;
+    update();
+}
+
+QSize SegmentedControl::sizeHint() const
+{
+    return QSize(int(m_group->buttons().size()) * kSegmentWidth + 2 * kPadding, kHeight);
+}
+
+/// The segments overlap by their padding, which leaves their shadows and focus rings room.
+void SegmentedControl::placeSegments()
+{
+    const QList<QAbstractButton *> segments = m_group->buttons();
+    for (int i = 0; i < segments.size(); ++i) {
+        const int place = isRightToLeft() ? int(segments.size()) - 1 - i : i;
+        segments[i]->setGeometry(place * kSegmentWidth, 0, kSegmentWidth + 2 * kPadding, kHeight);
+    }
+}
+
+void SegmentedControl::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ControlColors::from(m_foreground, m_background).bed);
+    painter.drawRoundedRect(rect(), kRadius, kRadius);
+}
+
+void SegmentedControl::resizeEvent(QResizeEvent *)
+{
+    placeSegments();
+}
+
+} // namespace lorva

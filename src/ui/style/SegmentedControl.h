@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+class QButtonGroup;
+
+namespace lorva {
+
+/// A row of segments of which one is chosen: 24 points high, in any foreground and background colour.
+///
+/// One stop of the tab key; the arrow keys choose. Each segment is a radio button to assistive technology.
+/// Thread: main.
+class SegmentedControl final : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit SegmentedControl(QWidget *parent = nullptr);
+
+    /// Adds a segment that shows a symbol (see symbolImage()); `label` is its tool tip and its name for
+    /// assistive technology. Gives its index.
+    int addSegment(const QString &symbol, const QString &label);
+    /// −1 while nothing is chosen.
+    int currentIndex() const;
+    /// Chooses without activated(); an index that does not exist is ignored.
+    void setCurrentIndex(int index);
+    void setColors(const QColor &foreground, const QColor &background);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    /// The user chose a segment, which may be the one already chosen.
+    void activated(int index);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    class Segment;
+
+    void placeSegments();
+
+    QButtonGroup *m_group = nullptr;
+    QColor m_foreground = Qt::black;
+    QColor m_background = Qt::white;
+};
+
+} // namespace lorva

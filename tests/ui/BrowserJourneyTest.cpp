@@ -1,0 +1,288 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "support/LibraryFixture.h"
+#include "ui/browser/BrowserCollectionView.h"
+#include "ui/browser/BrowserEmptyStateView.h"
+#include "ui/browser/BrowserLoadingView.h"
+#include "ui/browser/FontBrowserViewController.h"
+#include "ui/browser/FontCardContentView.h"
+#include "ui/browser/FontCollectionItem.h"
+#include "ui/LorvaRootSplitViewController.h"
+#include "ui/style/ReducedMotion.h"
+
+#include <QScrollBar>
+#include <QSlider>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace lorva {
+namespace {
+
+using test::LibraryFixture;
+using test::waitUntil;
+
+/// The real root view in a window of its own, over a library built for the case.
+class BrowserJourney : public ::testing::Test
+{
+protected:
+    void SetUp() override { setReducedMotionOverride(true); }
+    void TearDown() override { setReducedMotionOverride(std::nullopt); }
+
+    void start(int familyCount, QSize size = {1300, 900})
+    {
+        library.addFamilies(QStringLiteral("Face"), familyCount);
+        root = std::make_unique<LorvaRootSplitViewController>(*library.model);
+        root->resize(size);
+        root->show();
+        ASSERT_TRUE(library.load());
+        ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
+        view().setFocus();
+    }
+
+    BrowserCollectionView &view() { return root->browser().collectionView(); }
+    template <class Widget>
+    Widget *find(const char *name)
+    {
+        return root->findChild<Widget *>(QString::fromLatin1(name));
+    }
+    const FontCardContentView &card(int index)
+    {
+        return view().visibleItems().at(index)->contentView();
+    }
+    QPoint centreOf(int index)
+    {
+        return view().arrangement().cardRect(index).center() - QPoint(0, view().scrollOffset());
+    }
+    void click(int index)
+    {
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, centreOf(index));
+    }
+    void press(Qt::Key key) { QTest::keyClick(&view(), key); }
+    void renderNow() { root->render(); }
+    QString selected() { return library.model->selectedFamilyName().value_or(QString()); }
+
+    LibraryFixture library;
+    std::unique_ptr<LorvaRootSplitViewController> root;
+};
+
+TEST_F(BrowserJourney, EveryCardNamesItsFamilyAndSetsItInItsOwnFace)
+{
+    start(5);
+    ASSERT_EQ(view().visibleItems().size(), 5U);
+    for (const auto &[index, item] : view().visibleItems()) {
+        const QString name = QStringLiteral("Face 00%1").arg(index);
+        EXPECT_EQ(item->familyName(), name);
+        EXPECT_EQ(card(index).titleText(), name);
+        EXPECT_EQ(card(index).subtitleText(), QStringLiteral("1 styles"));
+        EXPECT_TRUE(card(index).showsSystemTag());
+        const auto &font = card(index).previewView().currentFont();
+        ASSERT_TRUE(font.has_value());
+        EXPECT_EQ(font->face()->names().family, name);
+        EXPECT_FALSE(font->isStandIn());
+        EXPECT_EQ(card(index).previewView().shownText(), QStringLiteral("Aa 123"));
+    }
+}
+
+TEST_F(BrowserJourney, KeysAndClicksMoveTheSelection)
+{
+    start(10);
+    const struct
+    {
+        Qt::Key key;
+        const char *selected;
+    } rows[]{
+        {Qt::Key_Right, "Face 000"}, {Qt::Key_Right, "Face 001"}, {Qt::Key_Down, "Face 004"},
+        {Qt::Key_Left, "Face 003"},  {Qt::Key_Up, "Face 000"},    {Qt::Key_Up, "Face 000"},
+        {Qt::Key_End, "Face 009"},   {Qt::Key_Home, "Face 000"},
+    };
+    for (const auto &row : rows) {
+        press(row.key);
+        EXPECT_EQ(selected(), QString::fromLatin1(row.selected)) << int(row.key);
+    }
+    click(5);
+    EXPECT_EQ(selected(), QStringLiteral("Face 005"));
+    renderNow();
+    EXPECT_TRUE(card(5).showsSelection());
+    EXPECT_FALSE(card(0).showsSelection());
+
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, centreOf(9) + QPoint(600, 0));
+    EXPECT_EQ(selected(), QString()) << "a click beside the cards selects none";
+}
+
+TEST_F(BrowserJourney, ReturnEnterAndDoubleClickOpenTheFamily)
+{
+    start(4);
+    press(Qt::Key_Return);
+    EXPECT_EQ(library.model->detailFamilyName(), std::nullopt)
+        << "nothing selected, nothing opened";
+    click(1);
+    press(Qt::Key_Return);
+    EXPECT_EQ(library.model->detailFamilyName(), QStringLiteral("Face 001"));
+    click(2);
+    QTest::keyClick(&view(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(library.model->detailFamilyName(), QStringLiteral("Face 002"));
+    QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, centreOf(3));
+    EXPECT_EQ(library.model->detailFamilyName(), QStringLiteral("Face 003"));
+}
+
+TEST_F(BrowserJourney, ScrollingThroughALargeLibraryKeepsAHandfulOfCards)
+{
+    start(300);
+    int most = 0;
+    QScrollBar *bar = view().verticalScrollBar();
+    for (int top = 0; top <= bar->maximum(); top += 500) {
+        bar->setValue(top);
+        for (const auto &[index, item] : view().visibleItems()) {
+            EXPECT_EQ(item->familyName(), view().items().at(index));
+            EXPECT_EQ(card(index).previewView().currentFont()->face()->names().family,
+                      item->familyName());
+        }
+        most = std::max(most, view().cardCount());
+    }
+    bar->setValue(bar->maximum());
+    EXPECT_EQ(std::prev(view().visibleItems().end())->first, 299);
+    EXPECT_LE(most, 3 * 6 + 12) << "cards on screen and the spare ones";
+}
+
+TEST_F(BrowserJourney, SelectingByKeyBringsTheCardIntoView)
+{
+    start(60);
+    press(Qt::Key_End);
+    EXPECT_EQ(selected(), QStringLiteral("Face 059"));
+    EXPECT_TRUE(view().visibleItems().contains(59));
+    press(Qt::Key_Home);
+    EXPECT_EQ(view().scrollOffset(), 0);
+}
+
+TEST_F(BrowserJourney, TheViewControlSwitchesBetweenGridAndList)
+{
+    start(20);
+    view().setScrollOffset(440);
+    const QString atTop = view().items().at(view().visibleItems().begin()->first);
+    auto *control = find<QWidget>("viewModeControl");
+    ASSERT_NE(control, nullptr);
+    QTest::mouseClick(control, Qt::LeftButton, {},
+                      QPoint(control->width() * 3 / 4, control->height() / 2));
+    ASSERT_EQ(library.model->viewMode(), ViewMode::list);
+    renderNow();
+    EXPECT_EQ(view().arrangement().columns(), 1);
+    const auto first = view().visibleItems().begin();
+    EXPECT_EQ(view().items().at(first->first), atTop) << "what was at the top stays there";
+    const auto &font = first->second->contentView().previewView().currentFont();
+    EXPECT_DOUBLE_EQ(font->pointSize(), 36 * 0.72);
+}
+
+TEST_F(BrowserJourney, TheSizeSliderSetsTheSpecimensAnew)
+{
+    start(6);
+    auto *slider = find<QSlider>("pointSizeSlider");
+    ASSERT_NE(slider, nullptr);
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_End);
+    EXPECT_EQ(library.model->browserPointSize(), LorvaAppModel::kMaximumPointSize);
+    renderNow();
+    EXPECT_EQ(view().arrangement().rowHeight(), int(160 * 1.9 + 55));
+    EXPECT_DOUBLE_EQ(card(0).previewView().currentFont()->pointSize(), 160);
+}
+
+TEST_F(BrowserJourney, ColumnsFollowTheWindow)
+{
+    start(12, {960, 800});
+    EXPECT_EQ(view().arrangement().columns(), 2);
+    root->resize(1600, 800);
+    EXPECT_EQ(view().arrangement().columns(), 4);
+    for (const auto &[index, item] : view().visibleItems())
+        EXPECT_EQ(item->width(), 400) << index;
+}
+
+TEST_F(BrowserJourney, AFreshScanKeepsPlaceAndSelection)
+{
+    start(60);
+    view().setScrollOffset(1100);
+    const int index = view().visibleItems().begin()->first + 4;
+    click(index);
+    const QString name = selected();
+    const int y = view().visibleItems().at(index)->y();
+    const FontCollectionItem *item = view().visibleItems().at(index);
+
+    library.addFamilies(QStringLiteral("Added"), 9);
+    ASSERT_TRUE(library.load());
+    renderNow();
+
+    EXPECT_EQ(selected(), name);
+    const int moved = int(view().items().indexOf(name));
+    EXPECT_EQ(moved, index + 9);
+    ASSERT_TRUE(view().visibleItems().contains(moved));
+    EXPECT_EQ(view().visibleItems().at(moved)->y(), y);
+    EXPECT_EQ(view().visibleItems().at(moved), item) << "the same card, not one painted anew";
+}
+
+TEST_F(BrowserJourney, EachSourceKeepsItsPlace)
+{
+    start(60);
+    view().setScrollOffset(900);
+    library.model->select(BrowserSource::active());
+    renderNow();
+    EXPECT_EQ(view().scrollOffset(), 0);
+    library.model->select(BrowserSource::allFonts());
+    renderNow();
+    EXPECT_EQ(view().scrollOffset(), 900);
+}
+
+TEST_F(BrowserJourney, AnEmptyLibrarySaysSo)
+{
+    start(0);
+    auto *empty = find<BrowserEmptyStateView>("BrowserEmptyStateView");
+    EXPECT_TRUE(empty->isVisible());
+    EXPECT_EQ(empty->title(), QStringLiteral("No Fonts"));
+    EXPECT_FALSE(view().isVisible());
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(selected(), QString());
+
+    library.addFamily(QStringLiteral("New"));
+    ASSERT_TRUE(library.load());
+    renderNow();
+    EXPECT_FALSE(empty->isVisible());
+    EXPECT_EQ(view().visibleItems().size(), 1U);
+}
+
+TEST_F(BrowserJourney, TheFirstLoadShowsThatItRuns)
+{
+    library.addFamilies(QStringLiteral("Face"), 3);
+    root = std::make_unique<LorvaRootSplitViewController>(*library.model);
+    root->show();
+    library.model->loadCatalog();
+    renderNow();
+    auto *loading = find<BrowserLoadingView>("BrowserLoadingView");
+    EXPECT_TRUE(loading->isVisible());
+    EXPECT_FALSE(find<QWidget>("BrowserEmptyStateView")->isVisible());
+    ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
+    EXPECT_FALSE(loading->isVisible());
+
+    library.model->loadCatalog();
+    renderNow();
+    EXPECT_FALSE(loading->isVisible()) << "a later scan shows nothing but its result";
+    ASSERT_TRUE(waitUntil([this] { return !library.model->isLoading(); }));
+}
+
+TEST_F(BrowserJourney, AVanishedFontShowsTheSystemFontAndSaysSo)
+{
+    library.addFamilies(QStringLiteral("Face"), 2);
+    root = std::make_unique<LorvaRootSplitViewController>(*library.model);
+    root->resize(1000, 800);
+    ASSERT_TRUE(library.load());
+    for (const FilePath &file : library.fonts->files)
+        ASSERT_EQ(::unlink(file.c_str()), 0);
+    root->show();
+    ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
+    const FontPreviewNSView &preview = card(0).previewView();
+    EXPECT_TRUE(preview.currentFont()->isStandIn());
+    EXPECT_FALSE(preview.toolTip().isEmpty());
+    EXPECT_EQ(preview.accessibleDescription(), preview.toolTip());
+}
+
+} // namespace
+} // namespace lorva
