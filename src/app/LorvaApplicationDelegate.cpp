@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "app/LorvaApplicationDelegate.h"
+
+#include "base/AtomicFile.h"
+#include "model/stores/WindowGeometry.h"
+#include "platform/linux/FontconfigAvailableFonts.h"
+#include "platform/linux/FontconfigSystemFont.h"
+#include "platform/linux/XdgFolders.h"
+#include "platform/MemoryPreferenceStore.h"
+#include "platform/SqlitePreferenceStore.h"
+#include "ui/browser/FontBrowserViewController.h"
+#include "ui/LorvaRootSplitViewController.h"
+#include "ui/style/ReducedMotion.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QLoggingCategory>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdio>
+
+Q_LOGGING_CATEGORY(lcStartup, "lorva.app.startup", QtWarningMsg)
+
+namespace lorva {
+
+namespace {
+
+constexpr std::chrono::milliseconds kSettleLook{4};
+
+/// A picture must not touch what the user's own window remembers.
+std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
+                                                 const PlatformFolders &folders)
+{
+    if (options.screenshot)
+        return std::make_unique<MemoryPreferenceStore>();
+    return std::make_unique<SqlitePreferenceStore>(folders.applicationSupport);
+}
+
+std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
+                                         const PlatformFolders &folders)
+{
+    FontLibraryService::Dependencies dependencies{
+        std::make_shared<FontconfigAvailableFonts>(folders.userFonts.child("lorva-registered")),
+        std::make_shared<FontconfigSystemFont>()};
+    auto model = std::make_unique<LorvaAppModel>(
+        std::make_unique<FontLibraryService>(std::move(dependencies)),
+        std::make_unique<CatalogActivation>(folders));
+    model->setWatchedFolders(options.folders);
+    model->setViewMode(options.viewMode.value_or(model->viewMode()));
+    model->setColorMode(options.colorMode.value_or(model->colorMode()));
+    model->setPointSize(options.pointSize.value_or(model->browserPointSize()));
+    model->setSampleText(options.sampleText.value_or(model->sampleText()));
+    return model;
+}
+
+} // namespace
+
+LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options)
+    : m_options(std::move(options))
+    , m_preferences(makePreferences(m_options, xdgFolders()))
+    , m_model(makeModel(m_options, xdgFolders()))
+    , m_windowFrameStore(*m_preferences)
+{
+}
+
+LorvaApplicationDelegate::~LorvaApplicationDelegate()
+{
+    // The window holds the model without owning it.
+    m_window.reset();
+}
+
+void LorvaApplicationDelegate::applicationDidFinishLaunching()
+{
+    if (m_options.screenshot)
+        setReducedMotionOverride(true);
+    buildWindow();
+    placeWindow();
+    watchFirstScreen();
+    m_root->browser().setFocus();
+    m_window->show();
+    m_model->loadCatalog();
+}
+
+void LorvaApplicationDelegate::buildWindow()
+{
+    m_window = std::make_unique<QMainWindow>();
+    m_window->setObjectName(QStringLiteral("LorvaMainWindow"));
+    m_window->setWindowTitle(tr("All Fonts"));
+    m_root = new LorvaRootSplitViewController(*m_model, m_window.get());
+    m_window->setCentralWidget(m_root);
+    m_window->installEventFilter(this);
+    auto *quit = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), m_window.get());
+    connect(quit, &QShortcut::activated, m_window.get(), &QWidget::close);
+}
+
+void LorvaApplicationDelegate::placeWindow()
+{
+    if (m_options.screenshot) {
+        m_window->setFixedSize(m_options.windowSize);
+        return;
+    }
+    m_window->setMinimumSize(kMinimumContentSize);
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QRect frame =
+        mainWindowFrame(m_windowFrameStore.load(), screen ? screen->availableGeometry() : QRect(),
+                        kMinimumContentSize, kWantedContentSize);
+    m_window->setGeometry(frame);
+}
+
+bool LorvaApplicationDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && watched == m_window.get() && !m_options.screenshot)
+        m_windowFrameStore.save(m_window->normalGeometry().isValid() ? m_window->normalGeometry()
+                                                                     : m_window->geometry());
+    return QObject::eventFilter(watched, event);
+}
+
+void LorvaApplicationDelegate::watchFirstScreen()
+{
+    auto *look = new QTimer(this);
+    look->setInterval(kSettleLook);
+    connect(m_root, &LorvaRootSplitViewController::rendered, this, [this, look] {
+        if (m_model->isLoading() || m_sinceCatalog.isValid())
+            return;
+        m_sinceCatalog.start();
+        look->start();
+    });
+    connect(look, &QTimer::timeout, this, [this, look] {
+        if (!m_root->browser().isSettled())
+            return;
+        look->stop();
+        look->deleteLater();
+        // What is settled may still wait for its first paint event; the report is of pixels.
+        m_window->repaint();
+        qCInfo(lcStartup) << "first screen painted" << m_sinceCatalog.elapsed()
+                          << "ms after its catalog was known," << m_model->allFamilies()->size()
+                          << "families";
+        Q_EMIT firstScreenPainted();
+        if (m_options.screenshot)
+            takeScreenshot();
+    });
+}
+
+void LorvaApplicationDelegate::takeScreenshot()
+{
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    m_window->grab().toImage().save(&buffer, "PNG");
+    const auto written = writeFileAtomically(*m_options.screenshot, png);
+    if (!written)
+        std::fprintf(stderr, "lorva: %s\n", qPrintable(written.error().detail));
+    QCoreApplication::exit(written ? 0 : 1);
+}
+
+} // namespace lorva

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "app/LaunchOptions.h"
+#include "app/LorvaApplicationDelegate.h"
+#include "platform/linux/SmallFontconfig.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int kExitUsage = 2;
+
+bool isSet(const char *variable)
+{
+    const char *value = std::getenv(variable);
+    return value && *value;
+}
+
+bool hasDisplay()
+{
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
+}
+
+void sayNoDisplay()
+{
+    std::fputs("lorva: no display to open a window on; start it in a desktop session, or make a "
+               "picture with --screenshot FILE\n",
+               stderr);
+}
+
+/// Qt ends the process with a core dump when the display that the environment names does not
+/// answer; the user gets one line instead.
+void handleStartupMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtFatalMsg) {
+        sayNoDisplay();
+        ::_exit(kExitUsage);
+    }
+    // What a plugin says of a missing display, or Qt of a session without a runtime folder, is no
+    // news.
+    if (QByteArrayView(context.category).startsWith("qt.qpa")
+        || message.contains(QLatin1String("XDG_RUNTIME_DIR")))
+        return;
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+lorva::FilePath workingFolder()
+{
+    char *folder = ::getcwd(nullptr, 0);
+    const lorva::FilePath path{QByteArray(folder ? folder : "/")};
+    std::free(folder);
+    return path;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const auto options = lorva::parseLaunchOptions(
+        std::span<const char *const>(argv, size_t(argc)).subspan(argc > 0 ? 1 : 0),
+        workingFolder());
+    if (!options) {
+        std::fprintf(stderr, "lorva: %s; see lorva --help\n", qPrintable(options.error().detail));
+        return kExitUsage;
+    }
+    if (options->showsHelp) {
+        std::fputs(qPrintable(lorva::launchHelp()), stdout);
+        return 0;
+    }
+    if (options->showsVersion) {
+        std::puts("lorva " LORVA_VERSION);
+        return 0;
+    }
+    if (options->screenshot)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!hasDisplay()) {
+        sayNoDisplay();
+        return kExitUsage;
+    }
+
+    // Before the application object: its font database is filled from the process's configuration.
+    lorva::useSmallFontconfigForInterface();
+    QCoreApplication::setApplicationName(QStringLiteral("Lorva"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(LORVA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("vantrel.lorva"));
+    const QtMessageHandler usual = qInstallMessageHandler(handleStartupMessage);
+    // The program's arguments are read above; Qt's own would let a file name pass for an option.
+    int qtArgumentCount = 1;
+    QApplication application(qtArgumentCount, argv);
+    qInstallMessageHandler(usual);
+
+    lorva::LorvaApplicationDelegate delegate(*options);
+    delegate.applicationDidFinishLaunching();
+    return application.exec();
+}
