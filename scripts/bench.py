@@ -1,0 +1,288 @@
+# SPDX-FileCopyrightText: 2026 The Lorva developers
+# SPDX-License-Identifier: MIT
+"""Measures Lorva against the tools one would run instead, and prints a Markdown table of ratios.
+
+Started by scripts/bench, which builds first. A ratio holds across machines where a time does not, so both
+sides are measured in one run, in turns, with warm files, and medians are compared. Nothing here passes or
+fails: a timed test would fail on a busy machine.
+"""
+import argparse
+import json
+import os
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+EXTENSIONS = {".otf", ".ttf", ".ttc", ".otc", ".dfont"}
+# As many files as the libraries of designers hold; the fonts of the machine are linked this often.
+LARGE_LIBRARY = 7000
+SAMPLE_TEXT = "Aa 123"
+SAMPLE_SIZE_PX = 48
+SAMPLE_FONTS = 60
+README_MARKS = ("<!-- bench:begin -->", "<!-- bench:end -->")
+NO_FONTS = '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>'
+
+
+class Failed(Exception):
+    """A one-line reason for a person."""
+
+
+def font_files(folder):
+    """The font files below a folder, as the scan picks them: by extension, nothing hidden."""
+    found = []
+    for path, folders, files in os.walk(folder, followlinks=True):
+        folders[:] = sorted(name for name in folders if not name.startswith("."))
+        found += [os.path.join(path, name) for name in sorted(files)
+                  if not name.startswith(".") and os.path.splitext(name)[1].lower() in EXTENSIONS
+                  and os.path.isfile(os.path.join(path, name))]
+    return found
+
+
+def large_library(files, folder):
+    """A folder with LARGE_LIBRARY files: each font copied once, then linked under further names."""
+    stamp = json.dumps([LARGE_LIBRARY, [[f, os.path.getsize(f)] for f in files]])
+    stamp_file = folder / ".stamp"
+    if not stamp_file.exists() or stamp_file.read_text() != stamp:
+        shutil.rmtree(folder, ignore_errors=True)
+        for number in range(LARGE_LIBRARY):
+            round_, index = divmod(number, len(files))
+            name = f"{index:05}{os.path.splitext(files[index])[1]}"
+            target = folder / f"{round_:03}" / name
+            target.parent.mkdir(parents=True, exist_ok=True)
+            if round_ == 0:
+                shutil.copyfile(files[index], target)
+            else:
+                os.link(folder / "000" / name, target)
+        stamp_file.write_text(stamp)
+    return font_files(folder)
+
+
+def run_ms(command, environment=None, output=os.devnull):
+    """Runs a program with its output to a file (nowhere, if none is named) and gives its wall time in ms.
+
+    The process is spawned directly: Python's own subprocess costs as much as the small programs timed.
+    """
+    actions = [(os.POSIX_SPAWN_OPEN, 0, os.devnull, os.O_RDONLY, 0),
+               (os.POSIX_SPAWN_OPEN, 1, output, os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o600),
+               (os.POSIX_SPAWN_OPEN, 2, os.devnull, os.O_WRONLY, 0)]
+    started = time.perf_counter()
+    pid = os.posix_spawn(command[0], command, environment or os.environ, file_actions=actions)
+    _, status = os.waitpid(pid, 0)
+    took = (time.perf_counter() - started) * 1000
+    code = os.waitstatus_to_exitcode(status)
+    # fc-scan reports one unreadable file among thousands by its exit status.
+    if code != 0 and not command[0].endswith("fc-scan"):
+        raise Failed(f"exit status {code} from: {' '.join(command)[:300]}")
+    return took
+
+
+def in_turns(runs, *sides):
+    """Calls each side once unmeasured, then all in turns; gives each side's times in ms."""
+    for side in sides:
+        side()
+    times = [[] for _ in sides]
+    for _ in range(runs):
+        for taken, side in zip(times, sides):
+            taken.append(side())
+    return times
+
+
+def tool(name):
+    path = shutil.which(name)
+    if not path:
+        raise Failed(f"{name} is missing; scripts/bench installs it")
+    return path
+
+
+def percentile(values, share):
+    return sorted(values)[min(len(values) - 1, int(len(values) * share))]
+
+
+def ms(value):
+    return f"{value:.0f} ms" if value >= 20 else f"{value:.1f} ms" if value >= 1 else f"{value:.2f} ms"
+
+
+class Bench:
+    """One run: the rows of the table, and all figures behind them."""
+
+    def __init__(self, build, runs, home):
+        self.lorvactl = str(build / "src/cli/lorvactl")
+        self.build = build
+        self.runs = runs
+        self.home = home
+        self.rows = []
+        self.notes = []
+        self.figures = {}
+
+    def environment(self, system_fonts):
+        """A fresh home, so that no cache and no watched folder of this user takes part. Without the system's
+        fonts fontconfig knows none at all, and a scan reads exactly the folder it is given."""
+        fresh = Path(tempfile.mkdtemp(dir=self.home))
+        conf = fresh / "fonts.conf"
+        conf.write_text(NO_FONTS)
+        result = {**os.environ, "HOME": str(fresh), "LC_ALL": "C.UTF-8",
+                  "XDG_DATA_HOME": str(fresh / "data"), "XDG_CACHE_HOME": str(fresh / "cache"),
+                  "XDG_CONFIG_HOME": str(fresh / "config")}
+        if not system_fonts:
+            result["FONTCONFIG_FILE"] = str(conf)
+        return result
+
+    def add(self, key, what, ours, instead, theirs, bar):
+        self.figures[key] = {"ours_ms": ours, "theirs_ms": theirs, "instead": instead}
+        ratio = f"{ours / theirs:.3f}" if theirs else "–"
+        compared = f"{instead}: {ms(theirs)}" if theirs else "–"
+        self.rows.append((what, ms(ours), compared, ratio, bar))
+
+    # The scan, whole process against whole process.
+
+    def count_faces(self, folder, files):
+        output = os.path.join(self.home, "list.json")
+        run_ms([self.lorvactl, "list", "--json", "--folder", str(folder)], self.environment(False), output)
+        with open(output, encoding="utf-8") as text:
+            ours = sum(len(family["styles"]) for family in json.load(text))
+        fc = subprocess.run([tool("fc-scan"), "--format", "%{family}\n", *files],
+                            capture_output=True, check=False).stdout.count(b"\n")
+        return ours, fc
+
+    def scan(self, key, folder, files, label):
+        fc_scan = [tool("fc-scan"), "--format",
+                   "%{family}|%{style}|%{postscriptname}|%{weight}|%{slant}\n", *files]
+
+        def ours():
+            environment = self.environment(False)
+            return run_ms([self.lorvactl, "list", "--json", "--folder", str(folder)], environment)
+
+        mine, theirs = in_turns(self.runs, ours, lambda: run_ms(fc_scan))
+        self.add(key, f"cold scan of {label}, whole process", statistics.median(mine),
+                 "`fc-scan`", statistics.median(theirs), "0.15")
+
+    def fontconfig_load(self):
+        """What a scan of the system's fonts spends in fontconfig before it reads its first file."""
+        def empty():
+            return run_ms([self.lorvactl, "list", "--json"], self.environment(False))
+
+        times, = in_turns(self.runs, empty)
+        listing, = in_turns(self.runs, lambda: run_ms([tool("fc-list"), ":", "file"]))
+        self.figures["start"] = {"lorvactl_without_fonts_ms": statistics.median(times),
+                                 "fc_list_ms": statistics.median(listing)}
+        self.notes.append(
+            f"In the scans fontconfig is given no fonts of its own. Loading its list of this machine's fonts "
+            f"is apart: {ms(statistics.median(listing))} for `fc-list` as a process. "
+            f"`lorvactl list` with nothing to scan takes {ms(statistics.median(times))}.")
+
+    # One specimen.
+
+    def specimen_processes(self, files):
+        picked = files[::max(1, len(files) // SAMPLE_FONTS)][:SAMPLE_FONTS]
+        picture = os.path.join(self.home, "specimen.png")
+        environment = self.environment(True)
+        hb_view, mine, theirs = tool("hb-view"), [], []
+        for font in picked:
+            def ours():
+                return run_ms([self.lorvactl, "specimen", font, "-o", picture, "--text", SAMPLE_TEXT, "--size",
+                               str(SAMPLE_SIZE_PX), "--width", "430", "--height", "220"], environment)
+
+            def view():
+                return run_ms([hb_view, f"--font-size={SAMPLE_SIZE_PX}", "--output-format=png",
+                               f"--output-file={picture}", font, SAMPLE_TEXT])
+
+            try:
+                a, b = in_turns(3, ours, view)
+            except Failed as failed:
+                print(f"bench: left out of the specimens: {failed}", file=sys.stderr)
+                continue
+            mine.append(statistics.median(a))
+            theirs.append(statistics.median(b))
+        if not mine:
+            raise Failed("no font gave a specimen in both programs")
+        self.figures["specimen_fonts"] = len(mine)
+        self.add("specimen_process", f"specimen to a PNG file, whole process, {len(mine)} fonts",
+                 statistics.median(mine), "`hb-view`", statistics.median(theirs), "–")
+        return theirs
+
+    # The Google Benchmark programs.
+
+    def programs(self):
+        results = {}
+        for program in sorted((self.build / "bench").iterdir()):
+            if not program.is_file() or not os.access(program, os.X_OK):
+                continue
+            out = Path(self.home) / f"{program.name}.json"
+            print(f"bench: {program.name} …", file=sys.stderr)
+            run_ms([str(program), f"--benchmark_out={out}", "--benchmark_out_format=json"],
+                   {**os.environ, "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"})
+            for result in json.loads(out.read_text())["benchmarks"]:
+                scale = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}[result.get("time_unit", "ns")]
+                if "real_time" in result:
+                    result["ms"] = result["real_time"] * scale
+                    results[f"{program.name}/{result['name']}"] = result
+        self.figures["programs"] = results
+        return results
+
+    def table(self):
+        lines = ["| what | Lorva | instead | ratio | at most |", "|---|--:|--:|--:|--:|"]
+        lines += ["| " + " | ".join(row) + " |" for row in self.rows]
+        return "\n".join(lines + [""] + self.notes)
+
+
+def machine():
+    model = re.search(r"model name\s*:\s*(.*)", Path("/proc/cpuinfo").read_text())
+    return f"{os.cpu_count()} cores{f' of {model[1]}' if model else ''}"
+
+
+def put_into_readme(text):
+    path = Path(__file__).parent.parent / "README.md"
+    readme = path.read_text(encoding="utf-8")
+    begin, end = (readme.find(mark) for mark in README_MARKS)
+    if begin < 0 or end < begin:
+        raise Failed(f"README.md lacks the marks {' '.join(README_MARKS)}")
+    begin += len(README_MARKS[0])
+    path.write_text(readme[:begin] + "\n" + text + "\n" + readme[end:], encoding="utf-8")
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="scripts/bench", description=__doc__.splitlines()[0])
+    parser.add_argument("--build", type=Path, required=True, help=argparse.SUPPRESS)
+    parser.add_argument("--folder", default="/usr/share/fonts", help="the fonts to measure with")
+    parser.add_argument("--runs", type=int, default=7, help="runs of each side (default: 7)")
+    parser.add_argument("--json", type=Path, metavar="FILE", help="write every figure to FILE")
+    parser.add_argument("--readme", action="store_true", help="put the table into README.md")
+    options = parser.parse_args()
+
+    files = font_files(options.folder)
+    if not files:
+        raise Failed(f"no font files below {options.folder}")
+
+    with tempfile.TemporaryDirectory(prefix="lorva-bench-") as home:
+        bench = Bench(options.build, max(1, options.runs), home)
+        library = options.build / "library"
+        many = large_library(files, library)
+        print("bench: scan …", file=sys.stderr)
+        bench.scan("scan_large", library, many, f"{len(many):,} files")
+        bench.scan("scan_installed", options.folder, files, f"{len(files):,} files")
+        ours, theirs = bench.count_faces(options.folder, files)
+        bench.fontconfig_load()
+        print("bench: specimens …", file=sys.stderr)
+        bench.specimen_processes(files)
+        bench.programs()
+        bench.notes.insert(0, f"Medians of {bench.runs} runs in turns, files warm, on {machine()}. The "
+                              f"{len(many):,} files are this machine's {len(files):,} fonts linked under "
+                              f"more names. From those {ours:,} styles were read, by `fc-scan` {theirs:,}.")
+        text = bench.table()
+        if options.json:
+            options.json.write_text(json.dumps(bench.figures, indent=1))
+    print(text)
+    if options.readme:
+        put_into_readme(text)
+
+
+if __name__ == "__main__":
+    try:
+        main()
+    except (Failed, OSError) as failed:
+        sys.exit(f"bench: {failed}")
