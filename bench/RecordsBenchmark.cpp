@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
-// How long a library of 100,000 faces takes to read and write, beside what the other readers at hand
-// would need for the same records.
+// How long a library of 100,000 faces takes to read and write, beside what the other readers at
+// hand would need for the same records.
 
 #include "model/records/RecordsJson.h"
 
@@ -23,17 +23,17 @@ namespace {
 
 constexpr int kFamilies = 10000;
 constexpr int kStylesPerFamily = 10;
-constexpr const char *kLabels[kStylesPerFamily] {
-    "Thin", "Light", "Regular", "Italic", "Medium", "SemiBold", "Bold", "Bold Italic", "ExtraBold",
-    "Black"};
-constexpr qint64 kWeights[kStylesPerFamily] {100, 300, 400, 400, 500, 600, 700, 700, 800, 900};
+constexpr const char *kLabels[kStylesPerFamily]{"Thin",      "Light",    "Regular", "Italic",
+                                                "Medium",    "SemiBold", "Bold",    "Bold Italic",
+                                                "ExtraBold", "Black"};
+constexpr qint64 kWeights[kStylesPerFamily]{100, 300, 400, 400, 500, 600, 700, 700, 800, 900};
 
 FontStyleRecord makeStyle(const QString &family, int index)
 {
     const QString label = QLatin1String(kLabels[index]);
     const QString postScript = QString(family).remove(u' ') + u'-' + QString(label).remove(u' ');
-    const QString path = QLatin1String("/home/designer/Fonts/Licensed/") + family + u'/' + postScript
-                         + QLatin1String(".otf");
+    const QString path = QLatin1String("/home/designer/Fonts/Licensed/") + family + u'/'
+        + postScript + QLatin1String(".otf");
     FontStyleRecord style;
     style.id = postScript;
     style.label = label;
@@ -54,7 +54,7 @@ FontFamilyRecord makeFamily(int index)
     family.primaryScript = WritingScript::latin;
     if (index % 10 == 0) {
         family.scripts->insert(WritingScript::japanese);
-        family.alternateNames = QStringList {QStringLiteral("見出しゴシック %1").arg(index)};
+        family.alternateNames = QStringList{QStringLiteral("見出しゴシック %1").arg(index)};
     }
     return family;
 }
@@ -113,7 +113,8 @@ FontStyleRecord styleFrom(const QJsonObject &object)
     style.postScriptName = object.value(QLatin1String("postScriptName")).toString();
     style.weight = object.value(QLatin1String("weight")).toInteger();
     style.isItalic = object.value(QLatin1String("isItalic")).toBool();
-    style.fileURL = FilePath::fromUrl(object.value(QLatin1String("fileURL")).toString().toUtf8()).value();
+    style.fileURL =
+        FilePath::fromUrl(object.value(QLatin1String("fileURL")).toString().toUtf8()).value();
     return style;
 }
 
@@ -126,8 +127,8 @@ FontFamilyRecord familyFrom(const QJsonObject &object)
     family.scripts.emplace();
     for (const QJsonValue &script : object.value(QLatin1String("scripts")).toArray())
         family.scripts->insert(writingScriptFromName(script.toString()).value());
-    family.primaryScript
-        = writingScriptFromName(object.value(QLatin1String("primaryScript")).toString());
+    family.primaryScript =
+        writingScriptFromName(object.value(QLatin1String("primaryScript")).toString());
     const QJsonValue names = object.value(QLatin1String("alternateNames"));
     if (names.isArray()) {
         family.alternateNames.emplace();
@@ -164,8 +165,9 @@ FontStyleRecord styleFrom(const rapidjson::Value &object)
     style.postScriptName = textOf(object["postScriptName"]);
     style.weight = object["weight"].GetInt64();
     style.isItalic = object["isItalic"].GetBool();
-    style.fileURL
-        = FilePath::fromUrl(QByteArrayView(url.GetString(), qsizetype(url.GetStringLength()))).value();
+    style.fileURL =
+        FilePath::fromUrl(QByteArrayView(url.GetString(), qsizetype(url.GetStringLength())))
+            .value();
     return style;
 }
 
@@ -213,7 +215,9 @@ void encodeFamiliesOurs(benchmark::State &state)
 
 } // namespace lorva
 
-BENCHMARK(lorva::decodeFamiliesOurs)->Name("decode 100k faces, ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(lorva::decodeFamiliesOurs)
+    ->Name("decode 100k faces, ours")
+    ->Unit(benchmark::kMillisecond);
 #ifdef LORVA_HAS_RAPIDJSON
 BENCHMARK(lorva::decodeFamiliesRapidJson)
     ->Name("decode 100k faces, RapidJSON")
@@ -222,6 +226,8 @@ BENCHMARK(lorva::decodeFamiliesRapidJson)
 BENCHMARK(lorva::decodeFamiliesQJsonDocument)
     ->Name("decode 100k faces, QJsonDocument")
     ->Unit(benchmark::kMillisecond);
-BENCHMARK(lorva::encodeFamiliesOurs)->Name("encode 100k faces, ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(lorva::encodeFamiliesOurs)
+    ->Name("encode 100k faces, ours")
+    ->Unit(benchmark::kMillisecond);
 
 BENCHMARK_MAIN();

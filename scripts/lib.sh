@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Lorva developers
 # SPDX-License-Identifier: MIT
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034 # the groups are found by name
 #
 # What the scripts beside this file share: the packages that the house needs, and quiet builds.
 # Sourced, never run. Everything works from any directory: the scripts go to the top of the tree first.

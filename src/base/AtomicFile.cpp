@@ -42,7 +42,8 @@ public:
     int create(const FilePath &folder)
     {
         for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
-            const QByteArray random = QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+            const QByteArray random =
+                QByteArray::number(QRandomGenerator::global()->generate64(), 36);
             const FilePath path = folder.child(QByteArray(".lorva-" + random + ".tmp"));
             m_descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
             if (m_descriptor >= 0) {
@@ -99,7 +100,8 @@ private:
 /// The file that `path` leads to through links; `path` itself when there is none.
 FilePath withLinksFollowed(const FilePath &path)
 {
-    struct FreeDeleter {
+    struct FreeDeleter
+    {
         void operator()(char *memory) const { std::free(memory); }
     };
     const std::unique_ptr<char, FreeDeleter> real(::realpath(path.c_str(), nullptr));

@@ -7,12 +7,12 @@
 
 namespace lorva {
 
-/// Makes `path` a file that holds exactly `bytes`, or leaves what was there untouched: the bytes go to a
-/// new file in the same folder, are flushed to the disk, and take the name over. A link is followed, so
-/// that it keeps pointing at the file. An existing file's permissions are kept.
+/// Makes `path` a file that holds exactly `bytes`, or leaves what was there untouched: the bytes go
+/// to a new file in the same folder, are flushed to the disk, and take the name over. A link is
+/// followed, so that it keeps pointing at the file. An existing file's permissions are kept.
 ///
-/// The folder must exist. Fails with notFound, permissionDenied, notRegularFile (a folder has that name)
-/// or ioFailure (a full disk, …); no new file stays behind. Thread: any.
+/// The folder must exist. Fails with notFound, permissionDenied, notRegularFile (a folder has that
+/// name) or ioFailure (a full disk, …); no new file stays behind. Thread: any.
 Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes);
 
 } // namespace lorva

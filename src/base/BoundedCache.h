@@ -17,7 +17,10 @@ template <class Key, class Value, class Hash = std::hash<Key>>
 class BoundedCache
 {
 public:
-    explicit BoundedCache(size_t limit) : m_limit(limit) { }
+    explicit BoundedCache(size_t limit)
+        : m_limit(limit)
+    {
+    }
 
     std::optional<Value> find(const Key &key)
     {

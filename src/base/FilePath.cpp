@@ -11,8 +11,7 @@ constexpr QByteArrayView kScheme = "file:";
 bool isUnreserved(char byte)
 {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')
-           || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.' || byte == '_'
-           || byte == '~';
+        || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.' || byte == '_' || byte == '~';
 }
 
 int hexValue(char digit)
@@ -25,12 +24,14 @@ int hexValue(char digit)
 
 tl::unexpected<Error> badUrl(QByteArrayView url, const char *why)
 {
-    const QString shown = FilePath(url.first(std::min<qsizetype>(url.size(), 200)).toByteArray()).displayText();
+    const QString shown =
+        FilePath(url.first(std::min<qsizetype>(url.size(), 200)).toByteArray()).displayText();
     return failure(ErrorKind::invalidValue,
                    QStringLiteral("\"%1\" is no file URL: %2").arg(shown, QLatin1String(why)));
 }
 
-/// Takes "//host" off the front of what follows the scheme; false for a host that is not this machine.
+/// Takes "//host" off the front of what follows the scheme; false for a host that is not this
+/// machine.
 bool dropAuthority(QByteArrayView &rest)
 {
     if (!rest.startsWith("//"))

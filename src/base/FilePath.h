@@ -21,12 +21,15 @@ class FilePath
 {
 public:
     FilePath() = default;
-    explicit FilePath(QByteArray bytes) : m_bytes(std::move(bytes)) { }
+    explicit FilePath(QByteArray bytes)
+        : m_bytes(std::move(bytes))
+    {
+    }
     /// The path whose UTF-8 form is `text`.
     static FilePath fromText(const QString &text) { return FilePath(text.toUtf8()); }
-    /// The path that a file URL ("file:///a%20b") names. Fails with invalidValue for another scheme, a
-    /// foreign host, a path that is not absolute, a query or fragment, a broken percent escape, or an
-    /// embedded NUL.
+    /// The path that a file URL ("file:///a%20b") names. Fails with invalidValue for another
+    /// scheme, a foreign host, a path that is not absolute, a query or fragment, a broken percent
+    /// escape, or an embedded NUL.
     static Result<FilePath> fromUrl(QByteArrayView url);
 
     const QByteArray &bytes() const { return m_bytes; }
@@ -36,8 +39,8 @@ public:
 
     /// The part after the last slash.
     QByteArray fileName() const;
-    /// The part of the file name after its last dot, ASCII letters lower-cased; empty without a dot and
-    /// for a name whose only dot is its first byte.
+    /// The part of the file name after its last dot, ASCII letters lower-cased; empty without a dot
+    /// and for a name whose only dot is its first byte.
     QByteArray lowerCaseExtension() const;
     /// The path before the last slash; "/" for what lies directly in it, empty without a slash.
     FilePath parent() const;
@@ -65,6 +68,7 @@ private:
 } // namespace lorva
 
 template <>
-struct std::hash<lorva::FilePath> {
+struct std::hash<lorva::FilePath>
+{
     size_t operator()(const lorva::FilePath &path) const noexcept { return qHash(path.bytes()); }
 };

@@ -18,11 +18,13 @@ namespace {
 
 constexpr int kMaxText = std::numeric_limits<int32_t>::max() / 8;
 
-struct CollatorDeleter {
+struct CollatorDeleter
+{
     void operator()(UCollator *collator) const { ucol_close(collator); }
 };
 
-struct TransliteratorDeleter {
+struct TransliteratorDeleter
+{
     void operator()(UTransliterator *transliterator) const { utrans_close(transliterator); }
 };
 
@@ -36,16 +38,16 @@ int32_t lengthOf(QStringView text)
     return int32_t(std::min<qsizetype>(text.size(), kMaxText));
 }
 
-/// The result of an ICU function that fills a buffer, given a guess of the size; `text` unchanged if it
-/// fails.
+/// The result of an ICU function that fills a buffer, given a guess of the size; `text` unchanged
+/// if it fails.
 template <class Fill>
 QString filled(QStringView text, qsizetype guess, Fill &&fill)
 {
     QString out(guess, Qt::Uninitialized);
     for (int attempt = 0; attempt < 2; ++attempt) {
         UErrorCode code = U_ZERO_ERROR;
-        const int32_t length
-            = fill(reinterpret_cast<UChar *>(out.data()), int32_t(out.size()), &code);
+        const int32_t length =
+            fill(reinterpret_cast<UChar *>(out.data()), int32_t(out.size()), &code);
         const bool isShort = code == U_BUFFER_OVERFLOW_ERROR;
         if (U_FAILURE(code) && !isShort)
             break;
@@ -75,8 +77,8 @@ QString withoutWidth(QStringView text)
         U16_NEXT(text.utf16(), at, text.size(), point);
         UChar plain[32];
         const int32_t length = U_SUCCESS(code) && isWidthVariant(char32_t(point))
-                                   ? unorm2_getRawDecomposition(normalizer, point, plain, 32, &code)
-                                   : -1;
+            ? unorm2_getRawDecomposition(normalizer, point, plain, 32, &code)
+            : -1;
         if (length >= 0 && U_SUCCESS(code))
             out.append(QStringView(plain, length));
         else
@@ -175,7 +177,8 @@ QString withKatakana(const QString &text)
     });
 }
 
-struct NameCollator::Impl {
+struct NameCollator::Impl
+{
     std::unique_ptr<UCollator, CollatorDeleter> collator;
 };
 
@@ -203,9 +206,9 @@ QByteArray NameCollator::sortKey(QStringView text) const
         return text.toString().toCaseFolded().toUtf8();
     QByteArray key(text.size() * 3 + 16, Qt::Uninitialized);
     for (;;) {
-        const int32_t size
-            = ucol_getSortKey(m_impl->collator.get(), unitsOf(text), lengthOf(text),
-                              reinterpret_cast<uint8_t *>(key.data()), int32_t(key.size()));
+        const int32_t size =
+            ucol_getSortKey(m_impl->collator.get(), unitsOf(text), lengthOf(text),
+                            reinterpret_cast<uint8_t *>(key.data()), int32_t(key.size()));
         const bool isWhole = size <= key.size();
         // The last byte is a terminator.
         key.resize(isWhole ? std::max(size - 1, 0) : size);

@@ -10,8 +10,8 @@
 
 namespace lorva {
 
-/// `text` without what a search overlooks: case, diacritics and width. Both sides of a comparison are
-/// folded; the result is for comparing, not for showing. The same in every locale.
+/// `text` without what a search overlooks: case, diacritics and width. Both sides of a comparison
+/// are folded; the result is for comparing, not for showing. The same in every locale.
 ///
 ///     "ÉCOLE" → "ecole"    "Straße" → "strasse"    "ＡＢＣ" → "abc"    "ﾊﾟ" → "ハ"    "İ" → "i"
 ///
@@ -22,8 +22,8 @@ QString foldedForSearch(QStringView text);
 /// `text` with Hiragana turned into Katakana, so that either spelling finds the other. Thread: any.
 QString withKatakana(const QString &text);
 
-/// Orders names as a reader of `locale` expects, whatever their case: "abc" and "ABC" are equal, "é"
-/// comes right after "e". Equal names need a tie-break of the caller's.
+/// Orders names as a reader of `locale` expects, whatever their case: "abc" and "ABC" are equal,
+/// "é" comes right after "e". Equal names need a tie-break of the caller's.
 ///
 /// Cheap to copy. Thread: any, also at the same time.
 class NameCollator

@@ -31,12 +31,14 @@
 ///     QByteArray text = encodeJson(chapter);             // {"title":"One"}
 ///     Result<Chapter> read = decodeJson<Chapter>(text);
 ///
+/// jsonFields() stands in the namespace of its type, where it is looked up.
+///
 /// One list serves both directions: keys are written in its order, and read in any order. A
 /// std::optional member is an optional key that is left out while it is empty; every other one is
 /// required. Types that are no plain list of keys provide readJson(JsonReader &, T &) and
-/// writeJson(JsonWriter &, const T &) instead. Vectors, sets of enumerators, QStringList, string-keyed
-/// maps (QHash, std::map), QByteArray (base64), FilePath (file URL), JsonUtf8, integers, double and
-/// bool work as they are.
+/// writeJson(JsonWriter &, const T &) instead. Vectors, sets of enumerators, QStringList,
+/// string-keyed maps (QHash, std::map), QByteArray (base64), FilePath (file URL), JsonUtf8,
+/// integers, double and bool work as they are.
 
 namespace lorva {
 
@@ -47,7 +49,10 @@ class JsonFieldReader;
 class JsonFieldWriter;
 
 template <class T>
-concept JsonRecord = requires(JsonFieldReader &fields, T &record) { jsonFields(fields, record); };
+concept JsonRecord = requires(JsonFieldReader &fields, T &record)
+{
+    jsonFields(fields, record);
+};
 
 template <class T>
 concept JsonInteger = std::integral<T> && !std::same_as<T, bool>;
@@ -55,11 +60,26 @@ concept JsonInteger = std::integral<T> && !std::same_as<T, bool>;
 // What can be read, one overload per type. The templates come after all declarations, so that they
 // nest in any order.
 
-inline void readJson(JsonReader &in, QString &out) { in.read(out); }
-inline void readJson(JsonReader &in, double &out) { in.read(out); }
-inline void readJson(JsonReader &in, bool &out) { in.read(out); }
-inline void readJson(JsonReader &in, JsonUtf8 &out) { in.read(out); }
-inline void readJson(JsonReader &in, QByteArray &out) { in.readData(out); }
+inline void readJson(JsonReader &in, QString &out)
+{
+    in.read(out);
+}
+inline void readJson(JsonReader &in, double &out)
+{
+    in.read(out);
+}
+inline void readJson(JsonReader &in, bool &out)
+{
+    in.read(out);
+}
+inline void readJson(JsonReader &in, JsonUtf8 &out)
+{
+    in.read(out);
+}
+inline void readJson(JsonReader &in, QByteArray &out)
+{
+    in.readData(out);
+}
 void readJson(JsonReader &in, FilePath &out);
 void readJson(JsonReader &in, QStringList &out);
 template <JsonInteger T>
@@ -75,10 +95,22 @@ void readJson(JsonReader &in, std::map<QString, T> &out);
 template <JsonRecord T>
 void readJson(JsonReader &in, T &out);
 
-inline void writeJson(JsonWriter &out, const QString &value) { out.string(value); }
-inline void writeJson(JsonWriter &out, double value) { out.number(value); }
-inline void writeJson(JsonWriter &out, const JsonUtf8 &value) { out.utf8(value.bytes); }
-inline void writeJson(JsonWriter &out, const QByteArray &value) { out.data(value); }
+inline void writeJson(JsonWriter &out, const QString &value)
+{
+    out.string(value);
+}
+inline void writeJson(JsonWriter &out, double value)
+{
+    out.number(value);
+}
+inline void writeJson(JsonWriter &out, const JsonUtf8 &value)
+{
+    out.utf8(value.bytes);
+}
+inline void writeJson(JsonWriter &out, const QByteArray &value)
+{
+    out.data(value);
+}
 void writeJson(JsonWriter &out, const FilePath &value);
 void writeJson(JsonWriter &out, const QStringList &value);
 // Only a bool: anything that merely turns into one has no JSON form.
@@ -146,7 +178,7 @@ template <class T>
 Result<T> decodeJson(QByteArray json)
 {
     JsonReader in(std::move(json));
-    T value {};
+    T value{};
     readJson(in, value);
     if (std::optional<Error> error = in.finish())
         return tl::unexpected<Error>(*std::move(error));
@@ -200,7 +232,10 @@ private:
 class JsonFieldWriter
 {
 public:
-    explicit JsonFieldWriter(JsonWriter &out) : m_out(out) { }
+    explicit JsonFieldWriter(JsonWriter &out)
+        : m_out(out)
+    {
+    }
 
     template <class T>
     void operator()(std::string_view name, const T &member)
@@ -241,7 +276,7 @@ template <class T>
 void readJson(JsonReader &in, std::set<T> &out)
 {
     in.readArray([&] {
-        T value {};
+        T value{};
         readJson(in, value);
         out.insert(std::move(value));
     });

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/JsonReader.h"
 
-#include "base/FilePath.h"
+#include "base/JsonFieldFinder.h"
+#include "base/JsonPlace.h"
 
 #include <simdjson.h>
 
@@ -28,6 +29,8 @@ QString malformedText(simdjson::error_code code)
         return QStringLiteral("control character in a string");
     case simdjson::UNCLOSED_STRING:
         return QStringLiteral("unclosed string");
+    case simdjson::STRING_ERROR:
+        return QStringLiteral("broken escape in a string");
     case simdjson::CAPACITY:
     case simdjson::MEMALLOC:
         return QStringLiteral("the document is too large");
@@ -52,35 +55,12 @@ bool looksLikeInteger(std::string_view token)
     return token.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-bool isIdentifier(std::string_view key)
-{
-    constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
-                                          "0123456789_";
-    return !key.empty() && key.size() <= 60
-           && key.find_first_not_of(kLetters) == std::string_view::npos;
-}
-
-/// How a key shows in a place: plain identifiers bare, anything else as ["…"], cut short.
-QString placeOfKey(std::string_view key)
-{
-    const QByteArray bytes(key.data(), qsizetype(key.size()));
-    if (isIdentifier(key))
-        return QString::fromLatin1(bytes);
-    return QLatin1String("[\"") + FilePath(bytes).displayText().left(60) + QLatin1String("\"]");
-}
-
-QString joinedPlace(const QString &outer, const QString &inner)
-{
-    if (inner.isEmpty() || inner.startsWith(u'['))
-        return outer + inner;
-    return outer + u'.' + inner;
-}
-
 } // namespace
 
-/// The parser's state. simdjson's on-demand parser walks the text itself, so a value must be taken in
-/// the order in which it stands there; `isWaiting` says that it has not been taken yet.
-struct JsonReader::Impl {
+/// The parser's state. simdjson's on-demand parser walks the text itself, so a value must be taken
+/// in the order in which it stands there; `isWaiting` says that it has not been taken yet.
+struct JsonReader::Impl
+{
     QByteArray json;
     ondemand::parser parser;
     ondemand::document document;
@@ -92,7 +72,8 @@ struct JsonReader::Impl {
     /// Where the failure is, built from the inside out while the calls return.
     QString place;
 
-    /// Calls `function` with what stands for the value: simdjson has a type of its own for the root.
+    /// Calls `function` with what stands for the value: simdjson has a type of its own for the
+    /// root.
     template <class Function>
     auto withValue(Function &&function)
     {
@@ -103,21 +84,27 @@ struct JsonReader::Impl {
     {
         if (error)
             return;
-        error = Error {kind, detail};
+        error = Error{kind, detail};
         place = where;
     }
 
-    void failMalformed(simdjson::error_code code) { fail(malformedKind(code), malformedText(code)); }
+    void failMalformed(simdjson::error_code code)
+    {
+        fail(malformedKind(code), malformedText(code));
+    }
+
+    /// For a container that does not open: it may be another type, or cut off.
+    void failOpening(simdjson::error_code code, const char *expected)
+    {
+        code == simdjson::INCORRECT_TYPE ? failType(expected) : failMalformed(code);
+    }
 
     void failType(const char *expected)
     {
         fail(ErrorKind::typeMismatch, QLatin1String("expected ") + QLatin1String(expected));
     }
 
-    void wrapPlace(const QString &outer)
-    {
-        place = joinedPlace(outer, place);
-    }
+    void wrapPlace(const QString &outer) { place = joinedPlace(outer, place); }
 
     /// True when there is a value to take, and takes it.
     bool take()
@@ -172,8 +159,8 @@ std::optional<std::string_view> JsonReader::Impl::takeString()
         return std::nullopt;
     }
     // Nearly all strings hold no escape, so they can be read where they lie.
-    const bool isPlain = raw.size() >= 2 && raw.ends_with('"')
-                         && !std::memchr(raw.data(), '\\', raw.size());
+    const bool isPlain =
+        raw.size() >= 2 && raw.ends_with('"') && !std::memchr(raw.data(), '\\', raw.size());
     if (isPlain) {
         if (withValue([](auto &each) { return each.get_raw_json_string().error(); }))
             return std::nullopt;
@@ -183,7 +170,7 @@ std::optional<std::string_view> JsonReader::Impl::takeString()
     if (const auto code = withValue([](auto &each) { return each.get_string(); }).get(text))
         failMalformed(code);
     else if (!QByteArrayView(text.data(), qsizetype(text.size())).isValidUtf8())
-        fail(ErrorKind::malformed, QStringLiteral("lone surrogate"));
+        fail(ErrorKind::malformed, malformedText(simdjson::STRING_ERROR));
     return text;
 }
 
@@ -195,7 +182,7 @@ std::optional<std::string_view> JsonReader::Impl::keyOf(ondemand::field &field)
         return std::nullopt;
     }
     if (!QByteArrayView(key.data(), qsizetype(key.size())).isValidUtf8()) {
-        fail(ErrorKind::malformed, QStringLiteral("lone surrogate in a key"));
+        fail(ErrorKind::malformed, malformedText(simdjson::STRING_ERROR));
         return std::nullopt;
     }
     return key;
@@ -205,7 +192,7 @@ std::optional<JsonReader::Kind> JsonReader::Impl::kind()
 {
     if (error)
         return std::nullopt;
-    ondemand::json_type type {};
+    ondemand::json_type type{};
     if (const auto code = withValue([](auto &each) { return each.type(); }).get(type)) {
         failMalformed(code);
         return std::nullopt;
@@ -244,7 +231,8 @@ void JsonReader::Impl::skipScalar(Kind kind)
         failMalformed(simdjson::TAPE_ERROR);
 }
 
-JsonReader::JsonReader(QByteArray json) : m_impl(std::make_unique<Impl>())
+JsonReader::JsonReader(QByteArray json)
+    : m_impl(std::make_unique<Impl>())
 {
     // The parser reads in blocks and so a little beyond the end, where nothing may look like JSON.
     const qsizetype size = json.size();
@@ -318,9 +306,12 @@ void JsonReader::readData(QByteArray &out)
     read(base64);
     if (hasFailed())
         return;
+    // Qt takes a text without its padding, which may as well have lost more than that.
+    const bool isPadded = base64.bytes.size() % 4 == 0;
     const auto decoded = QByteArray::fromBase64Encoding(
-        std::move(base64.bytes), QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
-    if (decoded)
+        std::move(base64.bytes),
+        QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
+    if (decoded && isPadded)
         out = *decoded;
     else
         fail(ErrorKind::invalidValue, QStringLiteral("broken base64"));
@@ -331,9 +322,9 @@ bool JsonReader::readNull()
     bool isNull = false;
     if (m_impl->error || !m_impl->isWaiting)
         return false;
-    if (m_impl->withValue([](auto &each) {
-            return simdjson::simdjson_result<bool>(each.is_null());
-        }).get(isNull))
+    if (m_impl
+            ->withValue([](auto &each) { return simdjson::simdjson_result<bool>(each.is_null()); })
+            .get(isNull))
         m_impl->failMalformed(simdjson::TAPE_ERROR);
     if (isNull)
         m_impl->isWaiting = false;
@@ -346,9 +337,9 @@ void JsonReader::skip()
     if (!kind)
         return;
     if (kind == Kind::array)
-        readArray([] { });
+        readArray([] {});
     else if (kind == Kind::object)
-        readObject([](std::string_view) { });
+        readObject([](std::string_view) {});
     else if (m_impl->take())
         m_impl->skipScalar(*kind);
 }
@@ -359,8 +350,8 @@ void JsonReader::readElements(void *function, void (*call)(void *))
     ondemand::array array;
     if (!impl.take() || !impl.enter())
         return;
-    if (impl.withValue([](auto &each) { return each.get_array(); }).get(array))
-        return impl.failType("an array");
+    if (const auto code = impl.withValue([](auto &each) { return each.get_array(); }).get(array))
+        return impl.failOpening(code, "an array");
     qsizetype index = 0;
     for (auto element : array) {
         ondemand::value value;
@@ -383,8 +374,8 @@ void JsonReader::readMembers(void *function, void (*call)(void *, std::string_vi
     ondemand::object object;
     if (!impl.take() || !impl.enter())
         return;
-    if (impl.withValue([](auto &each) { return each.get_object(); }).get(object))
-        return impl.failType("an object");
+    if (const auto code = impl.withValue([](auto &each) { return each.get_object(); }).get(object))
+        return impl.failOpening(code, "an object");
     for (auto each : object) {
         ondemand::field field;
         if (const auto code = std::move(each).get(field))
@@ -402,61 +393,14 @@ void JsonReader::readMembers(void *function, void (*call)(void *, std::string_vi
     --impl.depth;
 }
 
-namespace {
-
-/// Finds which field an object's key names. Keys mostly come in the order in which they are listed, so
-/// the search begins behind the one found before.
-class FieldFinder
-{
-public:
-    explicit FieldFinder(std::span<const JsonField> fields) : m_fields(fields) { }
-
-    /// The index of the field, or the number of fields for an unknown key.
-    template <class Matches>
-    size_t find(Matches &&matches)
-    {
-        for (size_t step = 0; step < m_fields.size(); ++step) {
-            const size_t index = (m_next + step) % m_fields.size();
-            if (matches(m_fields[index].name)) {
-                m_next = index + 1;
-                return index;
-            }
-        }
-        return m_fields.size();
-    }
-
-    /// False when the field was seen before.
-    bool markSeen(size_t index)
-    {
-        const quint32 bit = 1U << index;
-        return !(std::exchange(m_seen, m_seen | bit) & bit);
-    }
-
-    const JsonField *firstMissing() const
-    {
-        for (size_t index = 0; index < m_fields.size(); ++index) {
-            if (m_fields[index].isRequired && !(m_seen & (1U << index)))
-                return &m_fields[index];
-        }
-        return nullptr;
-    }
-
-private:
-    std::span<const JsonField> m_fields;
-    size_t m_next = 0;
-    quint32 m_seen = 0;
-};
-
-} // namespace
-
 void JsonReader::readFields(std::span<const JsonField> fields)
 {
     Impl &impl = *m_impl;
     ondemand::object object;
     if (!impl.take() || !impl.enter())
         return;
-    if (impl.withValue([](auto &each) { return each.get_object(); }).get(object))
-        return impl.failType("an object");
+    if (const auto code = impl.withValue([](auto &each) { return each.get_object(); }).get(object))
+        return impl.failOpening(code, "an object");
     FieldFinder finder(fields);
     for (auto each : object) {
         ondemand::field field;
@@ -464,7 +408,8 @@ void JsonReader::readFields(std::span<const JsonField> fields)
             return impl.failMalformed(code);
         // A key that is spelled as in the list needs no unescaping.
         const ondemand::raw_json_string raw = field.key();
-        size_t index = finder.find([&](std::string_view name) { return raw.unsafe_is_equal(name); });
+        size_t index =
+            finder.find([&](std::string_view name) { return raw.unsafe_is_equal(name); });
         std::string_view name;
         if (index < fields.size()) {
             name = fields[index].name;
@@ -510,7 +455,7 @@ std::optional<Error> JsonReader::finish()
         impl.fail(ErrorKind::malformed, QStringLiteral("text after the end"));
     if (!impl.error || impl.place.isEmpty())
         return impl.error;
-    return Error {impl.error->kind, impl.place + QLatin1String(": ") + impl.error->detail};
+    return Error{impl.error->kind, impl.place + QLatin1String(": ") + impl.error->detail};
 }
 
 } // namespace lorva

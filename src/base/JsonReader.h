@@ -18,13 +18,15 @@ namespace lorva {
 class JsonReader;
 
 /// A string that is wanted as its UTF-8 bytes, such as a path; a bare QByteArray is base64 data.
-struct JsonUtf8 {
+struct JsonUtf8
+{
     QByteArray bytes;
     bool operator==(const JsonUtf8 &) const = default;
 };
 
 /// One key that an object is expected to have, and what reads its value.
-struct JsonField {
+struct JsonField
+{
     std::string_view name;
     bool isRequired = true;
     void *target = nullptr;
@@ -33,13 +35,13 @@ struct JsonField {
 
 /// Reads one JSON document from front to back. Most code wants decodeJson() in Json.h instead.
 ///
-/// The reader stands before one value, which a read call takes. The first failure sticks: from then on
-/// every call does nothing and gives an empty value, so that only the end has to ask. The error's
-/// detail begins with the place: "families[3].styles[0].weight: expected an integer".
+/// The reader stands before one value, which a read call takes. The first failure sticks: from then
+/// on every call does nothing and gives an empty value, so that only the end has to ask. The
+/// error's detail begins with the place: "families[3].styles[0].weight: expected an integer".
 ///
-/// Strict: the whole document must be well-formed UTF-8 JSON, also the parts that nobody reads; no lone
-/// surrogates, no duplicate of a known key, at most kMaxDepth levels, nothing after the end. Unknown
-/// keys are ignored, keys come in any order, and an optional key may hold null for absent.
+/// Strict: the whole document must be well-formed UTF-8 JSON, also the parts that nobody reads; no
+/// lone surrogates, no duplicate of a known key, at most kMaxDepth levels, nothing after the end.
+/// Unknown keys are ignored, keys come in any order, and an optional key may hold null for absent.
 ///
 /// Owns: the text. Thread: any, one at a time.
 class JsonReader
@@ -84,10 +86,9 @@ public:
     void readObject(Member &&member)
     {
         using Plain = std::remove_reference_t<Member>;
-        readMembers(const_cast<std::remove_const_t<Plain> *>(&member),
-                    [](void *function, std::string_view key) {
-                        (*static_cast<Plain *>(function))(key);
-                    });
+        readMembers(
+            const_cast<std::remove_const_t<Plain> *>(&member),
+            [](void *function, std::string_view key) { (*static_cast<Plain *>(function))(key); });
     }
 
     /// Reads an object whose known keys are `fields` (at most kMaxFields).

@@ -9,11 +9,12 @@
 
 namespace lorva {
 
-/// Writes one compact JSON document in the order of the calls. Most code wants encodeJson() in Json.h.
+/// Writes one compact JSON document in the order of the calls. Most code wants encodeJson() in
+/// Json.h.
 ///
-/// The caller keeps the shape right: in an object each value follows its key(), and every begin has its
-/// end. The text is always valid UTF-8: lone surrogates and broken bytes become U+FFFD.
-/// Thread: any, one at a time.
+/// The caller keeps the shape right: in an object each value follows its key(), and every begin has
+/// its end. The text is always valid UTF-8: lone surrogates and broken bytes become U+FFFD. Thread:
+/// any, one at a time.
 class JsonWriter
 {
 public:

@@ -18,8 +18,8 @@ inline bool isMainThread()
     return !application || application->thread() == QThread::currentThread();
 }
 
-/// Runs `function` on the main thread at the next turn of its event loop; never at once, not even when
-/// called from there. Dropped when the application object is gone. Thread: any.
+/// Runs `function` on the main thread at the next turn of its event loop; never at once, not even
+/// when called from there. Dropped when the application object is gone. Thread: any.
 template <class Function>
 void postToMainThread(Function &&function)
 {
@@ -31,5 +31,5 @@ void postToMainThread(Function &&function)
 } // namespace lorva
 
 /// Stops a debug build that uses a main-thread object from another thread.
-#define LORVA_ASSERT_MAIN_THREAD() \
+#define LORVA_ASSERT_MAIN_THREAD()                                                                 \
     Q_ASSERT_X(::lorva::isMainThread(), Q_FUNC_INFO, "must run on the main thread")

@@ -16,8 +16,7 @@ void NotificationCentre::observe(const QByteArray &name, QObject *guard, Callbac
 {
     LORVA_ASSERT_MAIN_THREAD();
     dropDead(name);
-    m_observers[name].push_back(
-        std::make_shared<Observer>(Observer {guard, std::move(callback)}));
+    m_observers[name].push_back(std::make_shared<Observer>(Observer{guard, std::move(callback)}));
 }
 
 void NotificationCentre::stopObserving(const QByteArray &name, const QObject *guard)

@@ -12,14 +12,15 @@
 
 namespace lorva {
 
-/// Tells whoever wants to know that something named has happened, without poster and observer knowing
-/// each other. The names belong to the modules that post them.
+/// Tells whoever wants to know that something named has happened, without poster and observer
+/// knowing each other. The names belong to the modules that post them.
 ///
 /// Thread: main. Callbacks run within post(), in the order in which they were registered.
 class NotificationCentre
 {
 public:
-    /// Gets the object that the notice is about, which may be null. It serves to tell senders apart.
+    /// Gets the object that the notice is about, which may be null. It serves to tell senders
+    /// apart.
     using Callback = std::function<void(const void *sender)>;
 
     /// The one of the program.
@@ -37,7 +38,8 @@ public:
     void post(const QByteArray &name, const void *sender = nullptr);
 
 private:
-    struct Observer {
+    struct Observer
+    {
         QPointer<QObject> guard;
         Callback callback;
     };

@@ -24,8 +24,10 @@ enum class ErrorKind {
     invalidValue,
 };
 
-/// One failure. `detail` is one line in English without a final full stop, fit to follow "lorvactl: ".
-struct Error {
+/// One failure. `detail` is one line in English without a final full stop, fit to follow "lorvactl:
+/// ".
+struct Error
+{
     ErrorKind kind = ErrorKind::ioFailure;
     QString detail;
 
@@ -37,7 +39,7 @@ using Result = tl::expected<T, Error>;
 
 [[nodiscard]] inline tl::unexpected<Error> failure(ErrorKind kind, QString detail)
 {
-    return tl::unexpected<Error>(Error {kind, std::move(detail)});
+    return tl::unexpected<Error>(Error{kind, std::move(detail)});
 }
 
 } // namespace lorva

@@ -23,37 +23,44 @@ class RunHandle
 {
 public:
     RunHandle() = default;
-    explicit RunHandle(std::stop_source stop) : m_stop(std::move(stop)) { }
+    explicit RunHandle(std::stop_source stop)
+        : m_stop(std::move(stop))
+    {
+    }
 
     /// Asks the work to stop. `done` is not called any more, even if the work has ended by now.
     void cancel() { m_stop.request_stop(); }
     bool isCancelled() const { return m_stop.stop_requested(); }
 
 private:
-    std::stop_source m_stop {std::nostopstate};
+    std::stop_source m_stop{std::nostopstate};
 };
 
 namespace detail {
 
-/// What the worker and the guard's thread share. The worker may only touch `receiver` under the lock,
-/// and the receiver clears it there before it dies: that is what QFuture::then(context) lacks on Qt 6.4,
-/// where a context that dies first takes the program with it.
+/// What the worker and the guard's thread share. The worker may only touch `receiver` under the
+/// lock, and the receiver clears it there before it dies: that is what QFuture::then(context) lacks
+/// on Qt 6.4, where a context that dies first takes the program with it.
 template <class Outcome>
-struct RunState {
+struct RunState
+{
     std::mutex mutex;
     QObject *receiver = nullptr;
     std::optional<Outcome> outcome;
 };
 
-/// Lives on the guard's thread as its child and holds `done`, so that what `done` captured dies there
-/// too.
+/// Lives on the guard's thread as its child and holds `done`, so that what `done` captured dies
+/// there too.
 template <class Outcome, class Done>
 class RunReceiver final : public QObject
 {
 public:
     RunReceiver(QObject *guard, std::shared_ptr<RunState<Outcome>> state, std::stop_source stop,
                 Done done)
-        : QObject(guard), m_state(std::move(state)), m_stop(std::move(stop)), m_done(std::move(done))
+        : QObject(guard)
+        , m_state(std::move(state))
+        , m_stop(std::move(stop))
+        , m_done(std::move(done))
     {
         m_state->receiver = this;
     }
@@ -98,14 +105,15 @@ void handOver(RunState<Outcome> &state, std::optional<Outcome> outcome)
 
 } // namespace detail
 
-/// Runs `work(std::stop_token)` on `pool` and then `done(result)` on the thread of `guard`, through its
-/// event loop, if `guard` still lives then. Destroying the guard, or cancelling the handle, asks the work
-/// to stop; work that has not begun by then is not begun.
+/// Runs `work(std::stop_token)` on `pool` and then `done(result)` on the thread of `guard`, through
+/// its event loop, if `guard` still lives then. Destroying the guard, or cancelling the handle,
+/// asks the work to stop; work that has not begun by then is not begun.
 ///
 /// Call it on the guard's thread. Values go in and out: `work` must not touch what others change.
 template <class Work, class Done>
-    requires std::invocable<Work &, std::stop_token>
-RunHandle runThen(QThreadPool &pool, QObject *guard, Work work, Done done)
+requires std::invocable<Work &, std::stop_token> RunHandle runThen(QThreadPool &pool,
+                                                                   QObject *guard, Work work,
+                                                                   Done done)
 {
     using Outcome = std::invoke_result_t<Work &, std::stop_token>;
     static_assert(!std::is_void_v<Outcome>, "work gives the value that done takes");

@@ -29,9 +29,10 @@ ErrorKind errorKindOf(int code)
 tl::unexpected<Error> systemFailure(int code, const char *action, const FilePath &path)
 {
     const std::string reason = std::generic_category().message(code);
-    return failure(errorKindOf(code), QStringLiteral("cannot %1 %2: %3")
-                                          .arg(QLatin1String(action), path.displayText(),
-                                               QString::fromLocal8Bit(reason.c_str())));
+    return failure(errorKindOf(code),
+                   QStringLiteral("cannot %1 %2: %3")
+                       .arg(QLatin1String(action), path.displayText(),
+                            QString::fromLocal8Bit(reason.c_str())));
 }
 
 } // namespace lorva

@@ -11,6 +11,7 @@ namespace lorva {
 ErrorKind errorKindOf(int code);
 
 /// "cannot `action` `path`: the system's reason".
-[[nodiscard]] tl::unexpected<Error> systemFailure(int code, const char *action, const FilePath &path);
+[[nodiscard]] tl::unexpected<Error> systemFailure(int code, const char *action,
+                                                  const FilePath &path);
 
 } // namespace lorva

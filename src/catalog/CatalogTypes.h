@@ -14,7 +14,8 @@
 namespace lorva {
 
 /// How far a scan is.
-struct FontScanPhase {
+struct FontScanPhase
+{
     enum class Kind { enumerating, scanning, identifying, preparing };
     Kind kind = Kind::enumerating;
     /// enumerating: found so far; scanning, identifying: done so far.
@@ -23,7 +24,10 @@ struct FontScanPhase {
 
     static FontScanPhase enumerating(int found) { return {Kind::enumerating, found, 0}; }
     static FontScanPhase scanning(int done, int total) { return {Kind::scanning, done, total}; }
-    static FontScanPhase identifying(int done, int total) { return {Kind::identifying, done, total}; }
+    static FontScanPhase identifying(int done, int total)
+    {
+        return {Kind::identifying, done, total};
+    }
     static FontScanPhase preparing() { return {Kind::preparing, 0, 0}; }
 
     /// For people, numbers with the region's digit grouping: "Scanning 12 of 1,340 fonts".
@@ -32,7 +36,8 @@ struct FontScanPhase {
 };
 
 /// One face as read from a file.
-struct ParsedEntry {
+struct ParsedEntry
+{
     QString familyName;
     FontStyleRecord style;
     bool operator==(const ParsedEntry &) const = default;
@@ -42,7 +47,8 @@ struct ParsedEntry {
 using FileTime = double;
 
 /// The faces of one font file and the fingerprint they were read under.
-struct ParsedFontFile {
+struct ParsedFontFile
+{
     qint64 fileSize = 0;
     FileTime modified = 0;
     std::vector<ParsedEntry> entries;
@@ -50,7 +56,8 @@ struct ParsedFontFile {
 };
 
 /// What identification found out about a family.
-struct FamilyScriptIdentity {
+struct FamilyScriptIdentity
+{
     std::set<WritingScript> scripts;
     std::optional<WritingScript> primary;
     std::optional<QStringList> alternates;
@@ -58,7 +65,8 @@ struct FamilyScriptIdentity {
 };
 
 /// What a scan hands back.
-struct FontCatalogResult {
+struct FontCatalogResult
+{
     /// In the order of first appearance.
     std::vector<FontFamilyRecord> families;
     /// Manufacturer name by family name.

@@ -20,12 +20,13 @@ quint32 hashOf(const QString &name)
 
 int fontManagerWeight(qint64 weight)
 {
-    struct Step {
+    struct Step
+    {
         qint64 below;
         int weight;
     };
-    constexpr Step kSteps[] {{150, 2}, {250, 3}, {350, 4}, {450, 5},
-                             {550, 6}, {650, 7}, {750, 8}, {850, 9}};
+    constexpr Step kSteps[]{{150, 2}, {250, 3}, {350, 4}, {450, 5},
+                            {550, 6}, {650, 7}, {750, 8}, {850, 9}};
     for (const Step &step : kSteps) {
         if (weight < step.below)
             return step.weight;
@@ -33,7 +34,10 @@ int fontManagerWeight(qint64 weight)
     return 11;
 }
 
-FaceIndex::FaceIndex(std::vector<FontFamilyRecord> families) : m_families(std::move(families)) { }
+FaceIndex::FaceIndex(std::vector<FontFamilyRecord> families)
+    : m_families(std::move(families))
+{
+}
 
 void FaceIndex::prepare() const
 {
@@ -59,7 +63,8 @@ std::pair<std::vector<FaceIndex::Place>::const_iterator,
           std::vector<FaceIndex::Place>::const_iterator>
 FaceIndex::placesOf(const std::vector<Place> &places, const QString &name)
 {
-    struct ByHash {
+    struct ByHash
+    {
         bool operator()(const Place &place, quint32 hash) const { return place.hash < hash; }
         bool operator()(quint32 hash, const Place &place) const { return hash < place.hash; }
     };

@@ -14,8 +14,8 @@ int fontManagerWeight(qint64 weight);
 
 /// Finds the faces of one catalog by family and by PostScript name.
 ///
-/// Owns: the families it was made of. The tables behind the look-ups are made at the first one, or by
-/// prepare(). Thread: any.
+/// Owns: the families it was made of. The tables behind the look-ups are made at the first one, or
+/// by prepare(). Thread: any.
 class FaceIndex
 {
 public:
@@ -33,9 +33,10 @@ public:
     const FontStyleRecord *style(const QString &familyName, bool isItalic, int managerWeight) const;
 
 private:
-    /// Sorted by hash and, within one, by place in the catalog: a tenth of the memory of a hash table of
-    /// strings, and for 100,000 faces made in some ten milliseconds.
-    struct Place {
+    /// Sorted by hash and, within one, by place in the catalog: a tenth of the memory of a hash
+    /// table of strings, and for 100,000 faces made in some ten milliseconds.
+    struct Place
+    {
         quint32 hash = 0;
         quint32 family = 0;
         quint32 style = 0;

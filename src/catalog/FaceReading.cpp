@@ -22,17 +22,18 @@ bool isAboutContents(ErrorKind kind)
 
 void noteManufacturer(FaceReading &reading, const FaceDescriptor &descriptor)
 {
-    const auto isSameFamily
-        = [&](const auto &known) { return known.first == descriptor.familyName; };
+    const auto isSameFamily = [&](const auto &known) {
+        return known.first == descriptor.familyName;
+    };
     if (descriptor.manufacturer.isEmpty()
         || std::any_of(reading.manufacturers.begin(), reading.manufacturers.end(), isSameFamily))
         return;
     reading.manufacturers.emplace_back(descriptor.familyName, descriptor.manufacturer);
 }
 
-FaceReading unreadable(const FilePath &file, const Error &error)
+FaceReading unreadable(const Error &error)
 {
-    qCInfo(logRead).noquote() << file.displayText() << error.detail;
+    qCInfo(logRead).noquote() << error.detail;
     FaceReading reading;
     reading.isLasting = isAboutContents(error.kind);
     return reading;
@@ -71,12 +72,12 @@ std::optional<ParsedEntry> parsedEntry(const FaceDescriptor &descriptor, const F
 
 FaceReading readFaces(const FilePath &file)
 {
-    const auto opened = FontFile::open(file);
+    const auto opened = FontFile::openForReading(file);
     if (!opened)
-        return unreadable(file, opened.error());
-    const auto descriptors = (*opened)->descriptors();
+        return unreadable(opened.error());
+    const auto descriptors = opened->file->descriptors();
     if (!descriptors)
-        return unreadable(file, descriptors.error());
+        return unreadable(descriptors.error());
     FaceReading reading;
     reading.entries.reserve(descriptors->size());
     for (const FaceDescriptor &descriptor : *descriptors) {

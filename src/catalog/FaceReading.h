@@ -10,13 +10,14 @@
 namespace lorva {
 
 /// What reading one font file gave.
-struct FaceReading {
+struct FaceReading
+{
     /// In descriptor order; empty for a file without faces.
     std::vector<ParsedEntry> entries;
     /// Manufacturer of the first face of each family that names one, by family name.
     std::vector<std::pair<QString, QString>> manufacturers;
-    /// False when the file may read differently although its fingerprint stays: it was not allowed to be
-    /// opened, or the disk failed.
+    /// False when the file may read differently although its fingerprint stays: it was not allowed
+    /// to be opened, or the disk failed.
     bool isLasting = true;
 };
 
@@ -29,7 +30,8 @@ QString styleId(const QString &familyName, const QString &label, const QString &
 /// The label of a style name: trimmed, "Regular" when nothing is left.
 QString styleLabel(const QString &styleName);
 
-/// Reads the faces of one file, opening it once. Thread: any. A file that cannot be read has no faces.
+/// Reads the faces of one file, opening it once. Thread: any. A file that cannot be read has no
+/// faces.
 FaceReading readFaces(const FilePath &file);
 
 } // namespace lorva

@@ -55,12 +55,14 @@ Font SystemFont::at(double pointSize) const
         if (const auto file = FontFile::open(location.path))
             m_face = (*file)->face({location.faceIndex, -1}).value_or(nullptr);
     });
-    return m_face ? Font(m_face, pointSize).asStandIn() : Font().asStandIn();
+    return m_face ? Font(m_face, pointSize).asStandIn() : Font();
 }
 
 FaceResolver::FaceResolver(std::vector<FontFamilyRecord> families,
                            std::shared_ptr<const SystemFont> systemFont, SteadyClock now)
-    : m_index(std::move(families)), m_systemFont(std::move(systemFont)), m_now(std::move(now))
+    : m_index(std::move(families))
+    , m_systemFont(std::move(systemFont))
+    , m_now(std::move(now))
 {
 }
 
@@ -93,9 +95,9 @@ Font FaceResolver::resolve(const QString &familyName, const std::optional<FontSt
         m_faceResolutionCache.insert(name, {known->path, face});
     } else {
         const FontStyleRecord *wanted = wantedStyle(familyName, style);
-        Found found = wanted ? search(familyName, *wanted) : Found {};
+        Found found = wanted ? search(familyName, *wanted) : Found{};
         if (!found.face)
-            found.resolution.path = FaceResolution::Unresolved {m_now()};
+            found.resolution.path = FaceResolution::Unresolved{m_now()};
         face = found.face;
         m_faceResolutionCache.insert(name, std::move(found.resolution));
     }
@@ -106,9 +108,8 @@ Font FaceResolver::resolve(const QString &familyName, const std::optional<FontSt
     return font;
 }
 
-const FontStyleRecord *
-FaceResolver::wantedStyle(const QString &familyName,
-                          const std::optional<FontStyleRecord> &style) const
+const FontStyleRecord *FaceResolver::wantedStyle(const QString &familyName,
+                                                 const std::optional<FontStyleRecord> &style) const
 {
     if (style)
         return &*style;
@@ -127,8 +128,10 @@ FaceResolver::Face FaceResolver::follow(const FaceResolution &resolution) const
 {
     if (Face known = resolution.face.lock())
         return known;
-    if (const auto *file = std::get_if<FaceResolution::File>(&resolution.path))
-        return face(file->path, file->postScriptName, file->key);
+    if (const auto *file = std::get_if<FaceResolution::File>(&resolution.path)) {
+        const auto described = cachedFile(file->path, faceName(file->postScriptName, file->label));
+        return described ? described->file->face(file->key).value_or(nullptr) : nullptr;
+    }
     if (const auto *name = std::get_if<FaceResolution::Name>(&resolution.path))
         return searchNamed(name->postScriptName).face;
     return nullptr;
@@ -143,8 +146,8 @@ FaceResolver::Found FaceResolver::search(const QString &familyName,
         if (Found named = searchNamed(style.postScriptName); named.face)
             return named;
     }
-    const FontStyleRecord *alike
-        = m_index.style(familyName, style.isItalic, fontManagerWeight(style.weight));
+    const FontStyleRecord *alike =
+        m_index.style(familyName, style.isItalic, fontManagerWeight(style.weight));
     return alike && alike->id != style.id ? faceInFile(familyName, *alike) : Found();
 }
 
@@ -152,7 +155,7 @@ FaceResolver::Found FaceResolver::searchNamed(const QString &postScriptName) con
 {
     for (const FontStyleRecord *style : m_index.stylesNamed(postScriptName)) {
         if (Found found = faceInFile({}, *style); found.face) {
-            found.resolution.path = FaceResolution::Name {postScriptName};
+            found.resolution.path = FaceResolution::Name{postScriptName};
             return found;
         }
     }
@@ -164,43 +167,38 @@ FaceResolver::Found FaceResolver::faceInFile(const QString &familyName,
 {
     if (!style.fileURL)
         return {};
-    const auto described
-        = describedFile(*style.fileURL, faceName(style.postScriptName, style.label));
-    if (!described)
-        return {};
-    const FaceDescriptor *descriptor = findDescriptor(described->descriptors, familyName, style);
+    const QString name = faceName(style.postScriptName, style.label);
+    if (const auto known = cachedFile(*style.fileURL, name)) {
+        // A file that has changed since refuses; it is then read anew.
+        if (Found found = faceOf(*known, familyName, style); found.face)
+            return found;
+    }
+    const auto described = readFile(*style.fileURL);
+    return described ? faceOf(*described, familyName, style) : Found{};
+}
+
+FaceResolver::Found FaceResolver::faceOf(const DescribedFile &described, const QString &familyName,
+                                         const FontStyleRecord &style)
+{
+    const FaceDescriptor *descriptor = findDescriptor(described.descriptors, familyName, style);
     if (!descriptor)
         return {};
-    Face found = face(*style.fileURL, faceName(style.postScriptName, style.label), descriptor->key);
-    if (!found)
+    Face face = described.file->face(descriptor->key).value_or(nullptr);
+    if (!face)
         return {};
-    FaceResolution::File where {*style.fileURL, style.postScriptName, descriptor->key};
-    return {found, {std::move(where), found}};
+    FaceResolution::File where{described.file->path(), style.postScriptName, style.label,
+                               descriptor->key};
+    return {face, {std::move(where), face}};
 }
 
-FaceResolver::Face FaceResolver::face(const FilePath &path, const QString &name, FaceKey key) const
+std::shared_ptr<const FaceResolver::DescribedFile> FaceResolver::cachedFile(
+    const FilePath &path, const QString &face) const
 {
-    const auto described = describedFile(path, name);
-    return described ? described->file->face(key).value_or(nullptr) : nullptr;
+    return m_fileDescriptorCache.find(cacheKey(path, face)).value_or(nullptr);
 }
 
-std::shared_ptr<const FaceResolver::DescribedFile>
-FaceResolver::describedFile(const FilePath &path, const QString &face) const
-{
-    if (const auto cached = m_fileDescriptorCache.find(cacheKey(path, face)))
-        return *cached;
-    const auto described = describeFile(path);
-    if (!described)
-        return nullptr;
-    for (const FaceDescriptor &each : described->descriptors) {
-        const QString name = faceName(each.postScriptName, styleLabel(each.styleName));
-        m_fileDescriptorCache.insert(cacheKey(path, name), described);
-    }
-    return described;
-}
-
-std::shared_ptr<const FaceResolver::DescribedFile>
-FaceResolver::describeFile(const FilePath &path) const
+std::shared_ptr<const FaceResolver::DescribedFile> FaceResolver::readFile(
+    const FilePath &path) const
 {
     auto file = FontFile::open(path);
     if (!file)
@@ -208,7 +206,13 @@ FaceResolver::describeFile(const FilePath &path) const
     auto descriptors = (*file)->descriptors();
     if (!descriptors)
         return nullptr;
-    return std::make_shared<DescribedFile>(DescribedFile {*std::move(file), *std::move(descriptors)});
+    const auto described = std::make_shared<const DescribedFile>(
+        DescribedFile{*std::move(file), *std::move(descriptors)});
+    for (const FaceDescriptor &each : described->descriptors) {
+        const QString name = faceName(each.postScriptName, styleLabel(each.styleName));
+        m_fileDescriptorCache.insert(cacheKey(path, name), described);
+    }
+    return described;
 }
 
 } // namespace lorva

@@ -24,18 +24,24 @@ using SteadyTime = std::chrono::steady_clock::time_point;
 using SteadyClock = std::function<SteadyTime()>;
 
 /// How a face was found last time.
-struct FaceResolution {
+struct FaceResolution
+{
     /// By its PostScript name, in whatever file of the catalog holds it.
-    struct Name {
+    struct Name
+    {
         QString postScriptName;
     };
     /// In this file.
-    struct File {
+    struct File
+    {
         FilePath path;
         QString postScriptName;
+        /// Its label, which alone names a face without a PostScript name.
+        QString label;
         FaceKey key;
     };
-    struct Unresolved {
+    struct Unresolved
+    {
         SteadyTime since;
     };
 
@@ -60,9 +66,9 @@ private:
 
 /// Turns family, style and size into a font, over the faces of one catalog.
 ///
-/// A style resolves to its own file when that file holds it, so that a specimen never shows another file's
-/// face under a shared name; then to whatever file of the catalog holds its PostScript name; then to the
-/// style of its family with the same slant and weight.
+/// A style resolves to its own file when that file holds it, so that a specimen never shows another
+/// file's face under a shared name; then to whatever file of the catalog holds its PostScript name;
+/// then to the style of its family with the same slant and weight.
 ///
 /// Owns: the caches; they end with the catalog they were filled from. Thread: any.
 /// Failure: the system font, marked as a stand-in; the face is then not looked for again for
@@ -73,10 +79,10 @@ public:
     static constexpr size_t kResolvedFonts = 2048;
     static constexpr size_t kFileDescriptors = 131072;
     static constexpr size_t kFaceResolutions = 65536;
-    static constexpr std::chrono::seconds kRetryAfter {10};
+    static constexpr std::chrono::seconds kRetryAfter{10};
 
-    FaceResolver(std::vector<FontFamilyRecord> families, std::shared_ptr<const SystemFont> systemFont,
-                 SteadyClock now);
+    FaceResolver(std::vector<FontFamilyRecord> families,
+                 std::shared_ptr<const SystemFont> systemFont, SteadyClock now);
 
     /// Makes the index now, so that no look-up has to.
     void prepare() const { m_index.prepare(); }
@@ -88,23 +94,27 @@ public:
 
 private:
     using Face = std::shared_ptr<const FontFace>;
-    struct DescribedFile {
+    struct DescribedFile
+    {
         std::shared_ptr<const FontFile> file;
         std::vector<FaceDescriptor> descriptors;
     };
     /// What names a face; an empty id stands for the family's default face.
-    struct FaceName {
+    struct FaceName
+    {
         QString familyName;
         QString styleId;
         FilePath path;
         bool operator==(const FaceName &) const = default;
     };
-    struct FontName {
+    struct FontName
+    {
         FaceName face;
         double pointSize = 0;
         bool operator==(const FontName &) const = default;
     };
-    struct Hash {
+    struct Hash
+    {
         size_t operator()(const FaceName &name) const
         {
             return qHashMulti(0, name.familyName, name.styleId, name.path.bytes());
@@ -114,7 +124,8 @@ private:
             return qHashMulti(0, (*this)(name.face), name.pointSize);
         }
     };
-    struct Found {
+    struct Found
+    {
         Face face;
         FaceResolution resolution;
     };
@@ -127,19 +138,21 @@ private:
     Found search(const QString &familyName, const FontStyleRecord &style) const;
     Found searchNamed(const QString &postScriptName) const;
     Found faceInFile(const QString &familyName, const FontStyleRecord &style) const;
-    Face face(const FilePath &path, const QString &postScriptName, FaceKey key) const;
-    std::shared_ptr<const DescribedFile> describedFile(const FilePath &path,
-                                                       const QString &face) const;
-    std::shared_ptr<const DescribedFile> describeFile(const FilePath &path) const;
+    std::shared_ptr<const DescribedFile> cachedFile(const FilePath &path,
+                                                    const QString &face) const;
+    std::shared_ptr<const DescribedFile> readFile(const FilePath &path) const;
+    static Found faceOf(const DescribedFile &described, const QString &familyName,
+                        const FontStyleRecord &style);
 
     const FaceIndex m_index;
     const std::shared_ptr<const SystemFont> m_systemFont;
     const SteadyClock m_now;
-    mutable BoundedCache<FontName, Font, Hash> m_resolvedFontCache {kResolvedFonts};
-    /// By file and face, so that its limit counts faces: collections of hundreds of instances exist.
-    mutable BoundedCache<QByteArray, std::shared_ptr<const DescribedFile>> m_fileDescriptorCache {
+    mutable BoundedCache<FontName, Font, Hash> m_resolvedFontCache{kResolvedFonts};
+    /// By file and face, so that its limit counts faces: collections of hundreds of instances
+    /// exist.
+    mutable BoundedCache<QByteArray, std::shared_ptr<const DescribedFile>> m_fileDescriptorCache{
         kFileDescriptors};
-    mutable BoundedCache<FaceName, FaceResolution, Hash> m_faceResolutionCache {kFaceResolutions};
+    mutable BoundedCache<FaceName, FaceResolution, Hash> m_faceResolutionCache{kFaceResolutions};
 };
 
 } // namespace lorva

@@ -9,7 +9,8 @@
 namespace lorva {
 
 /// One family while its faces are gathered.
-struct FamilyAccumulator {
+struct FamilyAccumulator
+{
     /// Ids of the styles already taken.
     QSet<QString> seen;
     /// In the order taken.

@@ -7,7 +7,8 @@
 namespace lorva {
 
 /// What one font file tells about one of its families.
-struct FamilyIdentification {
+struct FamilyIdentification
+{
     QString familyName;
     FamilyScriptIdentity identity;
     /// Empty when the file names none.
@@ -22,8 +23,8 @@ class FamilyIdentifier
 public:
     virtual ~FamilyIdentifier() = default;
 
-    /// One entry for each distinct family of `file`, judged by its first face; `familyName` is the family
-    /// that the file was chosen for.
+    /// One entry for each distinct family of `file`, judged by its first face; `familyName` is the
+    /// family that the file was chosen for.
     virtual std::vector<FamilyIdentification> identify(const FilePath &file,
                                                        const QString &familyName) const = 0;
 };

@@ -13,9 +13,9 @@ std::optional<FileFingerprint> fingerprintOf(const FilePath &path)
     struct stat info;
     if (::stat(path.c_str(), &info) != 0)
         return std::nullopt;
-    const FileTime modified
-        = double(info.st_mtim.tv_sec - kReferenceDate) + double(info.st_mtim.tv_nsec) * 1e-9;
-    return FileFingerprint {info.st_size, modified};
+    const FileTime modified =
+        double(info.st_mtim.tv_sec - kReferenceDate) + double(info.st_mtim.tv_nsec) * 1e-9;
+    return FileFingerprint{info.st_size, modified};
 }
 
 } // namespace lorva

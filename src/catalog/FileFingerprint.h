@@ -9,7 +9,8 @@
 namespace lorva {
 
 /// What tells whether a file is still the one that was read.
-struct FileFingerprint {
+struct FileFingerprint
+{
     qint64 fileSize = 0;
     FileTime modified = 0;
     bool operator==(const FileFingerprint &) const = default;

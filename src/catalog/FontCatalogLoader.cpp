@@ -28,7 +28,8 @@ FileFingerprint fingerprintOf(const ParsedFontFile &file)
 } // namespace
 
 /// What the steps of one scan share.
-struct FontCatalogLoader::Scan {
+struct FontCatalogLoader::Scan
+{
     const std::vector<FilePath> &watchedFontURLs;
     const ProgressCallback &progress;
     std::stop_token stop;
@@ -50,12 +51,12 @@ FontCatalogLoader::FontCatalogLoader(Dependencies dependencies)
 {
 }
 
-std::optional<FontCatalogResult> FontCatalogLoader::scan(const std::vector<FilePath> &watchedFontURLs,
-                                                         const ProgressCallback &progress,
-                                                         std::stop_token stop)
+std::optional<FontCatalogResult> FontCatalogLoader::scan(
+    const std::vector<FilePath> &watchedFontURLs, const ProgressCallback &progress,
+    std::stop_token stop)
 {
     const std::lock_guard lock(m_scanning);
-    const Scan scan {watchedFontURLs, progress, std::move(stop)};
+    const Scan scan{watchedFontURLs, progress, std::move(stop)};
     const std::vector<FilePath> files = enumerateFiles(scan);
     if (scan.stop.stop_requested())
         return std::nullopt;
@@ -90,8 +91,8 @@ std::vector<FilePath> FontCatalogLoader::enumerateFiles(const Scan &scan) const
     return files;
 }
 
-std::vector<FontCatalogLoader::StaleFile>
-FontCatalogLoader::staleFiles(std::span<const FilePath> files) const
+std::vector<FontCatalogLoader::StaleFile> FontCatalogLoader::staleFiles(
+    std::span<const FilePath> files) const
 {
     std::vector<StaleFile> stale;
     for (const FilePath &file : files) {
@@ -136,8 +137,8 @@ void FontCatalogLoader::readFiles(std::span<const StaleFile> stale, const Scan &
 void FontCatalogLoader::keepReading(const StaleFile &file, FaceReading reading)
 {
     const bool isLasting = file.fingerprint && reading.isLasting;
-    const FileFingerprint fingerprint
-        = isLasting ? *file.fingerprint : FileFingerprint {kNoFingerprint, 0};
+    const FileFingerprint fingerprint =
+        isLasting ? *file.fingerprint : FileFingerprint{kNoFingerprint, 0};
     m_fileCache.insert(file.path,
                        {fingerprint.fileSize, fingerprint.modified, std::move(reading.entries)});
 }
@@ -153,8 +154,8 @@ void FontCatalogLoader::keepManufacturers(std::span<const FaceReading> readings)
     }
 }
 
-std::vector<FontCatalogLoader::UnidentifiedFile>
-FontCatalogLoader::unidentifiedFiles(std::span<const FilePath> files) const
+std::vector<FontCatalogLoader::UnidentifiedFile> FontCatalogLoader::unidentifiedFiles(
+    std::span<const FilePath> files) const
 {
     std::vector<UnidentifiedFile> unidentified;
     QSet<QString> met;
@@ -221,8 +222,8 @@ void FontCatalogLoader::pruneCaches(std::span<const FilePath> files)
     m_identityCache.removeIf(isGone);
 }
 
-std::vector<FontFamilyRecord>
-FontCatalogLoader::groupFamilies(std::span<const FilePath> files) const
+std::vector<FontFamilyRecord> FontCatalogLoader::groupFamilies(
+    std::span<const FilePath> files) const
 {
     FamilyGrouping grouping;
     for (const FilePath &file : files) {

@@ -26,7 +26,8 @@ public:
     bool lets(const FontScanPhase &phase)
     {
         const auto now = std::chrono::steady_clock::now();
-        if (m_last && m_last->kind == phase.kind && now - m_lastTime < std::chrono::milliseconds(33))
+        if (m_last && m_last->kind == phase.kind
+            && now - m_lastTime < std::chrono::milliseconds(33))
             return false;
         m_last = phase;
         m_lastTime = now;
@@ -38,7 +39,8 @@ private:
     std::chrono::steady_clock::time_point m_lastTime;
 };
 
-std::vector<FilePath> watchedFiles(const std::vector<FilePath> &folders, const std::stop_token &stop)
+std::vector<FilePath> watchedFiles(const std::vector<FilePath> &folders,
+                                   const std::stop_token &stop)
 {
     std::vector<FilePath> files;
     for (const FilePath &folder : folders) {
@@ -50,9 +52,11 @@ std::vector<FilePath> watchedFiles(const std::vector<FilePath> &folders, const s
 
 } // namespace
 
-struct FontLibraryService::Private {
+struct FontLibraryService::Private
+{
     /// One request of a scan, from its asking to the delivery of its result.
-    struct Load {
+    struct Load
+    {
         std::vector<FilePath> folders;
         ProgressCallback progress;
         CatalogCallback done;
@@ -78,8 +82,8 @@ struct FontLibraryService::Private {
 
     std::shared_ptr<const FaceResolver> makeResolver(std::vector<FontFamilyRecord> families) const
     {
-        const SteadyClock now
-            = dependencies.now ? dependencies.now : SteadyClock(std::chrono::steady_clock::now);
+        const SteadyClock now =
+            dependencies.now ? dependencies.now : SteadyClock(std::chrono::steady_clock::now);
         return std::make_shared<FaceResolver>(std::move(families), systemFont, now);
     }
 
@@ -110,8 +114,8 @@ struct FontLibraryService::Private {
     std::deque<std::shared_ptr<Load>> loads;
     MainThreadQueue mainThread;
     // Last, so that both are stopped before anything they use goes.
-    WorkerThreads loaderThread {1};
-    WorkerThreads resolveWorkers {kMaxResolveWorkers};
+    WorkerThreads loaderThread{1};
+    WorkerThreads resolveWorkers{kMaxResolveWorkers};
 };
 
 void FontLibraryService::Private::startLoad()
@@ -164,30 +168,29 @@ void FontLibraryService::Private::serve(PendingResolve &request)
     if (request.isWanted && !request.isWanted())
         return;
     ResolvedFace face;
-    face.font
-        = currentResolver()->resolve(request.familyName, request.style, request.pointSize);
+    face.font = currentResolver()->resolve(request.familyName, request.style, request.pointSize);
     if (request.prepare)
         face.prepared = request.prepare(face.font);
     if (!request.completion)
         return;
-    mainThread.post([completion = std::move(request.completion), face = std::move(face)] {
-        completion(face);
-    });
+    mainThread.post(
+        [completion = std::move(request.completion), face = std::move(face)] { completion(face); });
 }
 
 FontLibraryService::FontLibraryService(Dependencies dependencies, QObject *parent)
-    : QObject(parent), d(std::make_unique<Private>(std::move(dependencies)))
+    : QObject(parent)
+    , d(std::make_unique<Private>(std::move(dependencies)))
 {
 }
 
 FontLibraryService::~FontLibraryService() = default;
 
-void FontLibraryService::loadCatalog(std::vector<FilePath> watchedFolders, ProgressCallback progress,
-                                     CatalogCallback done)
+void FontLibraryService::loadCatalog(std::vector<FilePath> watchedFolders,
+                                     ProgressCallback progress, CatalogCallback done)
 {
     Q_ASSERT(QThread::currentThread() == thread());
     d->loads.push_back(std::make_shared<Private::Load>(
-        Private::Load {std::move(watchedFolders), std::move(progress), std::move(done), {}}));
+        Private::Load{std::move(watchedFolders), std::move(progress), std::move(done), {}}));
     if (d->loads.size() == 1)
         d->startLoad();
 }
@@ -207,7 +210,8 @@ std::optional<Font> FontLibraryService::cachedFont(const QString &familyName,
 }
 
 Font FontLibraryService::resolve(const QString &familyName,
-                                 const std::optional<FontStyleRecord> &style, double pointSize) const
+                                 const std::optional<FontStyleRecord> &style,
+                                 double pointSize) const
 {
     return d->currentResolver()->resolve(familyName, style, pointSize);
 }

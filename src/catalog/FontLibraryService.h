@@ -19,21 +19,24 @@
 namespace lorva {
 
 /// What a resolution gives: the font, and what the request's `prepare` made of it on the worker.
-struct ResolvedFace {
+struct ResolvedFace
+{
     Font font;
     QImage prepared;
 };
 
 /// One request of a face, waiting for a worker.
-struct PendingResolve {
+struct PendingResolve
+{
     QString familyName;
     /// Absent: the family's default face.
     std::optional<FontStyleRecord> style;
     double pointSize = 0;
-    /// Thread: worker. Turns the font into pixels, so that the main thread only blits. May be empty.
+    /// Thread: worker. Turns the font into pixels, so that the main thread only blits. May be
+    /// empty.
     std::function<QImage(const Font &)> prepare;
-    /// Thread: worker. False when nobody waits any more; the request is then dropped before any work, and
-    /// `completion` is not called. May be empty (always wanted). Must not touch widgets.
+    /// Thread: worker. False when nobody waits any more; the request is then dropped before any
+    /// work, and `completion` is not called. May be empty (always wanted). Must not touch widgets.
     std::function<bool()> isWanted;
     /// Thread: main.
     std::function<void(const ResolvedFace &)> completion;
@@ -42,17 +45,17 @@ struct PendingResolve {
 /// The front of the font catalog: runs scans and turns family, style and size into a usable font.
 ///
 /// Owns: the loader and the resolve workers; its destructor stops and waits for both.
-/// Thread: main, except where a function says otherwise. Completions arrive on the main thread, and only
-/// while the service lives.
-/// Failure: a face that cannot be found gives the system font of the size, marked isStandIn(), and is
-/// not looked for again for 10 seconds.
+/// Thread: main, except where a function says otherwise. Completions arrive on the main thread, and
+/// only while the service lives. Failure: a face that cannot be found gives the system font of the
+/// size, marked isStandIn(), and is not looked for again for 10 seconds.
 class FontLibraryService final : public QObject
 {
     Q_OBJECT
 public:
     static constexpr int kMaxResolveWorkers = 3;
 
-    struct Dependencies {
+    struct Dependencies
+    {
         std::shared_ptr<const AvailableFonts> availableFonts;
         std::shared_ptr<const SystemFontLocator> systemFont;
         /// May be null: families then stay without scripts and alternate names.
@@ -67,8 +70,8 @@ public:
     using ProgressCallback = std::function<void(const FontScanPhase &)>;
     using CatalogCallback = std::function<void(const FontCatalogResult &)>;
 
-    /// Walks `watchedFolders`, scans them and the available fonts off the main thread, and hands the
-    /// result over on the main thread. A load asked for while one runs is run after it.
+    /// Walks `watchedFolders`, scans them and the available fonts off the main thread, and hands
+    /// the result over on the main thread. A load asked for while one runs is run after it.
     /// `progress` is called on the main thread, with at most some thirty reports a second.
     void loadCatalog(std::vector<FilePath> watchedFolders, ProgressCallback progress,
                      CatalogCallback done);
@@ -77,15 +80,17 @@ public:
 
     /// Cache look-up only. Thread: any.
     std::optional<Font> cachedFont(const QString &familyName,
-                                   const std::optional<FontStyleRecord> &style, double pointSize) const;
-    /// Always gives a font, on the calling thread. Thread: any.
+                                   const std::optional<FontStyleRecord> &style,
+                                   double pointSize) const;
+    /// Always gives a font, on the calling thread; a null one only on a system without fonts.
+    /// Thread: any.
     Font resolve(const QString &familyName, const std::optional<FontStyleRecord> &style,
                  double pointSize) const;
     /// Queues a request; the newest is served first, by at most three workers.
     void resolveAsync(PendingResolve request);
 
-    /// Tells the index which faces a family name stands for; loadCatalog() does it by itself, a catalog
-    /// that comes from elsewhere (a snapshot, a test) is told here.
+    /// Tells the index which faces a family name stands for; loadCatalog() does it by itself, a
+    /// catalog that comes from elsewhere (a snapshot, a test) is told here.
     void setFamilies(const std::vector<FontFamilyRecord> &families);
 
 private:

@@ -40,8 +40,8 @@ void MainThreadQueue::drain()
         m_isScheduled = false;
         count = m_waiting.size();
     }
-    // Only what waited at the start, so that input and painting get their turn between the trips; and one
-    // by one, so that a nested event loop goes on with the rest.
+    // Only what waited at the start, so that input and painting get their turn between the trips;
+    // and one by one, so that a nested event loop goes on with the rest.
     const QPointer<MainThreadQueue> guard(this);
     for (; count > 0; --count) {
         const std::function<void()> work = takeFirst();

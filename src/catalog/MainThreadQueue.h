@@ -10,7 +10,8 @@
 
 namespace lorva {
 
-/// Hands work over to the thread that it lives on, in order, many pieces per trip of the event loop.
+/// Hands work over to the thread that it lives on, in order, many pieces per trip of the event
+/// loop.
 ///
 /// What still waits when it is destroyed is dropped. Its owner stops everything that posts first.
 class MainThreadQueue final : public QObject

@@ -11,7 +11,8 @@ namespace lorva {
 
 namespace {
 
-struct WeightWord {
+struct WeightWord
+{
     QLatin1StringView first;
     /// Empty for a word that stands alone.
     QLatin1StringView second;
@@ -21,29 +22,29 @@ struct WeightWord {
 using namespace Qt::Literals::StringLiterals;
 
 /// The first that a label contains decides, so the compounds stand before "light" and "bold".
-constexpr std::array kWeightWords {
-    WeightWord {"hairline"_L1, {}, 100},       WeightWord {"thin"_L1, {}, 100},
-    WeightWord {"ultralight"_L1, {}, 200},     WeightWord {"ultra"_L1, "light"_L1, 200},
-    WeightWord {"extralight"_L1, {}, 200},     WeightWord {"extra"_L1, "light"_L1, 200},
-    WeightWord {"semibold"_L1, {}, 600},       WeightWord {"semi"_L1, "bold"_L1, 600},
-    WeightWord {"demibold"_L1, {}, 600},       WeightWord {"demi"_L1, "bold"_L1, 600},
-    WeightWord {"demilight"_L1, {}, 300},      WeightWord {"demi"_L1, "light"_L1, 300},
-    WeightWord {"semilight"_L1, {}, 300},      WeightWord {"semi"_L1, "light"_L1, 300},
-    WeightWord {"extrabold"_L1, {}, 800},      WeightWord {"extra"_L1, "bold"_L1, 800},
-    WeightWord {"ultrabold"_L1, {}, 800},      WeightWord {"ultra"_L1, "bold"_L1, 800},
-    WeightWord {"light"_L1, {}, 300},          WeightWord {"medium"_L1, {}, 500},
-    WeightWord {"bold"_L1, {}, 700},           WeightWord {"black"_L1, {}, 900},
-    WeightWord {"heavy"_L1, {}, 900},          WeightWord {"regular"_L1, {}, 400},
-    WeightWord {"normal"_L1, {}, 400},         WeightWord {"book"_L1, {}, 400},
-    WeightWord {"roman"_L1, {}, 400},
+constexpr std::array kWeightWords{
+    WeightWord{"hairline"_L1, {}, 100},   WeightWord{"thin"_L1, {}, 100},
+    WeightWord{"ultralight"_L1, {}, 200}, WeightWord{"ultra"_L1, "light"_L1, 200},
+    WeightWord{"extralight"_L1, {}, 200}, WeightWord{"extra"_L1, "light"_L1, 200},
+    WeightWord{"semibold"_L1, {}, 600},   WeightWord{"semi"_L1, "bold"_L1, 600},
+    WeightWord{"demibold"_L1, {}, 600},   WeightWord{"demi"_L1, "bold"_L1, 600},
+    WeightWord{"demilight"_L1, {}, 300},  WeightWord{"demi"_L1, "light"_L1, 300},
+    WeightWord{"semilight"_L1, {}, 300},  WeightWord{"semi"_L1, "light"_L1, 300},
+    WeightWord{"extrabold"_L1, {}, 800},  WeightWord{"extra"_L1, "bold"_L1, 800},
+    WeightWord{"ultrabold"_L1, {}, 800},  WeightWord{"ultra"_L1, "bold"_L1, 800},
+    WeightWord{"light"_L1, {}, 300},      WeightWord{"medium"_L1, {}, 500},
+    WeightWord{"bold"_L1, {}, 700},       WeightWord{"black"_L1, {}, 900},
+    WeightWord{"heavy"_L1, {}, 900},      WeightWord{"regular"_L1, {}, 400},
+    WeightWord{"normal"_L1, {}, 400},     WeightWord{"book"_L1, {}, 400},
+    WeightWord{"roman"_L1, {}, 400},
 };
 
 /// Words that say nothing about weight: a label of these alone is a regular weight.
-constexpr std::array kNeutralWords {
-    "standard"_L1,  "trial"_L1,      "display"_L1,  "text"_L1,     "caption"_L1,
-    "headline"_L1,  "micro"_L1,      "banner"_L1,   "plus"_L1,     "variable"_L1,
-    "mono"_L1,      "monospaced"_L1, "condensed"_L1, "compressed"_L1, "extended"_L1,
-    "expanded"_L1,  "wide"_L1,       "narrow"_L1,   "compact"_L1,
+constexpr std::array kNeutralWords{
+    "standard"_L1, "trial"_L1,      "display"_L1,   "text"_L1,       "caption"_L1,
+    "headline"_L1, "micro"_L1,      "banner"_L1,    "plus"_L1,       "variable"_L1,
+    "mono"_L1,     "monospaced"_L1, "condensed"_L1, "compressed"_L1, "extended"_L1,
+    "expanded"_L1, "wide"_L1,       "narrow"_L1,    "compact"_L1,
 };
 
 /// Word characters as regular expressions over Unicode text know them.
@@ -93,8 +94,8 @@ size_t rankOf(QStringView token, QStringView next)
     return kWeightWords.size();
 }
 
-/// Takes the text up to the next single space off the front; two spaces enclose an empty token, which
-/// keeps a compound from matching across them.
+/// Takes the text up to the next single space off the front; two spaces enclose an empty token,
+/// which keeps a compound from matching across them.
 QStringView takeToken(QStringView &rest, bool &isLast)
 {
     const qsizetype space = rest.indexOf(u' ');
@@ -134,8 +135,8 @@ bool hasOnlyNeutralWords(const QString &text)
         if (std::any_of(kNeutralWords.begin(), kNeutralWords.end(), isWord))
             continue;
         // The one neutral name of two words.
-        const bool isSemiMono = words[i] == "semi"_L1 && i + 1 < words.size()
-            && words[i + 1] == "mono"_L1;
+        const bool isSemiMono =
+            words[i] == "semi"_L1 && i + 1 < words.size() && words[i + 1] == "mono"_L1;
         if (!isSemiMono)
             return false;
     }
@@ -168,12 +169,13 @@ std::optional<int> weightFromStyleLabel(QStringView label)
 
 int weightFromTrait(double trait)
 {
-    struct Step {
+    struct Step
+    {
         double below;
         int weight;
     };
-    constexpr Step kSteps[] {{-0.65, 100}, {-0.45, 200}, {-0.2, 300}, {0.1, 400},
-                             {0.25, 500},  {0.4, 600},   {0.55, 700}, {0.75, 800}};
+    constexpr Step kSteps[]{{-0.65, 100}, {-0.45, 200}, {-0.2, 300}, {0.1, 400},
+                            {0.25, 500},  {0.4, 600},   {0.55, 700}, {0.75, 800}};
     for (const Step &step : kSteps) {
         if (trait < step.below)
             return step.weight;

@@ -11,10 +11,11 @@
 namespace lorva {
 
 // How heavy and how upright a face is, judged by what its designer calls it first and by its tables
-// second: labels are written for people and checked by them, tables are often left at their defaults.
+// second: labels are written for people and checked by them, tables are often left at their
+// defaults.
 
-/// Weight (100–900) that a style label names; nothing when it names none and the traits must decide.
-/// "W6" → 600, "Semi Bold Italic" → 600, "Condensed" → 400, "Poster" → nothing.
+/// Weight (100–900) that a style label names; nothing when it names none and the traits must
+/// decide. "W6" → 600, "Semi Bold Italic" → 600, "Condensed" → 400, "Poster" → nothing.
 std::optional<int> weightFromStyleLabel(QStringView label);
 
 /// Weight (100–900) of a weight trait (−1 … 1).

@@ -15,12 +15,12 @@
 
 namespace lorva {
 
-/// Runs `count` tasks on at most `workers` threads, handing them out in order, and merges what they give
-/// on the calling thread as they finish, in any order.
+/// Runs `count` tasks on at most `workers` threads, handing them out in order, and merges what they
+/// give on the calling thread as they finish, in any order.
 ///
 /// `work` gets a task's number and shares nothing with the others; so no lock is needed around what
-/// `merge` changes. Returns when all is merged, or, once `stop` is requested, when the tasks under way
-/// are; false in that case.
+/// `merge` changes. Returns when all is merged, or, once `stop` is requested, when the tasks under
+/// way are; false in that case.
 template <class Output>
 bool runTaskGroup(size_t count, int workers, const std::stop_token &stop,
                   const std::function<Output(size_t)> &work,

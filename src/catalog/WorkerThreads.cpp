@@ -6,7 +6,10 @@
 
 namespace lorva {
 
-WorkerThreads::WorkerThreads(int most) : m_most(size_t(std::max(most, 1))) { }
+WorkerThreads::WorkerThreads(int most)
+    : m_most(size_t(std::max(most, 1)))
+{
+}
 
 WorkerThreads::~WorkerThreads()
 {

@@ -11,10 +11,11 @@
 
 namespace lorva {
 
-/// A few threads that take the newest task first: what was asked for last is what the user looks at now.
+/// A few threads that take the newest task first: what was asked for last is what the user looks at
+/// now.
 ///
-/// Owns: its threads, started when first needed. Its destructor drops what waits and waits for what runs.
-/// Thread: push() any; tasks run on the workers, at most `most` at once.
+/// Owns: its threads, started when first needed. Its destructor drops what waits and waits for what
+/// runs. Thread: push() any; tasks run on the workers, at most `most` at once.
 class WorkerThreads
 {
 public:

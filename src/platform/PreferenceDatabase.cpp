@@ -111,13 +111,33 @@ Result<PreferenceDatabase> PreferenceDatabase::openFile(const FilePath &file, Ac
     if (!connection)
         return tl::unexpected(connection.error());
     PreferenceDatabase database(std::move(*connection));
-    if (access == Access::readWrite) {
-        if (const Result<void> made = database.makeTable(); !made)
-            return tl::unexpected(made.error());
-    }
-    if (const Result<void> prepared = database.prepare(); !prepared)
-        return tl::unexpected(prepared.error());
+    // Whose file it is comes first: another program's database is not to be changed.
+    Result<void> done = database.checkSoundness();
+    if (done && access == Access::readWrite)
+        done = database.makeTable();
+    if (!done)
+        return tl::unexpected(done.error());
     return database;
+}
+
+Result<void> PreferenceDatabase::checkSoundness()
+{
+    const auto checked = m_connection.run("PRAGMA quick_check(1)");
+    if (!checked)
+        return tl::unexpected(checked.error());
+    if (checked->empty() || checked->front().front() != "ok")
+        return failure(ErrorKind::malformed, QStringLiteral("the database is damaged"));
+    const auto tables = m_connection.run("SELECT name FROM sqlite_schema WHERE name = 'preferences'");
+    if (!tables)
+        return tl::unexpected(tables.error());
+    if (tables->empty())
+        return {};
+    const auto shaped = m_connection.run("SELECT key, kind, value FROM preferences LIMIT 0");
+    if (!shaped && shaped.error().kind == ErrorKind::invalidValue)
+        return failure(ErrorKind::malformed, shaped.error().detail);
+    if (!shaped)
+        return tl::unexpected(shaped.error());
+    return {};
 }
 
 Result<void> PreferenceDatabase::makeTable()
@@ -135,22 +155,6 @@ Result<void> PreferenceDatabase::makeTable()
     }
     if (!made)
         return tl::unexpected(made.error());
-    return {};
-}
-
-Result<void> PreferenceDatabase::prepare()
-{
-    const auto checked = m_connection.run("PRAGMA quick_check(1)");
-    if (!checked)
-        return tl::unexpected(checked.error());
-    if (checked->empty() || checked->front().front() != "ok")
-        return failure(ErrorKind::malformed, QStringLiteral("the database is damaged"));
-    // A database that someone else made may have a table of our name and another shape.
-    const auto shaped = m_connection.run("SELECT key, kind, value FROM preferences LIMIT 0");
-    if (!shaped && shaped.error().kind == ErrorKind::invalidValue)
-        return failure(ErrorKind::malformed, shaped.error().detail);
-    if (!shaped)
-        return tl::unexpected(shaped.error());
     return {};
 }
 

@@ -33,7 +33,7 @@ private:
     explicit PreferenceDatabase(SqliteConnection connection);
     static Result<PreferenceDatabase> openFile(const FilePath &file,
                                                SqliteConnection::Access access);
-    Result<void> prepare();
+    Result<void> checkSoundness();
     Result<void> makeTable();
 
     SqliteConnection m_connection;

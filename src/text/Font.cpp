@@ -34,7 +34,8 @@ double metricOr(hb_font_t *font, hb_ot_metrics_tag_t tag, double otherwise)
 
 } // namespace
 
-struct Font::Data {
+struct Font::Data
+{
     std::shared_ptr<const FontFace> face;
     double pointSize = 0;
     std::vector<VariationSetting> variations;
@@ -89,8 +90,8 @@ QString Font::name() const
     const FontFace &face = *m_data->face;
     if (!face.names().postScriptName.isEmpty())
         return face.names().postScriptName;
-    QString name = QString::fromUtf8(face.path().fileName()) + u'#'
-        + QString::number(face.key().faceIndex);
+    QString name =
+        QString::fromUtf8(face.path().fileName()) + u'#' + QString::number(face.key().faceIndex);
     if (face.key().namedInstance >= 0)
         name += u'.' + QString::number(face.key().namedInstance);
     return name;
@@ -117,23 +118,23 @@ double Font::xHeight() const
 
 double Font::ascent() const
 {
-    return m_data ? variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER,
-                                 m_data->face->metrics().ascender)
-                  : 0;
+    return m_data
+        ? variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER, m_data->face->metrics().ascender)
+        : 0;
 }
 
 double Font::descent() const
 {
-    return m_data ? -variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER,
-                                  m_data->face->metrics().descender)
-                  : 0;
+    return m_data
+        ? -variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER, m_data->face->metrics().descender)
+        : 0;
 }
 
 double Font::lineGap() const
 {
-    return m_data ? std::max(0.0,
-                             variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP,
-                                          m_data->face->metrics().lineGap))
+    return m_data ? std::max(
+               0.0,
+               variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP, m_data->face->metrics().lineGap))
                   : 0;
 }
 
@@ -182,7 +183,7 @@ Font Font::withFeatures(std::vector<FeatureSetting> features) const
 std::shared_ptr<hb_font_t> Font::shapingFont() const
 {
     if (!m_data)
-        return std::shared_ptr<hb_font_t>(hb_font_get_empty(), [](hb_font_t *) { });
+        return std::shared_ptr<hb_font_t>(hb_font_get_empty(), [](hb_font_t *) {});
     return m_data->face->shapingFont(m_data->variations);
 }
 

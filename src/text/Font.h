@@ -8,9 +8,9 @@ namespace lorva {
 
 /// A face at a size, with variation values and feature settings: what text is set in.
 ///
-/// A value: immutable, implicitly shared, cheap to copy, equal when face object, size and settings are.
-/// Thread: any. Units: points (one point is one logical pixel).
-/// Hostile fonts: sizes are kept within 0 … 16,384 points and metrics within eight ems.
+/// A value: immutable, implicitly shared, cheap to copy, equal when face object, size and settings
+/// are. Thread: any. Units: points (one point is one logical pixel). Hostile fonts: sizes are kept
+/// within 0 … 16,384 points and metrics within eight ems.
 class Font
 {
 public:
@@ -43,8 +43,9 @@ public:
     Font withVariations(std::vector<VariationSetting> variations) const;
     Font withFeatures(std::vector<FeatureSetting> features) const;
 
-    /// The HarfBuzz font with this font's variations, scaled to unitsPerEm. Not kept, so that a Font of a
-    /// face that nobody draws with does not hold its tables in memory. Never null. Engine files only.
+    /// The HarfBuzz font with this font's variations, scaled to unitsPerEm. Not kept, so that a
+    /// Font of a face that nobody draws with does not hold its tables in memory. Never null. Engine
+    /// files only.
     std::shared_ptr<hb_font_t> shapingFont() const;
 
     bool operator==(const Font &other) const;

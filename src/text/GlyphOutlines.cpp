@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace lorva {
 
@@ -16,10 +17,11 @@ namespace {
 /// The widest real glyphs take some twenty ems; the rasteriser slows down far from the image.
 constexpr double kMaxReachEms = 64;
 /// kMaxLayoutCharacters of a rather intricate face.
-constexpr int kMaxLayoutSegments = 2'000'000;
+constexpr int kMaxLayoutSegments = 1'000'000;
 
 /// What HarfBuzz draws with.
-struct OutlinePen {
+struct OutlinePen
+{
     QPainterPath path;
     QPointF origin;
     double scale = 0;
@@ -110,23 +112,40 @@ void drawGlyph(hb_font_t *font, quint32 glyph, OutlinePen &pen)
 #endif
 }
 
-/// The outlines of one line; gives what is left of the segment budget.
-int appendLine(QPainterPath &path, const LayoutLine &line, int budget)
+/// The outlines of a layout's lines, within one budget of segments.
+class LineOutliner
 {
-    for (const GlyphRun &run : line.runs) {
-        const GlyphOutliner outliner(run.font);
+public:
+    QPainterPath outline(const LayoutLine &line)
+    {
+        QPainterPath path;
+        path.setFillRule(Qt::WindingFill);
+        for (const GlyphRun &run : line.runs)
+            append(path, run, line.origin);
+        return path;
+    }
+
+private:
+    void append(QPainterPath &path, const GlyphRun &run, QPointF origin)
+    {
+        if (!m_outliner || m_outliner->font() != run.font)
+            m_outliner.emplace(run.font);
         for (const PositionedGlyph &glyph : run.glyphs) {
-            if (budget <= 0)
-                return 0;
-            budget -= outliner.append(path, glyph.glyph, line.origin + glyph.position);
+            if (m_budget <= 0)
+                return;
+            m_budget -= m_outliner->append(path, glyph.glyph, origin + glyph.position);
         }
     }
-    return budget;
-}
+
+    std::optional<GlyphOutliner> m_outliner;
+    int m_budget = kMaxLayoutSegments;
+};
 
 } // namespace
 
-GlyphOutliner::GlyphOutliner(const Font &font) : m_font(font.shapingFont())
+GlyphOutliner::GlyphOutliner(const Font &font)
+    : m_font(font)
+    , m_shapingFont(font.shapingFont())
 {
     if (font.isNull())
         return;
@@ -134,26 +153,28 @@ GlyphOutliner::GlyphOutliner(const Font &font) : m_font(font.shapingFont())
     m_reach = kMaxReachEms * font.pointSize();
 }
 
-int GlyphOutliner::append(QPainterPath &path, quint32 glyph, QPointF at) const
+int GlyphOutliner::append(QPainterPath &path, quint32 glyph, QPointF at)
 {
+    if (m_inkless.contains(glyph))
+        return 0;
     OutlinePen pen;
     pen.origin = at;
     pen.scale = m_pointsPerUnit;
     pen.reach = m_reach;
-    drawGlyph(m_font.get(), glyph, pen);
-    if (pen.isUsable)
+    drawGlyph(m_shapingFont.get(), glyph, pen);
+    if (pen.isUsable && !pen.path.isEmpty())
         path.addPath(pen.path);
-    return std::max(1, pen.segments);
+    else
+        m_inkless.insert(glyph);
+    return pen.segments;
 }
 
 void forEachLineOutline(const TextLayout &layout,
                         const std::function<void(const QPainterPath &)> &visit)
 {
-    int budget = kMaxLayoutSegments;
+    LineOutliner outliner;
     for (const LayoutLine &line : layout.lines()) {
-        QPainterPath path;
-        path.setFillRule(Qt::WindingFill);
-        budget = appendLine(path, line, budget);
+        const QPainterPath path = outliner.outline(line);
         if (!path.isEmpty())
             visit(path);
     }

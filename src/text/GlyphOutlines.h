@@ -7,32 +7,38 @@
 #include <QPainterPath>
 
 #include <functional>
+#include <unordered_set>
 
 namespace lorva {
 
 /// Outlines of the glyphs of one font at its size.
 ///
 /// Thread: any, one at a time per object. Units: points, y down.
-/// Hostile fonts: a glyph of more than kMaxOutlineSegments segments, or one that reaches further than any
-/// type does, is left out.
+/// Hostile fonts: a glyph of more than kMaxOutlineSegments segments, or one that reaches further
+/// than any type does, is left out.
 class GlyphOutliner
 {
 public:
     explicit GlyphOutliner(const Font &font);
 
-    /// Appends the glyph with its origin at `at`; gives the number of segments that this took, drawn or
-    /// not.
-    int append(QPainterPath &path, quint32 glyph, QPointF at) const;
+    const Font &font() const { return m_font; }
+    /// Appends the glyph with its origin at `at`; gives the number of segments that this took,
+    /// drawn or not.
+    int append(QPainterPath &path, quint32 glyph, QPointF at);
 
 private:
-    std::shared_ptr<hb_font_t> m_font;
+    Font m_font;
+    std::shared_ptr<hb_font_t> m_shapingFont;
+    /// Glyphs without ink. HarfBuzz works long on some hostile ones before it gives them up, and a
+    /// text may repeat them thousands of times.
+    std::unordered_set<quint32> m_inkless;
     double m_pointsPerUnit = 0;
     double m_reach = 0;
 };
 
-/// The outlines of each line that has any, in the layout's coordinates, with non-zero winding. One path
-/// per line: glyphs that touch (joined scripts) are filled without a seam. Ends early when the whole
-/// takes more segments than any text does.
+/// The outlines of each line that has any, in the layout's coordinates, with non-zero winding. One
+/// path per line: glyphs that touch (joined scripts) are filled without a seam. Ends early when the
+/// whole takes more segments than any text does.
 void forEachLineOutline(const TextLayout &layout,
                         const std::function<void(const QPainterPath &)> &visit);
 

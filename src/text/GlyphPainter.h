@@ -12,9 +12,9 @@ namespace lorva {
 
 /// Fills glyph outlines into images.
 ///
-/// Stateless. Thread: any, on images that no other thread touches. Units: points; the device-pixel ratio
-/// of the image maps them to pixels, so outlines are sharp at every ratio.
-/// Hostile fonts: a glyph of more than kMaxOutlineSegments segments is left out.
+/// Stateless. Thread: any, on images that no other thread touches. Units: points; the device-pixel
+/// ratio of the image maps them to pixels, so outlines are sharp at every ratio. Hostile fonts: a
+/// glyph of more than kMaxOutlineSegments segments is left out.
 class GlyphPainter
 {
 public:

@@ -31,7 +31,7 @@ std::vector<int> visualRunOrder(const std::vector<ShapedRun> &runs)
 
 GlyphRun placeRun(const ShapedRun &run, const Font &font, int paragraphStart, double &pen)
 {
-    GlyphRun placed {font, run.item.isRightToLeft(), {}};
+    GlyphRun placed{font, run.item.isRightToLeft(), {}};
     placed.glyphs.reserve(run.glyphs.size());
     for (const ShapedGlyph &glyph : run.glyphs) {
         placed.glyphs.push_back({glyph.glyph, QPointF(pen, 0) + glyph.offset, glyph.advance,

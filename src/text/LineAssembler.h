@@ -7,7 +7,8 @@
 namespace lorva {
 
 /// Where a line stands in its text.
-struct LinePlace {
+struct LinePlace
+{
     /// Index of the paragraph's first unit in the text.
     int paragraphStart = 0;
     bool isRightToLeft = false;
@@ -15,12 +16,12 @@ struct LinePlace {
     double inset = 0;
 };
 
-/// Widens the spaces inside a line until it is `width` points wide; lines without spaces, or wider ones,
-/// stay as they are.
+/// Widens the spaces inside a line until it is `width` points wide; lines without spaces, or wider
+/// ones, stay as they are.
 void justify(BrokenLine &line, QStringView paragraph, double width);
 
-/// Puts the runs of a line in visual order and its glyphs at their places; `runs` are moved from. The
-/// line's origin is left at 0.
+/// Puts the runs of a line in visual order and its glyphs at their places; `runs` are moved from.
+/// The line's origin is left at 0.
 LayoutLine assembleLine(BrokenLine line, const LinePlace &place, const Font &font);
 
 } // namespace lorva

@@ -143,7 +143,8 @@ BrokenLine LineBreaker::truncate(int start, double available)
     const double room = available - ellipsisWidth;
     int cut = restFits(start, room) ? end() : lastFittingGraphemeBreak(start, room);
     BrokenLine broken = line(start, m_paragraph.trimmedEnd(start, cut));
-    for (int retry = 0; retry < kMaxRetries && broken.end > start && isTooWide(broken, room); ++retry) {
+    for (int retry = 0; retry < kMaxRetries && broken.end > start && isTooWide(broken, room);
+         ++retry) {
         cut = std::max(start, preceding(graphemes(), broken.end));
         broken = line(start, m_paragraph.trimmedEnd(start, cut));
     }

@@ -9,7 +9,8 @@
 namespace lorva {
 
 /// The runs of one line in logical order; a truncated line ends in the run of its ellipsis.
-struct BrokenLine {
+struct BrokenLine
+{
     int start = 0;
     int end = 0;
     /// `end` without trailing white space.
@@ -18,14 +19,18 @@ struct BrokenLine {
     bool hasEllipsis = false;
 };
 
-/// Cuts a shaped paragraph into lines: between words (UAX #14), else between grapheme clusters (UAX #29).
+/// Cuts a shaped paragraph into lines: between words (UAX #14), else between grapheme clusters (UAX
+/// #29).
 ///
-/// Thread: any, one paragraph at a time per thread, for the break iterators are the thread's. Neither is
-/// touched while text fits. Widths in points.
+/// Thread: any, one paragraph at a time per thread, for the break iterators are the thread's.
+/// Neither is touched while text fits. Widths in points.
 class LineBreaker
 {
 public:
-    explicit LineBreaker(const ShapedParagraph &paragraph) : m_paragraph(paragraph) { }
+    explicit LineBreaker(const ShapedParagraph &paragraph)
+        : m_paragraph(paragraph)
+    {
+    }
 
     bool restFits(int start, double available) const;
     /// All that is left, however wide.

@@ -12,14 +12,16 @@ namespace {
 
 using Glyphs = std::vector<ShapedGlyph>;
 
-/// The glyphs whose clusters lie in [start, end); clusters are sorted, so long runs stay cheap to cut.
+/// The glyphs whose clusters lie in [start, end); clusters are sorted, so long runs stay cheap to
+/// cut.
 std::span<const ShapedGlyph> glyphsBetween(const ShapedRun &run, int start, int end)
 {
     const Glyphs &glyphs = run.glyphs;
     const bool falls = run.item.isRightToLeft();
-    const auto first = std::partition_point(glyphs.begin(), glyphs.end(), [&](const ShapedGlyph &g) {
-        return falls ? g.cluster >= end : g.cluster < start;
-    });
+    const auto first =
+        std::partition_point(glyphs.begin(), glyphs.end(), [&](const ShapedGlyph &g) {
+            return falls ? g.cluster >= end : g.cluster < start;
+        });
     const auto last = std::partition_point(first, glyphs.end(), [&](const ShapedGlyph &g) {
         return falls ? g.cluster >= start : g.cluster < end;
     });
@@ -32,13 +34,15 @@ bool isSafeCut(const ShapedRun &run, int index)
     if (index <= run.item.start || index >= run.item.end)
         return true;
     const auto at = glyphsBetween(run, index, index + 1);
-    return !at.empty()
-        && std::none_of(at.begin(), at.end(), [](const ShapedGlyph &g) { return g.isUnsafeToBreak; });
+    return !at.empty() && std::none_of(at.begin(), at.end(), [](const ShapedGlyph &g) {
+        return g.isUnsafeToBreak;
+    });
 }
 
 } // namespace
 
-ShapedParagraph::ShapedParagraph(QStringView text, TextDirection direction, const TextShaper &shaper)
+ShapedParagraph::ShapedParagraph(QStringView text, TextDirection direction,
+                                 const TextShaper &shaper)
     : m_text(text)
     , m_shaper(shaper)
     , m_itemized(itemize(text, direction))

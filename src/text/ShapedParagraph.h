@@ -23,12 +23,12 @@ public:
     /// `end` without the white space before it, but not below `start`.
     int trimmedEnd(int start, int end) const;
 
-    /// Width in points of the clusters that start in the range, as the whole paragraph was shaped. A
-    /// cluster's width is spread evenly over its units.
+    /// Width in points of the clusters that start in the range, as the whole paragraph was shaped.
+    /// A cluster's width is spread evenly over its units.
     double width(int start, int end) const { return m_positions[end] - m_positions[start]; }
 
-    /// The runs of a line, in logical order; what may not be cut there is shaped anew. Trailing white
-    /// space is a run at the paragraph's level (UAX #9, L1).
+    /// The runs of a line, in logical order; what may not be cut there is shaped anew. Trailing
+    /// white space is a run at the paragraph's level (UAX #9, L1).
     std::vector<ShapedRun> cut(int start, int end) const;
     /// An ellipsis that stands at `at`: the paragraph's level, the script of the text before it.
     ShapedRun ellipsisAt(int at) const;

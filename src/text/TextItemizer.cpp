@@ -31,8 +31,8 @@ UBiDi *threadBidi()
     return bidi.get();
 }
 
-/// Whether UAX #9 could find anything but level 0: right-to-left scripts, Arabic numbers, bidi controls
-/// and the high surrogates of right-to-left blocks.
+/// Whether UAX #9 could find anything but level 0: right-to-left scripts, Arabic numbers, bidi
+/// controls and the high surrogates of right-to-left blocks.
 bool needsBidi(QStringView text)
 {
     return std::any_of(text.begin(), text.end(), [](QChar c) {
@@ -46,12 +46,14 @@ bool needsBidi(QStringView text)
     });
 }
 
-struct LevelRun {
+struct LevelRun
+{
     int end = 0;
     quint8 level = 0;
 };
 
-struct ParagraphLevels {
+struct ParagraphLevels
+{
     quint8 baseLevel = 0;
     std::vector<LevelRun> runs;
 };
@@ -85,7 +87,7 @@ ParagraphLevels resolveLevels(QStringView text, TextDirection direction)
                   &status);
     if (U_FAILURE(status))
         return oneLevel(text, plainLevel);
-    ParagraphLevels levels {ubidi_getParaLevel(bidi), {}};
+    ParagraphLevels levels{ubidi_getParaLevel(bidi), {}};
     for (int32_t at = 0; at < int32_t(text.size());) {
         int32_t end = at;
         UBiDiLevel level = 0;
@@ -157,7 +159,8 @@ private:
         }
     }
 
-    struct Bracket {
+    struct Bracket
+    {
         UChar32 closing = 0;
         UScriptCode script = USCRIPT_COMMON;
     };
@@ -174,7 +177,8 @@ hb_script_t shapingScript(UScriptCode script)
     return hb_script_from_string(uscript_getShortName(script), -1);
 }
 
-struct ScriptRun {
+struct ScriptRun
+{
     int end = 0;
     UScriptCode script = USCRIPT_COMMON;
 };
@@ -227,7 +231,7 @@ ItemizedParagraph itemize(QStringView paragraph, TextDirection direction)
 {
     const ParagraphLevels levels = resolveLevels(paragraph, direction);
     const std::vector<ScriptRun> scripts = resolveScripts(paragraph);
-    ItemizedParagraph result {levels.baseLevel, {}};
+    ItemizedParagraph result{levels.baseLevel, {}};
     auto level = levels.runs.begin();
     auto script = scripts.begin();
     for (int at = 0; at < paragraph.size();) {

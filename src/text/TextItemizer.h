@@ -12,7 +12,8 @@
 namespace lorva {
 
 /// A stretch of a paragraph with one embedding level and one script, in UTF-16 units.
-struct TextItem {
+struct TextItem
+{
     int start = 0;
     int end = 0;
     /// UAX #9: odd levels read from right to left.
@@ -23,24 +24,26 @@ struct TextItem {
     bool isRightToLeft() const { return level & 1; }
 };
 
-struct ItemizedParagraph {
+struct ItemizedParagraph
+{
     quint8 baseLevel = 0;
     /// In logical order, without gaps.
     std::vector<TextItem> items;
 };
 
 /// A paragraph of a text, without its separator, in UTF-16 units.
-struct TextParagraph {
+struct TextParagraph
+{
     int start = 0;
     int end = 0;
 };
 
-/// Splits at hard line ends: LF, CR, CR LF, VT, FF, NEL, U+2028, U+2029. Never empty; a text that ends
-/// in a separator has an empty last paragraph.
+/// Splits at hard line ends: LF, CR, CR LF, VT, FF, NEL, U+2028, U+2029. Never empty; a text that
+/// ends in a separator has an empty last paragraph.
 std::vector<TextParagraph> splitParagraphs(QStringView text);
 
-/// Levels (UAX #9, by ICU) and scripts (UAX #24: common and inherited characters join the run that they
-/// stand in, a closing bracket the run of its opening one) of one paragraph.
+/// Levels (UAX #9, by ICU) and scripts (UAX #24: common and inherited characters join the run that
+/// they stand in, a closing bracket the run of its opening one) of one paragraph.
 ItemizedParagraph itemize(QStringView paragraph, TextDirection direction);
 
 /// Rule L2 of UAX #9: which item stands first, second … from the left, by their levels.

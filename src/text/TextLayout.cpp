@@ -13,12 +13,13 @@ namespace lorva {
 
 namespace {
 
-/// Every font has a line height, whatever its tables say; shares of the point size for those without.
+/// Every font has a line height, whatever its tables say; shares of the point size for those
+/// without.
 constexpr double kFallbackAscent = 0.8;
 constexpr double kFallbackDescent = 0.2;
 
-/// At most kMaxLayoutCharacters units, never half a surrogate pair; control characters become spaces
-/// (tab) or nothing visible, for no face has glyphs for them.
+/// At most kMaxLayoutCharacters units, never half a surrogate pair; control characters become
+/// spaces (tab) or nothing visible, for no face has glyphs for them.
 QString layoutText(const QString &text)
 {
     qsizetype length = std::min<qsizetype>(text.size(), kMaxLayoutCharacters);
@@ -44,8 +45,8 @@ TextLayoutOptions sanitized(TextLayoutOptions options)
 {
     options.width = std::isnan(options.width) ? std::numeric_limits<double>::infinity()
                                               : std::max(0.0, options.width);
-    options.firstLineInset
-        = std::isfinite(options.firstLineInset) ? std::max(0.0, options.firstLineInset) : 0;
+    options.firstLineInset =
+        std::isfinite(options.firstLineInset) ? std::max(0.0, options.firstLineInset) : 0;
     if (options.maximumLines <= 0)
         options.maximumLines = std::numeric_limits<int>::max();
     return options;
@@ -129,7 +130,8 @@ private:
         if (m_options.alignment == TextAlignment::justified && !isLast
             && std::isfinite(m_options.width))
             justify(line, paragraph.text(), available());
-        const LinePlace at {paragraphStart, paragraph.isRightToLeft(), paragraph.baseLevel(), inset()};
+        const LinePlace at{paragraphStart, paragraph.isRightToLeft(), paragraph.baseLevel(),
+                           inset()};
         m_lines.push_back(assembleLine(std::move(line), at, m_font));
     }
 

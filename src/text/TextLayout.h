@@ -16,34 +16,38 @@
 namespace lorva {
 
 enum class TextAlignment { left, right, center, justified, natural };
-/// wordWrap: lines break between words (UAX #14), a word wider than the line between grapheme clusters.
-/// truncateTail: what does not fit is replaced by an ellipsis (U+2026, three full stops where the face
-/// lacks it, nothing where it lacks both) at the visual end of the paragraph's direction.
+/// wordWrap: lines break between words (UAX #14), a word wider than the line between grapheme
+/// clusters. truncateTail: what does not fit is replaced by an ellipsis (U+2026, three full stops
+/// where the face lacks it, nothing where it lacks both) at the visual end of the paragraph's
+/// direction.
 enum class LineBreakMode { wordWrap, truncateTail };
 enum class TextDirection { automatic, leftToRight, rightToLeft };
 
-struct TextLayoutOptions {
+struct TextLayoutOptions
+{
     /// Points; lines are wrapped, truncated and aligned to it. Infinite: one line per paragraph,
     /// aligned to the widest.
     double width = std::numeric_limits<double>::infinity();
     TextAlignment alignment = TextAlignment::natural;
     LineBreakMode lineBreakMode = LineBreakMode::wordWrap;
-    /// 0: as many as it takes; with truncateTail then one line per paragraph. Otherwise text wraps up to
-    /// this many lines, and with truncateTail the last of them ends in an ellipsis if text is left over.
+    /// 0: as many as it takes; with truncateTail then one line per paragraph. Otherwise text wraps
+    /// up to this many lines, and with truncateTail the last of them ends in an ellipsis if text is
+    /// left over.
     int maximumLines = 0;
     TextDirection direction = TextDirection::automatic;
-    /// Points left free before the first line's text (a logo stands there); moves and wraps with it. In a
-    /// right-to-left paragraph it lies at the line's right end.
+    /// Points left free before the first line's text (a logo stands there); moves and wraps with
+    /// it. In a right-to-left paragraph it lies at the line's right end.
     double firstLineInset = 0;
-    /// Points after every cluster. Common ligatures are off when it is not 0, unless the font's features
-    /// ask for them.
+    /// Points after every cluster. Common ligatures are off when it is not 0, unless the font's
+    /// features ask for them.
     double letterSpacing = 0;
-    /// BCP 47, for the face's language-specific forms (OpenType `locl`). Empty: the process's locale, or
-    /// what the script implies (kana, hangul, bopomofo).
+    /// BCP 47, for the face's language-specific forms (OpenType `locl`). Empty: the process's
+    /// locale, or what the script implies (kana, hangul, bopomofo).
     QByteArray language;
 };
 
-struct PositionedGlyph {
+struct PositionedGlyph
+{
     quint32 glyph = 0;
     /// Points from the line's origin, y down.
     QPointF position;
@@ -54,19 +58,22 @@ struct PositionedGlyph {
 };
 
 /// Glyphs of one font, direction and script, from left to right.
-struct GlyphRun {
+struct GlyphRun
+{
     Font font;
     bool isRightToLeft = false;
     std::vector<PositionedGlyph> glyphs;
 };
 
-struct LayoutLine {
+struct LayoutLine
+{
     /// In visual order, from left to right.
     std::vector<GlyphRun> runs;
-    /// The left end of the line's width on the layout's canvas: x after alignment, y of the baseline.
+    /// The left end of the line's width on the layout's canvas: x after alignment, y of the
+    /// baseline.
     QPointF origin;
-    /// Advance width without trailing white space (which hangs over the line's end), the first line's
-    /// inset included.
+    /// Advance width without trailing white space (which hangs over the line's end), the first
+    /// line's inset included.
     double width = 0;
     double ascent = 0;
     double descent = 0;
@@ -92,7 +99,9 @@ public:
     TextLayout() = default;
     TextLayout(const QString &text, const Font &font, const TextLayoutOptions &options = {});
 
-    const std::vector<LayoutLine> &lines() const { return m_lines; }
+    const std::vector<LayoutLine> &lines() const & { return m_lines; }
+    /// A copy, so that a range-for over a layout that dies at once is safe.
+    std::vector<LayoutLine> lines() && { return std::move(m_lines); }
     /// Widest line by the sum of line heights.
     QSizeF size() const { return m_size; }
     bool isTruncated() const;

@@ -27,7 +27,8 @@ hb_feature_t everywhere(hb_tag_t tag, quint32 value)
     return {tag, value, HB_FEATURE_GLOBAL_START, HB_FEATURE_GLOBAL_END};
 }
 
-/// Ligatures would stand as tight lumps in spaced-out text. The font's own settings come after, and win.
+/// Ligatures would stand as tight lumps in spaced-out text. The font's own settings come after, and
+/// win.
 std::vector<hb_feature_t> shapingFeatures(const Font &font, double letterSpacing)
 {
     std::vector<hb_feature_t> features;
@@ -97,7 +98,8 @@ std::vector<ShapedGlyph> TextShaper::glyphsIn(hb_buffer_t *buffer) const
     glyphs.reserve(count);
     for (unsigned i = 0; i < std::min(count, positionCount); ++i) {
         const hb_glyph_position_t &at = positions[i];
-        const bool unsafe = hb_glyph_info_get_glyph_flags(&infos[i]) & HB_GLYPH_FLAG_UNSAFE_TO_BREAK;
+        const bool unsafe =
+            hb_glyph_info_get_glyph_flags(&infos[i]) & HB_GLYPH_FLAG_UNSAFE_TO_BREAK;
         glyphs.push_back({infos[i].codepoint, int(infos[i].cluster), toPoints(at.x_advance),
                           QPointF(toPoints(at.x_offset), -toPoints(at.y_offset)), unsafe});
     }
@@ -106,7 +108,7 @@ std::vector<ShapedGlyph> TextShaper::glyphsIn(hb_buffer_t *buffer) const
 
 ShapedRun TextShaper::shape(QStringView paragraph, const TextItem &item) const
 {
-    ShapedRun run {item, {}};
+    ShapedRun run{item, {}};
     if (m_font.isNull() || item.end <= item.start)
         return run;
     hb_buffer_t *buffer = threadBuffer();
@@ -121,7 +123,8 @@ ShapedRun TextShaper::shape(QStringView paragraph, const TextItem &item) const
     return run;
 }
 
-/// Space follows a cluster in reading direction; clusters without width (joiners, lone marks) get none.
+/// Space follows a cluster in reading direction; clusters without width (joiners, lone marks) get
+/// none.
 void TextShaper::addLetterSpacing(ShapedRun &run) const
 {
     if (m_letterSpacing == 0)

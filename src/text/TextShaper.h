@@ -9,7 +9,8 @@
 namespace lorva {
 
 /// One glyph as shaped, in points.
-struct ShapedGlyph {
+struct ShapedGlyph
+{
     quint32 glyph = 0;
     /// UTF-16 index into the paragraph.
     int cluster = 0;
@@ -20,8 +21,10 @@ struct ShapedGlyph {
     bool isUnsafeToBreak = false;
 };
 
-/// An item and its glyphs from left to right; clusters rise, or fall when the item is right-to-left.
-struct ShapedRun {
+/// An item and its glyphs from left to right; clusters rise, or fall when the item is
+/// right-to-left.
+struct ShapedRun
+{
     TextItem item;
     std::vector<ShapedGlyph> glyphs;
 };
@@ -38,8 +41,8 @@ public:
     const Font &font() const { return m_font; }
     /// The glyphs of `item`, joined to the text around it as that stands in `paragraph`.
     ShapedRun shape(QStringView paragraph, const TextItem &item) const;
-    /// The ellipsis that the face can draw, in the item's direction and script, with every cluster at the
-    /// item's start; no glyphs if it can draw none.
+    /// The ellipsis that the face can draw, in the item's direction and script, with every cluster
+    /// at the item's start; no glyphs if it can draw none.
     ShapedRun shapeEllipsis(const TextItem &item) const;
 
 private:

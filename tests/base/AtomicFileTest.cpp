@@ -4,11 +4,10 @@
 
 #include "support/TestHome.h"
 
-#include <QDir>
-
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <filesystem>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -26,7 +25,8 @@ using test::writeFile;
 class AsOrdinaryUser
 {
 public:
-    AsOrdinaryUser() : m_isRoot(::geteuid() == 0)
+    AsOrdinaryUser()
+        : m_isRoot(::geteuid() == 0)
     {
         if (m_isRoot && ::seteuid(65534) != 0)
             ADD_FAILURE() << "cannot act as nobody";
@@ -41,21 +41,34 @@ private:
     const bool m_isRoot;
 };
 
-QStringList namesIn(const FilePath &folder)
+/// An empty folder of the running case's own.
+FilePath makeCaseFolder()
 {
-    return QDir(folder.displayText()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
+    return TestHome::instance().makeFolder(info->name());
+}
+
+/// By the system's own listing: Qt's leaves out names that are no UTF-8.
+std::vector<std::string> namesIn(const FilePath &folder)
+{
+    std::vector<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(folder.c_str()))
+        names.push_back(entry.path().filename());
+    return names;
 }
 
 mode_t permissionsOf(const FilePath &path)
 {
-    struct stat info {};
+    struct stat info
+    {
+    };
     EXPECT_EQ(::stat(path.c_str(), &info), 0);
     return info.st_mode & 07777;
 }
 
 TEST(AtomicFile, WritesAndReplaces)
 {
-    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath folder = makeCaseFolder();
     const FilePath path = folder.child("na\xFFme.json"); // no UTF-8
     ASSERT_TRUE(writeFileAtomically(path, "one"));
     EXPECT_EQ(readFile(path), "one");
@@ -64,12 +77,13 @@ TEST(AtomicFile, WritesAndReplaces)
     EXPECT_EQ(readFile(path), big);
     ASSERT_TRUE(writeFileAtomically(path, {}));
     EXPECT_EQ(readFile(path), "");
-    EXPECT_EQ(namesIn(folder).size(), 1);
+    EXPECT_EQ(namesIn(folder).size(), 1U);
+    ::unlink(path.c_str()); // QTemporaryDir could not
 }
 
 TEST(AtomicFile, KeepsPermissionsAndLinks)
 {
-    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath folder = makeCaseFolder();
     const FilePath path = writeFile(folder, "real", "old");
     ::chmod(path.c_str(), 0640);
     const FilePath link = folder.child("link");
@@ -77,13 +91,13 @@ TEST(AtomicFile, KeepsPermissionsAndLinks)
     ASSERT_TRUE(writeFileAtomically(link, "new"));
     EXPECT_EQ(readFile(path), "new");
     EXPECT_EQ(permissionsOf(path), mode_t(0640));
-    char target[16] {};
+    char target[16]{};
     EXPECT_EQ(::readlink(link.c_str(), target, sizeof target), 4);
 }
 
 TEST(AtomicFile, ReplacesALinkThatLeadsNowhere)
 {
-    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath folder = makeCaseFolder();
     const FilePath link = folder.child("link");
     ASSERT_EQ(::symlink("/nowhere/at/all", link.c_str()), 0);
     ASSERT_TRUE(writeFileAtomically(link, "new"));
@@ -102,17 +116,18 @@ TEST(AtomicFile, FailsWithoutItsFolder)
 
 TEST(AtomicFile, FailsOverAFolderAndLeavesNothingBehind)
 {
-    const FilePath folder = TestHome::instance().makeFolder("atomic");
-    const FilePath target = TestHome::instance().makeFolder("atomic/target");
+    const FilePath folder = makeCaseFolder();
+    const FilePath target = folder.child("target");
+    ASSERT_EQ(::mkdir(target.c_str(), 0700), 0);
     const Result<void> result = writeFileAtomically(target, "x");
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, ErrorKind::notRegularFile);
-    EXPECT_EQ(namesIn(folder), QStringList {QStringLiteral("target")});
+    EXPECT_EQ(namesIn(folder), std::vector<std::string>{"target"});
 }
 
 TEST(AtomicFile, FailsInAReadOnlyFolderAndKeepsTheOldFile)
 {
-    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath folder = makeCaseFolder();
     const FilePath path = writeFile(folder, "file", "old");
     ::chmod(TestHome::instance().root().c_str(), 0755);
     ::chmod(path.c_str(), 0666);
@@ -125,24 +140,24 @@ TEST(AtomicFile, FailsInAReadOnlyFolderAndKeepsTheOldFile)
     }
     ::chmod(folder.c_str(), 0755);
     EXPECT_EQ(readFile(path), "old");
-    EXPECT_EQ(namesIn(folder).size(), 1);
+    EXPECT_EQ(namesIn(folder).size(), 1U);
 }
 
 TEST(AtomicFile, FailsOnAFullDiskAndKeepsTheOldFile)
 {
-    const FilePath folder = TestHome::instance().makeFolder("atomic");
+    const FilePath folder = makeCaseFolder();
     const FilePath path = writeFile(folder, "file", "old");
     // A limit on the size of files stands for the full disk: the write ends in the middle.
     ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit {4096, RLIM_INFINITY};
+    const rlimit limit{4096, RLIM_INFINITY};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
     const Result<void> result = writeFileAtomically(path, QByteArray(10000, 'x'));
-    const rlimit none {RLIM_INFINITY, RLIM_INFINITY};
+    const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, ErrorKind::tooLarge);
     EXPECT_EQ(readFile(path), "old");
-    EXPECT_EQ(namesIn(folder).size(), 1);
+    EXPECT_EQ(namesIn(folder).size(), 1U);
 }
 
 } // namespace

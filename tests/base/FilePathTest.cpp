@@ -13,14 +13,15 @@ std::string text(const QByteArray &bytes)
     return bytes.toStdString();
 }
 
-struct UrlCase {
+struct UrlCase
+{
     QByteArray path;
     QByteArray url;
 };
 
 TEST(FilePath, BecomesAUrlAndComesBack)
 {
-    const UrlCase cases[] {
+    const UrlCase cases[]{
         {"/", "file:///"},
         {"/fonts/Inter-Bold_2.otf~", "file:///fonts/Inter-Bold_2.otf~"},
         {"/a b/c%d.ttf", "file:///a%20b/c%25d.ttf"},
@@ -40,13 +41,9 @@ TEST(FilePath, BecomesAUrlAndComesBack)
 
 TEST(FilePath, AcceptsHowOthersWriteUrls)
 {
-    const UrlCase cases[] {
-        {"/a b", "FILE:///a b"},
-        {"/a", "file://localhost/a"},
-        {"/a", "file://LocalHost/a"},
-        {"/a", "file:/a"},
-        {"/\xC3\xA9", "file:///%c3%a9"},
-        {"/\xC3\xA9", "file:///\xC3\xA9"},
+    const UrlCase cases[]{
+        {"/a b", "FILE:///a b"}, {"/a", "file://localhost/a"},    {"/a", "file://LocalHost/a"},
+        {"/a", "file:/a"},       {"/\xC3\xA9", "file:///%c3%a9"}, {"/\xC3\xA9", "file:///\xC3\xA9"},
     };
     for (const UrlCase &each : cases) {
         const Result<FilePath> path = FilePath::fromUrl(each.url);
@@ -57,10 +54,25 @@ TEST(FilePath, AcceptsHowOthersWriteUrls)
 
 TEST(FilePath, RefusesWhatIsNoFileUrl)
 {
-    const QByteArray urls[] {
-        "", "file", "file:", "file://", "/a", "http://localhost/a", "files:///a", "file:a",
-        "file://server/a", "file://localhost", "file://localhostess/a", "file:///a%", "file:///a%4",
-        "file:///a%zz", "file:///a%4g", "file:///a%00b", QByteArray("file:///a\0b", 11), "file:///a?b",
+    const QByteArray urls[]{
+        "",
+        "file",
+        "file:",
+        "file://",
+        "/a",
+        "http://localhost/a",
+        "files:///a",
+        "file:a",
+        "file://server/a",
+        "file://localhost",
+        "file://localhostess/a",
+        "file:///a%",
+        "file:///a%4",
+        "file:///a%zz",
+        "file:///a%4g",
+        "file:///a%00b",
+        QByteArray("file:///a\0b", 11),
+        "file:///a?b",
         "file:///a#b",
     };
     for (const QByteArray &url : urls) {
@@ -73,10 +85,11 @@ TEST(FilePath, RefusesWhatIsNoFileUrl)
 
 TEST(FilePath, TakesPathsApart)
 {
-    struct Case {
+    struct Case
+    {
         QByteArray path, name, extension, parent;
     };
-    const Case cases[] {
+    const Case cases[]{
         {"/fonts/Inter.OTF", "Inter.OTF", "otf", "/fonts"},
         {"/fonts/.hidden", ".hidden", "", "/fonts"},
         {"/fonts/.hidden.ttf", ".hidden.ttf", "ttf", "/fonts"},
@@ -105,14 +118,15 @@ TEST(FilePath, ChildDoublesNoSlash)
 
 TEST(FilePath, KnowsWhatLiesInside)
 {
-    struct Case {
+    struct Case
+    {
         QByteArray path, folder;
         bool isInside;
     };
-    const Case cases[] {
-        {"/a/b", "/a", true},   {"/a", "/a", true},   {"/a/b/c", "/a/", true}, {"/a", "/", true},
-        {"/ab", "/a", false},   {"/a", "/a/b", false}, {"/A/b", "/a", false},  {"/a", "", false},
-        {"/a/b", "/a/b/", true},
+    const Case cases[]{
+        {"/a/b", "/a", true},  {"/a", "/a", true},   {"/a/b/c", "/a/", true},
+        {"/a", "/", true},     {"/ab", "/a", false}, {"/a", "/a/b", false},
+        {"/A/b", "/a", false}, {"/a", "", false},    {"/a/b", "/a/b/", true},
     };
     for (const Case &each : cases)
         EXPECT_EQ(FilePath(each.path).isInside(FilePath(each.folder)), each.isInside)
@@ -122,7 +136,10 @@ TEST(FilePath, KnowsWhatLiesInside)
 TEST(FilePath, ShowsAnyBytesOnOneLine)
 {
     EXPECT_EQ(FilePath("/a\nb\tc").displayText(), QStringLiteral("/a b c"));
-    EXPECT_EQ(FilePath("/a\xFF" "b").displayText(), QStringLiteral("/a\uFFFDb"));
+    EXPECT_EQ(FilePath("/a\xFF"
+                       "b")
+                  .displayText(),
+              QStringLiteral("/a\uFFFDb"));
     EXPECT_EQ(FilePath("/\xE2\x80\xA8x").displayText(), QStringLiteral("/ x"));
     EXPECT_FALSE(FilePath("/a\xFF").isUtf8());
     EXPECT_TRUE(FilePath("/\xC3\xA9").isUtf8());

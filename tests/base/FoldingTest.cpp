@@ -12,14 +12,15 @@ namespace lorva {
 
 namespace {
 
-struct TextCase {
+struct TextCase
+{
     QString text;
     QString expected;
 };
 
 TEST(Folding, OverlooksCaseDiacriticsAndWidth)
 {
-    const TextCase cases[] {
+    const TextCase cases[]{
         {QStringLiteral(""), QStringLiteral("")},
         {QStringLiteral("Helvetica NEUE-75"), QStringLiteral("helvetica neue-75")},
         {QStringLiteral("École ÅÖÜ ñ"), QStringLiteral("ecole aou n")},
@@ -29,7 +30,8 @@ TEST(Folding, OverlooksCaseDiacriticsAndWidth)
         {QStringLiteral("ｶﾞ"), QStringLiteral("カ")},
         {QStringLiteral("ﾊﾟ"), QStringLiteral("ハ")},
         {QStringLiteral("ガ"), QStringLiteral("カ")},
-        // Turkish letters as everybody else writes them: the dot is a mark, the dotless i its own letter.
+        // Turkish letters as everybody else writes them: the dot is a mark, the dotless i its own
+        // letter.
         {QStringLiteral("İstanbul"), QStringLiteral("istanbul")},
         {QStringLiteral("ISI"), QStringLiteral("isi")},
         {QStringLiteral("ısı"), QStringLiteral("ısı")},
@@ -65,7 +67,7 @@ TEST(Folding, FindsASyllableThatIsStillBeingTyped)
 
 TEST(Folding, TurnsHiraganaIntoKatakana)
 {
-    const TextCase cases[] {
+    const TextCase cases[]{
         {QStringLiteral("ひらぎの"), QStringLiteral("ヒラギノ")},
         {QStringLiteral("きゃっぷ"), QStringLiteral("キャップ")},
         {QStringLiteral("ゔ"), QStringLiteral("ヴ")},
@@ -95,10 +97,15 @@ TEST(NameCollator, FollowsTheLocale)
 TEST(NameCollator, KeysOrderAsItsComparisons)
 {
     const NameCollator collator(QLocale(QLocale::English));
-    const QStringList names {
-        QStringLiteral("Zapfino"), QStringLiteral("éclair"), QStringLiteral("Eclair"),
-        QStringLiteral("eclair"), QString(), QStringLiteral("明朝"), QStringLiteral("A-b"),
-        QStringLiteral("ab"), QString(300, u'x')};
+    const QStringList names{QStringLiteral("Zapfino"),
+                            QStringLiteral("éclair"),
+                            QStringLiteral("Eclair"),
+                            QStringLiteral("eclair"),
+                            QString(),
+                            QStringLiteral("明朝"),
+                            QStringLiteral("A-b"),
+                            QStringLiteral("ab"),
+                            QString(300, u'x')};
     for (const QString &left : names) {
         for (const QString &right : names) {
             const int byKey = collator.sortKey(left).compare(collator.sortKey(right));

@@ -11,14 +11,15 @@ namespace lorva {
 
 namespace {
 
-struct TextCase {
+struct TextCase
+{
     QString text;
     const char *json;
 };
 
 TEST(JsonWriter, EscapesWhatJsonRequires)
 {
-    const TextCase cases[] {
+    const TextCase cases[]{
         {QString(), R"("")"},
         {QStringLiteral("plain / text"), R"("plain / text")"},
         {QStringLiteral("\"quoted\" \\ back"), R"("\"quoted\" \\ back")"},
@@ -34,8 +35,9 @@ TEST(JsonWriter, EscapesWhatJsonRequires)
         EXPECT_EQ(encodeJson(each.text).toStdString(), each.json);
         const Result<QString> back = decodeJson<QString>(encodeJson(each.text));
         ASSERT_TRUE(back);
-        if (each.text.isValidUtf16())
+        if (each.text.isValidUtf16()) {
             EXPECT_EQ(*back, each.text);
+        }
     }
 }
 
@@ -85,9 +87,9 @@ TEST(JsonWriter, NestsAndSeparates)
 
 TEST(JsonWriter, MapsAreWrittenByKey)
 {
-    const QHash<QString, QStringList> map {{QStringLiteral("z"), {}},
-                                           {QStringLiteral("a"), {QStringLiteral("1")}},
-                                           {QStringLiteral("é"), {}}};
+    const QHash<QString, QStringList> map{{QStringLiteral("z"), {}},
+                                          {QStringLiteral("a"), {QStringLiteral("1")}},
+                                          {QStringLiteral("é"), {}}};
     EXPECT_EQ(encodeJson(map).toStdString(), R"({"a":["1"],"z":[],"é":[]})");
     const auto back = decodeJson<QHash<QString, QStringList>>(encodeJson(map));
     ASSERT_TRUE(back);

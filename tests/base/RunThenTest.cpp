@@ -105,8 +105,8 @@ TEST_F(RunThen, AGuardThatDiesBeforeTheDeliveryGetsNone)
 
 TEST_F(RunThen, CancellingStopsTheWorkAndTheDelivery)
 {
-    RunHandle handle
-        = runThen(pool, guard.get(), heldWork(), [this](int result) { delivered = result; });
+    RunHandle handle =
+        runThen(pool, guard.get(), heldWork(), [this](int result) { delivered = result; });
     hasBegun.acquire();
     handle.cancel();
     finish();
@@ -118,8 +118,8 @@ TEST_F(RunThen, CancellingStopsTheWorkAndTheDelivery)
 
 TEST_F(RunThen, CancellingAfterTheWorkStillHoldsTheDeliveryBack)
 {
-    RunHandle handle
-        = runThen(pool, guard.get(), heldWork(), [this](int result) { delivered = result; });
+    RunHandle handle =
+        runThen(pool, guard.get(), heldWork(), [this](int result) { delivered = result; });
     mayGoOn.release();
     pool.waitForDone();
     handle.cancel();
@@ -154,14 +154,18 @@ TEST_F(RunThen, DoneMayDestroyTheGuard)
 
 TEST_F(RunThen, WhatDoneHoldsDiesOnTheGuardsThread)
 {
-    struct Witness {
+    struct Witness
+    {
         std::atomic<int> *diedOnMain;
-        explicit Witness(std::atomic<int> *where) : diedOnMain(where) { }
+        explicit Witness(std::atomic<int> *where)
+            : diedOnMain(where)
+        {
+        }
         ~Witness() { *diedOnMain = isMainThread() ? 1 : 2; }
     };
     std::atomic<int> diedOnMain = 0;
     runThen(pool, guard.get(), heldWork(),
-            [witness = std::make_shared<Witness>(&diedOnMain)](int) { });
+            [witness = std::make_shared<Witness>(&diedOnMain)](int) {});
     hasBegun.acquire();
     guard.reset();
     EXPECT_EQ(diedOnMain, 1);

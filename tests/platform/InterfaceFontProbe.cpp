@@ -76,7 +76,7 @@ int main(int argc, char **argv)
         out << ' ' << QRawFont::fromFont(font).weight();
     }
     out << '\n';
-    out << "families: " << QFontDatabase::families().size() << '\n';
+    out << "families: " << QFontDatabase::families().join(u';') << '\n';
     for (int i = 2; i < argc; ++i)
         out << "missing " << argv[i] << ": " << missingGlyphs(QString::fromUtf8(argv[i])) << '\n';
     return 0;

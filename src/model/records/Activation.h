@@ -18,8 +18,8 @@ public:
     /// Inactive.
     FontFamilyActivation() = default;
     static FontFamilyActivation inactive() { return {}; }
-    /// No method: active without a recorded one, as a system family is. Mixed: only some of the family's
-    /// styles are active.
+    /// No method: active without a recorded one, as a system family is. Mixed: only some of the
+    /// family's styles are active.
     static FontFamilyActivation active(std::optional<InstallMethod> method, bool isMixed)
     {
         return {true, method, isMixed};
@@ -33,7 +33,9 @@ public:
 
 private:
     FontFamilyActivation(bool isActive, std::optional<InstallMethod> method, bool isMixed)
-        : m_isActive(isActive), m_method(method), m_isMixed(isMixed)
+        : m_isActive(isActive)
+        , m_method(method)
+        , m_isMixed(isMixed)
     {
     }
 

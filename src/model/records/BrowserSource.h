@@ -9,7 +9,8 @@
 
 namespace lorva {
 
-/// What the browser lists: all, active or inactive fonts, one grouping by its id, or the Discover page.
+/// What the browser lists: all, active or inactive fonts, one grouping by its id, or the Discover
+/// page.
 ///
 /// A value that serves as a key. Always true: `id` is empty but for style, collection and foundry.
 class BrowserSource
@@ -47,7 +48,11 @@ public:
     }
 
 private:
-    BrowserSource(Kind kind, QString id) : m_kind(kind), m_id(std::move(id)) { }
+    BrowserSource(Kind kind, QString id)
+        : m_kind(kind)
+        , m_id(std::move(id))
+    {
+    }
 
     Kind m_kind = Kind::allFonts;
     QString m_id;
@@ -56,6 +61,7 @@ private:
 } // namespace lorva
 
 template <>
-struct std::hash<lorva::BrowserSource> {
+struct std::hash<lorva::BrowserSource>
+{
     size_t operator()(const lorva::BrowserSource &source) const noexcept { return qHash(source); }
 };

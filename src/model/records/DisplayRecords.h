@@ -11,8 +11,8 @@ namespace lorva {
 
 /// What specimens are drawn on. The numbers are stored.
 enum class ColorMode { white = 0, black = 1, custom = 2, image = 3 };
-inline constexpr ColorMode kAllColorModes[] {ColorMode::white, ColorMode::black, ColorMode::custom,
-                                             ColorMode::image};
+inline constexpr ColorMode kAllColorModes[]{ColorMode::white, ColorMode::black, ColorMode::custom,
+                                            ColorMode::image};
 
 /// The mode stored as `number`; nothing for any other integer.
 constexpr std::optional<ColorMode> colorModeFromNumber(qint64 number)
@@ -23,10 +23,11 @@ constexpr std::optional<ColorMode> colorModeFromNumber(qint64 number)
 }
 
 enum class ViewMode { grid, list };
-inline constexpr ViewMode kAllViewModes[] {ViewMode::grid, ViewMode::list};
+inline constexpr ViewMode kAllViewModes[]{ViewMode::grid, ViewMode::list};
 
 /// The logo shown beside preview text.
-struct LogoConfiguration {
+struct LogoConfiguration
+{
     /// The image file's bytes as imported.
     QByteArray imageData;
     /// Logo height relative to the text size.
@@ -38,7 +39,8 @@ struct LogoConfiguration {
 };
 
 /// Display settings kept per browser source. An absent field means that the global value applies.
-struct SourceDisplaySettings {
+struct SourceDisplaySettings
+{
     std::optional<ColorMode> colorMode;
     /// "#" and six hexadecimal digits, as all colours here.
     std::optional<QString> customForegroundColorHex;

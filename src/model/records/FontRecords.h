@@ -14,12 +14,13 @@
 namespace lorva {
 
 enum class WritingScript { latin, japanese, korean, simplifiedChinese, traditionalChinese };
-inline constexpr WritingScript kAllWritingScripts[] {
+inline constexpr WritingScript kAllWritingScripts[]{
     WritingScript::latin, WritingScript::japanese, WritingScript::korean,
     WritingScript::simplifiedChinese, WritingScript::traditionalChinese};
 
 /// One face (style) of a family.
-struct FontStyleRecord {
+struct FontStyleRecord
+{
     QString id;
     QString label;
     QString postScriptName;
@@ -33,7 +34,8 @@ struct FontStyleRecord {
 };
 
 /// One family of the catalog. `familyName` is its identity everywhere.
-struct FontFamilyRecord {
+struct FontFamilyRecord
+{
     QString familyName;
     std::vector<FontStyleRecord> styles;
     /// Absent until identified.
@@ -45,7 +47,8 @@ struct FontFamilyRecord {
 };
 
 /// The styles of one width or optical size of a family; not persisted.
-struct FontVariant {
+struct FontVariant
+{
     QString label;
     QString familyName;
     std::vector<FontStyleRecord> styles;

@@ -7,11 +7,12 @@
 
 namespace lorva {
 
-// Three records of one shape. They are types of their own so that a foundry never lands in a list of
-// collections.
+// Three records of one shape. They are types of their own so that a foundry never lands in a list
+// of collections.
 
 /// A collection that the user made.
-struct FontCollectionRecord {
+struct FontCollectionRecord
+{
     QString id;
     /// As shown in the sidebar.
     QString name;
@@ -22,7 +23,8 @@ struct FontCollectionRecord {
 };
 
 /// A style category: Serif, Sans-Serif, …
-struct FontStyleCategoryRecord {
+struct FontStyleCategoryRecord
+{
     QString id;
     QString name;
     QStringList familyNames;
@@ -31,7 +33,8 @@ struct FontStyleCategoryRecord {
 };
 
 /// The families of one foundry.
-struct FoundryCollectionRecord {
+struct FoundryCollectionRecord
+{
     QString id;
     QString name;
     QStringList familyNames;

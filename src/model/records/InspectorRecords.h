@@ -10,7 +10,8 @@
 namespace lorva {
 
 /// What the inspector says about one face.
-struct FontMetadataInfo {
+struct FontMetadataInfo
+{
     QString familyName;
     QString styleName;
     QString postScriptName;
@@ -27,7 +28,8 @@ struct FontMetadataInfo {
 };
 
 /// One layout feature that a face offers.
-struct OpenTypeFeatureRecord {
+struct OpenTypeFeatureRecord
+{
     QString id;
     QString name;
     /// The heading under which it is listed.
@@ -45,7 +47,8 @@ struct OpenTypeFeatureRecord {
 };
 
 /// One axis of a variable face. Values are in the axis's own units.
-struct FontVariationAxisRecord {
+struct FontVariationAxisRecord
+{
     QString id;
     QString name;
     /// Four characters, the first in the highest byte: 0x77676874 is "wght".
@@ -58,15 +61,16 @@ struct FontVariationAxisRecord {
     bool operator==(const FontVariationAxisRecord &) const = default;
     friend size_t qHash(const FontVariationAxisRecord &record, size_t seed = 0)
     {
-        return qHashMulti(seed, record.id, record.name, record.tag, record.minValue, record.maxValue,
-                          record.defaultValue, record.currentValue);
+        return qHashMulti(seed, record.id, record.name, record.tag, record.minValue,
+                          record.maxValue, record.defaultValue, record.currentValue);
     }
 };
 
 } // namespace lorva
 
 template <>
-struct std::hash<lorva::OpenTypeFeatureRecord> {
+struct std::hash<lorva::OpenTypeFeatureRecord>
+{
     size_t operator()(const lorva::OpenTypeFeatureRecord &record) const noexcept
     {
         return qHash(record);
@@ -74,7 +78,8 @@ struct std::hash<lorva::OpenTypeFeatureRecord> {
 };
 
 template <>
-struct std::hash<lorva::FontVariationAxisRecord> {
+struct std::hash<lorva::FontVariationAxisRecord>
+{
     size_t operator()(const lorva::FontVariationAxisRecord &record) const noexcept
     {
         return qHash(record);

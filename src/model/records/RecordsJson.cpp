@@ -8,7 +8,7 @@ namespace {
 
 using SourceKind = BrowserSource::Kind;
 
-constexpr std::pair<WritingScript, std::string_view> kScriptNames[] {
+constexpr std::pair<WritingScript, std::string_view> kScriptNames[]{
     {WritingScript::latin, "latin"},
     {WritingScript::japanese, "japanese"},
     {WritingScript::korean, "korean"},
@@ -16,19 +16,19 @@ constexpr std::pair<WritingScript, std::string_view> kScriptNames[] {
     {WritingScript::traditionalChinese, "traditionalChinese"},
 };
 
-constexpr std::pair<InstallMethod, std::string_view> kMethodNames[] {
+constexpr std::pair<InstallMethod, std::string_view> kMethodNames[]{
     {InstallMethod::copy, "copy"},
     {InstallMethod::registerInPlace, "register"},
 };
 
-constexpr std::pair<ViewMode, std::string_view> kViewModeNames[] {
+constexpr std::pair<ViewMode, std::string_view> kViewModeNames[]{
     {ViewMode::grid, "grid"},
     {ViewMode::list, "list"},
 };
 
-constexpr std::pair<SourceKind, std::string_view> kSourceNames[] {
-    {SourceKind::allFonts, "allFonts"}, {SourceKind::active, "active"},
-    {SourceKind::inactive, "inactive"}, {SourceKind::style, "style"},
+constexpr std::pair<SourceKind, std::string_view> kSourceNames[]{
+    {SourceKind::allFonts, "allFonts"},     {SourceKind::active, "active"},
+    {SourceKind::inactive, "inactive"},     {SourceKind::style, "style"},
     {SourceKind::collection, "collection"}, {SourceKind::foundry, "foundry"},
     {SourceKind::discover, "discover"},
 };
@@ -66,9 +66,8 @@ void jsonFields(Fields &fields, Record &family)
 }
 
 template <class Record>
-concept GroupingRecord
-    = JsonRecordOf<Record, FontCollectionRecord> || JsonRecordOf<Record, FontStyleCategoryRecord>
-      || JsonRecordOf<Record, FoundryCollectionRecord>;
+concept GroupingRecord = JsonRecordOf<Record, FontCollectionRecord> || JsonRecordOf<
+    Record, FontStyleCategoryRecord> || JsonRecordOf<Record, FoundryCollectionRecord>;
 
 template <class Fields, GroupingRecord Record>
 void jsonFields(Fields &fields, Record &grouping)
@@ -123,9 +122,10 @@ void writeRecord(JsonWriter &out, const T &value)
 
 // --- BrowserSource ---
 
-/// What stands under a source's key. It is judged only once all keys are known: too many keys is the
-/// first thing to be wrong.
-struct SourcePayload {
+/// What stands under a source's key. It is judged only once all keys are known: too many keys is
+/// the first thing to be wrong.
+struct SourcePayload
+{
     bool isObject = false;
     bool hasId = false;
     bool isIdString = false;
@@ -173,7 +173,8 @@ void readJson(JsonReader &in, BrowserSource &out)
     SourceKind kind = SourceKind::allFonts;
     SourcePayload payload;
     in.readObject([&](std::string_view key) {
-        const auto named = fromJsonName<SourceKind>(kSourceNames, QByteArrayView(key.data(), qsizetype(key.size())));
+        const auto named = fromJsonName<SourceKind>(
+            kSourceNames, QByteArrayView(key.data(), qsizetype(key.size())));
         if (!named)
             return;
         ++found;

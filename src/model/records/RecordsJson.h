@@ -12,8 +12,8 @@
 namespace lorva {
 
 // The JSON forms of the records, for decodeJson() and encodeJson() alone and inside other types: an
-// object whose keys are the field names. Absent fields are left out. A record that does not decode is
-// never built in part.
+// object whose keys are the field names. Absent fields are left out. A record that does not decode
+// is never built in part.
 
 void readJson(JsonReader &in, FontStyleRecord &out);
 void writeJson(JsonWriter &out, const FontStyleRecord &value);

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace lorva {
@@ -121,7 +122,7 @@ public:
 
     void addFamily(const QByteArray &family)
     {
-        for (const Candidate &font : m_fontsOfFamily.value(family.toLower()))
+        for (const Candidate &font : fontsOfFamily(family.toLower()))
             m_files.insert(font.file);
     }
 
@@ -140,7 +141,7 @@ public:
     void addFallback(const char *language)
     {
         for (const QByteArray &family : familiesBehind(m_config, "sans-serif", language)) {
-            if (addNearestToRegular(m_fontsOfFamily.value(family), language))
+            if (addNearestToRegular(fontsOfFamily(family), language))
                 return;
         }
         addNearestToRegular(m_fonts, language);
@@ -149,7 +150,13 @@ public:
     std::set<QByteArray> takeFiles() { return std::move(m_files); }
 
 private:
-    bool addNearestToRegular(const std::vector<Candidate> &fonts, const char *language)
+    std::span<const Candidate> fontsOfFamily(const QByteArray &family) const
+    {
+        const auto found = m_fontsOfFamily.constFind(family);
+        return found == m_fontsOfFamily.cend() ? std::span<const Candidate>() : *found;
+    }
+
+    bool addNearestToRegular(std::span<const Candidate> fonts, const char *language)
     {
         const Candidate *nearest = nullptr;
         for (const Candidate &font : fonts) {

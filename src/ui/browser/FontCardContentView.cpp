@@ -145,15 +145,19 @@ void FontCardContentView::paintHairlines(QPainter &painter) const
     if (!m_configuration.isFirstRow)
         drawHairline(painter, rect(), Qt::TopEdge, color);
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    if (!m_configuration.isFirstColumn)
-        drawHairline(painter, rect(), mirrored ? Qt::RightEdge : Qt::LeftEdge, color);
+    if (m_configuration.isFirstColumn)
+        return;
+    // Below the upper line, so that the crossing is not darker than the lines.
+    const QRectF below =
+        QRectF(rect()).adjusted(0, m_configuration.isFirstRow ? 0 : 1 / devicePixelRatioF(), 0, 0);
+    drawHairline(painter, below, mirrored ? Qt::RightEdge : Qt::LeftEdge, color);
 }
 
 QRect FontCardContentView::systemTagRect() const
 {
     const QFontMetrics metrics(interfaceFont(InterfaceSize::tag));
     const int pillWidth = metrics.horizontalAdvance(tr("System")) + 2 * kTagPadding;
-    const QRect place(width() - spacing::k20 - pillWidth, spacing::k16 - 2, pillWidth, kTagHeight);
+    const QRect place(width() - spacing::k20 - pillWidth, spacing::k16, pillWidth, kTagHeight);
     return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 

@@ -16,12 +16,13 @@ namespace lorva {
 /// All that a specimen line needs to know: what to show, in which face, how.
 ///
 /// A value; workers read copies of it. Lengths are points.
-struct FontPreviewConfiguration {
+struct FontPreviewConfiguration
+{
     /// The user's sample text; may be blank, see specimenText().
     QString text;
     QString familyName;
-    /// The whole record rather than its label: a label alone does not name a file. Absent: the family's
-    /// default face.
+    /// The whole record rather than its label: a label alone does not name a file. Absent: the
+    /// family's default face.
     std::optional<FontStyleRecord> style;
     double pointSize = 36;
     TextAlignment alignment = TextAlignment::natural;

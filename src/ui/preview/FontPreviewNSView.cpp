@@ -17,9 +17,10 @@
 namespace lorva {
 
 /// What workers may look at; outlives the view.
-struct FontPreviewNSView::Shared {
+struct FontPreviewNSView::Shared
+{
     /// The generation whose font is wanted; 0 when nobody waits.
-    std::atomic<quint64> wantedGeneration {0};
+    std::atomic<quint64> wantedGeneration{0};
     std::mutex mutex;
     /// The view's present canvas, so that a worker paints for the size of now, not of the request.
     SpecimenCanvas canvas;
@@ -37,7 +38,8 @@ struct FontPreviewNSView::Shared {
 };
 
 /// A specimen as a worker made it.
-struct FontPreviewNSView::Delivery {
+struct FontPreviewNSView::Delivery
+{
     Specimen specimen;
     SpecimenImage image;
     SpecimenCanvas canvas;
@@ -71,6 +73,7 @@ FontPreviewNSView::FontPreviewNSView(std::shared_ptr<FontResolver> resolver, QWi
     : QWidget(parent)
     , m_resolver(std::move(resolver))
     , m_shared(std::make_shared<Shared>())
+    , m_fade(this)
 {
     installAccessibleFactory();
     setFocusPolicy(Qt::NoFocus);
@@ -114,14 +117,14 @@ void FontPreviewNSView::apply(const FontPreviewConfiguration &configuration)
         configuration.familyName, configuration.style, configuration.pointSize);
     if (cached) {
         *applied = true;
-        render(*cached, *late);
+        showFont(*cached, *late);
     } else if (configuration.prefersAsyncResolution) {
         enqueue(m_applyGeneration, applied, late);
     } else {
         *applied = true;
-        render(m_resolver->resolve(configuration.familyName, configuration.style,
-                                   configuration.pointSize),
-               *late);
+        showFont(m_resolver->resolve(configuration.familyName, configuration.style,
+                                     configuration.pointSize),
+                 *late);
     }
 
     *late = true;
@@ -141,7 +144,8 @@ void FontPreviewNSView::enqueue(quint64 generation, std::shared_ptr<bool> applie
     request.isWanted = [shared = m_shared, generation] {
         return shared->wantedGeneration == generation;
     };
-    request.prepare = [shared = m_shared, delivery, configuration = m_configuration](const Font &font) {
+    request.prepare = [shared = m_shared, delivery,
+                       configuration = m_configuration](const Font &font) {
         delivery->canvas = shared->currentCanvas();
         delivery->specimen = layOutSpecimen(configuration, font, delivery->canvas);
         delivery->image = paintSpecimen(delivery->specimen, configuration, delivery->canvas);
@@ -152,23 +156,23 @@ void FontPreviewNSView::enqueue(quint64 generation, std::shared_ptr<bool> applie
         if (!view || view->m_applyGeneration != generation)
             return;
         *applied = true;
-        view->render(face.font, *late);
+        view->showFont(face.font, *late);
         view->accept(*delivery);
     };
     m_resolver->resolveAsync(std::move(request));
 }
 
-void FontPreviewNSView::render(const Font &font, bool animated)
+void FontPreviewNSView::showFont(const Font &font, bool animated)
 {
     if (font.isNull()) {
         showNothing();
         return;
     }
     m_shared->wantedGeneration = 0;
-    m_specimenIsCurrent = m_specimenIsCurrent && m_currentFont == font
-        && differOnlyInColor(m_shown, m_configuration);
-    m_imageIsCurrent = m_imageIsCurrent && m_specimenIsCurrent
-        && m_shown.textColor == m_configuration.textColor;
+    m_specimenIsCurrent =
+        m_specimenIsCurrent && m_currentFont == font && differOnlyInColor(m_shown, m_configuration);
+    m_imageIsCurrent =
+        m_imageIsCurrent && m_specimenIsCurrent && m_shown.textColor == m_configuration.textColor;
     m_currentFont = font;
     m_shown = m_configuration;
     m_shownText = specimenText(m_shown.text, font, m_shown.primaryScript);

@@ -13,16 +13,18 @@
 
 namespace lorva {
 
-/// The specimen line of a font card: shows a text in a face, and nothing while the face is being loaded.
+/// The specimen line of a font card: shows a text in a face, and nothing while the face is being
+/// loaded.
 ///
-/// Every apply() supersedes the ones before: only the newest configuration's font is ever shown, and a card
-/// that is used again never shows its previous family. A font that had to be waited for fades in, unless
-/// the desktop asks for reduced motion. A font that arrives from a worker comes with its pixels; all others
-/// are painted here, when first needed, and again after a change of size, colour or device-pixel ratio.
+/// Every apply() supersedes the ones before: only the newest configuration's font is ever shown,
+/// and a card that is used again never shows its previous family. A font that had to be waited for
+/// fades in, unless the desktop asks for reduced motion. A font that arrives from a worker comes
+/// with its pixels; all others are painted here, when first needed, and again after a change of
+/// size, colour or device-pixel ratio.
 ///
 /// Thread: main. Workers only see copies of values, and what outlives the view.
-/// Failure: a face that could not be loaded shows the system font, and tool tip and accessible description
-/// say so.
+/// Failure: a face that could not be loaded shows the system font, and tool tip and accessible
+/// description say so.
 class FontPreviewNSView final : public QWidget
 {
     Q_OBJECT
@@ -54,7 +56,7 @@ private:
     SpecimenCanvas canvas() const;
     void beginGeneration();
     void enqueue(quint64 generation, std::shared_ptr<bool> applied, std::shared_ptr<bool> late);
-    void render(const Font &font, bool animated);
+    void showFont(const Font &font, bool animated);
     void accept(const Delivery &delivery);
     void showNothing();
     void startFade();

@@ -11,7 +11,10 @@ namespace {
 class ServiceFontResolver final : public FontResolver
 {
 public:
-    explicit ServiceFontResolver(FontLibraryService &service) : m_service(&service) { }
+    explicit ServiceFontResolver(FontLibraryService &service)
+        : m_service(&service)
+    {
+    }
 
     std::optional<Font> cachedFont(const QString &familyName,
                                    const std::optional<FontStyleRecord> &style,

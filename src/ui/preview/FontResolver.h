@@ -9,8 +9,8 @@
 
 namespace lorva {
 
-/// Where a specimen gets its font from: the three ways that FontLibraryService offers, behind an interface
-/// so that deliveries can be scripted in any order.
+/// Where a specimen gets its font from: the three ways that FontLibraryService offers, behind an
+/// interface so that deliveries can be scripted in any order.
 ///
 /// Thread: main.
 class FontResolver

@@ -21,8 +21,8 @@ bool isAlphabetic(char32_t scalar)
     return u_isUAlphabetic(UChar32(scalar));
 }
 
-/// The font's name alone would not do: different files share PostScript names, and a file may be replaced
-/// by another version while the program runs.
+/// The font's name alone would not do: different files share PostScript names, and a file may be
+/// replaced by another version while the program runs.
 QString memoKey(const Font &font, const QString &text)
 {
     const FontFace &face = *font.face();
@@ -68,7 +68,8 @@ QString reducedProbe(const Font &font, const QString &probe)
     return hasLetter ? kept.trimmed() : QString();
 }
 
-/// Typed by nobody on purpose: the texts a fresh window starts with, which every script replaces by its own.
+/// Typed by nobody on purpose: the texts a fresh window starts with, which every script replaces by
+/// its own.
 bool isPlaceholder(QStringView trimmed)
 {
     return trimmed == QLatin1String("Aa 123") || trimmed == QLatin1String("Aa");

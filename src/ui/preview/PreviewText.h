@@ -15,20 +15,22 @@ namespace lorva {
 /// The pangram shown for a blank sample text.
 QString defaultPangram(WritingScript script);
 
-/// The short text that stands for a script: shown for placeholders and for texts the font cannot draw.
+/// The short text that stands for a script: shown for placeholders and for texts the font cannot
+/// draw.
 QString coverageProbe(WritingScript script);
 
-/// The share (0 … 1) of the text's alphabetic scalars that the font has a glyph for; 1 for a text without
-/// any. Memoised for the 16,384 pairs of face and text asked for last.
+/// The share (0 … 1) of the text's alphabetic scalars that the font has a glyph for; 1 for a text
+/// without any. Memoised for the 16,384 pairs of face and text asked for last.
 double coverage(const Font &font, const QString &text);
 
-/// The probe, reduced to the letters that the font has where it lacks some; the whole probe where nothing
-/// would be left.
-/// A Hangul font without U+AE00, korean → "한 123"; a font of digits only, latin → "Aa 123".
+/// The probe, reduced to the letters that the font has where it lacks some; the whole probe where
+/// nothing would be left. A Hangul font without U+AE00, korean → "한 123"; a font of digits only,
+/// latin → "Aa 123".
 QString fallbackText(const Font &font, WritingScript script);
 
-/// What a specimen in `font` shows for the user's `sampleText`: blank → the pangram; "Aa 123", "Aa" and
-/// texts of which the font covers less than two thirds → the fallback; everything else as typed.
+/// What a specimen in `font` shows for the user's `sampleText`: blank → the pangram; "Aa 123", "Aa"
+/// and texts of which the font covers less than two thirds → the fallback; everything else as
+/// typed.
 QString specimenText(const QString &sampleText, const Font &font, WritingScript script);
 
 } // namespace lorva

@@ -13,7 +13,8 @@ namespace lorva {
 
 namespace {
 
-/// A logo scaled beyond this is painted straight onto the canvas, so that no ratio can ask for gigabytes.
+/// A logo scaled beyond this is painted straight onto the canvas, so that no ratio can ask for
+/// gigabytes.
 constexpr double kMaxScaledLogoDevicePx = 4096;
 /// Antialiasing reaches this far beyond the outlines.
 constexpr int kInkOutsetDevicePx = 2;
@@ -34,14 +35,15 @@ TextLayoutOptions layoutOptions(const FontPreviewConfiguration &configuration, d
     TextLayoutOptions options;
     options.width = std::max(1.0, width - 2 * kSpecimenMargin);
     options.alignment = configuration.alignment;
-    options.lineBreakMode
-        = configuration.singleLine ? LineBreakMode::truncateTail : LineBreakMode::wordWrap;
+    options.lineBreakMode =
+        configuration.singleLine ? LineBreakMode::truncateTail : LineBreakMode::wordWrap;
     options.maximumLines = configuration.singleLine ? 1 : 0;
     options.firstLineInset = inset;
     return options;
 }
 
-/// The logo's place in the layout's box: at the leading edge of the first line, centred on the cap height.
+/// The logo's place in the layout's box: at the leading edge of the first line, centred on the cap
+/// height.
 QRectF logoRectInLayout(const LayoutLine &line, QSizeF size, double capHeight)
 {
     const double left = line.origin.x() + (line.isRightToLeft ? line.width - size.width() : 0.0);
@@ -56,15 +58,17 @@ QRectF layoutBox(const TextLayout &layout)
     return QRectF(QPointF(0, 0), layout.size());
 }
 
-/// A line that stands alone in the middle is centred on its ink; side bearings, which differ from font to
-/// font, would push it off. Wrapped and truncated lines fill their measure and stay where they are.
+/// A line that stands alone in the middle is centred on its ink; side bearings, which differ from
+/// font to font, would push it off. Wrapped and truncated lines fill their measure and stay where
+/// they are.
 bool isCenteredOnInk(const FontPreviewConfiguration &configuration, const TextLayout &layout)
 {
     return configuration.alignment == TextAlignment::center && layout.lines().size() == 1
         && !layout.isTruncated();
 }
 
-/// Stems are upright and bars level: a baseline between two pixel rows would blur every bar of the line.
+/// Stems are upright and bars level: a baseline between two pixel rows would blur every bar of the
+/// line.
 double snapped(double points, double devicePixelRatio)
 {
     return std::round(points * devicePixelRatio) / devicePixelRatio;
@@ -122,10 +126,15 @@ void paintLogo(QImage &image, const QImage &logo, const QRectF &rect, const QCol
 {
     if (logo.isNull() || rect.isEmpty())
         return;
-    const QImage shape = scaledForCanvas(logo, rect.size(), image.devicePixelRatio());
+    const double ratio = image.devicePixelRatio();
+    const QImage shape = scaledForCanvas(logo, rect.size(), ratio);
+    // On whole device pixels, so that the scaled pixels are not filtered a second time.
+    const QPointF corner(snapped(rect.left(), ratio), snapped(rect.top(), ratio));
+    const bool isScaled = shape.size() != logo.size();
+    const QRectF target(corner, isScaled ? QSizeF(shape.size()) / ratio : rect.size());
     QPainter painter(&image);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(rect, tinted(shape, color), QRectF(shape.rect()));
+    painter.drawImage(target, tinted(shape, color), QRectF(shape.rect()));
 }
 
 } // namespace
@@ -149,13 +158,13 @@ Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Fon
         logo = logoSize(configuration.logoImage->size(), font.capHeight(),
                         configuration.logoSizeRatio);
     const double inset = hasLogo(configuration) ? logo.width() + logoGap(configuration, font) : 0.0;
-    specimen.layout = TextLayout(
-        specimen.text, font, layoutOptions(configuration, canvas.size.width(), inset));
+    specimen.layout =
+        TextLayout(specimen.text, font, layoutOptions(configuration, canvas.size.width(), inset));
 
     QRectF ink = specimen.layout.inkBounds();
     if (hasLogo(configuration) && !specimen.layout.lines().empty()) {
-        specimen.logoRect = logoRectInLayout(specimen.layout.lines().front(), logo,
-                                             font.capHeight());
+        specimen.logoRect =
+            logoRectInLayout(specimen.layout.lines().front(), logo, font.capHeight());
         ink = ink.united(specimen.logoRect);
     }
     specimen.origin = specimenOrigin(configuration, specimen.layout, ink, canvas);

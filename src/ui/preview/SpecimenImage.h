@@ -18,7 +18,8 @@ namespace lorva {
 inline constexpr double kSpecimenMargin = 20.0;
 
 /// The view that a specimen is made for.
-struct SpecimenCanvas {
+struct SpecimenCanvas
+{
     /// Points.
     QSize size;
     double devicePixelRatio = 1.0;
@@ -27,7 +28,8 @@ struct SpecimenCanvas {
 };
 
 /// A specimen, set and placed but not yet coloured. Rectangles are in points of the view, y down.
-struct Specimen {
+struct Specimen
+{
     /// The text that is shown, which may not be the user's.
     QString text;
     TextLayout layout;
@@ -40,18 +42,20 @@ struct Specimen {
 };
 
 /// The pixels of a specimen: only the part of the view that has ink, on whole device pixels.
-struct SpecimenImage {
+struct SpecimenImage
+{
     /// Premultiplied, of the canvas's device-pixel ratio; null when nothing is to be drawn.
     QImage image;
     /// The image's top left, in device pixels from the view's.
     QPoint devicePosition;
 };
 
-/// The size at which a logo of `imageSize` stands beside type of `capHeight`; heights under 1 count as 1.
+/// The size at which a logo of `imageSize` stands beside type of `capHeight`; heights under 1 count
+/// as 1.
 QSizeF logoSize(QSizeF imageSize, double capHeight, double sizeRatio);
 
-/// Sets the specimen: single lines within the margins, centred on their ink (not on their line box), the
-/// logo centred on the cap height. A null font gives an empty specimen.
+/// Sets the specimen: single lines within the margins, centred on their ink (not on their line
+/// box), the logo centred on the cap height. A null font gives an empty specimen.
 Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &font,
                         const SpecimenCanvas &canvas);
 

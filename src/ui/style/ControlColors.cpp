@@ -9,7 +9,7 @@ namespace lorva {
 namespace {
 
 constexpr double kBedAlpha = 0.09;
-constexpr double kShadowAlpha = 0.16;
+constexpr double kShadowAlpha = 0.24;
 constexpr double kFocusRingWidth = 2.0;
 
 } // namespace
@@ -20,11 +20,12 @@ ControlColors ControlColors::from(const QColor &foreground, const QColor &backgr
     ControlColors colors;
     colors.ink = controlColor(foreground, background);
     colors.bed = withAlpha(colors.ink, kBedAlpha);
-    // On a light ground paper-white stands out by its shadow; on a dark one by the ink's own colour.
+    // On a light ground paper-white stands out by its shadow; on a dark one by the ink's own
+    // colour.
     const bool isLightGround = contrastingNeutral(ground) == QColor(Qt::black);
     colors.raised = isLightGround ? QColor(Qt::white) : blended(colors.ink, ground);
-    colors.inkOnRaised
-        = controlColor(isLightGround ? colors.ink : blended(ground, Qt::black), colors.raised);
+    colors.inkOnRaised =
+        controlColor(isLightGround ? colors.ink : blended(ground, Qt::black), colors.raised);
     colors.shadow = withAlpha(Qt::black, kShadowAlpha);
     return colors;
 }

@@ -9,8 +9,10 @@ namespace lorva {
 
 /// The colours of a small control on a ground that the user chose.
 ///
-/// Always visible: where the foreground cannot be told from the ground, black or white takes its place.
-struct ControlColors {
+/// Always visible: where the foreground cannot be told from the ground, black or white takes its
+/// place.
+struct ControlColors
+{
     /// Symbols and texts.
     QColor ink;
     /// What is sunk into the ground: a slider's track, the bed of segments.

@@ -87,14 +87,15 @@ double contrastRatio(const QColor &a, const QColor &b)
 QColor contrastingNeutral(const QColor &background)
 {
     return contrastRatio(Qt::black, background) >= contrastRatio(Qt::white, background) ? Qt::black
-                                                                                         : Qt::white;
+                                                                                        : Qt::white;
 }
 
 QColor controlColor(const QColor &foreground, const QColor &background)
 {
     const QColor ground = blended(background, Qt::white);
     const QColor seen = blended(foreground, ground);
-    return contrastRatio(seen, ground) >= kControlContrast ? foreground : contrastingNeutral(ground);
+    return contrastRatio(seen, ground) >= kControlContrast ? foreground
+                                                           : contrastingNeutral(ground);
 }
 
 QColor hairlineColor(const QColor &foreground, const QColor &background)

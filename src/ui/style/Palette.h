@@ -6,10 +6,12 @@
 
 namespace lorva {
 
-// The colours of the interface. Pure functions but where they ask the desktop. Thread: any; main for those.
+// The colours of the interface. Pure functions but where they ask the desktop. Thread: any; main
+// for those.
 
 /// What sidebar, inspector, Discover, Settings and sheets are coloured with.
-struct NeutralColors {
+struct NeutralColors
+{
     QColor ground;
     QColor sidebar;
     QColor text;
@@ -30,8 +32,8 @@ QColor blended(const QColor &over, const QColor &ground);
 double contrastRatio(const QColor &a, const QColor &b);
 /// Black or white, whichever is seen better on `background`.
 QColor contrastingNeutral(const QColor &background);
-/// `foreground` where controls drawn in it can be seen on `background`, else black or white. A background
-/// that is not opaque is taken as it would be on white.
+/// `foreground` where controls drawn in it can be seen on `background`, else black or white. A
+/// background that is not opaque is taken as it would be on white.
 QColor controlColor(const QColor &foreground, const QColor &background);
 
 /// Lines between cards: 8.5 % of black on a white ground, 13 % of white on a black one, 20 % of the

@@ -54,8 +54,8 @@ protected:
 
     void paintEvent(QPaintEvent *) override
     {
-        const ControlColors colors
-            = ControlColors::from(m_control->m_foreground, m_control->m_background);
+        const ControlColors colors =
+            ControlColors::from(m_control->m_foreground, m_control->m_background);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QRectF box = QRectF(rect()).adjusted(kPadding, kPadding, -kPadding, -kPadding);

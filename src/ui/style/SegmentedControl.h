@@ -10,18 +10,19 @@ class QButtonGroup;
 
 namespace lorva {
 
-/// A row of segments of which one is chosen: 24 points high, in any foreground and background colour.
+/// A row of segments of which one is chosen: 24 points high, in any foreground and background
+/// colour.
 ///
-/// One stop of the tab key; the arrow keys choose. Each segment is a radio button to assistive technology.
-/// Thread: main.
+/// One stop of the tab key; the arrow keys choose. Each segment is a radio button to assistive
+/// technology. Thread: main.
 class SegmentedControl final : public QWidget
 {
     Q_OBJECT
 public:
     explicit SegmentedControl(QWidget *parent = nullptr);
 
-    /// Adds a segment that shows a symbol (see symbolImage()); `label` is its tool tip and its name for
-    /// assistive technology. Gives its index.
+    /// Adds a segment that shows a symbol (see symbolImage()); `label` is its tool tip and its name
+    /// for assistive technology. Gives its index.
     int addSegment(const QString &symbol, const QString &label);
     /// −1 while nothing is chosen.
     int currentIndex() const;

@@ -12,8 +12,8 @@
 
 Q_LOGGING_CATEGORY(symbolLog, "lorva.ui.symbols", QtWarningMsg)
 
-// Resources of a static library are only linked in when someone asks for them; the macro must stand outside
-// of every namespace.
+// Resources of a static library are only linked in when someone asks for them; the macro must stand
+// outside of every namespace.
 static void initSymbolResources()
 {
     Q_INIT_RESOURCE(symbols);

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+
+#include <span>
+
+namespace lorva::cli {
+
+// One command each: the words after its name in, the exit code out.
+
+int runListCommand(std::span<const QByteArray> words);
+int runInfoCommand(std::span<const QByteArray> words);
+int runSpecimenCommand(std::span<const QByteArray> words);
+
+} // namespace lorva::cli

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/FaceReport.h"
+
+namespace lorva::cli {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: lorvactl info [--json] FILE\n"
+    "\n"
+    "Shows the names, traits, variation axes and named instances of every face of a font file.\n"
+    "\n"
+    "  --json   one JSON object instead\n"
+    "  --help   show this help\n";
+
+int run(const FilePath &path, bool isJson)
+{
+    const auto report = reportFaces(path);
+    if (!report)
+        return fail(report.error().detail);
+    if (isJson)
+        print(QByteArray(faceReportJson(*report) + '\n'));
+    else
+        printText(faceReportText(*report));
+    return finish();
+}
+
+} // namespace
+
+int runInfoCommand(std::span<const QByteArray> words)
+{
+    using Value = OptionSpec::Value;
+    const Result<Arguments> arguments = Arguments::parse(
+        words, {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}});
+    if (!arguments)
+        return failUsage("info", arguments.error().detail);
+    if (arguments->has("--help") || arguments->has("-h")) {
+        print(kHelp);
+        return finish();
+    }
+    if (arguments->positional().size() != 1)
+        return failUsage("info", QStringLiteral("info takes one font file"));
+    return run(absolutePath(arguments->positional().front()), arguments->has("--json"));
+}
+
+} // namespace lorva::cli

@@ -1,0 +1,102 @@
+# SPDX-FileCopyrightText: 2026 The Lorva developers
+# SPDX-License-Identifier: MIT
+"""The house checks must find what they are there for: each case is a tree with one fault."""
+
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+SCRIPTS = pathlib.Path(__file__).resolve().parents[2] / "scripts"
+
+
+class CheckCase(unittest.TestCase):
+    def run_on(self, script, files):
+        with tempfile.TemporaryDirectory() as folder:
+            for name, text in files.items():
+                file = pathlib.Path(folder, name)
+                file.parent.mkdir(parents=True, exist_ok=True)
+                file.write_text(text, encoding="utf-8")
+            done = subprocess.run([sys.executable, SCRIPTS / script, folder], capture_output=True, text=True)
+            return done.returncode, done.stdout
+
+    def assert_found(self, script, files, *words):
+        code, output = self.run_on(script, files)
+        self.assertEqual(code, 1, output)
+        for word in words:
+            self.assertIn(word, output)
+
+    def assert_clean(self, script, files):
+        self.assertEqual(self.run_on(script, files), (0, ""))
+
+
+HOUSE = {
+    "base/Base.h": "#include <QString>\n",
+    "platform/linux/Fonts.h": '#include "base/Base.h"\n#include <fontconfig/fontconfig.h>\n',
+    "text/Face.h": "#include <hb.h>\n",
+    "model/records/Record.h": "",
+    "model/Model.h": '#include "model/records/Record.h"\n',
+    "model/Model.cpp": '#include "model/Model.h"\n#include "Model.moc"\n#include <sqlite3.h>\n',
+    "ui/style/Style.h": '#include "model/Model.h"\n#include <QWidget>\n',
+    "app/main.cpp": '#include "ui/style/Style.h"\n#include <QApplication>\n',
+    "cli/main.cpp": '#include "base/Base.h"\n#include <QTextLayout>\n',
+    "text/CMakeLists.txt": "lorva_add_module(lorva_text LINK lorva_base)\n",
+}
+
+
+class CheckLayers(CheckCase):
+    def assert_breaks(self, path, line, *words):
+        files = dict(HOUSE)
+        files[path] = files.get(path, "") + line + "\n"
+        self.assert_found("check-layers", files, "src/" + path, *words)
+
+    def test_sound_house_passes(self):
+        self.assert_clean("check-layers", HOUSE)
+
+    def test_upward_includes(self):
+        for path, included in [("base/Base.h", "platform/linux/Fonts.h"), ("text/Face.h", "model/records/Record.h"),
+                               ("model/records/Record.h", "model/Model.h"), ("model/Model.cpp", "ui/style/Style.h"),
+                               ("platform/linux/Fonts.h", "text/Face.h")]:
+            self.assert_breaks(path, f'#include "{included}"', "may not see")
+
+    def test_neighbours_do_not_see_each_other(self):
+        files = dict(HOUSE, **{"app/App.h": ""})
+        files["cli/main.cpp"] += '#include "app/App.h"\n'
+        self.assert_found("check-layers", files, "src/cli may not see src/app")
+
+    def test_evasive_paths(self):
+        self.assert_breaks("base/Base.h", '#include "../model/Model.h"', "path from src/")
+        self.assert_breaks("base/Base.h", '  #  include "Model.h"', "path from src/")
+        self.assert_breaks("base/Base.h", '#include "base/Missing.h"', "there is no")
+        self.assert_breaks("extra/Extra.h", "", "no folder of the house")
+
+    def test_widgets_below_the_interface(self):
+        for header in ["QWidget", "QtWidgets/QLabel", "QtWidgets", "QApplication", "QListView"]:
+            self.assert_breaks("model/Model.cpp", f"#include <{header}>", "without widgets")
+        self.assert_breaks("cli/main.cpp", "#include <QMessageBox>", "without widgets")
+
+    def test_c_libraries_in_headers(self):
+        for header in ["sqlite3.h", "hb-ot.h", "fontconfig/fontconfig.h", "unicode/ubidi.h"]:
+            self.assert_breaks("model/Model.h", f"#include <{header}>", "C library")
+
+    def test_upward_links(self):
+        self.assert_breaks("text/CMakeLists.txt", "target_link_libraries(lorva_text PRIVATE lorva_model)", "may not link")
+
+    def test_an_empty_tree_is_no_success(self):
+        self.assertEqual(self.run_on("check-layers", {})[0], 2)
+
+
+class CheckSleeps(CheckCase):
+    def test_sleeps_are_found(self):
+        for line in ["std::this_thread::sleep_for(1ms);", "QTest::qWait(50);", "usleep(10);", "::sleep(1);",
+                     "QThread::msleep(5);", "nanosleep(&t, nullptr);", "sleep_until(later);"]:
+            self.assert_found("check-sleeps", {"ui/Test.cpp": f"void f() {{ {line} }}\n"}, "ui/Test.cpp:1")
+
+    def test_waiting_is_not_sleeping(self):
+        self.assert_clean("check-sleeps", {"Test.cpp": "// no sleep_for( here\nwaitFor(done); QTest::qWaitFor(done);\n"
+                                                       "fox.sleep(); asleep();\n"})
+
+
+if __name__ == "__main__":
+    unittest.main()

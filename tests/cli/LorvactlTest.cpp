@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "model/records/RecordsJson.h"
+#include "support/FontBuilder.h"
+#include "support/TestHome.h"
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lorva {
+namespace {
+
+using test::FontBuilder;
+using test::TestHome;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Outcome
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray error;
+};
+
+Outcome finished(QProcess &process)
+{
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+Outcome lorvactl(const QStringList &arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(TestHome::instance().home().displayText());
+    process.start(QStringLiteral(LORVACTL_PATH), arguments);
+    return finished(process);
+}
+
+/// Through a shell, for arguments that are no text and for redirections.
+Outcome shell(const QString &script)
+{
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"),
+                  {QStringLiteral("-c"),
+                   QString(QStringLiteral("lorvactl() { " LORVACTL_PATH " \"$@\"; }; ") + script)});
+    return finished(process);
+}
+
+QString path(const FilePath &file)
+{
+    return QString::fromUtf8(file.bytes());
+}
+
+void expectFailure(const Outcome &outcome, int exitCode, const char *words)
+{
+    EXPECT_EQ(outcome.exitCode, exitCode) << outcome.error.constData();
+    EXPECT_THAT(outcome.error.toStdString(), StartsWith("lorvactl: "));
+    EXPECT_THAT(outcome.error.toStdString(), HasSubstr(words));
+    EXPECT_EQ(outcome.error.count('\n'), 1) << outcome.error.constData();
+    EXPECT_EQ(outcome.out, "");
+}
+
+FilePath font(const QByteArray &name, const FontBuilder &builder = FontBuilder("Foo", "Bold"))
+{
+    return test::writeFile(TestHome::instance().root().child("fonts"), name, builder.build());
+}
+
+TEST(Lorvactl, ExplainsItself)
+{
+    for (const QStringList &arguments :
+         {QStringList{"--help"}, QStringList{"list", "--help"}, QStringList{"info", "--help"},
+          QStringList{"specimen", "--help"}}) {
+        const Outcome outcome = lorvactl(arguments);
+        EXPECT_EQ(outcome.exitCode, 0);
+        EXPECT_THAT(outcome.out.toStdString(), StartsWith("Usage: lorvactl "));
+        EXPECT_EQ(outcome.error, "");
+    }
+    EXPECT_THAT(lorvactl({"--version"}).out.toStdString(), StartsWith("lorvactl " LORVA_VERSION));
+}
+
+TEST(Lorvactl, RefusesWhatItDoesNotUnderstand)
+{
+    expectFailure(lorvactl({}), 2, "a command is missing");
+    expectFailure(lorvactl({"lost"}), 2, "unknown command lost");
+    expectFailure(lorvactl({"list", "--bogus"}), 2, "unknown option --bogus");
+    expectFailure(lorvactl({"list", "--json=yes"}), 2, "--json takes no value");
+    expectFailure(lorvactl({"list", "--folder"}), 2, "--folder needs a value");
+    expectFailure(lorvactl({"list", "somewhere"}), 2, "--folder");
+    expectFailure(lorvactl({"info"}), 2, "one font file");
+    expectFailure(lorvactl({"info", "a", "b"}), 2, "one font file");
+    expectFailure(lorvactl({"specimen", "a.ttf"}), 2, "-o");
+}
+
+TEST(LorvactlList, ShowsTheSystemsAndTheFoldersFamiliesInOrder)
+{
+    test::writeFile(TestHome::instance().systemFonts(), "z.ttf",
+                    FontBuilder("zebra", "Bold").postScriptName("Z").build());
+    const FilePath folder = TestHome::instance().makeFolder("more");
+    test::writeFile(folder, "a.ttf", FontBuilder("Äpfel", "Light").postScriptName("A").build());
+    test::writeFile(folder, "b.ttf", FontBuilder("Birne", "Thin").postScriptName("B").build());
+    test::writeFile(folder, "c.ttf", FontBuilder("Birne", "Bold\nInjected: ok").build());
+    const Outcome outcome = lorvactl({"list", "--folder", path(folder)});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.error.constData();
+    EXPECT_EQ(outcome.error, "") << "no progress without a terminal";
+    EXPECT_THAT(outcome.out.toStdString(), StartsWith("Äpfel\tLight\nBirne\tThin, Bold"));
+    EXPECT_THAT(outcome.out.toStdString(), testing::EndsWith("\nzebra\tBold\n"));
+    EXPECT_EQ(outcome.out.count('\n'), 3);
+}
+
+TEST(LorvactlList, WritesRecordsAsJson)
+{
+    const FilePath folder = TestHome::instance().makeFolder("json");
+    const FilePath file = test::writeFile(folder, "sp ace.ttf",
+                                          FontBuilder("Foo", "Bold").postScriptName("F").build());
+    const Outcome outcome =
+        lorvactl({"list", "--json", QString(QStringLiteral("--folder=") + path(folder))});
+    EXPECT_EQ(outcome.exitCode, 0);
+    const auto families = decodeFamilies(outcome.out);
+    ASSERT_TRUE(families) << families.error().detail.toStdString();
+    FontFamilyRecord expected;
+    expected.familyName = "Foo";
+    expected.styles.push_back({"F", "Bold", "F", 700, false, file});
+    EXPECT_THAT(*families, testing::Contains(expected));
+}
+
+TEST(LorvactlList, FailsForAFolderThatIsNone)
+{
+    expectFailure(lorvactl({"list", "--folder", "/nowhere\nat all"}), 1, "no folder");
+    expectFailure(lorvactl({"list", "--folder", path(font("f.ttf"))}), 1, "is no folder");
+}
+
+TEST(LorvactlList, NoticesAFullDisk)
+{
+    font("x.ttf");
+    const Outcome outcome = shell("lorvactl list --help > /dev/full");
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.error.toStdString(), StartsWith("lorvactl: cannot write"));
+}
+
+TEST(LorvactlInfo, ShowsNamesTraitsAxesAndInstances)
+{
+    const FilePath file = font("v.ttf",
+                               FontBuilder("Foo", "Poster")
+                                   .postScriptName("Foo-Poster")
+                                   .manufacturer("Acme\x1b[31m\nCorp")
+                                   .weightClass(800)
+                                   .italic()
+                                   .axis("wght", 100, 400, 900)
+                                   .instance("Fat", {900}, "Foo-Fat"));
+    const Outcome text = lorvactl({"info", path(file)});
+    EXPECT_EQ(text.exitCode, 0) << text.error.constData();
+    for (const char *part : {"Foo", "Poster", "Foo-Poster", "Acme", "800", "yes", "wght",
+                             "100 … 900", "Fat (wght 900) Foo-Fat"})
+        EXPECT_THAT(text.out.toStdString(), HasSubstr(part));
+    EXPECT_FALSE(text.out.contains('\x1b')) << "a name must not drive the terminal";
+
+    const Outcome json = lorvactl({"info", "--json", path(file)});
+    EXPECT_EQ(json.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(json.out).object();
+    EXPECT_EQ(report["fileURL"].toString().toUtf8(), file.toUrl());
+    ASSERT_EQ(report["faces"].toArray().size(), 1);
+    const QJsonObject face = report["faces"].toArray()[0].toObject();
+    EXPECT_EQ(face["familyName"].toString(), "Foo");
+    EXPECT_EQ(face["isItalic"].toBool(), true);
+    EXPECT_EQ(face["axes"].toArray()[0].toObject()["maxValue"].toDouble(), 900);
+    EXPECT_EQ(face["instances"].toArray()[0].toObject()["name"].toString(), "Fat");
+}
+
+TEST(LorvactlInfo, ShowsEveryFaceOfACollection)
+{
+    const QByteArray bytes =
+        FontBuilder::collection({FontBuilder("One").build(), FontBuilder("Two").build()});
+    const FilePath file = test::writeFile(TestHome::instance().makeFolder("ttc"), "c.ttc", bytes);
+    const Outcome outcome = lorvactl({"info", path(file)});
+    EXPECT_THAT(outcome.out.toStdString(), HasSubstr("Face 0"));
+    EXPECT_THAT(outcome.out.toStdString(), HasSubstr("Two"));
+}
+
+TEST(LorvactlInfo, SaysInOneLineWhatIsWrong)
+{
+    const FilePath folder = TestHome::instance().makeFolder("bad");
+    const QByteArray sound = FontBuilder("Foo", "Bold").build();
+    ASSERT_EQ(::mkfifo(folder.child("fifo.ttf").c_str(), 0600), 0);
+    ASSERT_EQ(::symlink("loop.ttf", folder.child("loop.ttf").c_str()), 0);
+    test::writeFile(folder, "empty.ttf", {});
+    test::writeFile(folder, "text.ttf", "no font\n");
+    test::writeFile(folder, "line\nbreak.ttf", "no font");
+    test::writeFile(folder, "cut.ttf", sound.first(30));
+    const FilePath sparse = test::writeFile(folder, "sparse.ttf", sound);
+    ASSERT_EQ(::truncate(sparse.c_str(), off_t(5) << 30), 0);
+    test::writeFile(folder, "mute.ttf", FontBuilder().withoutNames().withoutCmap().build());
+    for (const char *name : {"fifo.ttf", "loop.ttf", "empty.ttf", "text.ttf", "line\nbreak.ttf",
+                             "cut.ttf", "sparse.ttf", "mute.ttf", "missing.ttf", "."})
+        expectFailure(lorvactl({"info", path(folder.child(name))}), 1, "bad");
+}
+
+TEST(LorvactlInfo, TakesFileNamesThatAreNoText)
+{
+    const QByteArray folder = TestHome::instance().makeFolder("bytes").bytes();
+    test::writeFile(FilePath(folder), "caf\xe9.ttf", FontBuilder("Bytes").build());
+    const QString cd = QStringLiteral("cd '%1' && ").arg(QString::fromUtf8(folder));
+    const Outcome info =
+        shell(QString(cd + QStringLiteral("lorvactl info \"$(printf 'caf\\351.ttf')\"")));
+    EXPECT_EQ(info.exitCode, 0) << info.error.constData();
+    EXPECT_THAT(info.out.toStdString(), HasSubstr("/caf\\xe9.ttf\n"));
+    const Outcome picture = shell(QString(
+        cd + QStringLiteral("lorvactl specimen -o \"$(printf 'p\\351.png')\" -- caf*.ttf")));
+    EXPECT_EQ(picture.exitCode, 0) << picture.error.constData();
+    EXPECT_FALSE(test::readFile(FilePath(folder).child("p\xe9.png")).isEmpty());
+}
+
+TEST(LorvactlSpecimen, DrawsTheTextInTheColours)
+{
+    const FilePath picture = TestHome::instance().home().child("specimen.png");
+    const Outcome outcome = lorvactl({"specimen", path(font("s.ttf")), "-o", "specimen.png",
+                                      "--text", "HH", "--size", "100", "--width", "300", "--height",
+                                      "200", "--color", "#ff0000", "--background", "#0000ff"});
+    ASSERT_EQ(outcome.exitCode, 0) << outcome.error.constData();
+    const QImage image(path(picture));
+    ASSERT_EQ(image.size(), QSize(300, 200));
+    int red = 0;
+    for (int y = 0; y < 200; ++y) {
+        for (int x = 0; x < 300; ++x)
+            red += image.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+    }
+    // Two boxes of 50 by 70 pixels.
+    EXPECT_NEAR(red, 7000, 500);
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(299, 199), QColor(Qt::blue));
+}
+
+TEST(LorvactlSpecimen, FitsThePictureToTheText)
+{
+    const QString file = path(font("s.ttf"));
+    ASSERT_EQ(lorvactl({"specimen", file, "-o", "one.png", "--text", "HHHH"}).exitCode, 0);
+    ASSERT_EQ(lorvactl({"specimen", file, "-o", "two.png", "--text", "HHHHHHHH", "--background",
+                        "transparent"})
+                  .exitCode,
+              0);
+    const QImage one(path(TestHome::instance().home().child("one.png")));
+    const QImage two(path(TestHome::instance().home().child("two.png")));
+    EXPECT_EQ(one.height(), two.height());
+    EXPECT_NEAR(two.width() - one.width(), 4 * 48 * 0.6, 2);
+    EXPECT_EQ(two.pixelColor(0, 0).alpha(), 0);
+}
+
+TEST(LorvactlSpecimen, TakesFacesAndInstances)
+{
+    const FilePath collection =
+        test::writeFile(TestHome::instance().makeFolder("faces"), "c.ttc",
+                        FontBuilder::collection({FontBuilder("One").advance('H', 600).build(),
+                                                 FontBuilder("Two").advance('H', 1200).build()}));
+    const auto widthOf = [&](const QStringList &options) {
+        const Outcome outcome = lorvactl(
+            QStringList{"specimen", path(collection), "-o", "f.png", "--text", "HHHH"} + options);
+        EXPECT_EQ(outcome.exitCode, 0) << outcome.error.constData();
+        return QImage(path(TestHome::instance().home().child("f.png"))).width();
+    };
+    EXPECT_GT(widthOf({"--face", "1"}), widthOf({"--face", "0"}) + 100);
+    expectFailure(lorvactl({"specimen", path(collection), "-o", "g.png", "--face", "2"}), 1,
+                  "c.ttc");
+
+    const FilePath variable = font(
+        "var.ttf", FontBuilder("Var").axis("wght", 100, 400, 900).instance("Extra Fat", {900}));
+    EXPECT_EQ(
+        lorvactl({"specimen", path(variable), "-o", "h.png", "--instance", "extra fat"}).exitCode,
+        0);
+    expectFailure(lorvactl({"specimen", path(variable), "-o", "i.png", "--instance", "Slim"}), 1,
+                  "no instance \"Slim\"");
+}
+
+TEST(LorvactlSpecimen, ChecksItsNumbersAndColours)
+{
+    const QString file = path(font("s.ttf"));
+    const QStringList wrong[]{
+        {"--size", "0"},       {"--size", "4097"},   {"--size", "nan"},
+        {"--width", "0"},      {"--width", "16385"}, {"--height", "x"},
+        {"--face", "-1"},      {"--color", "red"},   {"--background", "#12345"},
+        {"--color", "#gggggg"}};
+    for (const QStringList &options : wrong)
+        expectFailure(lorvactl(QStringList{"specimen", file, "-o", "n.png"} + options), 2,
+                      options[0].toUtf8().constData());
+    EXPECT_FALSE(QFile::exists(path(TestHome::instance().home().child("n.png"))));
+}
+
+TEST(LorvactlSpecimen, NeverWritesOverAFont)
+{
+    const FilePath file = font("keep.ttf");
+    const FilePath disguised = font("disguised.png");
+    const FilePath linked = TestHome::instance().home().child("linked.png");
+    ASSERT_EQ(::symlink(file.c_str(), linked.c_str()), 0);
+    const QByteArray before = test::readFile(file);
+    for (const FilePath &picture : {file, disguised, linked, file.parent().child("new.otf")})
+        expectFailure(lorvactl({"specimen", path(file), "-o", path(picture)}), 1, "over a font");
+    EXPECT_EQ(test::readFile(file), before);
+    EXPECT_EQ(test::readFile(disguised), before);
+    expectFailure(lorvactl({"specimen", path(file), "-o", "/nowhere/x.png"}), 1, "/nowhere");
+}
+
+} // namespace
+} // namespace lorva
