@@ -13,13 +13,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <chrono>
+#include <time.h>
 
 using namespace lorva;
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 const std::vector<FilePath> &installedFonts()
 {
@@ -39,6 +37,13 @@ const std::vector<FilePath> &installedFonts()
     return files;
 }
 
+double threadMicroseconds()
+{
+    timespec now {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e6 + double(now.tv_nsec) / 1e3;
+}
+
 /// Microseconds per sample; told as median, 95th percentile and worst.
 class Samples
 {
@@ -46,10 +51,9 @@ public:
     template <class Work>
     void time(Work work)
     {
-        const auto start = Clock::now();
+        const double start = threadMicroseconds();
         work();
-        m_microseconds.push_back(
-            std::chrono::duration<double, std::micro>(Clock::now() - start).count());
+        m_microseconds.push_back(threadMicroseconds() - start);
     }
 
     void report(benchmark::State &state)

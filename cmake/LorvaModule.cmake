@@ -34,8 +34,9 @@ set(_lorva_core_headers
 _lorva_add_pch(core HEADERS ${_lorva_core_headers})
 _lorva_add_pch(widgets LINK Qt6::Widgets HEADERS ${_lorva_core_headers} <QtGui> <QtWidgets>)
 if(LORVA_BUILD_TESTS)
-  _lorva_add_pch(test LINK GTest::gtest GTest::gmock
-    HEADERS ${_lorva_core_headers} <gtest/gtest.h> <gmock/gmock.h>)
+  set(_lorva_test_headers ${_lorva_core_headers} "${PROJECT_SOURCE_DIR}/tests/support/QtPrinters.h"
+                          <gtest/gtest.h> <gmock/gmock.h>)
+  _lorva_add_pch(test LINK GTest::gtest GTest::gmock HEADERS ${_lorva_test_headers})
 endif()
 
 # lorva_add_module(name [WIDGETS] SOURCES … [LINK …] [PRIVATE_LINK …])
@@ -69,6 +70,9 @@ function(lorva_add_tests name)
                                         GTest::gtest GTest::gmock)
   if(ARG_WIDGETS)
     target_link_libraries(${name} PRIVATE Qt6::Widgets Qt6::Test)
+    # Its own: Qt's test module defines a macro with the folder of each target.
+    target_precompile_headers(${name} PRIVATE ${_lorva_test_headers} <QtWidgets>
+                              "${PROJECT_SOURCE_DIR}/tests/support/QtTestMacros.h")
   else()
     target_precompile_headers(${name} REUSE_FROM lorva_pch_test)
   endif()

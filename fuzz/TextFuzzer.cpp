@@ -16,7 +16,7 @@ using namespace lorva;
 namespace {
 
 /// Faces beyond these cost time and reach no new code.
-constexpr size_t kFacesTried = 4;
+constexpr size_t kFacesTried = 2;
 
 /// A file without a name on any disk, with the bytes given.
 class MemoryFile

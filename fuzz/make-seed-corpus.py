@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The Lorva developers
 # SPDX-License-Identifier: MIT
 """Gathers a seed corpus of small fonts of every kind into a folder.

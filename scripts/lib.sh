@@ -31,6 +31,7 @@ packages_test="
   python3               the check of the floors
   libgtest-dev          runs every test
   libgmock-dev          matchers
+  libharfbuzz-bin       hb-shape, whose answers shaping is compared with
 "
 packages_fonts="
   fonts-noto-cjk        collections, Chinese, Japanese and Korean, big files
@@ -60,7 +61,7 @@ packages_bench="
 packages_fuzz="
   clang                 brings libFuzzer
   libclang-rt-dev       libFuzzer's and the sanitizers' libraries
-  python3               gathers the seed corpus
+  python3-fonttools     cuts real fonts down to a seed corpus
 "
 packages_format="
   git                   says which files are ours

@@ -6,6 +6,12 @@
 
 namespace lorva {
 
+MainThreadQueue::MainThreadQueue(QObject *parent)
+    : QObject(parent)
+{
+    connect(this, &MainThreadQueue::posted, this, &MainThreadQueue::drain, Qt::QueuedConnection);
+}
+
 void MainThreadQueue::post(std::function<void()> work)
 {
     {
@@ -14,12 +20,7 @@ void MainThreadQueue::post(std::function<void()> work)
         if (std::exchange(m_isScheduled, true))
             return;
     }
-    scheduleDrain();
-}
-
-void MainThreadQueue::scheduleDrain()
-{
-    QMetaObject::invokeMethod(this, &MainThreadQueue::drain, Qt::QueuedConnection);
+    Q_EMIT posted();
 }
 
 std::function<void()> MainThreadQueue::takeFirst()

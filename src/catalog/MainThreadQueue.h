@@ -18,14 +18,17 @@ class MainThreadQueue final : public QObject
 {
     Q_OBJECT
 public:
-    using QObject::QObject;
+    explicit MainThreadQueue(QObject *parent = nullptr);
 
     /// Thread: any.
     void post(std::function<void()> work);
 
+Q_SIGNALS:
+    /// Thread: whichever posts.
+    void posted();
+
 private:
     void drain();
-    void scheduleDrain();
     std::function<void()> takeFirst();
 
     std::mutex m_lock;

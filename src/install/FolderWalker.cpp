@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <memory>
 
 #include <dirent.h>
@@ -17,10 +16,12 @@
 
 namespace lorva {
 
-struct FolderWalker::Entry {
+struct FolderWalker::Entry
+{
     QByteArray name;
     bool isFolder = false;
-    /// A link is followed on purpose; what the listing called a folder must still be one when opened.
+    /// A link is followed on purpose; what the listing called a folder must still be one when
+    /// opened.
     bool isLink = false;
 };
 
@@ -31,8 +32,8 @@ constexpr int kOpenFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | O_N
 /// Neither looked at nor descended into.
 bool isSkippedFolderName(const QByteArray &name)
 {
-    static constexpr std::array<QByteArrayView, 5> kPackageExtensions {
-        "app", "bundle", "framework", "plugin", "pkg"};
+    static constexpr std::array<QByteArrayView, 5> kPackageExtensions{"app", "bundle", "framework",
+                                                                      "plugin", "pkg"};
     if (name == kRegisteredLinksFolderName)
         return true;
     if (!name.contains('.'))
@@ -41,7 +42,8 @@ bool isSkippedFolderName(const QByteArray &name)
     return std::ranges::count(kPackageExtensions, QByteArrayView(extension)) > 0;
 }
 
-struct CloseFolder {
+struct CloseFolder
+{
     void operator()(DIR *folder) const { ::closedir(folder); }
 };
 using FolderStream = std::unique_ptr<DIR, CloseFolder>;
@@ -125,7 +127,7 @@ std::vector<FolderWalker::Entry> FolderWalker::readEntries(int descriptor) const
         const unsigned char own = entryType(descriptor, *found);
         const bool isLink = own == DT_LNK;
         const unsigned char type = isLink ? targetType(descriptor, found->d_name) : own;
-        Entry entry {found->d_name, type == DT_DIR, isLink};
+        Entry entry{found->d_name, type == DT_DIR, isLink};
         if (entry.isFolder ? !isSkippedFolderName(entry.name)
                            : type == DT_REG && isFontFileName(FilePath(entry.name)))
             entries.push_back(std::move(entry));
@@ -134,7 +136,8 @@ std::vector<FolderWalker::Entry> FolderWalker::readEntries(int descriptor) const
     return entries;
 }
 
-void FolderWalker::takeEntry(int parent, const QByteArray &parentPath, const Entry &entry, int depth)
+void FolderWalker::takeEntry(int parent, const QByteArray &parentPath, const Entry &entry,
+                             int depth)
 {
     const QByteArray path = parentPath.endsWith('/') ? QByteArray(parentPath + entry.name)
                                                      : QByteArray(parentPath + '/' + entry.name);

@@ -12,19 +12,20 @@
 
 namespace lorva {
 
-/// Walks folders for font files by the rules of fontFilesInFolder(); several walks by one walker share
-/// what they have seen, so that overlapping folders give each real folder's files once.
+/// Walks folders for font files by the rules of fontFilesInFolder(); several walks by one walker
+/// share what they have seen, so that overlapping folders give each real folder's files once.
 ///
-/// Names are bytes from directory entry to system call. The kernel's entry types save a stat for all but
-/// links and folders. Bounded: at most kMaxDepth nested folders, each of which holds a descriptor open.
-/// Thread: any, one at a time per object.
+/// Names are bytes from directory entry to system call. The kernel's entry types save a stat for
+/// all but links and folders. Bounded: at most kMaxDepth nested folders, each of which holds a
+/// descriptor open. Thread: any, one at a time per object.
 class FolderWalker
 {
 public:
     /// No library is nested like this; what lies deeper is left out.
     static constexpr int kMaxDepth = 128;
 
-    struct File {
+    struct File
+    {
         FilePath path;
         /// The entry is a link to the file.
         bool isLink = false;

@@ -4,14 +4,14 @@
 
 #include "install/FolderWalker.h"
 
-#include <array>
 #include <algorithm>
+#include <array>
 
 namespace lorva {
 
 bool isFontFileName(const FilePath &path)
 {
-    static constexpr std::array<QByteArrayView, 5> kExtensions {"otf", "ttf", "ttc", "otc", "dfont"};
+    static constexpr std::array<QByteArrayView, 5> kExtensions{"otf", "ttf", "ttc", "otc", "dfont"};
     return std::ranges::count(kExtensions, QByteArrayView(path.lowerCaseExtension())) > 0;
 }
 

@@ -27,8 +27,8 @@ private:
     std::set<std::pair<quint64, quint64>> m_seen;
 };
 
-/// Folders are never walked twice, so only links can give a file again. The common library has no links
-/// to files, and pays nothing.
+/// Folders are never walked twice, so only links can give a file again. The common library has no
+/// links to files, and pays nothing.
 void dropRepeatingLinks(std::vector<FolderWalker::File> &files)
 {
     if (std::ranges::none_of(files, &FolderWalker::File::isLink))
@@ -38,9 +38,8 @@ void dropRepeatingLinks(std::vector<FolderWalker::File> &files)
         if (!file.isLink)
             seen.add(file.path);
     }
-    std::erase_if(files, [&](const FolderWalker::File &file) {
-        return file.isLink && !seen.add(file.path);
-    });
+    std::erase_if(
+        files, [&](const FolderWalker::File &file) { return file.isLink && !seen.add(file.path); });
 }
 
 } // namespace

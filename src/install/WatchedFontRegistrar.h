@@ -15,9 +15,9 @@ namespace lorva {
 class WatchedFontRegistrar
 {
 public:
-    /// The font files of all `folders`, in the order given and within one in the order of its walk (see
-    /// fontFilesInFolder()). Folders that overlap, also through links, give each real file once; a link
-    /// to a file gives way to the file itself.
+    /// The font files of all `folders`, in the order given and within one in the order of its walk
+    /// (see fontFilesInFolder()). Folders that overlap, also through links, give each real file
+    /// once; a link to a file gives way to the file itself.
     std::vector<FilePath> fontFiles(const std::vector<FilePath> &folders,
                                     std::stop_token stop = {}) const;
 };

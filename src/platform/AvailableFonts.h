@@ -18,9 +18,9 @@ class AvailableFonts
 public:
     virtual ~AvailableFonts() = default;
 
-    /// The distinct font files, sorted bytewise by path, so that "the first met wins" is the same at
-    /// every scan. `found`, if any, is told the running count now and then. A system without fonts gives
-    /// an empty list. Ends early with what it has when `stop` is requested.
+    /// The distinct font files, sorted bytewise by path, so that "the first met wins" is the same
+    /// at every scan. `found`, if any, is told the running count now and then. A system without
+    /// fonts gives an empty list. Ends early with what it has when `stop` is requested.
     virtual std::vector<FilePath> fontFiles(const std::function<void(int)> &found,
                                             std::stop_token stop) const = 0;
 };
@@ -29,7 +29,8 @@ public:
 class NoAvailableFonts final : public AvailableFonts
 {
 public:
-    std::vector<FilePath> fontFiles(const std::function<void(int)> &, std::stop_token) const override
+    std::vector<FilePath> fontFiles(const std::function<void(int)> &,
+                                    std::stop_token) const override
     {
         return {};
     }
@@ -39,7 +40,8 @@ public:
 class SystemFontLocator
 {
 public:
-    struct Location {
+    struct Location
+    {
         FilePath path;
         int faceIndex = 0;
     };

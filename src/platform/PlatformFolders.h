@@ -12,9 +12,10 @@ namespace lorva {
 /// What lies there is our own book-keeping, not a place where fonts live: walks leave it out.
 inline constexpr char kRegisteredLinksFolderName[] = "lorva-registered";
 
-/// The folders that matter to a font manager, as values, so that rules about them are tested with any
-/// paths.
-struct PlatformFolders {
+/// The folders that matter to a font manager, as values, so that rules about them are tested with
+/// any paths.
+struct PlatformFolders
+{
     FilePath home;
     /// Where a user's own fonts go.
     FilePath userFonts;

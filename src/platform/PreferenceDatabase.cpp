@@ -6,8 +6,6 @@
 #include <QLoggingCategory>
 
 #include <array>
-#include <cerrno>
-#include <cstdio>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -34,7 +32,8 @@ void makeFolders(const FilePath &folder)
     ::mkdir(folder.c_str(), 0700);
 }
 
-/// Held while a damaged file is moved, so that two starting processes do not move each other's new one.
+/// Held while a damaged file is moved, so that two starting processes do not move each other's new
+/// one.
 class FolderLock
 {
 public:
@@ -127,7 +126,8 @@ Result<void> PreferenceDatabase::checkSoundness()
         return tl::unexpected(checked.error());
     if (checked->empty() || checked->front().front() != "ok")
         return failure(ErrorKind::malformed, QStringLiteral("the database is damaged"));
-    const auto tables = m_connection.run("SELECT name FROM sqlite_schema WHERE name = 'preferences'");
+    const auto tables =
+        m_connection.run("SELECT name FROM sqlite_schema WHERE name = 'preferences'");
     if (!tables)
         return tl::unexpected(tables.error());
     if (tables->empty())
@@ -142,9 +142,9 @@ Result<void> PreferenceDatabase::checkSoundness()
 
 Result<void> PreferenceDatabase::makeTable()
 {
-    static constexpr char kMakeTable[]
-        = "CREATE TABLE IF NOT EXISTS preferences"
-          " (key TEXT PRIMARY KEY NOT NULL, kind TEXT NOT NULL, value BLOB NOT NULL)";
+    static constexpr char kMakeTable[] =
+        "CREATE TABLE IF NOT EXISTS preferences"
+        " (key TEXT PRIMARY KEY NOT NULL, kind TEXT NOT NULL, value BLOB NOT NULL)";
     // Asking for the log fails on some file systems only at the next use, so the old journal is the
     // answer to any trouble but damage.
     static_cast<void>(m_connection.run("PRAGMA journal_mode=WAL"));
@@ -160,25 +160,25 @@ Result<void> PreferenceDatabase::makeTable()
 
 Result<std::optional<PreferenceRow>> PreferenceDatabase::read(const QString &key)
 {
-    const std::array<QByteArray, 1> values {key.toUtf8()};
-    auto rows = m_connection.run(
-        "SELECT kind, value FROM preferences WHERE key = CAST(?1 AS TEXT)", values);
+    const std::array<QByteArray, 1> values{key.toUtf8()};
+    auto rows = m_connection.run("SELECT kind, value FROM preferences WHERE key = CAST(?1 AS TEXT)",
+                                 values);
     if (!rows)
         return tl::unexpected(rows.error());
     if (rows->empty())
         return std::optional<PreferenceRow>();
     SqliteConnection::Row &row = rows->front();
-    return PreferenceRow {row[0], row[1]};
+    return PreferenceRow{row[0], row[1]};
 }
 
 Result<void> PreferenceDatabase::write(const QString &key, const std::optional<PreferenceRow> &row)
 {
     static constexpr char kRemove[] = "DELETE FROM preferences WHERE key = CAST(?1 AS TEXT)";
-    static constexpr char kReplace[]
-        = "INSERT INTO preferences (key, kind, value)"
-          " VALUES (CAST(?1 AS TEXT), CAST(?2 AS TEXT), ?3)"
-          " ON CONFLICT (key) DO UPDATE SET kind = excluded.kind, value = excluded.value";
-    std::vector<QByteArray> values {key.toUtf8()};
+    static constexpr char kReplace[] =
+        "INSERT INTO preferences (key, kind, value)"
+        " VALUES (CAST(?1 AS TEXT), CAST(?2 AS TEXT), ?3)"
+        " ON CONFLICT (key) DO UPDATE SET kind = excluded.kind, value = excluded.value";
+    std::vector<QByteArray> values{key.toUtf8()};
     if (row)
         values.insert(values.end(), {row->kind, row->value});
     const auto done = m_connection.run(row ? kReplace : kRemove, values);

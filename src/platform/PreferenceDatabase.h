@@ -14,9 +14,10 @@ namespace lorva {
 class PreferenceDatabase
 {
 public:
-    /// Opens `folder`/preferences.sqlite, making folder and file where they are missing. A file that is
-    /// no database, or one too damaged to read, is first moved aside under its name with the date added,
-    /// so that nothing is lost. Where it cannot be written it is opened for reading.
+    /// Opens `folder`/preferences.sqlite, making folder and file where they are missing. A file
+    /// that is no database, or one too damaged to read, is first moved aside under its name with
+    /// the date added, so that nothing is lost. Where it cannot be written it is opened for
+    /// reading.
     static Result<PreferenceDatabase> open(const FilePath &folder);
 
     /// Nothing when the key is absent.

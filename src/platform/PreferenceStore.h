@@ -14,8 +14,8 @@ namespace lorva {
 
 /// The per-user key-value store: what the user chose, kept across starts.
 ///
-/// A getter gives nothing when the key is absent or holds another kind of value. A write that fails is
-/// dropped silently (and logged under `lorva.platform.preferences`). Thread: main.
+/// A getter gives nothing when the key is absent or holds another kind of value. A write that fails
+/// is dropped silently (and logged under `lorva.platform.preferences`). Thread: main.
 class PreferenceStore
 {
 public:

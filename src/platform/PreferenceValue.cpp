@@ -16,7 +16,8 @@ constexpr char kStringArray[] = "stringArray";
 constexpr char kStringDictionary[] = "stringDictionary";
 constexpr char kBoolean[] = "boolean";
 
-struct RowWriter {
+struct RowWriter
+{
     PreferenceRow operator()(const QByteArray &data) const { return {kData, data}; }
     PreferenceRow operator()(const QString &text) const { return {kString, text.toUtf8()}; }
     PreferenceRow operator()(const QStringList &texts) const

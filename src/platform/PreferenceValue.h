@@ -13,11 +13,12 @@
 namespace lorva {
 
 /// What one preference may hold.
-using PreferenceValue
-    = std::variant<QByteArray, QString, QStringList, QHash<QString, QString>, bool>;
+using PreferenceValue =
+    std::variant<QByteArray, QString, QStringList, QHash<QString, QString>, bool>;
 
 /// A preference as a database row: the name of its kind, and its value as bytes.
-struct PreferenceRow {
+struct PreferenceRow
+{
     QByteArray kind;
     QByteArray value;
 

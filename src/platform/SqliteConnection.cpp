@@ -11,7 +11,8 @@ namespace {
 /// Another process holds its lock for milliseconds; a disk that is busy may take longer.
 constexpr int kBusyTimeoutMs = 3000;
 
-struct FinalizeStatement {
+struct FinalizeStatement
+{
     void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
 };
 using StatementHandle = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
@@ -37,7 +38,7 @@ ErrorKind kindOfCode(int code)
 QByteArray columnBytes(sqlite3_stmt *statement, int column)
 {
     const void *const bytes = sqlite3_column_blob(statement, column);
-    return QByteArray(static_cast<const char *>(bytes), sqlite3_column_bytes(statement, column));
+    return {static_cast<const char *>(bytes), sqlite3_column_bytes(statement, column)};
 }
 
 SqliteConnection::Row currentRow(sqlite3_stmt *statement)
@@ -79,8 +80,7 @@ Result<SqliteConnection> SqliteConnection::open(const FilePath &file, Access acc
 {
     const bool isImmutable = access == Access::immutable;
     const int flags = SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX
-                      | (isImmutable ? SQLITE_OPEN_READONLY
-                                     : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+        | (isImmutable ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     QByteArray url = file.toUrl();
     if (isImmutable)
         url.append("?immutable=1");

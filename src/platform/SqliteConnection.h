@@ -18,9 +18,9 @@ namespace lorva {
 /// One connection to an SQLite file.
 ///
 /// Owns: the connection. Thread: one at a time.
-/// Failure: malformed for a file that is no database or a damaged one, permissionDenied where it cannot
-/// be opened or written, invalidValue for a statement that does not fit the file's tables, ioFailure for
-/// the rest (a full disk, a lock that stays held).
+/// Failure: malformed for a file that is no database or a damaged one, permissionDenied where it
+/// cannot be opened or written, invalidValue for a statement that does not fit the file's tables,
+/// ioFailure for the rest (a full disk, a lock that stays held).
 class SqliteConnection
 {
 public:
@@ -33,12 +33,13 @@ public:
 
     static Result<SqliteConnection> open(const FilePath &file, Access access);
 
-    /// Runs one statement with `values` bound as blobs, in order, and gives all rows, every column as
-    /// bytes.
+    /// Runs one statement with `values` bound as blobs, in order, and gives all rows, every column
+    /// as bytes.
     Result<std::vector<Row>> run(const char *statement, std::span<const QByteArray> values = {});
 
 private:
-    struct Close {
+    struct Close
+    {
         void operator()(sqlite3 *connection) const;
     };
 

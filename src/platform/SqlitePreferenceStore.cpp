@@ -21,7 +21,8 @@ void logFailure(const char *what, const Error &error)
 
 } // namespace
 
-struct SqlitePreferenceStore::Private {
+struct SqlitePreferenceStore::Private
+{
     std::optional<PreferenceDatabase> database;
     /// What could not be written; outlives the attempt until the same key is written with success.
     PendingValues unwritten;
@@ -123,8 +124,8 @@ std::optional<PreferenceValue> SqlitePreferenceStore::value(const QString &key) 
 void SqlitePreferenceStore::setValue(const QString &key,
                                      const std::optional<PreferenceValue> &value)
 {
-    const std::optional<PreferenceRow> row
-        = value ? std::optional(rowOfPreference(*value)) : std::nullopt;
+    const std::optional<PreferenceRow> row =
+        value ? std::optional(rowOfPreference(*value)) : std::nullopt;
     inTransaction([&] { d->write(key, row); });
 }
 

@@ -27,8 +27,8 @@ std::optional<QStringList> ValuePreferenceStore::stringArray(const QString &key)
     return valueOfKind<QStringList>(key);
 }
 
-std::optional<QHash<QString, QString>>
-ValuePreferenceStore::stringDictionary(const QString &key) const
+std::optional<QHash<QString, QString>> ValuePreferenceStore::stringDictionary(
+    const QString &key) const
 {
     return valueOfKind<QHash<QString, QString>>(key);
 }

@@ -169,14 +169,15 @@ int GlyphOutliner::append(QPainterPath &path, quint32 glyph, QPointF at)
     return pen.segments;
 }
 
-void forEachLineOutline(const TextLayout &layout,
-                        const std::function<void(const QPainterPath &)> &visit)
+void forEachLineOutline(
+    const TextLayout &layout,
+    const std::function<void(const LayoutLine &line, const QPainterPath &outline)> &visit)
 {
     LineOutliner outliner;
     for (const LayoutLine &line : layout.lines()) {
         const QPainterPath path = outliner.outline(line);
         if (!path.isEmpty())
-            visit(path);
+            visit(line, path);
     }
 }
 

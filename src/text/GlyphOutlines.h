@@ -39,7 +39,8 @@ private:
 /// The outlines of each line that has any, in the layout's coordinates, with non-zero winding. One
 /// path per line: glyphs that touch (joined scripts) are filled without a seam. Ends early when the
 /// whole takes more segments than any text does.
-void forEachLineOutline(const TextLayout &layout,
-                        const std::function<void(const QPainterPath &)> &visit);
+void forEachLineOutline(
+    const TextLayout &layout,
+    const std::function<void(const LayoutLine &line, const QPainterPath &outline)> &visit);
 
 } // namespace lorva

@@ -6,9 +6,18 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 namespace lorva {
 
 namespace {
+
+/// How far a baseline at `y` points is from the next pixel edge, in points. Flat feet of letters
+/// that ended between pixels would be blurred.
+double toPixelEdge(double y, double ratio)
+{
+    return std::round(y * ratio) / ratio - y;
+}
 
 QRectF pointBounds(const QImage &image)
 {
@@ -24,11 +33,15 @@ void GlyphPainter::paint(QImage &image, const TextLayout &layout, QPointF origin
         return;
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(origin);
-    const QRectF visible = pointBounds(image).translated(-origin);
-    forEachLineOutline(layout, [&](const QPainterPath &outline) {
-        if (outline.controlPointRect().intersects(visible))
-            painter.fillPath(outline, color);
+    const QRectF visible = pointBounds(image);
+    forEachLineOutline(layout, [&](const LayoutLine &line, const QPainterPath &outline) {
+        const double baseline = origin.y() + line.origin.y();
+        const QPointF at = origin + QPointF(0, toPixelEdge(baseline, image.devicePixelRatio()));
+        if (!outline.controlPointRect().translated(at).intersects(visible))
+            return;
+        painter.resetTransform();
+        painter.translate(at);
+        painter.fillPath(outline, color);
     });
 }
 
@@ -36,7 +49,8 @@ QPainterPath GlyphPainter::path(const TextLayout &layout)
 {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    forEachLineOutline(layout, [&](const QPainterPath &outline) { path.addPath(outline); });
+    forEachLineOutline(
+        layout, [&](const LayoutLine &, const QPainterPath &outline) { path.addPath(outline); });
     return path;
 }
 

@@ -18,8 +18,9 @@ namespace lorva {
 class GlyphPainter
 {
 public:
-    /// Paints `layout` with its box's top left at `origin`. The image must be of format
-    /// ARGB32_Premultiplied or RGB32.
+    /// Paints `layout` with its box's top left at `origin`; baselines move to the next pixel edge,
+    /// so that the feet of letters are sharp. The image must be of format ARGB32_Premultiplied or
+    /// RGB32.
     static void paint(QImage &image, const TextLayout &layout, QPointF origin, const QColor &color);
 
     /// The outlines of the whole layout as one path (points, y down, non-zero winding).

@@ -155,7 +155,7 @@ TEST(LorvactlInfo, ShowsNamesTraitsAxesAndInstances)
                                    .manufacturer("Acme\x1b[31m\nCorp")
                                    .weightClass(800)
                                    .italic()
-                                   .axis("wght", 100, 400, 900)
+                                   .axis("wght", 100, 800, 900)
                                    .instance("Fat", {900}, "Foo-Fat"));
     const Outcome text = lorvactl({"info", path(file)});
     EXPECT_EQ(text.exitCode, 0) << text.error.constData();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "install/FolderWalker.h"
 #include "install/FontFolderWalk.h"
+#include "install/FolderWalker.h"
 #include "install/WatchedFontRegistrar.h"
 #include "support/TestHome.h"
 
@@ -70,25 +70,26 @@ private:
 
 TEST_F(FontFolderWalkTest, takesTheFiveExtensionsInAnyCase)
 {
-    for (const char *const name :
-         {"Font.OTF", "a.ttf", "b.TtC", "c.otc", "d.dfont", ".hidden.ttf", "notes.txt", "e.woff2",
-          "ttf", "f.ttf.bak", "g.pfb"})
+    for (const char *const name : {"Font.OTF", "a.ttf", "b.TtC", "c.otc", "d.dfont", ".hidden.ttf",
+                                   "notes.txt", "e.woff2", "ttf", "f.ttf.bak", "g.pfb"})
         addFile(name);
     EXPECT_THAT(walk(), ElementsAre("Font.OTF", "a.ttf", "b.TtC", "c.otc", "d.dfont"));
 }
 
 TEST_F(FontFolderWalkTest, mergesFilesAndFoldersInByteOrder)
 {
-    for (const char *const path : {"b.ttf", "a/z.ttf", "a/B/x.ttf", "a.ttf", "B.ttf", "c/a.ttf", "é.ttf"})
+    for (const char *const path :
+         {"b.ttf", "a/z.ttf", "a/B/x.ttf", "a.ttf", "B.ttf", "c/a.ttf", "é.ttf"})
         addFile(path);
-    EXPECT_THAT(walk(), ElementsAre("B.ttf", "a/B/x.ttf", "a/z.ttf", "a.ttf", "b.ttf", "c/a.ttf", "é.ttf"));
+    EXPECT_THAT(walk(),
+                ElementsAre("B.ttf", "a/B/x.ttf", "a/z.ttf", "a.ttf", "b.ttf", "c/a.ttf", "é.ttf"));
 }
 
 TEST_F(FontFolderWalkTest, skipsHiddenFoldersPackagesAndRegistrationsLinks)
 {
-    for (const char *const path :
-         {".git/a.ttf", "My.app/a.ttf", "B.BUNDLE/deep/a.ttf", "c.framework/a.ttf", "d.plugin/a.ttf",
-          "e.pkg/a.ttf", "lorva-registered/a.ttf", "f.apps/a.ttf", "family.ttf/a.ttf"})
+    for (const char *const path : {".git/a.ttf", "My.app/a.ttf", "B.BUNDLE/deep/a.ttf",
+                                   "c.framework/a.ttf", "d.plugin/a.ttf", "e.pkg/a.ttf",
+                                   "lorva-registered/a.ttf", "f.apps/a.ttf", "family.ttf/a.ttf"})
         addFile(path);
     EXPECT_THAT(walk(), ElementsAre("f.apps/a.ttf", "family.ttf/a.ttf"));
 }
@@ -107,7 +108,7 @@ TEST_F(FontFolderWalkTest, onlyRegularFilesCount)
     addLink("to-fifo.ttf", m_root.child("fifo.ttf").bytes());
     addLink("to-device.ttf", "/dev/zero");
     const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address {.sun_family = AF_UNIX, .sun_path = {}};
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
     qstrncpy(address.sun_path, m_root.child("s.ttf").c_str(), sizeof address.sun_path);
     ASSERT_EQ(::bind(socket, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
     EXPECT_THAT(walk(), ElementsAre("real.ttf"));

@@ -41,8 +41,9 @@ protected:
 
     const FilePath m_user = TestHome::instance().userFonts();
     const FilePath m_system = TestHome::instance().systemFonts();
-    const FilePath m_links = TestHome::instance().makeFolder("home/.local/share/fonts/lorva-registered");
-    const FontconfigAvailableFonts m_fonts {xdgFolders().registeredLinks()};
+    const FilePath m_links =
+        TestHome::instance().makeFolder("home/.local/share/fonts/lorva-registered");
+    const FontconfigAvailableFonts m_fonts{xdgFolders().registeredLinks()};
     mutable std::vector<int> m_counts;
 };
 
@@ -84,7 +85,7 @@ TEST_F(FontconfigAvailableFontsTest, ownLinksShowAsTheirTargets)
     addLink("3.ttf", listed.bytes());
     // The relative form is not one that registration writes; it still leads to the file.
     const FilePath relative = m_links.child("../u.ttf");
-    std::vector<FilePath> expected {elsewhere, listed, relative};
+    std::vector<FilePath> expected{elsewhere, listed, relative};
     std::ranges::sort(expected);
     EXPECT_EQ(scan(), expected);
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
-// What the toolkit makes of the interface's fonts, in a process of its own, because it reads them only
-// once: "interface_font_probe small|all TEXT…" prints one "name: value" per line.
+// What the toolkit makes of the interface's fonts, in a process of its own, because it reads them
+// only once: "interface_font_probe small|all TEXT…" prints one "name: value" per line.
 #include "platform/linux/SmallFontconfig.h"
 
 #include <QElapsedTimer>
@@ -70,7 +70,7 @@ int main(int argc, char **argv)
     const QFontInfo info(QGuiApplication::font());
     out << "font: " << info.family() << '\n';
     out << "weights:";
-    for (const int weight : QList<int> {400, 500, 600, 700}) {
+    for (const int weight : QList<int>{400, 500, 600, 700}) {
         QFont font;
         font.setWeight(QFont::Weight(weight));
         out << ' ' << QRawFont::fromFont(font).weight();

@@ -55,7 +55,8 @@ void installRealFont(const QByteArray &path)
 void configureGtkFont(const QByteArray &name)
 {
     const FilePath config = TestHome::instance().makeFolder("config/gtk-4.0");
-    writeFile(config, "settings.ini", "[Other]\ngtk-font-name=No\n[Settings]\ngtk-font-name=" + name);
+    writeFile(config, "settings.ini",
+              "[Other]\ngtk-font-name=No\n[Settings]\ngtk-font-name=" + name);
 }
 
 TEST(InterfaceFamilies, readsTheDesktopsNotations)
@@ -146,7 +147,7 @@ TEST(SmallFontconfig, doesNotNarrowTheScan)
     for (const char *const name : {"a.ttf", "b.ttf", "c.ttf"})
         addSystemFont(name, FontBuilder(QString::fromLatin1(name)));
     useSmallFontconfigForInterface();
-    const FontconfigAvailableFonts fonts {FilePath("/nowhere")};
+    const FontconfigAvailableFonts fonts{FilePath("/nowhere")};
     EXPECT_EQ(fonts.fontFiles({}, {}).size(), 3u);
 }
 

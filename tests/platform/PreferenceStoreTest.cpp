@@ -26,16 +26,15 @@ private:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Stores, AnyPreferenceStore, testing::Bool(), [](const auto &each) {
-    return each.param ? "Sqlite" : "Memory";
-});
+INSTANTIATE_TEST_SUITE_P(Stores, AnyPreferenceStore, testing::Bool(),
+                         [](const auto &each) { return each.param ? "Sqlite" : "Memory"; });
 
 TEST_P(AnyPreferenceStore, keepsEveryKindExactly)
 {
     const QByteArray bytes("\0\xff'\n", 4);
     const QString text = QStringLiteral("Ünï \"quoted\" \U0001F600\n");
-    const QStringList texts {text, QString(), QStringLiteral("b"), QStringLiteral("a")};
-    const Dictionary dictionary {{text, QString()}, {QStringLiteral("a.b"), text}};
+    const QStringList texts{text, QString(), QStringLiteral("b"), QStringLiteral("a")};
+    const Dictionary dictionary{{text, QString()}, {QStringLiteral("a.b"), text}};
     m_store->setData("data", bytes);
     m_store->setData("empty", QByteArray());
     m_store->setString("string", text);

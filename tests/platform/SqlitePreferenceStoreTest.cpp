@@ -115,7 +115,8 @@ void fillDatabase(const FilePath &folder)
         store.setData(QString::number(i), QByteArray(300, char('a' + i % 26)));
 }
 
-struct Damage {
+struct Damage
+{
     const char *what;
     std::function<QByteArray(QByteArray)> apply;
 };
@@ -151,11 +152,13 @@ QByteArray otherDatabase(const QByteArray &)
 INSTANTIATE_TEST_SUITE_P(
     Kinds, DamagedPreferences,
     testing::Values(
-        Damage {"text", [](const QByteArray &) { return QByteArray(5000, 'x'); }},
-        Damage {"anotherProgramsSettings", [](const QByteArray &) { return QByteArray("[a]\nb=1\n"); }},
-        Damage {"lostPage", [](QByteArray file) { return file.replace(4096, 4096, QByteArray(4096, '\xab')); }},
-        Damage {"cutShort", [](const QByteArray &file) { return file.first(file.size() / 2); }},
-        Damage {"tableOfAnotherShape", otherDatabase}),
+        Damage{"text", [](const QByteArray &) { return QByteArray(5000, 'x'); }},
+        Damage{"anotherProgramsSettings",
+               [](const QByteArray &) { return QByteArray("[a]\nb=1\n"); }},
+        Damage{"lostPage",
+               [](QByteArray file) { return file.replace(4096, 4096, QByteArray(4096, '\xab')); }},
+        Damage{"cutShort", [](const QByteArray &file) { return file.first(file.size() / 2); }},
+        Damage{"tableOfAnotherShape", otherDatabase}),
     [](const auto &damage) { return damage.param.what; });
 
 TEST_F(SqlitePreferenceStoreTest, anEmptyFileIsANewDatabase)
@@ -199,9 +202,9 @@ TEST_F(SqlitePreferenceStoreTest, onAFullDiskValuesLiveInMemory)
     store.setString("key", "old");
     store.setString("gone", "old");
     std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before {};
+    rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full {0, before.rlim_max};
+    const rlimit full{0, before.rlim_max};
     ::setrlimit(RLIMIT_FSIZE, &full);
     store.inTransaction([&] {
         store.setString("key", QString(100000, u'x'));

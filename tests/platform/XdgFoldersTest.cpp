@@ -16,7 +16,8 @@ PlatformFolders foldersFor(const Variables &variables)
     return xdgFolders([&variables](const char *name) { return variables.value(name); });
 }
 
-struct Row {
+struct Row
+{
     const char *what;
     Variables variables;
     const char *userFonts;
@@ -37,17 +38,20 @@ TEST_P(XdgDataHome, decidesWhereTheUsersThingsLie)
 INSTANTIATE_TEST_SUITE_P(
     Rules, XdgDataHome,
     testing::Values(
-        Row {"standard", {{"HOME", "/h"}}, "/h/.local/share/fonts", "/h/.local/share/Lorva"},
-        Row {"set", {{"HOME", "/h"}, {"XDG_DATA_HOME", "/d"}}, "/d/fonts", "/d/Lorva"},
-        Row {"relativeIsIgnored",
-             {{"HOME", "/h"}, {"XDG_DATA_HOME", "d"}},
-             "/h/.local/share/fonts",
-             "/h/.local/share/Lorva"},
-        Row {"slashesAreTidied",
-             {{"HOME", "/h/"}, {"XDG_DATA_HOME", "/d//e/"}},
-             "/d/e/fonts",
-             "/d/e/Lorva"},
-        Row {"noText", {{"HOME", "/h\xff"}}, "/h\xff/.local/share/fonts", "/h\xff/.local/share/Lorva"}),
+        Row{"standard", {{"HOME", "/h"}}, "/h/.local/share/fonts", "/h/.local/share/Lorva"},
+        Row{"set", {{"HOME", "/h"}, {"XDG_DATA_HOME", "/d"}}, "/d/fonts", "/d/Lorva"},
+        Row{"relativeIsIgnored",
+            {{"HOME", "/h"}, {"XDG_DATA_HOME", "d"}},
+            "/h/.local/share/fonts",
+            "/h/.local/share/Lorva"},
+        Row{"slashesAreTidied",
+            {{"HOME", "/h/"}, {"XDG_DATA_HOME", "/d//e/"}},
+            "/d/e/fonts",
+            "/d/e/Lorva"},
+        Row{"noText",
+            {{"HOME", "/h\xff"}},
+            "/h\xff/.local/share/fonts",
+            "/h\xff/.local/share/Lorva"}),
     [](const auto &row) { return row.param.what; });
 
 std::vector<QByteArray> systemFontsFor(const Variables &variables)
@@ -63,8 +67,9 @@ TEST(XdgFolders, systemFoldersAreTheSharedOnesButNotTheTwoThatHaveARoleOfTheirOw
     using testing::ElementsAre;
     EXPECT_THAT(systemFontsFor({{"HOME", "/h"}}), ElementsAre("/usr/share/fonts", "/h/.fonts"));
     EXPECT_THAT(systemFontsFor({{"HOME", "/h"},
-                                {"XDG_DATA_DIRS", "/usr/local/share/:/opt/share::rel:"
-                                                  "/h/.local/share:/opt//share/:/usr/share"}}),
+                                {"XDG_DATA_DIRS",
+                                 "/usr/local/share/:/opt/share::rel:"
+                                 "/h/.local/share:/opt//share/:/usr/share"}}),
                 ElementsAre("/usr/share/fonts", "/h/.fonts", "/opt/share/fonts"));
 }
 

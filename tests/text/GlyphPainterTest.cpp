@@ -69,6 +69,21 @@ TEST_P(DeviceRatio, FillsTheBoxThatTheGlyphDescribes)
 
 INSTANTIATE_TEST_SUITE_P(Ratios, DeviceRatio, ::testing::Values(1.0, 1.5, 2.0, 3.0));
 
+TEST(GlyphPainter, FeetOfLettersAreSharpWhereverTheBaselineFalls)
+{
+    const TextLayout layout(QStringLiteral("A"), boxFont({}, 60));
+    for (const double ratio : {1.0, 1.5, 2.0}) {
+        for (double top = 10; top < 11; top += 0.3) {
+            QImage image = canvas(ratio);
+            GlyphPainter::paint(image, layout, QPointF(20, top), Qt::black);
+            const QRect ink = inkedPixels(image);
+            EXPECT_EQ(qGray(image.pixel(ink.center().x(), ink.bottom())), 0) << ratio << ' ' << top;
+            EXPECT_EQ(qGray(image.pixel(ink.center().x(), ink.bottom() + 1)), 255)
+                << ratio << ' ' << top;
+        }
+    }
+}
+
 TEST(GlyphPainter, OverlappingOutlinesShowNoHoles)
 {
     const Font font = boxFont({}, 60);

@@ -163,8 +163,9 @@ TEST_F(BrowserJourney, TheViewControlSwitchesBetweenGridAndList)
     const QString atTop = view().items().at(view().visibleItems().begin()->first);
     auto *control = find<QWidget>("viewModeControl");
     ASSERT_NE(control, nullptr);
-    QTest::mouseClick(control, Qt::LeftButton, {},
-                      QPoint(control->width() * 3 / 4, control->height() / 2));
+    QWidget *segment = control->childAt(control->width() * 3 / 4, control->height() / 2);
+    ASSERT_NE(segment, nullptr);
+    QTest::mouseClick(segment, Qt::LeftButton);
     ASSERT_EQ(library.model->viewMode(), ViewMode::list);
     renderNow();
     EXPECT_EQ(view().arrangement().columns(), 1);

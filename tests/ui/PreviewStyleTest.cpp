@@ -124,6 +124,8 @@ TEST_F(SegmentedControlTest, clickAndArrowKeysChoose)
     EXPECT_EQ(control.currentIndex(), 0);
     QTest::keyClick(segments[0], Qt::Key_Right);
     EXPECT_EQ(control.currentIndex(), 1);
+    QTest::keyClick(segments[1], Qt::Key_Right);
+    EXPECT_EQ(control.currentIndex(), 1) << "the row ends here";
     EXPECT_EQ(chosen.size(), 3);
 
     control.setCurrentIndex(0);

@@ -28,7 +28,7 @@ QString windowFrameText(const QRect &frame)
 std::optional<QRect> windowFrameFromText(const QString &text)
 {
     const QStringList words = text.split(u' ');
-    std::array<int, 4> numbers {};
+    std::array<int, 4> numbers{};
     if (words.size() != qsizetype(numbers.size()))
         return std::nullopt;
     for (size_t i = 0; i < numbers.size(); ++i) {

@@ -17,8 +17,9 @@ class PreferenceStore;
 class WindowFrameStore
 {
 public:
-    explicit WindowFrameStore(PreferenceStore &preferences,
-                              QString key = QStringLiteral("vantrel.merid.windowFrame.LorvaMainWindow"));
+    explicit WindowFrameStore(
+        PreferenceStore &preferences,
+        QString key = QStringLiteral("vantrel.merid.windowFrame.LorvaMainWindow"));
 
     /// Nothing when no frame was saved or what is stored is none.
     std::optional<QRect> load() const;
@@ -32,8 +33,8 @@ private:
 
 /// The stored form of a frame.
 QString windowFrameText(const QRect &frame);
-/// Reads windowFrameText()'s form and no other; nothing for a frame without area or with a coordinate
-/// beyond what any desktop has.
+/// Reads windowFrameText()'s form and no other; nothing for a frame without area or with a
+/// coordinate beyond what any desktop has.
 std::optional<QRect> windowFrameFromText(const QString &text);
 
 } // namespace lorva

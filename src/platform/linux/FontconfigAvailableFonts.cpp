@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include <climits>
 #include <sys/stat.h>
@@ -47,8 +48,8 @@ std::optional<QByteArray> fileOfPattern(FcPattern *pattern)
 class FileCollector
 {
 public:
-    FileCollector(const FilePath &registeredLinks, const std::function<void(int)> &found)
-        : m_registeredLinks(registeredLinks)
+    FileCollector(FilePath registeredLinks, const std::function<void(int)> &found)
+        : m_registeredLinks(std::move(registeredLinks))
         , m_found(found)
     {
     }

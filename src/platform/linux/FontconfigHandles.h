@@ -10,7 +10,8 @@ namespace lorva {
 
 /// Wraps fontconfig's objects, so that each is freed once, on every path.
 template <auto destroy>
-struct FontconfigDeleter {
+struct FontconfigDeleter
+{
     template <class T>
     void operator()(T *object) const
     {

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/InterfaceFamilies.h"
 
+#include <QList>
+
 #include <algorithm>
-#include <cstdio>
-#include <memory>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -51,7 +51,8 @@ QByteArray settingsValue(const FilePath &path, const QByteArray &group, const QB
 FilePath configFolder(const EnvironmentReader &environment)
 {
     const QByteArray config = environment("XDG_CONFIG_HOME");
-    return config.startsWith('/') ? FilePath(config) : xdgFolders(environment).home.child(".config");
+    return config.startsWith('/') ? FilePath(config)
+                                  : xdgFolders(environment).home.child(".config");
 }
 
 } // namespace
@@ -81,8 +82,8 @@ std::vector<QByteArray> configuredInterfaceFamilies(const EnvironmentReader &env
     for (const char *const version : {"gtk-4.0", "gtk-3.0"})
         families.push_back(familyOfGtkFontName(settingsValue(
             config.child(version).child("settings.ini"), "Settings", "gtk-font-name")));
-    const QByteArray kde
-        = familyOfKdeFont(settingsValue(config.child("kdeglobals"), "General", "font"));
+    const QByteArray kde =
+        familyOfKdeFont(settingsValue(config.child("kdeglobals"), "General", "font"));
     const bool isKde = environment("XDG_CURRENT_DESKTOP").contains("KDE");
     families.insert(isKde ? families.begin() : families.end(), kde);
     std::erase_if(families, [](const QByteArray &family) { return family.isEmpty(); });

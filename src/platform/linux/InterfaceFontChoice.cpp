@@ -15,17 +15,18 @@ namespace lorva {
 
 namespace {
 
-/// Families that desktops use where no settings file names one (their default, or a settings store that
-/// only they read).
-constexpr const char *kDesktopFamilies[]
-    = {"Adwaita Sans", "Cantarell", "Noto Sans", "Ubuntu", "Ubuntu Sans"};
+/// Families that desktops use where no settings file names one (their default, or a settings store
+/// that only they read).
+constexpr const char *kDesktopFamilies[] = {"Adwaita Sans", "Cantarell", "Noto Sans", "Ubuntu",
+                                            "Ubuntu Sans"};
 
-/// One language per writing system, and those that need glyphs of their own within one; in fontconfig's
-/// terms, which has names for mathematics and emoji too.
-constexpr const char *kFallbackLanguages[]
-    = {"en", "ru", "el", "hy", "ka", "ar", "ur", "he", "yi", "syr", "dv", "hi", "mr", "bn", "pa", "gu",
-       "or", "ta", "te", "kn", "ml", "si", "th", "lo", "my", "km", "bo", "am", "chr", "iu", "mn-cn", "nqo",
-       "ber-ma", "vi", "ja", "ko", "zh-cn", "zh-tw", "zh-hk", "und-zmth", "und-zsye"};
+/// One language per writing system, and those that need glyphs of their own within one; in
+/// fontconfig's terms, which has names for mathematics and emoji too.
+constexpr const char *kFallbackLanguages[] = {
+    "en", "ru", "el", "hy",    "ka",    "ar",    "ur",       "he",      "yi",    "syr", "dv",
+    "hi", "mr", "bn", "pa",    "gu",    "or",    "ta",       "te",      "kn",    "ml",  "si",
+    "th", "lo", "my", "km",    "bo",    "am",    "chr",      "iu",      "mn-cn", "nqo", "ber-ma",
+    "vi", "ja", "ko", "zh-cn", "zh-tw", "zh-hk", "und-zmth", "und-zsye"};
 
 const FcChar8 *fontconfigText(const char *text)
 {
@@ -51,7 +52,7 @@ double valueOf(const FcPattern *font, const char *property, double standard)
 double distanceFromRegular(const FcPattern *font)
 {
     return std::abs(valueOf(font, FC_WEIGHT, FC_WEIGHT_REGULAR) - FC_WEIGHT_REGULAR)
-           + valueOf(font, FC_SLANT, FC_SLANT_ROMAN);
+        + valueOf(font, FC_SLANT, FC_SLANT_ROMAN);
 }
 
 /// Regular to bold, of normal width: what labels and headings are set in.
@@ -63,7 +64,8 @@ bool hasInterfaceStyle(const FcPattern *font)
 }
 
 /// What the choice needs of a font, looked up once.
-struct Candidate {
+struct Candidate
+{
     const char *file = nullptr;
     const FcLangSet *languages = nullptr;
     double distanceFromRegular = 0;
@@ -76,7 +78,7 @@ std::optional<Candidate> candidateOf(const FcPattern *font)
     if (!file || !hasInterfaceStyle(font)
         || FcPatternGetLangSet(font, FC_LANG, 0, &languages) != FcResultMatch)
         return std::nullopt;
-    return Candidate {file, languages, distanceFromRegular(font)};
+    return Candidate{file, languages, distanceFromRegular(font)};
 }
 
 bool shows(const Candidate &font, const char *language)
@@ -84,8 +86,8 @@ bool shows(const Candidate &font, const char *language)
     return FcLangSetHasLang(font.languages, fontconfigText(language)) == FcLangEqual;
 }
 
-/// What the configuration's rules make of a generic family, for texts of a language where one is given:
-/// the families to try, in order.
+/// What the configuration's rules make of a generic family, for texts of a language where one is
+/// given: the families to try, in order.
 std::vector<QByteArray> familiesBehind(FcConfig *config, const char *generic,
                                        const char *language = nullptr)
 {
@@ -160,8 +162,8 @@ private:
     {
         const Candidate *nearest = nullptr;
         for (const Candidate &font : fonts) {
-            const bool isNearer
-                = !nearest || font.distanceFromRegular < nearest->distanceFromRegular;
+            const bool isNearer =
+                !nearest || font.distanceFromRegular < nearest->distanceFromRegular;
             if (isNearer && shows(font, language))
                 nearest = &font;
         }

@@ -71,7 +71,8 @@ void useSmallFontconfigForInterface()
         qCWarning(interfaceFontsLog) << "the interface uses all fonts: no small configuration";
         return;
     }
-    // Without this the next font list would look at the system's folders again and load all of them.
+    // Without this the next font list would look at the system's folders again and load all of
+    // them.
     FcConfigSetRescanInterval(config.get(), 0);
     FcConfigSetCurrent(config.get());
 }

@@ -4,15 +4,15 @@
 
 namespace lorva {
 
-/// Lets this process's toolkit see only the fonts that an interface needs: the interface and fixed-width
-/// families in their usual weights, and one fallback font per writing system that the machine can show.
+/// Lets this process's toolkit see only the fonts that an interface needs: the interface and
+/// fixed-width families in their usual weights, and one fallback font per writing system that the
+/// machine can show.
 ///
-/// The toolkit reads every font that fontconfig's current configuration lists before it shows the first
-/// label, which with thousands of fonts takes longer than all the rest of a start. The rules of the
-/// system's configuration (aliases, rendering choices) stay in force. Configurations loaded apart, as a
-/// scan does, are not touched.
-/// Call once, before the application object exists. Thread: main. Where anything fails the
-/// configuration stays as it is.
+/// The toolkit reads every font that fontconfig's current configuration lists before it shows the
+/// first label, which with thousands of fonts takes longer than all the rest of a start. The rules
+/// of the system's configuration (aliases, rendering choices) stay in force. Configurations loaded
+/// apart, as a scan does, are not touched. Call once, before the application object exists. Thread:
+/// main. Where anything fails the configuration stays as it is.
 void useSmallFontconfigForInterface();
 
 } // namespace lorva

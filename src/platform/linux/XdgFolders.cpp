@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/XdgFolders.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -28,7 +30,7 @@ FilePath tidied(QByteArrayView path)
 
 FilePath homeOfAccount()
 {
-    passwd entry {};
+    passwd entry{};
     passwd *found = nullptr;
     std::array<char, 16384> buffer;
     if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || !found)

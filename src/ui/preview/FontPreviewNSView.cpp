@@ -135,6 +135,8 @@ void FontPreviewNSView::apply(const FontPreviewConfiguration &configuration)
 void FontPreviewNSView::enqueue(quint64 generation, std::shared_ptr<bool> applied,
                                 std::shared_ptr<bool> late)
 {
+    // The screen, and with it the ratio, may have changed without a change of size.
+    m_shared->setCanvas(canvas());
     // Written by the worker before the completion is sent to the main thread, which reads it.
     const auto delivery = std::make_shared<Delivery>();
     PendingResolve request;

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace lorva {
@@ -39,6 +40,8 @@ public:
         , m_control(parent)
     {
         setCheckable(true);
+        // The group keeps one chosen; this is what makes it a radio button to assistive technology.
+        setAutoExclusive(true);
         // Clicking must not take the keyboard away from the specimens.
         setFocusPolicy(Qt::TabFocus);
         setToolTip(label);
@@ -46,6 +49,21 @@ public:
     }
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const int step = isRightToLeft() ? -1 : 1;
+        switch (event->key()) {
+        case Qt::Key_Left:
+            m_control->chooseBeside(this, -step);
+            break;
+        case Qt::Key_Right:
+            m_control->chooseBeside(this, step);
+            break;
+        default:
+            QAbstractButton::keyPressEvent(event);
+        }
+    }
+
     void focusInEvent(QFocusEvent *event) override
     {
         m_showsFocus = isKeyboardFocus(event->reason());
@@ -121,6 +139,16 @@ void SegmentedControl::setColors(const QColor &foreground, const QColor &backgro
 QSize SegmentedControl::sizeHint() const
 {
     return QSize(int(m_group->buttons().size()) * kSegmentWidth + 2 * kPadding, kHeight);
+}
+
+/// Moves the keyboard and the choice to a neighbour, as the user's doing.
+void SegmentedControl::chooseBeside(QAbstractButton *segment, int step)
+{
+    QAbstractButton *neighbour = m_group->button(m_group->id(segment) + step);
+    if (!neighbour || !neighbour->isEnabled())
+        return;
+    neighbour->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    neighbour->click();
 }
 
 /// The segments overlap by their padding, which leaves their shadows and focus rings room.

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QWidget>
 
+class QAbstractButton;
 class QButtonGroup;
 
 namespace lorva {
@@ -44,6 +45,7 @@ protected:
 private:
     class Segment;
 
+    void chooseBeside(QAbstractButton *segment, int step);
     void placeSegments();
 
     QButtonGroup *m_group = nullptr;
