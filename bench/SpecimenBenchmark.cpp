@@ -39,7 +39,7 @@ const std::vector<FilePath> &installedFonts()
 
 double threadMicroseconds()
 {
-    timespec now {};
+    timespec now{};
     ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
     return double(now.tv_sec) * 1e6 + double(now.tv_nsec) / 1e3;
 }

@@ -45,7 +45,7 @@ std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
                                          const PlatformFolders &folders)
 {
     FontLibraryService::Dependencies dependencies{
-        std::make_shared<FontconfigAvailableFonts>(folders.userFonts.child("lorva-registered")),
+        std::make_shared<FontconfigAvailableFonts>(folders.registeredLinks()),
         std::make_shared<FontconfigSystemFont>()};
     auto model = std::make_unique<LorvaAppModel>(
         std::make_unique<FontLibraryService>(std::move(dependencies)),
