@@ -176,7 +176,8 @@ build_preset()
     if [ -t 2 ]; then
         NINJA_STATUS="[%f/%t] " cmake "${arguments[@]}" >&2 || die "the '$preset' build failed"
     else
-        cmake "${arguments[@]}" -- --quiet >&2 || die "the '$preset' build failed"
+        cmake "${arguments[@]}" -- --quiet 2>&1 | { grep -v '^ninja: no work to do' || true; } >&2 ||
+            die "the '$preset' build failed"
     fi
 }
 

@@ -25,7 +25,8 @@ class ServiceTest : public testing::Test
 protected:
     ServiceTest()
     {
-        m_folder = test::TestHome::instance().makeFolder("watched");
+        static int cases = 0;
+        m_folder = test::TestHome::instance().makeFolder("watched" + QByteArray::number(++cases));
         const FilePath system =
             test::writeFile(test::TestHome::instance().makeFolder("ui"), "ui.ttf",
                             test::face("System", "Regular", "System").build());
@@ -210,6 +211,8 @@ TEST_F(ServiceTest, DropsARequestThatNobodyWantsAnyMore)
     gate.open.release();
     EXPECT_TRUE(test::waitUntil([&] { return isDone; }));
     gate.open.release(2);
+    // Waits for the workers, which still look at the gate.
+    service.reset();
     EXPECT_FALSE(isWorked);
     EXPECT_FALSE(isAnswered);
 }

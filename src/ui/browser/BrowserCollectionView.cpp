@@ -5,6 +5,8 @@
 
 #include "ui/browser/FontCollectionItem.h"
 #include "ui/browser/OverlayScrollBar.h"
+#include "ui/style/Hairline.h"
+#include "ui/style/Palette.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -245,6 +247,30 @@ void BrowserCollectionView::paintViewport(const QRect &exposed)
     if (m_background.alpha() < 255)
         painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(exposed, m_background);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    paintEndOfGrid(painter);
+}
+
+/// Cards draw the lines to their left and above; what the last row leaves open is closed here.
+void BrowserCollectionView::paintEndOfGrid(QPainter &painter) const
+{
+    if (m_ids.isEmpty())
+        return;
+    const QColor color = hairlineColor(m_foreground, m_background);
+    const QRect last = m_layout.cardRect(int(m_ids.size()) - 1).translated(0, -scrollOffset());
+    const int rest = viewport()->width() - last.right() - 1;
+    const auto mirrored = [&](const QRect &logical) {
+        return QStyle::visualRect(layoutDirection(), viewport()->rect(), logical);
+    };
+    const QRect below(0, last.bottom() + 1, viewport()->width(), m_layout.rowHeight());
+    drawHairline(painter, below, Qt::TopEdge, color);
+    if (rest <= 0)
+        return;
+    const QRect open = mirrored({last.right() + 1, last.top(), rest, last.height()});
+    if (m_layout.rows() > 1)
+        drawHairline(painter, open, Qt::TopEdge, color);
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    drawHairline(painter, open, isMirrored ? Qt::RightEdge : Qt::LeftEdge, color);
 }
 
 void BrowserCollectionView::resizeEvent(QResizeEvent *event)

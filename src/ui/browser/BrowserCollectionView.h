@@ -82,6 +82,7 @@ private:
     void placeVisibleItems();
     FontCollectionItem *takeSpareItem();
     void paintViewport(const QRect &exposed);
+    void paintEndOfGrid(QPainter &painter) const;
     void select(int index);
 
     QStringList m_ids;
