@@ -112,33 +112,63 @@ void drawGlyph(hb_font_t *font, quint32 glyph, OutlinePen &pen)
 #endif
 }
 
-/// The outlines of a layout's lines, within one budget of segments.
-class LineOutliner
+using OutlineVisitor = std::function<void(const LayoutLine &line, const QPainterPath &outline)>;
+
+/// The outlines of a layout, within one budget of segments. Glyphs of a line whose boxes touch are
+/// gathered into one path.
+class LayoutOutliner
 {
 public:
-    QPainterPath outline(const LayoutLine &line)
+    explicit LayoutOutliner(const OutlineVisitor &visit)
+        : m_visit(visit)
     {
-        QPainterPath path;
-        path.setFillRule(Qt::WindingFill);
+    }
+
+    void visitLine(const LayoutLine &line)
+    {
         for (const GlyphRun &run : line.runs)
-            append(path, run, line.origin);
-        return path;
+            addRun(line, run);
+        flush(line);
     }
 
 private:
-    void append(QPainterPath &path, const GlyphRun &run, QPointF origin)
+    void addRun(const LayoutLine &line, const GlyphRun &run)
     {
         if (!m_outliner || m_outliner->font() != run.font)
             m_outliner.emplace(run.font);
         for (const PositionedGlyph &glyph : run.glyphs) {
             if (m_budget <= 0)
                 return;
-            m_budget -= m_outliner->append(path, glyph.glyph, origin + glyph.position);
+            QPainterPath outline;
+            m_budget -= m_outliner->append(outline, glyph.glyph, line.origin + glyph.position);
+            if (!outline.isEmpty())
+                addOutline(line, outline);
         }
     }
 
+    void addOutline(const LayoutLine &line, const QPainterPath &outline)
+    {
+        const QRectF box = outline.controlPointRect();
+        if (!m_group.isEmpty() && !m_box.intersects(box))
+            flush(line);
+        m_group.setFillRule(Qt::WindingFill);
+        m_group.addPath(outline);
+        m_box |= box;
+    }
+
+    void flush(const LayoutLine &line)
+    {
+        if (!m_group.isEmpty())
+            m_visit(line, m_group);
+        m_group = {};
+        m_box = {};
+    }
+
+    const OutlineVisitor &m_visit;
     std::optional<GlyphOutliner> m_outliner;
     int m_budget = kMaxLayoutSegments;
+    QPainterPath m_group;
+    QRectF m_box;
 };
 
 } // namespace
@@ -169,16 +199,13 @@ int GlyphOutliner::append(QPainterPath &path, quint32 glyph, QPointF at)
     return pen.segments;
 }
 
-void forEachLineOutline(
+void forEachOutline(
     const TextLayout &layout,
     const std::function<void(const LayoutLine &line, const QPainterPath &outline)> &visit)
 {
-    LineOutliner outliner;
-    for (const LayoutLine &line : layout.lines()) {
-        const QPainterPath path = outliner.outline(line);
-        if (!path.isEmpty())
-            visit(line, path);
-    }
+    LayoutOutliner outliner(visit);
+    for (const LayoutLine &line : layout.lines())
+        outliner.visitLine(line);
 }
 
 } // namespace lorva

@@ -36,10 +36,11 @@ private:
     double m_reach = 0;
 };
 
-/// The outlines of each line that has any, in the layout's coordinates, with non-zero winding. One
-/// path per line: glyphs that touch (joined scripts) are filled without a seam. Ends early when the
+/// The outlines of all that has ink, in the layout's coordinates, with non-zero winding. Neighbours
+/// whose boxes touch come as one path, so that joined scripts are filled without a seam; others
+/// apart, because the cost of filling grows steeply with the length of a path. Ends early when the
 /// whole takes more segments than any text does.
-void forEachLineOutline(
+void forEachOutline(
     const TextLayout &layout,
     const std::function<void(const LayoutLine &line, const QPainterPath &outline)> &visit);
 

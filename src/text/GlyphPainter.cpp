@@ -34,7 +34,7 @@ void GlyphPainter::paint(QImage &image, const TextLayout &layout, QPointF origin
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF visible = pointBounds(image);
-    forEachLineOutline(layout, [&](const LayoutLine &line, const QPainterPath &outline) {
+    forEachOutline(layout, [&](const LayoutLine &line, const QPainterPath &outline) {
         const double baseline = origin.y() + line.origin.y();
         const QPointF at = origin + QPointF(0, toPixelEdge(baseline, image.devicePixelRatio()));
         if (!outline.controlPointRect().translated(at).intersects(visible))
@@ -49,8 +49,8 @@ QPainterPath GlyphPainter::path(const TextLayout &layout)
 {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    forEachLineOutline(
-        layout, [&](const LayoutLine &, const QPainterPath &outline) { path.addPath(outline); });
+    forEachOutline(layout,
+                   [&](const LayoutLine &, const QPainterPath &outline) { path.addPath(outline); });
     return path;
 }
 

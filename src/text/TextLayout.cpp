@@ -212,7 +212,7 @@ bool TextLayout::isTruncated() const
 QRectF TextLayout::inkBounds() const
 {
     QRectF bounds;
-    forEachLineOutline(*this, [&](const LayoutLine &, const QPainterPath &outline) {
+    forEachOutline(*this, [&](const LayoutLine &, const QPainterPath &outline) {
         bounds = bounds.united(outline.boundingRect());
     });
     return bounds;
