@@ -151,8 +151,10 @@ void LorvaApplicationDelegate::takeScreenshot()
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
-    m_window->grab().toImage().save(&buffer, "PNG");
-    const auto written = writeFileAtomically(*m_options.screenshot, png);
+    const bool isEncoded = m_window->grab().toImage().save(&buffer, "PNG");
+    const Result<void> written = isEncoded
+        ? writeFileAtomically(*m_options.screenshot, png)
+        : failure(ErrorKind::ioFailure, QStringLiteral("the picture could not be encoded"));
     if (!written)
         std::fprintf(stderr, "lorva: %s\n", qPrintable(written.error().detail));
     QCoreApplication::exit(written ? 0 : 1);

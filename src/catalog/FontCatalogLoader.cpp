@@ -139,8 +139,8 @@ void FontCatalogLoader::keepReading(const StaleFile &file, FaceReading reading)
     const bool isLasting = file.fingerprint && reading.isLasting;
     const FileFingerprint fingerprint =
         isLasting ? *file.fingerprint : FileFingerprint{kNoFingerprint, 0};
-    m_fileCache.insert(file.path,
-                       {fingerprint.fileSize, fingerprint.modified, std::move(reading.entries)});
+    m_fileCache[file.path] =
+        ParsedFontFile{fingerprint.fileSize, fingerprint.modified, std::move(reading.entries)};
 }
 
 /// In file order, so that the first file of a family decides however the threads were timed.
@@ -191,13 +191,13 @@ void FontCatalogLoader::identifyFamilies(std::span<const FilePath> files, const 
                                                    unidentified[task].families.front());
     };
     size_t done = 0;
-    const auto merge = [&](size_t task, Found found) {
+    const auto merge = [&](size_t task, const Found &found) {
         const std::vector<QString> &wanted = unidentified[task].families;
-        for (FamilyIdentification &each : found) {
+        for (const FamilyIdentification &each : found) {
             // A family that this file holds too, but that another file stands for.
             if (std::find(wanted.begin(), wanted.end(), each.familyName) == wanted.end())
                 continue;
-            m_identityCache.insert(each.familyName, std::move(each.identity));
+            m_identityCache.insert(each.familyName, each.identity);
             if (!each.manufacturer.isEmpty())
                 m_manufacturerCache.insert(each.familyName, each.manufacturer);
         }

@@ -6,7 +6,7 @@
 #include "catalog/FontCatalogLoader.h"
 #include "catalog/MainThreadQueue.h"
 #include "catalog/WorkerThreads.h"
-#include "install/FontFolderWalk.h"
+#include "install/WatchedFontRegistrar.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -38,17 +38,6 @@ private:
     std::optional<FontScanPhase> m_last;
     std::chrono::steady_clock::time_point m_lastTime;
 };
-
-std::vector<FilePath> watchedFiles(const std::vector<FilePath> &folders,
-                                   const std::stop_token &stop)
-{
-    std::vector<FilePath> files;
-    for (const FilePath &folder : folders) {
-        const std::vector<FilePath> found = fontFilesInFolder(folder, stop);
-        files.insert(files.end(), found.begin(), found.end());
-    }
-    return files;
-}
 
 } // namespace
 
@@ -95,19 +84,24 @@ struct FontLibraryService::Private
 
     void install(std::shared_ptr<const FaceResolver> resolver)
     {
-        const std::lock_guard lock(resolverLock);
-        faceResolver.swap(resolver);
+        {
+            const std::lock_guard lock(resolverLock);
+            faceResolver.swap(resolver);
+        }
+        // Freeing the records and caches of a large library takes longer than a frame.
+        loaderThread.push([old = std::move(resolver)] {});
     }
 
     void startLoad();
     void run(const std::shared_ptr<Load> &load);
-    void finishLoad(const std::optional<FontCatalogResult> &result,
+    void finishLoad(std::optional<FontCatalogResult> result,
                     std::shared_ptr<const FaceResolver> resolver);
     void serve(PendingResolve &request);
 
     const Dependencies dependencies;
     const std::shared_ptr<const SystemFont> systemFont;
     FontCatalogLoader loader;
+    const WatchedFontRegistrar watchedRegistrar = {};
     mutable std::mutex resolverLock;
     std::shared_ptr<const FaceResolver> faceResolver;
     /// The first one runs. Thread: main.
@@ -138,16 +132,16 @@ void FontLibraryService::Private::run(const std::shared_ptr<Load> &load)
     report(FontScanPhase::enumerating(0));
     const std::stop_token stop = load->stop.get_token();
     auto result = std::make_shared<std::optional<FontCatalogResult>>(
-        loader.scan(watchedFiles(load->folders, stop), report, stop));
+        loader.scan(watchedRegistrar.fontFiles(load->folders, stop), report, stop));
     std::shared_ptr<const FaceResolver> resolver;
     if (*result) {
         resolver = makeResolver((*result)->families);
         resolver->prepare();
     }
-    mainThread.post([this, result, resolver] { finishLoad(*result, resolver); });
+    mainThread.post([this, result, resolver] { finishLoad(std::move(*result), resolver); });
 }
 
-void FontLibraryService::Private::finishLoad(const std::optional<FontCatalogResult> &result,
+void FontLibraryService::Private::finishLoad(std::optional<FontCatalogResult> result,
                                              std::shared_ptr<const FaceResolver> resolver)
 {
     const std::shared_ptr<Load> load = loads.front();
@@ -159,7 +153,7 @@ void FontLibraryService::Private::finishLoad(const std::optional<FontCatalogResu
     install(std::move(resolver));
     // Nothing of the service is touched behind this line: the callback may destroy it.
     if (load->done)
-        load->done(*result);
+        load->done(*std::move(result));
 }
 
 /// Thread: worker.

@@ -68,7 +68,7 @@ public:
     ~FontLibraryService() override;
 
     using ProgressCallback = std::function<void(const FontScanPhase &)>;
-    using CatalogCallback = std::function<void(const FontCatalogResult &)>;
+    using CatalogCallback = std::function<void(FontCatalogResult)>;
 
     /// Walks `watchedFolders`, scans them and the available fonts off the main thread, and hands
     /// the result over on the main thread. A load asked for while one runs is run after it.

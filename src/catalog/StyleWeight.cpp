@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/StyleWeight.h"
 
+#include <QList>
 #include <QString>
 
 #include <algorithm>

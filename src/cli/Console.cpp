@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Console.h"
 
+#include <QList>
 #include <QStringDecoder>
 
 #include <cerrno>

@@ -7,12 +7,30 @@
 #include "base/NotificationCentre.h"
 #include "base/RunThen.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
 namespace lorva {
 
 namespace {
+
+/// Below this a list is freed where it is let go of.
+constexpr size_t kSmallLibrary = 500;
+
+/// Freeing a large library takes longer than a frame, so that its last holder, often a view, leaves
+/// it to a worker.
+FontFamilyList shared(std::vector<FontFamilyRecord> families)
+{
+    using Families = const std::vector<FontFamilyRecord>;
+    return {new Families(std::move(families)), [](Families *list) {
+                if (list->size() > kSmallLibrary && QCoreApplication::instance())
+                    QThreadPool::globalInstance()->start([list] { delete list; });
+                else
+                    delete list;
+            }};
+}
 
 /// The families in the order that the user's language sorts their names. Thread: worker.
 FontFamilyList sortedByName(std::vector<FontFamilyRecord> families)
@@ -24,11 +42,11 @@ FontFamilyList sortedByName(std::vector<FontFamilyRecord> families)
         keys.emplace_back(collator.sortKey(families[i].familyName), i);
     std::stable_sort(keys.begin(), keys.end(),
                      [](const auto &a, const auto &b) { return a.first < b.first; });
-    auto sorted = std::make_shared<std::vector<FontFamilyRecord>>();
-    sorted->reserve(families.size());
+    std::vector<FontFamilyRecord> sorted;
+    sorted.reserve(families.size());
     for (const auto &[key, index] : keys)
-        sorted->push_back(std::move(families[index]));
-    return sorted;
+        sorted.push_back(std::move(families[index]));
+    return shared(std::move(sorted));
 }
 
 FontFamilyList noFamilies()
@@ -72,9 +90,9 @@ void LorvaAppModel::loadCatalog()
             if (m_allFamilies->empty())
                 changed();
         },
-        [this, generation](const FontCatalogResult &result) {
+        [this, generation](FontCatalogResult result) {
             if (generation == m_loadGeneration)
-                applyCatalog(result);
+                applyCatalog(std::move(result));
         });
 }
 
@@ -126,13 +144,13 @@ FontFamilyList LorvaAppModel::familiesOfSource() const
     if (kind != BrowserSource::Kind::active && kind != BrowserSource::Kind::inactive)
         return m_allFamilies;
     const bool wantsActive = kind == BrowserSource::Kind::active;
-    auto matching = std::make_shared<std::vector<FontFamilyRecord>>();
+    std::vector<FontFamilyRecord> matching;
     for (const FontFamilyRecord &family : *m_allFamilies) {
         const auto state = activation(family);
         if (state && state->isActive() == wantsActive)
-            matching->push_back(family);
+            matching.push_back(family);
     }
-    return matching;
+    return shared(std::move(matching));
 }
 
 std::optional<FontFamilyActivation> LorvaAppModel::activation(const FontFamilyRecord &family) const

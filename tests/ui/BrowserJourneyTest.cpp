@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
+#include <QToolTip>
 
 #include <gmock/gmock.h>
 
@@ -250,6 +251,37 @@ TEST_F(BrowserJourney, AnEmptyLibrarySaysSo)
     EXPECT_EQ(view().visibleItems().size(), 1U);
 }
 
+TEST_F(BrowserJourney, AListThatGetsShorterWhileScrolledToItsEndShowsItsOwnCards)
+{
+    start(90);
+    press(Qt::Key_End);
+    library.fonts->files.resize(12);
+    ASSERT_TRUE(library.load());
+    library.model->setPointSize(100);
+    renderNow();
+    EXPECT_EQ(library.model->selectedFamilyName(), std::nullopt);
+    EXPECT_TRUE(view().visibleItems().contains(11));
+    for (const auto &[index, item] : view().visibleItems()) {
+        EXPECT_EQ(item->familyName(), view().items().at(index));
+        EXPECT_FALSE(card(index).showsSelection());
+    }
+}
+
+TEST_F(BrowserJourney, TheKeysGoBackToTheCardsAfterAnEmptyView)
+{
+    start(3);
+    root->activateWindow();
+    ASSERT_TRUE(waitUntil([this] { return view().hasFocus(); }));
+    const auto files = std::exchange(library.fonts->files, {});
+    ASSERT_TRUE(library.load());
+    renderNow();
+    ASSERT_TRUE(view().isHidden());
+    library.fonts->files = files;
+    ASSERT_TRUE(library.load());
+    renderNow();
+    EXPECT_TRUE(view().hasFocus());
+}
+
 TEST_F(BrowserJourney, TheFirstLoadShowsThatItRuns)
 {
     library.addFamilies(QStringLiteral("Face"), 3);
@@ -283,6 +315,15 @@ TEST_F(BrowserJourney, AVanishedFontShowsTheSystemFontAndSaysSo)
     EXPECT_TRUE(preview.currentFont()->isStandIn());
     EXPECT_FALSE(preview.toolTip().isEmpty());
     EXPECT_EQ(preview.accessibleDescription(), preview.toolTip());
+
+    QHelpEvent rest(QEvent::ToolTip, centreOf(0), view().viewport()->mapToGlobal(centreOf(0)));
+    QCoreApplication::sendEvent(view().viewport(), &rest);
+    EXPECT_EQ(QToolTip::text(), preview.toolTip());
+
+    library.addFamilies(QStringLiteral("Face"), 2);
+    ASSERT_TRUE(library.load());
+    renderNow();
+    EXPECT_FALSE(preview.currentFont()->isStandIn()) << "a new catalog asks again";
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -69,14 +70,24 @@ BrowserCollectionView::BrowserCollectionView(QWidget *parent)
 
 BrowserCollectionView::~BrowserCollectionView() = default;
 
-void BrowserCollectionView::setItems(const QStringList &ids)
+void BrowserCollectionView::setContent(const Content &content)
 {
-    if (ids == m_ids) {
-        reconfigureVisibleItems();
-        return;
-    }
-    const Anchor anchor = currentAnchor();
-    // Cards are handed over by family, so that what stays on screen is not set anew.
+    const bool itemsChanged = content.ids != m_ids;
+    const bool isRearranged = content.mode != m_mode || content.pointSize != m_pointSize;
+    const Anchor anchor = itemsChanged || isRearranged ? currentAnchor() : Anchor();
+    m_mode = content.mode;
+    m_pointSize = content.pointSize;
+    m_selectedID = content.selectedID;
+    if (itemsChanged)
+        replaceItems(content.ids);
+    if (itemsChanged || isRearranged)
+        relayout(anchor);
+    reconfigureVisibleItems();
+}
+
+/// Cards are handed over by family, so that what stays on screen is not set anew.
+void BrowserCollectionView::replaceItems(const QStringList &ids)
+{
     QHash<QString, FontCollectionItem *> byID;
     for (const auto &[index, item] : m_visible)
         byID.insert(m_ids.at(index), item);
@@ -89,42 +100,23 @@ void BrowserCollectionView::setItems(const QStringList &ids)
         m_indexByID.insert(ids.at(index), index);
 
     for (auto it = byID.cbegin(); it != byID.cend(); ++it) {
-        if (const auto found = m_indexByID.constFind(it.key()); found != m_indexByID.cend())
+        if (const auto found = m_indexByID.constFind(it.key()); found != m_indexByID.cend()) {
             m_visible.emplace(*found, it.value());
-        else {
+        } else {
             it.value()->hide();
             m_spare.push_back(it.value());
         }
     }
-    relayout(anchor);
-    reconfigureVisibleItems();
-}
-
-void BrowserCollectionView::setArrangement(ViewMode mode, double pointSize)
-{
-    if (mode == m_mode && pointSize == m_pointSize)
-        return;
-    const Anchor anchor = currentAnchor();
-    m_mode = mode;
-    m_pointSize = pointSize;
-    relayout(anchor);
-    reconfigureVisibleItems();
 }
 
 void BrowserCollectionView::setColors(const QColor &foreground, const QColor &background)
 {
+    if (foreground == m_foreground && background == m_background)
+        return;
     m_foreground = foreground;
     m_background = background;
     m_overlay->setForeground(foreground);
     viewport()->update();
-}
-
-void BrowserCollectionView::setSelectedID(const QString &id)
-{
-    if (id == m_selectedID)
-        return;
-    m_selectedID = id;
-    reconfigureVisibleItems();
 }
 
 void BrowserCollectionView::reconfigureVisibleItems()
@@ -213,9 +205,10 @@ void BrowserCollectionView::placeVisibleItems()
         FontCollectionItem *item = takeSpareItem();
         item->setGeometry(mirrored);
         m_visible.emplace(index, item);
+        // Shown first: a hidden widget does not learn its size, and a request for pixels names it.
+        item->show();
         if (configureItem)
             configureItem(*item, index);
-        item->show();
     }
     while (m_spare.size() > kMaxSpareItems) {
         delete m_spare.back();
@@ -238,7 +231,22 @@ bool BrowserCollectionView::viewportEvent(QEvent *event)
         paintViewport(static_cast<QPaintEvent *>(event)->rect());
         return true;
     }
+    if (event->type() == QEvent::ToolTip)
+        return showToolTip(*static_cast<QHelpEvent *>(event));
     return QAbstractScrollArea::viewportEvent(event);
+}
+
+/// Cards let the pointer through, so that the view speaks for them.
+bool BrowserCollectionView::showToolTip(const QHelpEvent &event)
+{
+    for (const auto &[index, item] : m_visible) {
+        if (item->geometry().contains(event.pos()) && !item->toolTip().isEmpty()) {
+            QToolTip::showText(event.globalPos(), item->toolTip(), viewport(), item->geometry());
+            return true;
+        }
+    }
+    QToolTip::hideText();
+    return true;
 }
 
 void BrowserCollectionView::paintViewport(const QRect &exposed)
@@ -276,8 +284,7 @@ void BrowserCollectionView::paintEndOfGrid(QPainter &painter) const
 void BrowserCollectionView::resizeEvent(QResizeEvent *event)
 {
     m_overlay->adapt();
-    const int widthChange =
-        std::abs(viewport()->width() - m_layout.cardRect(0).width() * m_layout.columns());
+    const int widthChange = std::abs(viewport()->width() - m_layout.contentWidth());
     const bool heightChanged = event->size().height() != event->oldSize().height();
     if (widthChange <= kIgnoredWidthChange && !heightChanged && m_layout.itemCount() > 0)
         return;
@@ -290,6 +297,8 @@ void BrowserCollectionView::resizeEvent(QResizeEvent *event)
 void BrowserCollectionView::scrollContentsBy(int, int)
 {
     placeVisibleItems();
+    // Where no card stands, the lines that close the grid have moved.
+    viewport()->update();
     m_overlay->flash();
 }
 
@@ -342,7 +351,7 @@ void BrowserCollectionView::select(int index)
         scrollToItem(index);
     if (id == m_selectedID)
         return;
-    setSelectedID(id);
+    m_selectedID = id;
     if (onSelectionChanged)
         onSelectionChanged(id);
 }

@@ -40,12 +40,19 @@ public:
     /// Fills a card for the item at `index`. Called when a card is shown and when it must change.
     std::function<void(FontCollectionItem &item, int index)> configureItem;
 
-    /// Shows these items. The card at the top of the window keeps its place when it is still there.
-    void setItems(const QStringList &ids);
+    struct Content
+    {
+        QStringList ids;
+        ViewMode mode = ViewMode::grid;
+        double pointSize = 36;
+        QString selectedID;
+    };
+    /// Shows this instead of what was shown, all of it at once: cards are only ever filled from
+    /// indices of the present items. The card at the top of the window keeps its place when it is
+    /// still there.
+    void setContent(const Content &content);
     const QStringList &items() const { return m_ids; }
-    void setArrangement(ViewMode mode, double pointSize);
     void setColors(const QColor &foreground, const QColor &background);
-    void setSelectedID(const QString &id);
     QString selectedID() const { return m_selectedID; }
 
     /// Fills every card on screen anew, in place.
@@ -78,12 +85,14 @@ private:
         double offset = 0;
     };
     Anchor currentAnchor() const;
+    void replaceItems(const QStringList &ids);
     void relayout(const Anchor &anchor);
     void placeVisibleItems();
     FontCollectionItem *takeSpareItem();
     void paintViewport(const QRect &exposed);
     void paintEndOfGrid(QPainter &painter) const;
     void select(int index);
+    bool showToolTip(const QHelpEvent &event);
 
     QStringList m_ids;
     QHash<QString, int> m_indexByID;

@@ -24,6 +24,7 @@ public:
     BrowserLayout() = default;
     BrowserLayout(ViewMode mode, int contentWidth, double pointSize, int itemCount);
 
+    int contentWidth() const { return m_contentWidth; }
     int columns() const { return m_columns; }
     int rowHeight() const { return m_rowHeight; }
     int rows() const { return (m_itemCount + m_columns - 1) / m_columns; }

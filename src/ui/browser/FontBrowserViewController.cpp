@@ -79,10 +79,22 @@ void FontBrowserViewController::apply(const FontBrowserState &state)
     if (isEmpty)
         m_empty->show(*m_state.emptyState);
     m_empty->setVisible(isEmpty);
-    m_collection->setVisible(!isEmpty);
+    showCollection(!isEmpty);
     m_topBar->apply(m_state.title, m_state.pointSize, m_state.viewMode);
     applyColors();
     applyItems(previous);
+}
+
+/// A hidden view loses the focus to whatever comes next; with its cards it gets it back.
+void FontBrowserViewController::showCollection(bool isShown)
+{
+    if (isShown != m_collection->isHidden())
+        return;
+    if (!isShown)
+        m_collectionHadFocus = m_collection->hasFocus();
+    m_collection->setVisible(isShown);
+    if (isShown && m_collectionHadFocus)
+        m_collection->setFocus();
 }
 
 void FontBrowserViewController::applyColors()
@@ -93,10 +105,12 @@ void FontBrowserViewController::applyColors()
     m_collection->setColors(foreground, background);
     m_empty->setForeground(foreground);
     m_loading->setForeground(foreground);
+    setAutoFillBackground(background.alpha() == 255);
+    if (palette().color(QPalette::Window) == background)
+        return;
     QPalette colors = palette();
     colors.setColor(QPalette::Window, background);
     setPalette(colors);
-    setAutoFillBackground(background.alpha() == 255);
 }
 
 void FontBrowserViewController::applyItems(const FontBrowserState &previous)
@@ -105,7 +119,6 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
     if (sourceChanged && m_lastRenderedSource)
         m_scrollOriginBySource.insert(*m_lastRenderedSource, m_collection->scrollOffset());
 
-    m_collection->setArrangement(m_state.viewMode, m_state.pointSize);
     if (previous.families != m_state.families
         || previous.catalogGeneration != m_state.catalogGeneration) {
         m_orderedIDs.clear();
@@ -113,8 +126,8 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
         for (const FontFamilyRecord &family : *m_state.families)
             m_orderedIDs.append(family.familyName);
     }
-    m_collection->setSelectedID(m_state.selectedFamilyName.value_or(QString()));
-    m_collection->setItems(m_orderedIDs);
+    m_collection->setContent({m_orderedIDs, m_state.viewMode, m_state.pointSize,
+                              m_state.selectedFamilyName.value_or(QString())});
     if (sourceChanged) {
         m_collection->setScrollOffset(m_scrollOriginBySource.value(m_state.source, 0));
         m_lastRenderedSource = m_state.source;
@@ -129,7 +142,9 @@ FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) co
     card.previewText = m_state.sampleText;
     card.pointSize = m_state.pointSize;
     card.viewMode = m_state.viewMode;
-    card.isSelected = m_state.selectedFamilyName == family.familyName;
+    // The view's own selection is ahead of the state by one turn of the event loop.
+    card.isSelected = m_collection->selectedID() == family.familyName;
+    card.catalogGeneration = m_state.catalogGeneration;
     card.isFirstColumn = m_collection->isFirstColumn(index);
     card.isFirstRow = index < m_collection->arrangement().columns();
     card.foregroundColor = foregroundOf(m_state);
@@ -156,7 +171,7 @@ bool FontBrowserViewController::isSettled() const
     const auto &items = m_collection->visibleItems();
     return std::all_of(items.begin(), items.end(), [](const auto &entry) {
         const FontPreviewNSView &preview = entry.second->contentView().previewView();
-        return preview.currentFont().has_value() && preview.textOpacity() >= 1.0;
+        return !preview.isWaiting() && preview.textOpacity() >= 1.0;
     });
 }
 

@@ -44,6 +44,7 @@ protected:
 private:
     void applyItems(const FontBrowserState &previous);
     void applyColors();
+    void showCollection(bool isShown);
     FontCardConfiguration cardConfiguration(int index) const;
     void openSelection();
 
@@ -53,6 +54,8 @@ private:
     QStringList m_orderedIDs;
     QHash<BrowserSource, int> m_scrollOriginBySource;
     std::optional<BrowserSource> m_lastRenderedSource;
+
+    bool m_collectionHadFocus = false;
 
     BrowserTopBar *m_topBar;
     BrowserCollectionView *m_collection;

@@ -33,6 +33,11 @@ struct FontCardConfiguration
     double logoSpacing = 0.15;
     std::optional<FontFamilyActivation> activation;
     bool isSystem = false;
+    /// Changes with every catalog that is applied: a face that could not be loaded is then asked
+    /// for again.
+    qint64 catalogGeneration = 0;
+
+    bool operator==(const FontCardConfiguration &) const = default;
 };
 
 } // namespace lorva

@@ -54,7 +54,7 @@ double drawLines(QPainter &painter, const QString &text, const QFont &font, cons
             break;
         set.setLineWidth(room.width());
         const bool isLast = line == maximumLines;
-        const QString rest = text.mid(set.textStart(), isLast ? -1 : set.textLength());
+        const QString rest = text.mid(set.textStart(), isLast ? -1 : set.textLength()).trimmed();
         const QRectF place(room.left(), room.top() + y, room.width(), metrics.height());
         painter.drawText(place, int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine),
                          metrics.elidedText(rest, Qt::ElideRight, room.width()));
@@ -75,7 +75,13 @@ FontCardContentView::FontCardContentView(std::shared_ptr<FontResolver> resolver,
 
 void FontCardContentView::configure(const FontCardConfiguration &configuration)
 {
-    m_configuration = configuration;
+    if (configuration == m_configuration)
+        return;
+    const FontCardConfiguration previous = std::exchange(m_configuration, configuration);
+    const bool hasNewCatalog = previous.catalogGeneration != configuration.catalogGeneration;
+    const Font shown = m_preview->currentFont().value_or(Font());
+    if (hasNewCatalog && (previous.family != configuration.family || shown.isStandIn()))
+        m_appliedPreview.reset();
     applyPreview();
     update();
 }

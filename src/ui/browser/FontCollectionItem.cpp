@@ -22,6 +22,11 @@ void FontCollectionItem::configure(const FontCardConfiguration &configuration)
     m_content->configure(configuration);
 }
 
+QString FontCollectionItem::toolTip() const
+{
+    return m_content->previewView().toolTip();
+}
+
 void FontCollectionItem::resizeEvent(QResizeEvent *)
 {
     m_content->setGeometry(rect());

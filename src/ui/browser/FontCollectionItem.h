@@ -20,6 +20,8 @@ public:
     FontCollectionItem(std::shared_ptr<FontResolver> resolver, QWidget *parent);
 
     void configure(const FontCardConfiguration &configuration);
+    /// What a pointer resting on the card is told; empty when there is nothing to say.
+    QString toolTip() const;
     const QString &familyName() const { return m_familyName; }
     FontCardContentView &contentView() { return *m_content; }
     const FontCardContentView &contentView() const { return *m_content; }

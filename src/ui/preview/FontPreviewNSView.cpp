@@ -98,6 +98,11 @@ SpecimenCanvas FontPreviewNSView::canvas() const
     return {size(), devicePixelRatioF()};
 }
 
+bool FontPreviewNSView::isWaiting() const
+{
+    return m_shared->wantedGeneration != 0;
+}
+
 void FontPreviewNSView::beginGeneration()
 {
     if (m_applyGeneration == std::numeric_limits<quint64>::max())
@@ -166,11 +171,11 @@ void FontPreviewNSView::enqueue(quint64 generation, std::shared_ptr<bool> applie
 
 void FontPreviewNSView::showFont(const Font &font, bool animated)
 {
+    m_shared->wantedGeneration = 0;
     if (font.isNull()) {
         showNothing();
         return;
     }
-    m_shared->wantedGeneration = 0;
     m_specimenIsCurrent =
         m_specimenIsCurrent && m_currentFont == font && differOnlyInColor(m_shown, m_configuration);
     m_imageIsCurrent =

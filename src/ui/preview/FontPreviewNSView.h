@@ -40,6 +40,8 @@ public:
     quint64 applyGeneration() const { return m_applyGeneration; }
     /// Absent while nothing is shown.
     const std::optional<Font> &currentFont() const { return m_currentFont; }
+    /// A worker is at the font, or will be.
+    bool isWaiting() const;
     /// Empty while nothing is shown.
     const QString &shownText() const { return m_shownText; }
     /// 0 … 1; below 1 only while a late font fades in.
