@@ -15,7 +15,7 @@
 #undef QTRY_COMPARE_WITH_TIMEOUT
 #undef QFAIL
 #undef QSKIP
-#define LORVA_NO_QT_TEST_MACRO(...) \
+#define LORVA_NO_QT_TEST_MACRO(...)                                                                \
     static_assert(false, "passes silently under GoogleTest; use EXPECT_ or ASSERT_ or waitUntil()")
 #define QVERIFY LORVA_NO_QT_TEST_MACRO
 #define QVERIFY2 LORVA_NO_QT_TEST_MACRO
