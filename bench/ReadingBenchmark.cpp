@@ -3,10 +3,9 @@
 
 // Reading every installed font file with warm pages, against the least that the kernel asks for the
 // same files. The time of one iteration is that of all files; "per_file" and "per_face" divide it.
+#include "InstalledFonts.h"
 #include "text/FontFace.h"
 #include "text/FontFile.h"
-
-#include <QDirIterator>
 
 #include <benchmark/benchmark.h>
 #include <hb.h>
@@ -18,22 +17,6 @@
 using namespace lorva;
 
 namespace {
-
-const std::vector<FilePath> &installedFonts()
-{
-    static const std::vector<FilePath> files = [] {
-        std::vector<FilePath> found;
-        QDirIterator walk(
-            QStringLiteral("/usr/share/fonts"),
-            {QStringLiteral("*.ttf"), QStringLiteral("*.otf"), QStringLiteral("*.ttc")},
-            QDir::Files, QDirIterator::Subdirectories);
-        while (walk.hasNext())
-            found.push_back(FilePath::fromText(walk.next()));
-        std::sort(found.begin(), found.end());
-        return found;
-    }();
-    return files;
-}
 
 void report(benchmark::State &state, const char *unit, size_t count)
 {

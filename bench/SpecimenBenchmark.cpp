@@ -4,12 +4,10 @@
 // A never-seen specimen, from path to pixels: "Aa 123" at 48 points on a card of 430 by 220 pixels,
 // for every installed font file. Pages are warm, nothing of the file is in the process. One
 // iteration is one pass over all files; the counters are microseconds per file.
+#include "InstalledFonts.h"
 #include "text/FontFile.h"
 #include "text/GlyphPainter.h"
 #include "text/WarmFaces.h"
-
-#include <QDirIterator>
-#include <QFile>
 
 #include <benchmark/benchmark.h>
 
@@ -18,24 +16,6 @@
 using namespace lorva;
 
 namespace {
-
-const std::vector<FilePath> &installedFonts()
-{
-    static const std::vector<FilePath> files = [] {
-        std::vector<FilePath> found;
-        QDirIterator walk(
-            QStringLiteral("/usr/share/fonts"),
-            {QStringLiteral("*.ttf"), QStringLiteral("*.otf"), QStringLiteral("*.ttc")},
-            QDir::Files, QDirIterator::Subdirectories);
-        while (walk.hasNext()) {
-            QFile file(walk.next());
-            if (file.open(QIODevice::ReadOnly) && !file.readAll().isEmpty())
-                found.push_back(FilePath::fromText(file.fileName()));
-        }
-        return found;
-    }();
-    return files;
-}
 
 double threadMicroseconds()
 {
