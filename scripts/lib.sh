@@ -54,6 +54,7 @@ packages_fonts="
 "
 packages_bench="
   libbenchmark-dev      times functions
+  rapidjson-dev         another reader of JSON, to compare ours with
   fontconfig            fc-scan, to compare the scan with
   libharfbuzz-bin       hb-view, to compare the specimen with
   python3               runs both and writes the table

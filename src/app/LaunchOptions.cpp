@@ -3,6 +3,8 @@
 
 #include "app/LaunchOptions.h"
 
+#include <QList>
+
 #include <cmath>
 
 namespace lorva {

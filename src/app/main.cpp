@@ -97,5 +97,5 @@ int main(int argc, char **argv)
 
     lorva::LorvaApplicationDelegate delegate(*options);
     delegate.applicationDidFinishLaunching();
-    return application.exec();
+    return QApplication::exec();
 }

@@ -56,7 +56,7 @@ public:
         return EEXIST;
     }
 
-    int write(QByteArrayView bytes)
+    int write(QByteArrayView bytes) const
     {
         while (!bytes.isEmpty()) {
             const ssize_t written = ::write(m_descriptor, bytes.data(), size_t(bytes.size()));
@@ -70,7 +70,7 @@ public:
     }
 
     /// File systems without permissions are no reason to fail.
-    void takePermissionsOf(const FilePath &path)
+    void takePermissionsOf(const FilePath &path) const
     {
         struct stat info;
         if (::stat(path.c_str(), &info) == 0)

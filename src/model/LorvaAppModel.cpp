@@ -103,7 +103,7 @@ void LorvaAppModel::applyCatalog(FontCatalogResult result)
     result.families.clear();
     runThen(
         m_pool, this,
-        [families = std::move(families)](std::stop_token) mutable {
+        [families = std::move(families)](const std::stop_token &) mutable {
             return sortedByName(std::move(families));
         },
         [this, generation, result = std::move(result)](FontFamilyList sorted) {

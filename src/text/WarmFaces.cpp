@@ -85,9 +85,9 @@ constexpr qint64 kFaceOverhead = 8 << 10;
 /// What HarfBuzz's table requests are answered from.
 struct WarmFace::TableSource
 {
-    TableSource(std::shared_ptr<const FontFile::Data> fontFile, const SfntDirectory &tables)
+    TableSource(std::shared_ptr<const FontFile::Data> fontFile, SfntDirectory tables)
         : file(std::move(fontFile))
-        , directory(tables)
+        , directory(std::move(tables))
     {
         tableByteCount += kFaceOverhead;
     }

@@ -81,7 +81,7 @@ TEST(Folding, TurnsHiraganaIntoKatakana)
 
 TEST(NameCollator, IgnoresCaseButNotAccents)
 {
-    const NameCollator collator(QLocale(QLocale::English));
+    const NameCollator collator{QLocale(QLocale::English)};
     EXPECT_EQ(collator.compare(u"futura", u"FUTURA"), 0);
     EXPECT_LT(collator.compare(u"Resume", u"Résumé"), 0);
     EXPECT_LT(collator.compare(u"Résumé", u"Resumes"), 0);
@@ -96,7 +96,7 @@ TEST(NameCollator, FollowsTheLocale)
 
 TEST(NameCollator, KeysOrderAsItsComparisons)
 {
-    const NameCollator collator(QLocale(QLocale::English));
+    const NameCollator collator{QLocale(QLocale::English)};
     const QStringList names{QStringLiteral("Zapfino"),
                             QStringLiteral("éclair"),
                             QStringLiteral("Eclair"),

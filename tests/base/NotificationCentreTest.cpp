@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/NotificationCentre.h"
 
+#include <QObject>
+
 #include <gmock/gmock.h>
 
 namespace lorva {

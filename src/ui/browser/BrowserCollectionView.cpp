@@ -8,10 +8,12 @@
 #include "ui/style/Hairline.h"
 #include "ui/style/Palette.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
 #include <QToolTip>
 
 #include <cmath>

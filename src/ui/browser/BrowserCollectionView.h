@@ -13,6 +13,8 @@
 #include <map>
 #include <vector>
 
+class QHelpEvent;
+
 namespace lorva {
 
 class FontCollectionItem;

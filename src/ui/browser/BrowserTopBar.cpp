@@ -11,6 +11,7 @@
 #include "ui/style/Style.h"
 
 #include <QPainter>
+#include <QStyle>
 
 namespace lorva {
 

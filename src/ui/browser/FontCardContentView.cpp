@@ -7,7 +7,9 @@
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
+#include <QLocale>
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 
 namespace lorva {

@@ -137,8 +137,8 @@ void FontPreviewNSView::apply(const FontPreviewConfiguration &configuration)
         showNothing();
 }
 
-void FontPreviewNSView::enqueue(quint64 generation, std::shared_ptr<bool> applied,
-                                std::shared_ptr<bool> late)
+void FontPreviewNSView::enqueue(quint64 generation, const std::shared_ptr<bool> &applied,
+                                const std::shared_ptr<bool> &late)
 {
     // The screen, and with it the ratio, may have changed without a change of size.
     m_shared->setCanvas(canvas());

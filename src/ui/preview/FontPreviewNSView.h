@@ -57,7 +57,8 @@ private:
 
     SpecimenCanvas canvas() const;
     void beginGeneration();
-    void enqueue(quint64 generation, std::shared_ptr<bool> applied, std::shared_ptr<bool> late);
+    void enqueue(quint64 generation, const std::shared_ptr<bool> &applied,
+                 const std::shared_ptr<bool> &late);
     void showFont(const Font &font, bool animated);
     void accept(const Delivery &delivery);
     void showNothing();

@@ -34,9 +34,9 @@ bool isKeyboardFocus(Qt::FocusReason reason)
 class SegmentedControl::Segment final : public QAbstractButton
 {
 public:
-    Segment(const QString &symbol, const QString &label, SegmentedControl *parent)
+    Segment(QString symbol, const QString &label, SegmentedControl *parent)
         : QAbstractButton(parent)
-        , m_symbol(symbol)
+        , m_symbol(std::move(symbol))
         , m_control(parent)
     {
         setCheckable(true);
