@@ -11,6 +11,7 @@
 #include "ui/LorvaRootSplitViewController.h"
 #include "ui/style/ReducedMotion.h"
 
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
@@ -265,6 +266,27 @@ TEST_F(BrowserJourney, AListThatGetsShorterWhileScrolledToItsEndShowsItsOwnCards
         EXPECT_EQ(item->familyName(), view().items().at(index));
         EXPECT_FALSE(card(index).showsSelection());
     }
+}
+
+TEST(BrowserEmptyState, OffersToWatchAFolderOnlyWhereThatHelps)
+{
+    BrowserEmptyStateView view(nullptr);
+    view.resize(600, 400);
+    int asked = 0;
+    view.onWatchFolder = [&] { ++asked; };
+    auto *button = view.findChild<QPushButton *>(QStringLiteral("watchFolderButton"));
+    view.show({BrowserEmptyState::NoSearchResults{QStringLiteral("zz")}});
+    EXPECT_EQ(view.title(), QStringLiteral("No Results"));
+    EXPECT_EQ(view.subtitle(), QString::fromUtf8("No fonts match “zz”."));
+    EXPECT_TRUE(button->isHidden());
+
+    view.show(
+        {BrowserEmptyState::SourceEmpty{QStringLiteral("No Fonts"), QStringLiteral("…"), true}});
+    static_cast<QWidget &>(view).show();
+    ASSERT_TRUE(button->isVisible());
+    EXPECT_TRUE(view.rect().contains(button->geometry()));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(BrowserJourney, TheKeysGoBackToTheCardsAfterAnEmptyView)

@@ -8,6 +8,7 @@
 #include "ui/style/SymbolImage.h"
 
 #include <QPainter>
+#include <QPushButton>
 
 namespace lorva {
 
@@ -22,8 +23,16 @@ constexpr double kSubtitleAlpha = 0.5;
 
 BrowserEmptyStateView::BrowserEmptyStateView(QWidget *parent)
     : QWidget(parent)
+    , m_watchFolder(new QPushButton(tr("Watch Folder…"), this))
 {
     setObjectName(QStringLiteral("BrowserEmptyStateView"));
+    m_watchFolder->setObjectName(QStringLiteral("watchFolderButton"));
+    m_watchFolder->setFont(interfaceFont(InterfaceSize::body));
+    m_watchFolder->hide();
+    connect(m_watchFolder, &QPushButton::clicked, this, [this] {
+        if (onWatchFolder)
+            onWatchFolder();
+    });
 }
 
 void BrowserEmptyStateView::show(const BrowserEmptyState &state)
@@ -38,6 +47,9 @@ void BrowserEmptyStateView::show(const BrowserEmptyState &state)
         m_title = source.title;
         m_subtitle = source.subtitle;
     }
+    const auto *source = std::get_if<BrowserEmptyState::SourceEmpty>(&state.reason);
+    m_watchFolder->setVisible(source && source->showsWatchFolder);
+    m_watchFolder->setGeometry(column().button);
     setAccessibleName(m_title);
     setAccessibleDescription(m_subtitle);
     update();
@@ -49,30 +61,51 @@ void BrowserEmptyStateView::setForeground(const QColor &foreground)
     update();
 }
 
+BrowserEmptyStateView::Column BrowserEmptyStateView::column() const
+{
+    const int titleHeight =
+        QFontMetrics(interfaceFont(InterfaceSize::title, InterfaceWeight::semibold)).height();
+    const int left = rect().center().x() - kTextWidth / 2;
+    const int subtitleHeight = QFontMetrics(interfaceFont(InterfaceSize::body))
+                                   .boundingRect(QRect(left, 0, kTextWidth, height()),
+                                                 Qt::AlignHCenter | Qt::TextWordWrap, m_subtitle)
+                                   .height();
+    const QSize button = m_watchFolder->sizeHint();
+    int total = kSymbolSize + spacing::k16 + titleHeight + spacing::k8 + subtitleHeight;
+    if (!m_watchFolder->isHidden())
+        total += spacing::k20 + button.height();
+
+    Column places;
+    int y = (height() - total) / 2;
+    places.symbol = {rect().center().x() - kSymbolSize / 2, y, kSymbolSize, kSymbolSize};
+    y += kSymbolSize + spacing::k16;
+    places.title = {left, y, kTextWidth, titleHeight};
+    y += titleHeight + spacing::k8;
+    places.subtitle = {left, y, kTextWidth, subtitleHeight};
+    y += subtitleHeight + spacing::k20;
+    places.button = {QPoint(rect().center().x() - button.width() / 2, y), button};
+    return places;
+}
+
+void BrowserEmptyStateView::resizeEvent(QResizeEvent *)
+{
+    m_watchFolder->setGeometry(column().button);
+}
+
 void BrowserEmptyStateView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QFont titleFont = interfaceFont(InterfaceSize::title, InterfaceWeight::semibold);
-    const QFont subtitleFont = interfaceFont(InterfaceSize::body);
-    const int titleHeight = QFontMetrics(titleFont).height();
-    const QRect column(rect().center().x() - kTextWidth / 2, 0, kTextWidth, height());
-    const QRect wanted = QFontMetrics(subtitleFont)
-                             .boundingRect(column, Qt::AlignHCenter | Qt::TextWordWrap, m_subtitle);
-    const int total = kSymbolSize + spacing::k16 + titleHeight + spacing::k8 + wanted.height();
-    int y = (height() - total) / 2;
-
-    painter.drawImage(QPoint(rect().center().x() - kSymbolSize / 2, y),
+    const Column places = column();
+    painter.drawImage(places.symbol.topLeft(),
                       symbolImage(m_symbol, kSymbolSize, withAlpha(m_foreground, kSymbolAlpha),
                                   devicePixelRatioF()));
-    y += kSymbolSize + spacing::k16;
-    painter.setFont(titleFont);
+    painter.setFont(interfaceFont(InterfaceSize::title, InterfaceWeight::semibold));
     painter.setPen(m_foreground);
-    painter.drawText(QRect(column.left(), y, kTextWidth, titleHeight), Qt::AlignCenter, m_title);
-    y += titleHeight + spacing::k8;
-    painter.setFont(subtitleFont);
+    painter.drawText(places.title, Qt::AlignCenter, m_title);
+    painter.setFont(interfaceFont(InterfaceSize::body));
     painter.setPen(withAlpha(m_foreground, kSubtitleAlpha));
-    painter.drawText(QRect(column.left(), y, kTextWidth, wanted.height()),
-                     int(Qt::AlignHCenter | Qt::AlignTop) | int(Qt::TextWordWrap), m_subtitle);
+    painter.drawText(places.subtitle, int(Qt::AlignHCenter | Qt::AlignTop) | int(Qt::TextWordWrap),
+                     m_subtitle);
 }
 
 } // namespace lorva

@@ -7,6 +7,8 @@
 #include <QColor>
 #include <QWidget>
 
+class QPushButton;
+
 namespace lorva {
 
 /// What stands in the pane when there are no cards: a symbol, a title, a sentence, and, where it
@@ -26,8 +28,20 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// Where symbol, title, subtitle and button stand, one below the other around the middle.
+    struct Column
+    {
+        QRect symbol;
+        QRect title;
+        QRect subtitle;
+        QRect button;
+    };
+    Column column() const;
+
+    QPushButton *m_watchFolder;
     QString m_symbol;
     QString m_title;
     QString m_subtitle;
