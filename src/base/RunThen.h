@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 #include <QThread>
 #include <QThreadPool>
 
+#include <atomic>
 #include <concepts>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -37,6 +40,14 @@ private:
 };
 
 namespace detail {
+
+/// Qt's queues order what the two threads do, but thread checkers cannot look into Qt: both sides
+/// of a hand-over pass here, which they can see.
+inline void passOrder()
+{
+    static std::atomic<unsigned> passed = 0;
+    passed.fetch_add(1, std::memory_order_acq_rel);
+}
 
 /// What the worker and the guard's thread share. The worker may only touch `receiver` under the
 /// lock, and the receiver clears it there before it dies: that is what QFuture::then(context) lacks
@@ -72,6 +83,17 @@ public:
         m_state->receiver = nullptr;
     }
 
+protected:
+    void customEvent(QEvent *) override
+    {
+        passOrder();
+        if (m_state->outcome)
+            deliver();
+        else
+            deleteLater();
+    }
+
+private:
     void deliver()
     {
         // `done` may destroy the guard, so nothing of this object is used after it.
@@ -83,24 +105,21 @@ public:
             done(std::move(outcome));
     }
 
-private:
     const std::shared_ptr<RunState<Outcome>> m_state;
     std::stop_source m_stop;
     Done m_done;
 };
 
-template <class Receiver, class Outcome>
+template <class Outcome>
 void handOver(RunState<Outcome> &state, std::optional<Outcome> outcome)
 {
     const std::lock_guard lock(state.mutex);
     if (!state.receiver)
         return;
     state.outcome = std::move(outcome);
-    auto *receiver = static_cast<Receiver *>(state.receiver);
-    const auto act = [receiver, isDone = state.outcome.has_value()] {
-        isDone ? receiver->deliver() : receiver->deleteLater();
-    };
-    QMetaObject::invokeMethod(receiver, act, Qt::QueuedConnection);
+    auto *arrival = new QEvent(QEvent::User);
+    passOrder();
+    QCoreApplication::postEvent(state.receiver, arrival);
 }
 
 } // namespace detail
@@ -125,13 +144,21 @@ requires std::invocable<Work &, std::stop_token> RunHandle runThen(QThreadPool &
     new Receiver(guard, state, stop, std::move(done));
     // The pool copies its functions; the work may hold what cannot be copied.
     auto sharedWork = std::make_shared<Work>(std::move(work));
-    pool.start([state, sharedWork, token = stop.get_token()]() mutable {
+    std::function<void()> task = [state, sharedWork, token = stop.get_token()]() mutable {
         std::optional<Outcome> outcome;
         if (!token.stop_requested())
             outcome.emplace((*sharedWork)(token));
         // The inputs die here, before anyone hears of the end.
         sharedWork.reset();
-        detail::handOver<Receiver>(*state, std::move(outcome));
+        detail::handOver(*state, std::move(outcome));
+    };
+    // Made before the order is passed, called and freed after it.
+    auto held = std::make_unique<std::function<void()>>(std::move(task));
+    detail::passOrder();
+    pool.start([task = held.release()] {
+        detail::passOrder();
+        const std::unique_ptr<std::function<void()>> mine(task);
+        (*mine)();
     });
     return RunHandle(std::move(stop));
 }

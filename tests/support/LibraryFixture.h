@@ -8,19 +8,32 @@
 #include "support/Waiting.h"
 
 #include <memory>
+#include <mutex>
 
 namespace lorva::test {
 
-/// The files of a folder, as the system's fonts.
+/// The files that a case lists, as the system's fonts.
 class FolderFonts final : public AvailableFonts
 {
 public:
+    /// Of the case's thread; scans see it as it was at the last publish().
     std::vector<FilePath> files;
+
+    void publish()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_published = files;
+    }
     std::vector<FilePath> fontFiles(const std::function<void(int)> &,
                                     std::stop_token) const override
     {
-        return files;
+        const std::lock_guard lock(m_mutex);
+        return m_published;
     }
+
+private:
+    mutable std::mutex m_mutex;
+    std::vector<FilePath> m_published;
 };
 
 /// The stand-in for faces that cannot be found is the first fixture font.
@@ -42,6 +55,7 @@ struct LibraryFixture
     {
         systemFont->path = addFamily(QStringLiteral("Stand In"));
         fonts->files.clear();
+        fonts->publish();
         model = std::make_unique<LorvaAppModel>(
             std::make_unique<FontLibraryService>(
                 FontLibraryService::Dependencies{fonts, systemFont}),
@@ -57,6 +71,7 @@ struct LibraryFixture
                                             .codePoints(characters)
                                             .build());
         fonts->files.push_back(file);
+        fonts->publish();
         return file;
     }
 
@@ -68,6 +83,7 @@ struct LibraryFixture
 
     bool load()
     {
+        fonts->publish();
         model->loadCatalog();
         return waitUntil([this] { return !model->isLoading(); });
     }
