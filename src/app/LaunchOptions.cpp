@@ -16,11 +16,6 @@ tl::unexpected<Error> usage(const QString &detail)
     return failure(ErrorKind::usage, detail);
 }
 
-FilePath absolutePath(const QByteArray &bytes, const FilePath &workingFolder)
-{
-    return bytes.startsWith('/') ? FilePath(bytes) : workingFolder.child(bytes);
-}
-
 Result<QSize> parseSize(const QByteArray &value)
 {
     constexpr int kLargest = 16384;
@@ -78,7 +73,8 @@ Result<void> applyOption(LaunchOptions &options, const QByteArray &name, const Q
                          const FilePath &workingFolder)
 {
     if (name == "--screenshot")
-        return store(Result<FilePath>(absolutePath(value, workingFolder)), options.screenshot);
+        return store(Result<FilePath>(FilePath::absolute(value, workingFolder)),
+                     options.screenshot);
     if (name == "--window-size")
         return store(parseSize(value), options.windowSize);
     if (name == "--view")
@@ -89,7 +85,7 @@ Result<void> applyOption(LaunchOptions &options, const QByteArray &name, const Q
         return store(parsePointSize(value), options.pointSize);
     if (name == "--text")
         return store(Result<QString>(QString::fromUtf8(value)), options.sampleText);
-    options.folders.push_back(absolutePath(value, workingFolder));
+    options.folders.push_back(FilePath::absolute(value, workingFolder));
     return {};
 }
 

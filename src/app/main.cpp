@@ -50,21 +50,13 @@ void handleStartupMessage(QtMsgType type, const QMessageLogContext &context, con
     std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-lorva::FilePath workingFolder()
-{
-    char *folder = ::getcwd(nullptr, 0);
-    const lorva::FilePath path{QByteArray(folder ? folder : "/")};
-    std::free(folder);
-    return path;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     const auto options = lorva::parseLaunchOptions(
         std::span<const char *const>(argv, size_t(argc)).subspan(argc > 0 ? 1 : 0),
-        workingFolder());
+        lorva::FilePath::workingFolder());
     if (!options) {
         std::fprintf(stderr, "lorva: %s; see lorva --help\n", qPrintable(options.error().detail));
         return kExitUsage;

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/FilePath.h"
 
+#include <cstdlib>
+
+#include <unistd.h>
+
 namespace lorva {
 
 namespace {
@@ -65,6 +69,19 @@ std::optional<QByteArray> percentDecoded(QByteArrayView text)
 }
 
 } // namespace
+
+FilePath FilePath::workingFolder()
+{
+    char *folder = ::getcwd(nullptr, 0);
+    const FilePath path{QByteArray(folder ? folder : "/")};
+    std::free(folder);
+    return path;
+}
+
+FilePath FilePath::absolute(const QByteArray &argument, const FilePath &folder)
+{
+    return argument.startsWith('/') ? FilePath(argument) : folder.child(argument);
+}
 
 Result<FilePath> FilePath::fromUrl(QByteArrayView url)
 {

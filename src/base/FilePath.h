@@ -27,6 +27,10 @@ public:
     }
     /// The path whose UTF-8 form is `text`.
     static FilePath fromText(const QString &text) { return FilePath(text.toUtf8()); }
+    /// The process's working folder; "/" when that has gone.
+    static FilePath workingFolder();
+    /// What an argument names: itself when it begins with a slash, else the path below `folder`.
+    static FilePath absolute(const QByteArray &argument, const FilePath &folder = workingFolder());
     /// The path that a file URL ("file:///a%20b") names. Fails with invalidValue for another
     /// scheme, a foreign host, a path that is not absolute, a query or fragment, a broken percent
     /// escape, or an embedded NUL.

@@ -64,6 +64,18 @@ bool isWidthVariant(char32_t point)
     return type == U_DT_WIDE || type == U_DT_NARROW;
 }
 
+/// Calls `visit(code point, its UTF-16 units)` for each character.
+template <class Visit>
+void forEachCharacter(QStringView text, const Visit &visit)
+{
+    for (qsizetype at = 0; at < text.size();) {
+        UChar32 point = 0;
+        const qsizetype start = at;
+        U16_NEXT(text.utf16(), at, text.size(), point);
+        visit(point, text.sliced(start, at - start));
+    }
+}
+
 /// Full-width and half-width forms turned into the characters that they are forms of.
 QString withoutWidth(QStringView text)
 {
@@ -71,10 +83,7 @@ QString withoutWidth(QStringView text)
     const UNormalizer2 *normalizer = unorm2_getNFKCInstance(&code);
     QString out;
     out.reserve(text.size());
-    for (qsizetype at = 0; at < text.size();) {
-        UChar32 point = 0;
-        const qsizetype start = at;
-        U16_NEXT(text.utf16(), at, text.size(), point);
+    forEachCharacter(text, [&](UChar32 point, QStringView units) {
         UChar plain[32];
         const int32_t length = U_SUCCESS(code) && isWidthVariant(char32_t(point))
             ? unorm2_getRawDecomposition(normalizer, point, plain, 32, &code)
@@ -82,8 +91,8 @@ QString withoutWidth(QStringView text)
         if (length >= 0 && U_SUCCESS(code))
             out.append(QStringView(plain, length));
         else
-            out.append(text.sliced(start, at - start));
-    }
+            out.append(units);
+    });
     return out;
 }
 
@@ -109,13 +118,10 @@ QString withoutMarks(QStringView text)
 {
     QString out;
     out.reserve(text.size());
-    for (qsizetype at = 0; at < text.size();) {
-        UChar32 point = 0;
-        const qsizetype start = at;
-        U16_NEXT(text.utf16(), at, text.size(), point);
+    forEachCharacter(text, [&](UChar32 point, QStringView units) {
         if (!(U_GET_GC_MASK(point) & U_GC_M_MASK))
-            out.append(text.sliced(start, at - start));
-    }
+            out.append(units);
+    });
     return out;
 }
 

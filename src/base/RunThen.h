@@ -144,21 +144,22 @@ requires std::invocable<Work &, std::stop_token> RunHandle runThen(QThreadPool &
     new Receiver(guard, state, stop, std::move(done));
     // The pool copies its functions; the work may hold what cannot be copied.
     auto sharedWork = std::make_shared<Work>(std::move(work));
-    std::function<void()> task = [state, sharedWork, token = stop.get_token()]() mutable {
-        std::optional<Outcome> outcome;
-        if (!token.stop_requested())
-            outcome.emplace((*sharedWork)(token));
-        // The inputs die here, before anyone hears of the end.
-        sharedWork.reset();
-        detail::handOver(*state, std::move(outcome));
-    };
     // Made before the order is passed, called and freed after it.
-    auto held = std::make_unique<std::function<void()>>(std::move(task));
+    auto task = std::make_unique<std::function<void()>>(
+        [state, sharedWork, token = stop.get_token()]() mutable {
+            std::optional<Outcome> outcome;
+            if (!token.stop_requested())
+                outcome.emplace((*sharedWork)(token));
+            // The inputs die here, before anyone hears of the end.
+            sharedWork.reset();
+            detail::handOver(*state, std::move(outcome));
+        });
+    sharedWork.reset();
     detail::passOrder();
-    pool.start([task = held.release()] {
+    pool.start([handedOver = task.release()] {
         detail::passOrder();
-        const std::unique_ptr<std::function<void()>> mine(task);
-        (*mine)();
+        const std::unique_ptr<std::function<void()>> owned(handedOver);
+        (*owned)();
     });
     return RunHandle(std::move(stop));
 }

@@ -6,9 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
-
-#include <unistd.h>
 
 namespace lorva::cli {
 
@@ -74,16 +71,6 @@ std::vector<QByteArray> Arguments::values(QByteArrayView option) const
             found.push_back(value);
     }
     return found;
-}
-
-FilePath absolutePath(const QByteArray &argument)
-{
-    if (argument.startsWith('/'))
-        return FilePath(argument);
-    char *folder = ::getcwd(nullptr, 0);
-    const FilePath working{QByteArray(folder ? folder : "/")};
-    std::free(folder);
-    return working.child(argument);
 }
 
 Result<int> wholeNumber(QByteArrayView option, const QByteArray &value, int least, int most)

@@ -44,9 +44,6 @@ private:
     std::vector<QByteArray> m_positional;
 };
 
-/// The absolute path that an argument names from the working folder.
-FilePath absolutePath(const QByteArray &argument);
-
 /// A whole number within the bounds; fails with usage, naming the option.
 Result<int> wholeNumber(QByteArrayView option, const QByteArray &value, int least, int most);
 /// A number within the bounds; fails with usage, naming the option.

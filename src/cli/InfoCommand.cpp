@@ -44,7 +44,7 @@ int runInfoCommand(std::span<const QByteArray> words)
     }
     if (arguments->positional().size() != 1)
         return failUsage("info", QStringLiteral("info takes one font file"));
-    return run(absolutePath(arguments->positional().front()), arguments->has("--json"));
+    return run(FilePath::absolute(arguments->positional().front()), arguments->has("--json"));
 }
 
 } // namespace lorva::cli

@@ -34,7 +34,7 @@ Result<std::vector<FilePath>> folderFiles(const Arguments &arguments)
 {
     std::vector<FilePath> files;
     for (const QByteArray &word : arguments.values("--folder")) {
-        const FilePath folder = absolutePath(word);
+        const FilePath folder = FilePath::absolute(word);
         struct stat info;
         if (::stat(folder.c_str(), &info) != 0)
             return failure(ErrorKind::notFound,

@@ -89,8 +89,8 @@ Result<SpecimenRequest> specimenRequest(const Arguments &arguments)
     };
 
     SpecimenRequest request;
-    request.font = absolutePath(arguments.positional().front());
-    request.picture = absolutePath(*arguments.value("-o"));
+    request.font = FilePath::absolute(arguments.positional().front());
+    request.picture = FilePath::absolute(*arguments.value("-o"));
     RequestReader reader(arguments);
     reader.read("--text", request.text, text);
     reader.read("--face", request.faceIndex, faceIndex);
