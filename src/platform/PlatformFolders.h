@@ -27,6 +27,10 @@ struct PlatformFolders
 
     /// Where registration keeps its links.
     FilePath registeredLinks() const { return userFonts.child(kRegisteredLinksFolderName); }
+    /// What scans learned from font files.
+    FilePath parseCache() const { return applicationSupport.child("parse-cache.json"); }
+    /// The catalog that the window shows until its scan has ended.
+    FilePath catalogSnapshot() const { return applicationSupport.child("catalog.json"); }
 };
 
 } // namespace lorva

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/PreferenceDatabase.h"
 
+#include "base/WholeFile.h"
+
 #include <QDateTime>
 #include <QLoggingCategory>
 
@@ -21,16 +23,6 @@ namespace {
 using Access = SqliteConnection::Access;
 
 constexpr char kFileName[] = "preferences.sqlite";
-
-void makeFolders(const FilePath &folder)
-{
-    struct stat info;
-    if (folder.isEmpty() || ::stat(folder.c_str(), &info) == 0)
-        return;
-    if (folder.parent() != folder)
-        makeFolders(folder.parent());
-    ::mkdir(folder.c_str(), 0700);
-}
 
 /// Held while a damaged file is moved, so that two starting processes do not move each other's new
 /// one.
@@ -89,7 +81,8 @@ PreferenceDatabase::PreferenceDatabase(SqliteConnection connection)
 
 Result<PreferenceDatabase> PreferenceDatabase::open(const FilePath &folder)
 {
-    makeFolders(folder);
+    // Without the folder, opening says what is wrong.
+    static_cast<void>(makeFolders(folder));
     const FilePath file = folder.child(kFileName);
     Result<PreferenceDatabase> database = openFile(file, Access::readWrite);
     if (!database && database.error().kind == ErrorKind::malformed) {
