@@ -188,13 +188,14 @@ std::unique_ptr<FontFace::Data> readFaceData(const std::shared_ptr<const FontFil
     return data;
 }
 
-bool mapsAnyCharacter(const std::shared_ptr<const FontFile::Data> &file, int faceIndex,
+bool mapsAnyCharacter(const std::shared_ptr<const FontFile::Data> &file,
                       const SfntDirectory &directory)
 {
-    const auto warm = WarmFaces::instance().face(file, faceIndex, directory);
+    // Not among the faces kept warm: describing a face does not mean that it will be drawn.
+    const WarmFace face(file, directory);
     const std::unique_ptr<hb_set_t, decltype(&hb_set_destroy)> characters(hb_set_create(),
                                                                           hb_set_destroy);
-    hb_face_collect_unicodes(warm->face(), characters.get());
+    hb_face_collect_unicodes(face.face(), characters.get());
     return !hb_set_is_empty(characters.get());
 }
 
@@ -266,8 +267,7 @@ std::vector<QString> FontFace::familyNamesInAllLanguages() const
         return {};
     const QByteArray bytes =
         readTable(**opened, m_data->directory, fontTag('n', 'a', 'm', 'e'), kMaxNameTableBytes);
-    return NameTable(bytes, NameSelection::all)
-        .allTexts({NameId::typographicFamily, NameId::family, NameId::wwsFamily});
+    return NameTable(bytes, NameSelection::families).familyNames();
 }
 
 std::optional<quint32> FontFace::glyphFor(char32_t scalar) const

@@ -40,7 +40,7 @@ std::unique_ptr<FontFace::Data> readFaceData(const std::shared_ptr<const FontFil
                                              FaceKey key);
 
 /// Whether the face's character map has any entry.
-bool mapsAnyCharacter(const std::shared_ptr<const FontFile::Data> &file, int faceIndex,
+bool mapsAnyCharacter(const std::shared_ptr<const FontFile::Data> &file,
                       const SfntDirectory &directory);
 
 } // namespace lorva

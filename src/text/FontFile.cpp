@@ -6,6 +6,11 @@
 #include "text/FontFaceData.h"
 #include "text/FontFileData.h"
 #include "text/FontLimits.h"
+#include "text/WarmFaces.h"
+
+#include <hb.h>
+
+#include <algorithm>
 
 namespace lorva {
 
@@ -17,11 +22,38 @@ tl::unexpected<Error> named(const FilePath &path, const Error &error)
 }
 
 /// Only asked of faces without a name, so the cost of HarfBuzz does not matter.
-bool hasCharacterMap(const std::shared_ptr<const FontFile::Data> &file, int faceIndex,
+bool hasCharacterMap(const std::shared_ptr<const FontFile::Data> &file,
                      const SfntDirectory &directory)
 {
-    return directory.has(fontTag('c', 'm', 'a', 'p'))
-        && mapsAnyCharacter(file, faceIndex, directory);
+    return directory.has(fontTag('c', 'm', 'a', 'p')) && mapsAnyCharacter(file, directory);
+}
+
+/// A map of every character of Unicode, each in a group of its own, takes 13 MB. Reading a larger
+/// one for each face of a collection would take seconds.
+constexpr quint32 kMaxCharacterMapBytes = 16 << 20;
+
+/// HarfBuzz decides, as it does in drawing: which subtable counts, symbol fonts, damaged tables.
+std::vector<bool> mappedCharacters(const std::shared_ptr<const FontFile::Data> &file,
+                                   const SfntDirectory &directory,
+                                   std::span<const char32_t> characters)
+{
+    std::vector<bool> isMapped(characters.size());
+    const TableEntry *map = directory.find(fontTag('c', 'm', 'a', 'p'));
+    if (!map || map->length > kMaxCharacterMapBytes)
+        return isMapped;
+    const WarmFace face(file, directory);
+    std::transform(characters.begin(), characters.end(), isMapped.begin(), [&](char32_t scalar) {
+        hb_codepoint_t glyph = 0;
+        return hb_font_get_nominal_glyph(face.font(), scalar, &glyph) && glyph != 0;
+    });
+    return isMapped;
+}
+
+std::vector<QString> familyNames(const OpenedFile &opened, const SfntDirectory &directory)
+{
+    const QByteArray bytes =
+        readTable(opened, directory, fontTag('n', 'a', 'm', 'e'), kMaxNameTableBytes);
+    return NameTable(bytes, NameSelection::families).familyNames();
 }
 
 } // namespace
@@ -102,7 +134,7 @@ Result<std::vector<FaceDescriptor>> FontFile::descriptors() const
             continue;
         }
         const FaceFacts facts = readFaceFacts(**opened, *directory);
-        if (!facts.hasReadableName() && !hasCharacterMap(m_data, i, *directory))
+        if (!facts.hasReadableName() && !hasCharacterMap(m_data, *directory))
             continue;
         auto faces = describeFace(facts, i, kMaxDescriptorsPerFile - all.size());
         all.insert(all.end(), std::move_iterator(faces.begin()), std::move_iterator(faces.end()));
@@ -112,24 +144,46 @@ Result<std::vector<FaceDescriptor>> FontFile::descriptors() const
     return all;
 }
 
-Result<std::shared_ptr<const FontFace>> FontFile::face(FaceKey key) const
+Result<SfntDirectory> FontFile::directoryOf(const OpenedFile &opened, FaceKey key) const
 {
     if (key.faceIndex < 0 || key.faceIndex >= faceCount())
         return failure(ErrorKind::notFound,
                        m_data->path.displayText() + u": has no face number "
                            + QString::number(key.faceIndex));
+    auto directory = readDirectory(opened, m_data->locations[size_t(key.faceIndex)]);
+    if (!directory)
+        return named(m_data->path, directory.error());
+    return directory;
+}
+
+Result<std::shared_ptr<const FontFace>> FontFile::face(FaceKey key) const
+{
     const auto opened = m_data->reopen();
     if (!opened)
         return tl::unexpected(opened.error());
-    auto directory = readDirectory(**opened, m_data->locations[size_t(key.faceIndex)]);
+    auto directory = directoryOf(**opened, key);
     if (!directory)
-        return named(m_data->path, directory.error());
+        return tl::unexpected(directory.error());
     auto data = readFaceData(m_data, **opened, std::move(*directory), key);
     if (!data)
         return failure(ErrorKind::notFound,
                        m_data->path.displayText() + u": has no named instance number "
                            + QString::number(key.namedInstance));
     return std::make_shared<const FontFace>(std::move(data));
+}
+
+Result<FaceReach> FontFile::reach(FaceKey key, std::span<const char32_t> characters) const
+{
+    const auto opened = m_data->reopen();
+    if (!opened)
+        return tl::unexpected(opened.error());
+    // HarfBuzz reads its tables one by one; they all come from this one opening.
+    m_data->keepOpen(*opened);
+    const auto directory = directoryOf(**opened, key);
+    if (!directory)
+        return tl::unexpected(directory.error());
+    return FaceReach{mappedCharacters(m_data, *directory, characters),
+                     familyNames(**opened, *directory)};
 }
 
 } // namespace lorva

@@ -6,12 +6,14 @@
 #include "base/Result.h"
 
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace lorva {
 
 class FontFace;
 class OpenedFile;
+struct SfntDirectory;
 
 /// Names one descriptor of a font file.
 struct FaceKey
@@ -48,6 +50,15 @@ struct FaceDescriptor
     QString manufacturer;
 
     bool operator==(const FaceDescriptor &) const = default;
+};
+
+/// Whom a face is made for: what it can write, and what it is called where.
+struct FaceReach
+{
+    /// Whether each character asked for has a glyph, in the order asked.
+    std::vector<bool> isMapped;
+    /// See FontFace::familyNamesInAllLanguages().
+    std::vector<QString> familyNames;
 };
 
 /// An opened font file and its faces.
@@ -90,9 +101,15 @@ public:
     /// notFound for an index that the file does not have, else as open().
     Result<std::shared_ptr<const FontFace>> face(FaceKey key) const;
 
+    /// What a catalog asks of one face of each family, without the cost of a face that can draw and
+    /// without a place among those kept warm. A damaged character map or naming table counts as
+    /// empty. Fails as face(), but takes no notice of the named instance.
+    Result<FaceReach> reach(FaceKey key, std::span<const char32_t> characters) const;
+
     struct Data;
 
 private:
+    Result<SfntDirectory> directoryOf(const OpenedFile &opened, FaceKey key) const;
     explicit FontFile(std::shared_ptr<const Data> data);
     std::shared_ptr<const Data> m_data;
 };

@@ -11,6 +11,10 @@ namespace lorva {
 
 namespace {
 
+/// Three names on three platforms in a hundred languages. A table of thousands, each face with its
+/// own, would take seconds to decode.
+constexpr size_t kMaxFamilyNameRecords = 1000;
+
 enum Rank : quint8 { windowsEnglish, macEnglish, otherLanguage };
 
 constexpr quint16 kUnicodePlatform = 0;
@@ -34,11 +38,19 @@ Rank rankOf(quint16 platform, quint16 language)
     return platform == kMacPlatform && language == 0 ? macEnglish : otherLanguage;
 }
 
+bool isFamilyName(quint16 id)
+{
+    return NameId(id) == NameId::typographicFamily || NameId(id) == NameId::family
+        || NameId(id) == NameId::wwsFamily;
+}
+
 bool isSelected(quint16 id, NameSelection selection)
 {
     constexpr quint16 kFirstOwnId = 256;
     if (selection == NameSelection::all)
         return true;
+    if (selection == NameSelection::families)
+        return isFamilyName(id);
     if (id >= kFirstOwnId)
         return selection == NameSelection::withInstances;
     switch (NameId(id)) {
@@ -161,14 +173,14 @@ QString NameTable::text(quint16 id, int maxBytes) const
     return {};
 }
 
-std::vector<QString> NameTable::allTexts(std::initializer_list<NameId> ids) const
+std::vector<QString> NameTable::familyNames() const
 {
     std::vector<Record> wanted;
-    for (const Record &record : m_records)
-        if (std::find(ids.begin(), ids.end(), NameId(record.id)) != ids.end())
-            wanted.push_back(record);
+    std::copy_if(m_records.begin(), m_records.end(), std::back_inserter(wanted),
+                 [](const Record &record) { return isFamilyName(record.id); });
     std::sort(wanted.begin(), wanted.end(),
               [](const Record &a, const Record &b) { return a.order < b.order; });
+    wanted.resize(std::min(wanted.size(), kMaxFamilyNameRecords));
     std::vector<QString> texts;
     for (const Record &record : wanted)
         if (QString found = decode(record, kMaxNameBytes); !found.isEmpty())

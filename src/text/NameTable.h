@@ -32,6 +32,8 @@ enum class NameSelection {
     essential,
     /// As `essential`, and the font's own ids from 256 on, for axes and named instances.
     withInstances,
+    /// What a family is called, in whichever language.
+    families,
     all,
 };
 
@@ -52,8 +54,9 @@ public:
     /// Empty when there is none. At most `maxBytes` of the record are looked at.
     QString text(NameId id, int maxBytes) const;
     QString text(quint16 id, int maxBytes) const;
-    /// Label-sized texts of ids in every language, in table order.
-    std::vector<QString> allTexts(std::initializer_list<NameId> ids) const;
+    /// What the family is called in every language: records 16, 1 and 21, in table order, the
+    /// first thousand. May hold a name several times.
+    std::vector<QString> familyNames() const;
 
 private:
     struct Record

@@ -6,6 +6,8 @@
 #include "text/ReadingSupport.h"
 #include "text/WarmFaces.h"
 
+#include <QtEndian>
+
 #include <gmock/gmock.h>
 #include <hb-ot.h>
 
@@ -208,6 +210,44 @@ TEST(FontFace, MapsCharactersOfEveryPlane)
     EXPECT_EQ(face->glyphFor(U'\U0001F600'), 3u);
     EXPECT_EQ(face->glyphFor(U'B'), std::nullopt);
     EXPECT_EQ(face->glyphFor(char32_t(0xFFFFFFFF)), std::nullopt);
+}
+
+TEST(FaceReach, SaysWhatIsMappedAndWhatTheFamilyIsCalled)
+{
+    const auto file = openFont(writeFont(
+        FontBuilder("Foo").name(1, u"フー"_qs, 0x411).codePoints(U"A永\U0001F600").build()));
+    const std::u32string asked = {U'B', U'永', 0xFFFFFFFF, U'\U0001F600', U'A'};
+    const auto reach = file->reach({0, 7}, asked);
+    ASSERT_TRUE(reach);
+    EXPECT_THAT(reach->isMapped, ElementsAre(false, true, false, true, true));
+    EXPECT_THAT(reach->familyNames, ElementsAre(u"Foo"_qs, u"フー"_qs));
+    for (const int missing : {-1, 1, 70000}) {
+        const auto refused = file->reach({missing, -1}, asked);
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.error().kind, ErrorKind::notFound);
+    }
+}
+
+TEST(FaceReach, CountsACharacterMapLargerThanAnyAsEmpty)
+{
+    QByteArray font = FontBuilder().build();
+    const auto lengthAt = font.indexOf("cmap") + 12;
+    font.append(17 << 20, '\0');
+    const auto mapsA = [&](quint32 length) -> bool {
+        qToBigEndian(length, font.data() + lengthAt);
+        return openFont(writeFont(font))->reach({}, std::u32string(U"A"))->isMapped.front();
+    };
+    EXPECT_TRUE(mapsA(15 << 20));
+    EXPECT_FALSE(mapsA(17 << 20));
+}
+
+TEST_F(WarmFacesTest, AreOnlyThoseThatMayBeDrawn)
+{
+    const auto file = openFont(realFont("truetype/nanum/NanumGothic.ttf"));
+    const qint64 before = WarmFaces::tableBytes();
+    EXPECT_TRUE(file->reach({}, std::u32string(U"A"))->isMapped.front());
+    EXPECT_TRUE(openFont(writeFont(FontBuilder().withoutNames().build()))->descriptors());
+    EXPECT_EQ(WarmFaces::tableBytes(), before);
 }
 
 TEST(FontFace, ShapesAtItsInstanceAndAtAskedVariations)

@@ -243,6 +243,7 @@ TEST(FontFile, RefusesAFileThatChangedAfterItWasOpened)
 
     EXPECT_FALSE(file->descriptors());
     EXPECT_FALSE(file->face({}));
+    EXPECT_FALSE(file->reach({}, {}));
     EXPECT_EQ(face->names(), FaceNames());
     EXPECT_EQ(face->glyphFor(U'A'), std::nullopt);
     EXPECT_EQ(face->metrics().capHeight, 700);

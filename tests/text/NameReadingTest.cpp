@@ -122,6 +122,14 @@ TEST(NameReading, ListsFamilyNamesOfEveryLanguageInTableOrder)
                 ElementsAre(u"Café"_qs, u"Foo"_qs, u"Foo Family"_qs, u"Foo Wws"_qs, u"フー"_qs));
 }
 
+TEST(NameReading, ListsNoMoreFamilyNamesThanAFontHasUseFor)
+{
+    FontBuilder font = unnamed().name(1, "Foo");
+    for (int language = 0x1000; language < 0x1000 + 3000; ++language)
+        font.name(16, "Foo", language);
+    EXPECT_EQ(builtFace(font)->familyNamesInAllLanguages().size(), 1000u);
+}
+
 TEST(NameReading, ReadsAllTextsOfAFace)
 {
     const FaceNames names = builtFace(FontBuilder("Fam", "Sty")
