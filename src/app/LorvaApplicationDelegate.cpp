@@ -4,6 +4,8 @@
 #include "app/LorvaApplicationDelegate.h"
 
 #include "base/AtomicFile.h"
+#include "base/Trace.h"
+#include "catalog/CatalogCache.h"
 #include "model/stores/WindowGeometry.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/FontconfigSystemFont.h"
@@ -47,9 +49,15 @@ std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
     FontLibraryService::Dependencies dependencies{
         std::make_shared<FontconfigAvailableFonts>(folders.registeredLinks()),
         std::make_shared<FontconfigSystemFont>()};
+    // A picture may use what is known of the files, but shows nothing but what is there now.
+    dependencies.cacheFileURL = folders.parseCache();
+    dependencies.savesCache = !options.screenshot;
+    auto catalogCache = options.screenshot
+        ? nullptr
+        : std::make_unique<CatalogCache>(folders.catalogSnapshot());
     auto model = std::make_unique<LorvaAppModel>(
         std::make_unique<FontLibraryService>(std::move(dependencies)),
-        std::make_unique<CatalogActivation>(folders));
+        std::make_unique<CatalogActivation>(folders), std::move(catalogCache));
     model->setWatchedFolders(options.folders);
     model->setViewMode(options.viewMode.value_or(model->viewMode()));
     model->setColorMode(options.colorMode.value_or(model->colorMode()));
@@ -66,6 +74,7 @@ LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options)
     , m_model(makeModel(m_options, xdgFolders()))
     , m_windowFrameStore(*m_preferences)
 {
+    traceMoment("model made");
 }
 
 LorvaApplicationDelegate::~LorvaApplicationDelegate()
@@ -76,6 +85,7 @@ LorvaApplicationDelegate::~LorvaApplicationDelegate()
 
 void LorvaApplicationDelegate::applicationDidFinishLaunching()
 {
+    const TraceStage stage("start: window");
     if (m_options.screenshot)
         setReducedMotionOverride(true);
     buildWindow();
@@ -125,7 +135,8 @@ void LorvaApplicationDelegate::watchFirstScreen()
     auto *look = new QTimer(this);
     look->setInterval(kSettleLook);
     connect(m_root, &LorvaRootSplitViewController::rendered, this, [this, look] {
-        if (m_model->isLoading() || m_sinceCatalog.isValid())
+        const bool hasContent = !m_model->isLoading() || !m_model->allFamilies()->empty();
+        if (!hasContent || m_sinceCatalog.isValid())
             return;
         m_sinceCatalog.start();
         look->start();
@@ -133,17 +144,36 @@ void LorvaApplicationDelegate::watchFirstScreen()
     connect(look, &QTimer::timeout, this, [this, look] {
         if (!m_root->browser().isSettled())
             return;
+        reportFirstScreen();
+        if (m_options.screenshot && !isReadyForScreenshot())
+            return;
         look->stop();
         look->deleteLater();
-        // What is settled may still wait for its first paint event; the report is of pixels.
-        m_window->repaint();
-        qCInfo(lcStartup) << "first screen painted" << m_sinceCatalog.elapsed()
-                          << "ms after its catalog was known," << m_model->allFamilies()->size()
-                          << "families";
-        Q_EMIT firstScreenPainted();
         if (m_options.screenshot)
             takeScreenshot();
     });
+}
+
+void LorvaApplicationDelegate::reportFirstScreen()
+{
+    if (std::exchange(m_firstScreenIsPainted, true))
+        return;
+    // What is settled may still wait for its first paint event; the report is of pixels.
+    m_window->repaint();
+    traceMoment("first screen painted");
+    qCInfo(lcStartup) << "first screen painted" << m_sinceCatalog.elapsed()
+                      << "ms after its catalog was known," << m_model->allFamilies()->size()
+                      << "families";
+    Q_EMIT firstScreenPainted();
+}
+
+bool LorvaApplicationDelegate::isReadyForScreenshot()
+{
+    if (m_model->isLoading())
+        return false;
+    // The result may not have been drawn yet.
+    m_root->render();
+    return m_root->browser().isSettled();
 }
 
 void LorvaApplicationDelegate::takeScreenshot()

@@ -37,7 +37,8 @@ public:
     LorvaRootSplitViewController *rootController() { return m_root; }
 
 Q_SIGNALS:
-    /// Every card on screen shows its specimen, for the first time after a catalog load.
+    /// Every card on screen shows its specimen, for the first time: those of the last start's
+    /// catalog, or of the scan's.
     void firstScreenPainted();
 
 protected:
@@ -47,6 +48,8 @@ private:
     void buildWindow();
     void placeWindow();
     void watchFirstScreen();
+    void reportFirstScreen();
+    bool isReadyForScreenshot();
     void takeScreenshot();
 
     const LaunchOptions m_options;
@@ -56,6 +59,7 @@ private:
     std::unique_ptr<QMainWindow> m_window;
     LorvaRootSplitViewController *m_root = nullptr;
     QElapsedTimer m_sinceCatalog;
+    bool m_firstScreenIsPainted = false;
 };
 
 } // namespace lorva

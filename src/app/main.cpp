@@ -3,6 +3,7 @@
 
 #include "app/LaunchOptions.h"
 #include "app/LorvaApplicationDelegate.h"
+#include "base/Trace.h"
 #include "platform/linux/SmallFontconfig.h"
 
 #include <QApplication>
@@ -77,14 +78,19 @@ int main(int argc, char **argv)
     }
 
     // Before the application object: its font database is filled from the process's configuration.
-    lorva::useSmallFontconfigForInterface();
+    {
+        const lorva::TraceStage stage("start: interface fonts");
+        lorva::useSmallFontconfigForInterface();
+    }
     QCoreApplication::setApplicationName(QStringLiteral("Lorva"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LORVA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("vantrel.lorva"));
     const QtMessageHandler usual = qInstallMessageHandler(handleStartupMessage);
     // The program's arguments are read above; Qt's own would let a file name pass for an option.
     int qtArgumentCount = 1;
+    lorva::TraceStage applicationStage("start: application object");
     QApplication application(qtArgumentCount, argv);
+    applicationStage.end();
     qInstallMessageHandler(usual);
 
     lorva::LorvaApplicationDelegate delegate(*options);

@@ -16,6 +16,17 @@ quint32 hashOf(const QString &name)
     return quint32(qHash(name));
 }
 
+quint32 hashOf(const FilePath &path)
+{
+    return quint32(qHash(path.bytes()));
+}
+
+bool hasFaceIn(const FontFamilyRecord &family, const FilePath &path)
+{
+    return std::any_of(family.styles.begin(), family.styles.end(),
+                       [&](const FontStyleRecord &style) { return style.fileURL == path; });
+}
+
 } // namespace
 
 int fontManagerWeight(qint64 weight)
@@ -34,7 +45,7 @@ int fontManagerWeight(qint64 weight)
     return 11;
 }
 
-FaceIndex::FaceIndex(std::vector<FontFamilyRecord> families)
+FaceIndex::FaceIndex(FontFamilyList families)
     : m_families(std::move(families))
 {
 }
@@ -46,9 +57,10 @@ void FaceIndex::prepare() const
 
 void FaceIndex::build() const
 {
-    for (quint32 family = 0; family < m_families.size(); ++family) {
-        m_familyPlaces.push_back({hashOf(m_families[family].familyName), family, 0});
-        const std::vector<FontStyleRecord> &styles = m_families[family].styles;
+    const std::vector<FontFamilyRecord> &families = *m_families;
+    for (quint32 family = 0; family < families.size(); ++family) {
+        m_familyPlaces.push_back({hashOf(families[family].familyName), family, 0});
+        const std::vector<FontStyleRecord> &styles = families[family].styles;
         for (quint32 style = 0; style < styles.size(); ++style)
             m_stylePlaces.push_back({hashOf(styles[style].postScriptName), family, style});
     }
@@ -71,15 +83,21 @@ FaceIndex::placesOf(const std::vector<Place> &places, const QString &name)
     return std::equal_range(places.begin(), places.end(), hashOf(name), ByHash());
 }
 
-const FontFamilyRecord *FaceIndex::family(const QString &familyName) const
+std::optional<quint32> FaceIndex::familyPlace(const QString &familyName) const
 {
     prepare();
     const auto [begin, end] = placesOf(m_familyPlaces, familyName);
     for (auto place = begin; place != end; ++place) {
-        if (m_families[place->family].familyName == familyName)
-            return &m_families[place->family];
+        if ((*m_families)[place->family].familyName == familyName)
+            return place->family;
     }
-    return nullptr;
+    return std::nullopt;
+}
+
+const FontFamilyRecord *FaceIndex::family(const QString &familyName) const
+{
+    const std::optional<quint32> place = familyPlace(familyName);
+    return place ? &(*m_families)[*place] : nullptr;
 }
 
 std::vector<const FontStyleRecord *> FaceIndex::stylesNamed(const QString &postScriptName) const
@@ -88,7 +106,7 @@ std::vector<const FontStyleRecord *> FaceIndex::stylesNamed(const QString &postS
     std::vector<const FontStyleRecord *> styles;
     const auto [begin, end] = placesOf(m_stylePlaces, postScriptName);
     for (auto place = begin; place != end; ++place) {
-        const FontStyleRecord &style = m_families[place->family].styles[place->style];
+        const FontStyleRecord &style = (*m_families)[place->family].styles[place->style];
         if (style.postScriptName == postScriptName)
             styles.push_back(&style);
     }
@@ -106,6 +124,54 @@ const FontStyleRecord *FaceIndex::style(const QString &familyName, bool isItalic
     };
     const auto found = std::find_if(record->styles.begin(), record->styles.end(), matches);
     return found == record->styles.end() ? nullptr : &*found;
+}
+
+void FaceIndex::buildFiles() const
+{
+    const std::vector<FontFamilyRecord> &families = *m_families;
+    for (quint32 family = 0; family < families.size(); ++family) {
+        for (const FontStyleRecord &style : families[family].styles) {
+            if (style.fileURL)
+                m_filePlaces.push_back({hashOf(*style.fileURL), family});
+        }
+    }
+    std::sort(m_filePlaces.begin(), m_filePlaces.end());
+    const auto repeated = std::unique(m_filePlaces.begin(), m_filePlaces.end());
+    m_filePlaces.erase(repeated, m_filePlaces.end());
+    m_filePlaces.shrink_to_fit();
+}
+
+void FaceIndex::addFamiliesOfFile(const FilePath &path, std::set<quint32> &families) const
+{
+    const quint32 hash = hashOf(path);
+    auto place = std::lower_bound(m_filePlaces.begin(), m_filePlaces.end(), FilePlace{hash, 0});
+    for (; place != m_filePlaces.end() && place->hash == hash; ++place) {
+        if (!families.contains(place->family) && hasFaceIn((*m_families)[place->family], path))
+            families.insert(place->family);
+    }
+}
+
+QStringList FaceIndex::familiesSharingFiles(const QStringList &familyNames) const
+{
+    std::call_once(m_filesBuilt, [this] { buildFiles(); });
+    std::set<quint32> given;
+    std::set<quint32> sharing;
+    for (const QString &name : familyNames) {
+        if (const std::optional<quint32> place = familyPlace(name))
+            given.insert(*place);
+    }
+    for (const quint32 family : given) {
+        for (const FontStyleRecord &style : (*m_families)[family].styles) {
+            if (style.fileURL)
+                addFamiliesOfFile(*style.fileURL, sharing);
+        }
+    }
+    QStringList names;
+    for (const quint32 family : sharing) {
+        if (!given.contains(family))
+            names.append((*m_families)[family].familyName);
+    }
+    return names;
 }
 
 } // namespace lorva

@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/records/FontRecords.h"
+#include "model/records/FontFamilyList.h"
 
+#include <QStringList>
+
+#include <compare>
 #include <mutex>
+#include <optional>
+#include <set>
 #include <vector>
 
 namespace lorva {
@@ -12,14 +17,14 @@ namespace lorva {
 /// The font manager's weight (2 … 11) of a weight on the 100–900 scale: 400 → 5, 700 → 8, 900 → 11.
 int fontManagerWeight(qint64 weight);
 
-/// Finds the faces of one catalog by family and by PostScript name.
+/// Finds the faces of one catalog by family, by PostScript name and by file.
 ///
-/// Owns: the families it was made of. The tables behind the look-ups are made at the first one, or
-/// by prepare(). Thread: any.
+/// Shares the families it was made of. The tables behind the look-ups by name are made at the first
+/// one, or by prepare(); that of the files when first needed. Thread: any.
 class FaceIndex
 {
 public:
-    explicit FaceIndex(std::vector<FontFamilyRecord> families);
+    explicit FaceIndex(FontFamilyList families);
 
     /// Makes the tables now, so that no later look-up has to.
     void prepare() const;
@@ -31,6 +36,9 @@ public:
     std::vector<const FontStyleRecord *> stylesNamed(const QString &postScriptName) const;
     /// The family's first style of these traits and this font-manager weight; null for none.
     const FontStyleRecord *style(const QString &familyName, bool isItalic, int managerWeight) const;
+    /// The names of the other families with a face in any font file of `familyNames`, in catalog
+    /// order.
+    QStringList familiesSharingFiles(const QStringList &familyNames) const;
 
 private:
     /// Sorted by hash and, within one, by place in the catalog: a tenth of the memory of a hash
@@ -41,14 +49,27 @@ private:
         quint32 family = 0;
         quint32 style = 0;
     };
+    /// A family that has a face in the file of that hash, once however many faces it has there.
+    struct FilePlace
+    {
+        quint32 hash = 0;
+        quint32 family = 0;
+        auto operator<=>(const FilePlace &) const = default;
+    };
     void build() const;
+    void buildFiles() const;
+    std::optional<quint32> familyPlace(const QString &familyName) const;
+    /// Adds the families that have a face in `path`.
+    void addFamiliesOfFile(const FilePath &path, std::set<quint32> &families) const;
     static std::pair<std::vector<Place>::const_iterator, std::vector<Place>::const_iterator>
     placesOf(const std::vector<Place> &places, const QString &name);
 
-    const std::vector<FontFamilyRecord> m_families;
+    const FontFamilyList m_families;
     mutable std::once_flag m_built;
     mutable std::vector<Place> m_familyPlaces;
     mutable std::vector<Place> m_stylePlaces;
+    mutable std::once_flag m_filesBuilt;
+    mutable std::vector<FilePlace> m_filePlaces;
 };
 
 } // namespace lorva

@@ -70,7 +70,8 @@ std::optional<ParsedEntry> parsedEntry(const FaceDescriptor &descriptor, const F
     return entry;
 }
 
-FaceReading readFaces(const FilePath &file)
+FaceReading readFaces(const FilePath &file,
+                      const std::function<bool(const QString &familyName)> &isNewFamily)
 {
     const auto opened = FontFile::openForReading(file);
     if (!opened)
@@ -87,6 +88,7 @@ FaceReading readFaces(const FilePath &file)
         noteManufacturer(reading, descriptor);
         reading.entries.push_back(*std::move(entry));
     }
+    reading.identifications = identifyFamilies(*opened->file, *descriptors, isNewFamily);
     return reading;
 }
 

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "catalog/CatalogTypes.h"
+#include "catalog/FamilyIdentification.h"
 #include "text/FontFile.h"
 
+#include <functional>
 #include <span>
 
 namespace lorva {
@@ -16,6 +18,8 @@ struct FaceReading
     std::vector<ParsedEntry> entries;
     /// Manufacturer of the first face of each family that names one, by family name.
     std::vector<std::pair<QString, QString>> manufacturers;
+    /// Of the families that were asked about.
+    std::vector<FamilyIdentification> identifications;
     /// False when the file may read differently although its fingerprint stays: it was not allowed
     /// to be opened, or the disk failed.
     bool isLasting = true;
@@ -30,8 +34,9 @@ QString styleId(const QString &familyName, const QString &label, const QString &
 /// The label of a style name: trimmed, "Regular" when nothing is left.
 QString styleLabel(const QString &styleName);
 
-/// Reads the faces of one file, opening it once. Thread: any. A file that cannot be read has no
-/// faces.
-FaceReading readFaces(const FilePath &file);
+/// Reads the faces of one file and identifies those of its families that `isNewFamily` picks,
+/// opening the file once. Thread: any. A file that cannot be read has no faces.
+FaceReading readFaces(const FilePath &file,
+                      const std::function<bool(const QString &familyName)> &isNewFamily);
 
 } // namespace lorva

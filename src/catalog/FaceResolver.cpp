@@ -11,6 +11,9 @@ namespace lorva {
 
 namespace {
 
+/// Axes do not depend on the size; one size for all questions about them makes one cached font.
+constexpr double kAnyPointSize = 12;
+
 /// What tells the faces of one file apart: the PostScript name, or the label behind a NUL, which no
 /// PostScript name holds.
 QString faceName(const QString &postScriptName, const QString &label)
@@ -58,8 +61,8 @@ Font SystemFont::at(double pointSize) const
     return m_face ? Font(m_face, pointSize).asStandIn() : Font();
 }
 
-FaceResolver::FaceResolver(std::vector<FontFamilyRecord> families,
-                           std::shared_ptr<const SystemFont> systemFont, SteadyClock now)
+FaceResolver::FaceResolver(FontFamilyList families, std::shared_ptr<const SystemFont> systemFont,
+                           SteadyClock now)
     : m_index(std::move(families))
     , m_systemFont(std::move(systemFont))
     , m_now(std::move(now))
@@ -96,8 +99,10 @@ Font FaceResolver::resolve(const QString &familyName, const std::optional<FontSt
     } else {
         const FontStyleRecord *wanted = wantedStyle(familyName, style);
         Found found = wanted ? search(familyName, *wanted) : Found{};
-        if (!found.face)
+        if (!found.face) {
             found.resolution.path = FaceResolution::Unresolved{m_now()};
+            m_hasUnresolvedFaces = true;
+        }
         face = found.face;
         m_faceResolutionCache.insert(name, std::move(found.resolution));
     }
@@ -106,6 +111,28 @@ Font FaceResolver::resolve(const QString &familyName, const std::optional<FontSt
     const Font font(face, pointSize);
     m_resolvedFontCache.insert({name, pointSize}, font);
     return font;
+}
+
+std::optional<VariableWeight> FaceResolver::variableWeight(const QString &familyName,
+                                                           const FontStyleRecord &style) const
+{
+    const Font font = resolve(familyName, style, kAnyPointSize);
+    return font.isNull() || font.isStandIn() ? std::nullopt : weightOf(*font.face(), style);
+}
+
+Font FaceResolver::fontAtWeight(const QString &familyName, const VariableWeight &variable,
+                                double weight, double pointSize) const
+{
+    const double wanted = weightWithin(variable.axis, weight);
+    const FontName name{nameOf(familyName, variable.style), pointSize, wanted};
+    if (const std::optional<Font> cached = m_resolvedFontCache.find(name))
+        return *cached;
+    const Font own = resolve(familyName, variable.style, pointSize);
+    if (own.isNull() || own.isStandIn())
+        return own;
+    const Font varied = withWeight(own, wanted);
+    m_resolvedFontCache.insert(name, varied);
+    return varied;
 }
 
 const FontStyleRecord *FaceResolver::wantedStyle(const QString &familyName,

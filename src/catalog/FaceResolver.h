@@ -4,12 +4,14 @@
 
 #include "base/BoundedCache.h"
 #include "catalog/FaceIndex.h"
+#include "catalog/VariableWeight.h"
 #include "platform/AvailableFonts.h"
 #include "text/Font.h"
 #include "text/FontFile.h"
 
 #include <QHashFunctions>
 
+#include <atomic>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -81,8 +83,8 @@ public:
     static constexpr size_t kFaceResolutions = 65536;
     static constexpr std::chrono::seconds kRetryAfter{10};
 
-    FaceResolver(std::vector<FontFamilyRecord> families,
-                 std::shared_ptr<const SystemFont> systemFont, SteadyClock now);
+    FaceResolver(FontFamilyList families, std::shared_ptr<const SystemFont> systemFont,
+                 SteadyClock now);
 
     /// Makes the index now, so that no look-up has to.
     void prepare() const { m_index.prepare(); }
@@ -91,6 +93,20 @@ public:
                                    double pointSize) const;
     Font resolve(const QString &familyName, const std::optional<FontStyleRecord> &style,
                  double pointSize) const;
+
+    /// Nothing for a face without a usable weight axis, or that cannot be found.
+    std::optional<VariableWeight> variableWeight(const QString &familyName,
+                                                 const FontStyleRecord &style) const;
+    /// The style at `weight`, kept within its axis. A stand-in stays as it is.
+    Font fontAtWeight(const QString &familyName, const VariableWeight &variable, double weight,
+                      double pointSize) const;
+    /// True once some face was looked for in vain.
+    bool hasUnresolvedFaces() const { return m_hasUnresolvedFaces; }
+    /// See FaceIndex.
+    QStringList familiesSharingFiles(const QStringList &familyNames) const
+    {
+        return m_index.familiesSharingFiles(familyNames);
+    }
 
 private:
     using Face = std::shared_ptr<const FontFace>;
@@ -111,6 +127,8 @@ private:
     {
         FaceName face;
         double pointSize = 0;
+        /// On the weight axis; absent: where the face itself stands.
+        std::optional<double> weight = {};
         bool operator==(const FontName &) const = default;
     };
     struct Hash
@@ -121,7 +139,7 @@ private:
         }
         size_t operator()(const FontName &name) const
         {
-            return qHashMulti(0, (*this)(name.face), name.pointSize);
+            return qHashMulti(0, (*this)(name.face), name.pointSize, name.weight.value_or(0));
         }
     };
     struct Found
@@ -153,6 +171,7 @@ private:
     mutable BoundedCache<QByteArray, std::shared_ptr<const DescribedFile>> m_fileDescriptorCache{
         kFileDescriptors};
     mutable BoundedCache<FaceName, FaceResolution, Hash> m_faceResolutionCache{kFaceResolutions};
+    mutable std::atomic<bool> m_hasUnresolvedFaces = false;
 };
 
 } // namespace lorva

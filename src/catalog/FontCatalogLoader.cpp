@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/FontCatalogLoader.h"
 
+#include "base/Trace.h"
 #include "catalog/FaceReading.h"
 #include "catalog/FamilyAccumulator.h"
+#include "catalog/FamilyClaims.h"
 #include "catalog/TaskGroup.h"
 
 #include <QLoggingCategory>
@@ -25,6 +27,31 @@ FileFingerprint fingerprintOf(const ParsedFontFile &file)
     return {file.fileSize, file.modified};
 }
 
+std::unique_ptr<CacheSaver> makeSaver(const FontCatalogLoader::Dependencies &dependencies)
+{
+    if (dependencies.cacheFileURL.isEmpty() || !dependencies.savesCache)
+        return nullptr;
+    return std::make_unique<CacheSaver>(dependencies.cacheFileURL);
+}
+
+/// Adds the time of its life to one of a report's.
+class PhaseClock
+{
+public:
+    PhaseClock(const char *name, ScanReport::Duration &total)
+        : m_stage(name)
+        , m_total(total)
+    {
+    }
+    ~PhaseClock() { m_total += std::chrono::steady_clock::now() - m_start; }
+    Q_DISABLE_COPY_MOVE(PhaseClock)
+
+private:
+    const TraceStage m_stage;
+    ScanReport::Duration &m_total;
+    const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+};
+
 } // namespace
 
 /// What the steps of one scan share.
@@ -33,6 +60,7 @@ struct FontCatalogLoader::Scan
     const std::vector<FilePath> &watchedFontURLs;
     const ProgressCallback &progress;
     std::stop_token stop;
+    ScanReport done = {};
 
     void report(const FontScanPhase &phase) const
     {
@@ -48,32 +76,87 @@ int scanWorkerCount()
 
 FontCatalogLoader::FontCatalogLoader(Dependencies dependencies)
     : m_dependencies(std::move(dependencies))
+    , m_saver(makeSaver(m_dependencies))
 {
 }
+
+FontCatalogLoader::~FontCatalogLoader() = default;
 
 std::optional<FontCatalogResult> FontCatalogLoader::scan(
     const std::vector<FilePath> &watchedFontURLs, const ProgressCallback &progress,
     std::stop_token stop)
 {
     const std::lock_guard lock(m_scanning);
-    const Scan scan{watchedFontURLs, progress, std::move(stop)};
-    const std::vector<FilePath> files = enumerateFiles(scan);
-    if (scan.stop.stop_requested())
+    Scan scan{watchedFontURLs, progress, std::move(stop)};
+    {
+        const PhaseClock clock("scan: caches", scan.done.readingCache);
+        loadPersistedCache();
+    }
+    std::vector<FilePath> files;
+    std::vector<StaleFile> stale;
+    {
+        const PhaseClock clock("scan: enumerating", scan.done.enumerating);
+        files = enumerateFiles(scan);
+        if (!scan.stop.stop_requested())
+            stale = staleFiles(files);
+    }
+    Identifications identifications;
+    {
+        const PhaseClock clock("scan: scanning", scan.done.scanning);
+        identifications = readFiles(stale, scan);
+    }
+    if (!scan.stop.stop_requested()) {
+        const PhaseClock clock("scan: identifying", scan.done.identifying);
+        identifyFamilies(files, std::move(identifications), scan);
+    }
+    if (scan.stop.stop_requested()) {
+        // What was read so far need not be read again, not even by the next process.
+        scheduleSave();
         return std::nullopt;
-    readFiles(staleFiles(files), scan);
-    if (!scan.stop.stop_requested())
-        identifyFamilies(files, scan);
-    if (scan.stop.stop_requested())
-        return std::nullopt;
-    pruneCaches(files);
-    scan.report(FontScanPhase::preparing());
+    }
 
     FontCatalogResult result;
-    result.families = groupFamilies(files);
-    result.manufacturers = m_manufacturerCache;
-    result.watchedFontURLs = QSet<FilePath>(watchedFontURLs.begin(), watchedFontURLs.end());
-    qCInfo(logScan) << files.size() << "files," << result.families.size() << "families";
+    {
+        const PhaseClock clock("scan: preparing", scan.done.preparing);
+        pruneCaches(files);
+        scheduleSave();
+        scan.report(FontScanPhase::preparing());
+        result.families = groupFamilies(files);
+        result.manufacturers = m_manufacturerCache;
+        result.watchedFontURLs = QSet<FilePath>(watchedFontURLs.begin(), watchedFontURLs.end());
+    }
+    scan.done.filesFound = int(files.size());
+    scan.done.filesRead = int(stale.size());
+    scan.done.filesReused = int(files.size() - stale.size());
+    m_report = scan.done;
+    qCInfo(logScan) << files.size() << "files," << stale.size() << "read,"
+                    << result.families.size() << "families";
     return result;
+}
+
+ScanReport FontCatalogLoader::lastScan() const
+{
+    const std::lock_guard lock(m_scanning);
+    return m_report;
+}
+
+Result<void> FontCatalogLoader::finishSaving()
+{
+    return m_saver ? m_saver->finish() : Result<void>();
+}
+
+void FontCatalogLoader::loadPersistedCache()
+{
+    if (std::exchange(m_persistedCacheLoaded, true) || m_dependencies.cacheFileURL.isEmpty())
+        return;
+    auto cache = readPersistedCache(m_dependencies.cacheFileURL);
+    if (!cache) {
+        qCInfo(logScan).noquote() << "no parse cache:" << cache.error().detail;
+        return;
+    }
+    m_fileCache = std::move(cache->files);
+    m_manufacturerCache = std::move(cache->manufacturers);
+    m_identityCache = std::move(cache->identities);
 }
 
 std::vector<FilePath> FontCatalogLoader::enumerateFiles(const Scan &scan) const
@@ -95,17 +178,19 @@ std::vector<FontCatalogLoader::StaleFile> FontCatalogLoader::staleFiles(
     std::span<const FilePath> files) const
 {
     std::vector<StaleFile> stale;
-    for (const FilePath &file : files) {
+    for (size_t place = 0; place < files.size(); ++place) {
+        const FilePath &file = files[place];
         // Taken before the file is read: when it changes in between, the next scan reads it again.
         const std::optional<FileFingerprint> current = lorva::fingerprintOf(file);
         const auto cached = m_fileCache.constFind(file);
         if (!current || cached == m_fileCache.cend() || fingerprintOf(*cached) != *current)
-            stale.push_back({file, current});
+            stale.push_back({file, current, place});
     }
     return stale;
 }
 
-void FontCatalogLoader::readFiles(std::span<const StaleFile> stale, const Scan &scan)
+FontCatalogLoader::Identifications FontCatalogLoader::readFiles(std::span<const StaleFile> stale,
+                                                                const Scan &scan)
 {
     using Batch = std::vector<FaceReading>;
     const size_t batches = (stale.size() + kBatchSize - 1) / kBatchSize;
@@ -113,25 +198,34 @@ void FontCatalogLoader::readFiles(std::span<const StaleFile> stale, const Scan &
         return stale.subspan(batch * kBatchSize,
                              std::min(kBatchSize, stale.size() - batch * kBatchSize));
     };
+    FamilyClaims claims(m_identityCache);
     const auto readBatch = [&](size_t batch) {
         Batch readings;
-        for (const StaleFile &file : filesOf(batch))
-            readings.push_back(readFaces(file.path));
+        for (const StaleFile &file : filesOf(batch)) {
+            const auto isNewFamily = [&](const QString &familyName) {
+                return claims.claim(familyName, file.place);
+            };
+            readings.push_back(readFaces(file.path, isNewFamily));
+        }
         return readings;
     };
+    Identifications identifications;
     std::vector<FaceReading> readings(stale.size());
     int done = 0;
     const auto merge = [&](size_t batch, Batch output) {
         for (size_t i = 0; i < output.size(); ++i) {
             const size_t file = batch * kBatchSize + i;
             readings[file].manufacturers = std::move(output[i].manufacturers);
+            if (!output[i].identifications.empty())
+                identifications[stale[file].path] = std::move(output[i].identifications);
             keepReading(stale[file], std::move(output[i]));
         }
         done += int(output.size());
         scan.report(FontScanPhase::scanning(done, int(stale.size())));
     };
-    if (runTaskGroup<Batch>(batches, m_dependencies.workers, scan.stop, readBatch, merge))
-        keepManufacturers(readings);
+    runTaskGroup<Batch>(batches, m_dependencies.workers, scan.stop, readBatch, merge);
+    keepManufacturers(readings);
+    return identifications;
 }
 
 void FontCatalogLoader::keepReading(const StaleFile &file, FaceReading reading)
@@ -139,17 +233,25 @@ void FontCatalogLoader::keepReading(const StaleFile &file, FaceReading reading)
     const bool isLasting = file.fingerprint && reading.isLasting;
     const FileFingerprint fingerprint =
         isLasting ? *file.fingerprint : FileFingerprint{kNoFingerprint, 0};
+    const auto known = m_fileCache.constFind(file.path);
+    const bool wasLasting = known != m_fileCache.cend() && known->fileSize != kNoFingerprint;
+    // What is never written must not have the rest written anew after each scan.
+    if ((isLasting || wasLasting) && file.path.isUtf8())
+        m_cacheDirty = true;
     m_fileCache[file.path] =
         ParsedFontFile{fingerprint.fileSize, fingerprint.modified, std::move(reading.entries)};
 }
 
-/// In file order, so that the first file of a family decides however the threads were timed.
+/// In file order, so that the first file of a family that names one decides, however the threads
+/// were timed.
 void FontCatalogLoader::keepManufacturers(std::span<const FaceReading> readings)
 {
     for (const FaceReading &reading : readings) {
         for (const auto &[family, manufacturer] : reading.manufacturers) {
-            if (!m_manufacturerCache.contains(family))
-                m_manufacturerCache.insert(family, manufacturer);
+            if (m_manufacturerCache.contains(family))
+                continue;
+            m_manufacturerCache.insert(family, manufacturer);
+            m_cacheDirty = true;
         }
     }
 }
@@ -165,7 +267,7 @@ std::vector<FontCatalogLoader::UnidentifiedFile> FontCatalogLoader::unidentified
         if (cached == m_fileCache.cend())
             continue;
         for (const ParsedEntry &entry : cached->entries) {
-            if (met.contains(entry.familyName) || m_identityCache.contains(entry.familyName))
+            if (m_identityCache.contains(entry.familyName) || met.contains(entry.familyName))
                 continue;
             met.insert(entry.familyName);
             families.push_back(entry.familyName);
@@ -176,50 +278,78 @@ std::vector<FontCatalogLoader::UnidentifiedFile> FontCatalogLoader::unidentified
     return unidentified;
 }
 
-void FontCatalogLoader::identifyFamilies(std::span<const FilePath> files, const Scan &scan)
+void FontCatalogLoader::identifyFamilies(std::span<const FilePath> files, Identifications known,
+                                         Scan &scan)
 {
-    if (!m_dependencies.identifier)
-        return;
     using Found = std::vector<FamilyIdentification>;
-    const std::vector<UnidentifiedFile> unidentified = unidentifiedFiles(files);
+    std::vector<UnidentifiedFile> unidentified = unidentifiedFiles(files);
     size_t total = 0;
+    size_t done = 0;
     for (const UnidentifiedFile &file : unidentified)
         total += file.families.size();
-
-    const auto identify = [&](size_t task) {
-        return m_dependencies.identifier->identify(unidentified[task].path,
-                                                   unidentified[task].families.front());
+    const auto take = [&](const UnidentifiedFile &file, const Found &found) {
+        scan.done.familiesIdentified += keepIdentities(file.families, found);
+        done += file.families.size();
     };
-    size_t done = 0;
+    std::erase_if(unidentified, [&](const UnidentifiedFile &file) {
+        const auto found = known.constFind(file.path);
+        if (found == known.cend())
+            return false;
+        take(file, *found);
+        return true;
+    });
+    if (done > 0)
+        scan.report(FontScanPhase::identifying(int(done), int(total)));
+
+    const auto identify = [&](size_t task) { return identifyFile(unidentified[task].path); };
     const auto merge = [&](size_t task, const Found &found) {
-        const std::vector<QString> &wanted = unidentified[task].families;
-        for (const FamilyIdentification &each : found) {
-            // A family that this file holds too, but that another file stands for.
-            if (std::find(wanted.begin(), wanted.end(), each.familyName) == wanted.end())
-                continue;
-            m_identityCache.insert(each.familyName, each.identity);
-            if (!each.manufacturer.isEmpty())
-                m_manufacturerCache.insert(each.familyName, each.manufacturer);
-        }
-        done += wanted.size();
+        take(unidentified[task], found);
         scan.report(FontScanPhase::identifying(int(done), int(total)));
     };
     runTaskGroup<Found>(unidentified.size(), m_dependencies.workers, scan.stop, identify, merge);
+}
+
+/// Of what a file told about its families, that about those it stands for; how many that are.
+int FontCatalogLoader::keepIdentities(std::span<const QString> families,
+                                      std::span<const FamilyIdentification> found)
+{
+    int kept = 0;
+    for (const FamilyIdentification &each : found) {
+        if (std::ranges::find(families, each.familyName) == families.end())
+            continue;
+        m_identityCache.insert(each.familyName, each.identity);
+        if (!each.manufacturer.isEmpty())
+            m_manufacturerCache.insert(each.familyName, each.manufacturer);
+        m_cacheDirty = true;
+        ++kept;
+    }
+    return kept;
 }
 
 /// Forgets files that are gone, and families that no file holds any more.
 void FontCatalogLoader::pruneCaches(std::span<const FilePath> files)
 {
     const QSet<FilePath> present(files.begin(), files.end());
-    m_fileCache.removeIf([&](const auto &entry) { return !present.contains(entry.key()); });
+    qsizetype removed =
+        m_fileCache.removeIf([&](const auto &entry) { return !present.contains(entry.key()); });
     QSet<QString> families;
     for (const ParsedFontFile &file : std::as_const(m_fileCache)) {
         for (const ParsedEntry &entry : file.entries)
             families.insert(entry.familyName);
     }
     const auto isGone = [&](const auto &entry) { return !families.contains(entry.key()); };
-    m_manufacturerCache.removeIf(isGone);
-    m_identityCache.removeIf(isGone);
+    removed += m_manufacturerCache.removeIf(isGone);
+    removed += m_identityCache.removeIf(isGone);
+    if (removed > 0)
+        m_cacheDirty = true;
+}
+
+void FontCatalogLoader::scheduleSave()
+{
+    if (!m_saver || !(m_cacheDirty || m_saver->hasFailed()))
+        return;
+    m_saver->save({m_fileCache, m_manufacturerCache, m_identityCache});
+    m_cacheDirty = false;
 }
 
 std::vector<FontFamilyRecord> FontCatalogLoader::groupFamilies(

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "catalog/CacheSaver.h"
 #include "catalog/CatalogTypes.h"
-#include "catalog/FamilyIdentifier.h"
+#include "catalog/FamilyIdentification.h"
 #include "catalog/FileFingerprint.h"
+#include "catalog/ScanReport.h"
 #include "platform/AvailableFonts.h"
 
 #include <QHash>
@@ -26,25 +28,30 @@ int scanWorkerCount();
 /// families.
 ///
 /// Owns: the faces of every file with the file's fingerprint, and what identification found out, so
-/// that a later scan reads only what changed. Thread: any, never the main thread for a real
-/// library; scans run one after another, and the caches belong to the one that runs. Files are read
-/// on at most scanWorkerCount() threads beside it. Always true: a scan's result depends on the
-/// files alone, not on how its threads were timed. Failure: a file that cannot be read has no
-/// faces; no single file ends a scan.
+/// that a later scan reads only what changed. These caches outlive the process in a file: the first
+/// scan begins by reading it, and a scan that changed them has it written in the background; the
+/// destructor waits for that. Thread: any, never the main thread for a real library; scans run one
+/// after another, and the caches belong to the one that runs. Files are read on at most
+/// scanWorkerCount() threads beside it, each opened once. Always true: a scan's result depends on
+/// the files alone, not on how its threads were timed. Failure: a file that cannot be read has no
+/// faces; no single file ends a scan; a cache file that cannot be used counts as empty.
 class FontCatalogLoader
 {
 public:
     struct Dependencies
     {
         std::shared_ptr<const AvailableFonts> availableFonts;
-        /// May be null: families then stay without scripts and alternate names.
-        std::shared_ptr<const FamilyIdentifier> identifier = {};
+        /// Where the caches outlive the process; empty: nowhere.
+        FilePath cacheFileURL = {};
+        /// False for a visitor: the file is read but left as it is.
+        bool savesCache = true;
         int workers = scanWorkerCount();
     };
     /// Thread: the scan's.
     using ProgressCallback = std::function<void(const FontScanPhase &)>;
 
     explicit FontCatalogLoader(Dependencies dependencies);
+    ~FontCatalogLoader();
 
     /// Scans the available fonts and then `watchedFontURLs`, in these orders. Nothing when `stop`
     /// was requested; what was read until then is kept for the next scan.
@@ -52,11 +59,18 @@ public:
                                           const ProgressCallback &progress,
                                           std::stop_token stop = {});
 
+    /// Of the scan that ended last. Waits for one that runs.
+    ScanReport lastScan() const;
+    /// Returns when the caches of the scans so far are written, or why they are not.
+    Result<void> finishSaving();
+
 private:
     struct StaleFile
     {
         FilePath path;
         std::optional<FileFingerprint> fingerprint;
+        /// Its place among all files of the scan.
+        size_t place = 0;
     };
     /// A file to identify and the families that are judged by it.
     struct UnidentifiedFile
@@ -64,23 +78,36 @@ private:
         FilePath path;
         std::vector<QString> families;
     };
+    /// What reading the stale files told about new families, by file.
+    using Identifications = QHash<FilePath, std::vector<FamilyIdentification>>;
     struct Scan;
 
+    void loadPersistedCache();
     std::vector<FilePath> enumerateFiles(const Scan &scan) const;
     std::vector<StaleFile> staleFiles(std::span<const FilePath> files) const;
-    void readFiles(std::span<const StaleFile> stale, const Scan &scan);
+    Identifications readFiles(std::span<const StaleFile> stale, const Scan &scan);
     void keepReading(const StaleFile &file, FaceReading reading);
     void keepManufacturers(std::span<const FaceReading> readings);
     std::vector<UnidentifiedFile> unidentifiedFiles(std::span<const FilePath> files) const;
-    void identifyFamilies(std::span<const FilePath> files, const Scan &scan);
+    void identifyFamilies(std::span<const FilePath> files, Identifications known, Scan &scan);
+    int keepIdentities(std::span<const QString> families,
+                       std::span<const FamilyIdentification> found);
     void pruneCaches(std::span<const FilePath> files);
     std::vector<FontFamilyRecord> groupFamilies(std::span<const FilePath> files) const;
+    void scheduleSave();
 
     const Dependencies m_dependencies;
-    std::mutex m_scanning;
+    mutable std::mutex m_scanning;
     QHash<FilePath, ParsedFontFile> m_fileCache;
     QHash<QString, QString> m_manufacturerCache;
     QHash<QString, FamilyScriptIdentity> m_identityCache;
+    /// The file was looked at, with whatever outcome: once in a process.
+    bool m_persistedCacheLoaded = false;
+    /// The caches hold what the file does not.
+    bool m_cacheDirty = false;
+    ScanReport m_report;
+    /// Null when nothing is saved.
+    const std::unique_ptr<CacheSaver> m_saver;
 };
 
 } // namespace lorva

@@ -57,8 +57,8 @@ struct FontLibraryService::Private
         , systemFont(std::make_shared<SystemFont>(dependencies.systemFont))
         , loader({dependencies.availableFonts ? dependencies.availableFonts
                                               : std::make_shared<NoAvailableFonts>(),
-                  dependencies.identifier})
-        , faceResolver(makeResolver({}))
+                  dependencies.cacheFileURL, dependencies.savesCache})
+        , faceResolver(makeResolver(makeFamilyList()))
     {
     }
 
@@ -67,9 +67,10 @@ struct FontLibraryService::Private
         // Loads that wait behind the running one were never started.
         if (!loads.empty())
             loads.front()->stop.request_stop();
+        cancelPrewarm();
     }
 
-    std::shared_ptr<const FaceResolver> makeResolver(std::vector<FontFamilyRecord> families) const
+    std::shared_ptr<const FaceResolver> makeResolver(FontFamilyList families) const
     {
         const SteadyClock now =
             dependencies.now ? dependencies.now : SteadyClock(std::chrono::steady_clock::now);
@@ -84,18 +85,21 @@ struct FontLibraryService::Private
 
     void install(std::shared_ptr<const FaceResolver> resolver)
     {
+        // What it has not come to is of the old catalog.
+        cancelPrewarm();
         {
             const std::lock_guard lock(resolverLock);
             faceResolver.swap(resolver);
         }
-        // Freeing the records and caches of a large library takes longer than a frame.
-        loaderThread.push([old = std::move(resolver)] {});
+        // Freeing the caches of a large library takes longer than a frame.
+        prewarmThread.push([old = std::move(resolver)] {});
     }
+
+    void cancelPrewarm() { prewarmTask.request_stop(); }
 
     void startLoad();
     void run(const std::shared_ptr<Load> &load);
-    void finishLoad(std::optional<FontCatalogResult> result,
-                    std::shared_ptr<const FaceResolver> resolver);
+    void finishLoad(std::optional<FontCatalogResult> result);
     void serve(PendingResolve &request);
 
     const Dependencies dependencies;
@@ -106,10 +110,14 @@ struct FontLibraryService::Private
     std::shared_ptr<const FaceResolver> faceResolver;
     /// The first one runs. Thread: main.
     std::deque<std::shared_ptr<Load>> loads;
+    /// Stops the running pre-warm. Thread: main.
+    std::stop_source prewarmTask{std::nostopstate};
     MainThreadQueue mainThread;
-    // Last, so that both are stopped before anything they use goes.
-    WorkerThreads loaderThread{1};
-    WorkerThreads resolveWorkers{kMaxResolveWorkers};
+    // Last, so that all are stopped before anything they use goes. Only the resolve workers are
+    // waited for by somebody: a scan runs while the first screen is painted.
+    WorkerThreads loaderThread{1, "vantrel.lorva.catalog", WorkerThreads::Priority::low};
+    WorkerThreads prewarmThread{1, "vantrel.lorva.prewarm", WorkerThreads::Priority::low};
+    WorkerThreads resolveQueue{kMaxResolveWorkers, "vantrel.lorva.font-resolve"};
 };
 
 void FontLibraryService::Private::startLoad()
@@ -133,16 +141,10 @@ void FontLibraryService::Private::run(const std::shared_ptr<Load> &load)
     const std::stop_token stop = load->stop.get_token();
     auto result = std::make_shared<std::optional<FontCatalogResult>>(
         loader.scan(watchedRegistrar.fontFiles(load->folders, stop), report, stop));
-    std::shared_ptr<const FaceResolver> resolver;
-    if (*result) {
-        resolver = makeResolver((*result)->families);
-        resolver->prepare();
-    }
-    mainThread.post([this, result, resolver] { finishLoad(std::move(*result), resolver); });
+    mainThread.post([this, result] { finishLoad(std::move(*result)); });
 }
 
-void FontLibraryService::Private::finishLoad(std::optional<FontCatalogResult> result,
-                                             std::shared_ptr<const FaceResolver> resolver)
+void FontLibraryService::Private::finishLoad(std::optional<FontCatalogResult> result)
 {
     const std::shared_ptr<Load> load = loads.front();
     loads.pop_front();
@@ -150,7 +152,6 @@ void FontLibraryService::Private::finishLoad(std::optional<FontCatalogResult> re
         startLoad();
     if (!result || load->stop.stop_requested())
         return;
-    install(std::move(resolver));
     // Nothing of the service is touched behind this line: the callback may destroy it.
     if (load->done)
         load->done(*std::move(result));
@@ -212,13 +213,60 @@ Font FontLibraryService::resolve(const QString &familyName,
 
 void FontLibraryService::resolveAsync(PendingResolve request)
 {
-    d->resolveWorkers.push(
+    d->resolveQueue.push(
         [service = d.get(), request = std::move(request)]() mutable { service->serve(request); });
 }
 
-void FontLibraryService::setFamilies(const std::vector<FontFamilyRecord> &families)
+void FontLibraryService::prewarm(std::vector<PrewarmFace> faces, double pointSize)
 {
-    d->install(d->makeResolver(families));
+    Q_ASSERT(QThread::currentThread() == thread());
+    d->cancelPrewarm();
+    d->prewarmTask = std::stop_source();
+    d->prewarmThread.push(
+        [resolver = d->currentResolver(), faces = std::move(faces), pointSize,
+         stop = d->prewarmTask.get_token()] { prewarmFaces(*resolver, faces, pointSize, stop); });
+}
+
+PreparedFamilies FontLibraryService::prepareFamilies(FontFamilyList families) const
+{
+    std::shared_ptr<const FaceResolver> resolver = d->makeResolver(std::move(families));
+    resolver->prepare();
+    return PreparedFamilies(std::move(resolver));
+}
+
+void FontLibraryService::setFamilies(PreparedFamilies families)
+{
+    Q_ASSERT(QThread::currentThread() == thread());
+    if (families.m_resolver)
+        d->install(std::move(families.m_resolver));
+}
+
+void FontLibraryService::setFamilies(FontFamilyList families)
+{
+    Q_ASSERT(QThread::currentThread() == thread());
+    d->install(d->makeResolver(std::move(families)));
+}
+
+bool FontLibraryService::hasUnresolvedFaces() const
+{
+    return d->currentResolver()->hasUnresolvedFaces();
+}
+
+std::optional<VariableWeight> FontLibraryService::variableWeight(const QString &familyName,
+                                                                 const FontStyleRecord &style) const
+{
+    return d->currentResolver()->variableWeight(familyName, style);
+}
+
+Font FontLibraryService::fontAtWeight(const QString &familyName, const VariableWeight &variable,
+                                      double weight, double pointSize) const
+{
+    return d->currentResolver()->fontAtWeight(familyName, variable, weight, pointSize);
+}
+
+QStringList FontLibraryService::familiesSharingFiles(const QStringList &familyNames) const
+{
+    return d->currentResolver()->familiesSharingFiles(familyNames);
 }
 
 } // namespace lorva

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "catalog/CatalogTypes.h"
-#include "catalog/FamilyIdentifier.h"
+#include "catalog/Prewarming.h"
 #include "catalog/RepresentativeStyle.h"
+#include "catalog/VariableWeight.h"
+#include "model/records/FontFamilyList.h"
 #include "platform/AvailableFonts.h"
 #include "text/Font.h"
 
@@ -42,9 +44,30 @@ struct PendingResolve
     std::function<void(const ResolvedFace &)> completion;
 };
 
+class FaceResolver;
+
+/// Families with the tables behind their look-ups made, for FontLibraryService::setFamilies().
+///
+/// A value; empty by default. Thread: any.
+class PreparedFamilies
+{
+public:
+    PreparedFamilies() = default;
+
+private:
+    friend class FontLibraryService;
+    explicit PreparedFamilies(std::shared_ptr<const FaceResolver> resolver)
+        : m_resolver(std::move(resolver))
+    {
+    }
+
+    std::shared_ptr<const FaceResolver> m_resolver;
+};
+
 /// The front of the font catalog: runs scans and turns family, style and size into a usable font.
 ///
-/// Owns: the loader and the resolve workers; its destructor stops and waits for both.
+/// Owns: the loader, the resolve workers and the pre-warm; its destructor stops and waits for all
+/// of them.
 /// Thread: main, except where a function says otherwise. Completions arrive on the main thread, and
 /// only while the service lives. Failure: a face that cannot be found gives the system font of the
 /// size, marked isStandIn(), and is not looked for again for 10 seconds.
@@ -58,8 +81,10 @@ public:
     {
         std::shared_ptr<const AvailableFonts> availableFonts;
         std::shared_ptr<const SystemFontLocator> systemFont;
-        /// May be null: families then stay without scripts and alternate names.
-        std::shared_ptr<const FamilyIdentifier> identifier = {};
+        /// Where what scans found out outlives the process; empty: nowhere.
+        FilePath cacheFileURL = {};
+        /// False for a visitor: the file is read but left as it is.
+        bool savesCache = true;
         /// The time, for the rest after a failed look-up; empty: the steady clock.
         std::function<std::chrono::steady_clock::time_point()> now = {};
     };
@@ -71,8 +96,10 @@ public:
     using CatalogCallback = std::function<void(FontCatalogResult)>;
 
     /// Walks `watchedFolders`, scans them and the available fonts off the main thread, and hands
-    /// the result over on the main thread. A load asked for while one runs is run after it.
-    /// `progress` is called on the main thread, with at most some thirty reports a second.
+    /// the result over on the main thread. What resolves stays as it is until setFamilies(), so
+    /// that the caches survive a scan that found nothing new. A load asked for while one runs is
+    /// run after it. `progress` is called on the main thread, with at most some thirty reports a
+    /// second.
     void loadCatalog(std::vector<FilePath> watchedFolders, ProgressCallback progress,
                      CatalogCallback done);
     /// Ends the running scan early; its callback is not called.
@@ -89,9 +116,34 @@ public:
     /// Queues a request; the newest is served first, by at most three workers.
     void resolveAsync(PendingResolve request);
 
-    /// Tells the index which faces a family name stands for; loadCatalog() does it by itself, a
-    /// catalog that comes from elsewhere (a snapshot, a test) is told here.
-    void setFamilies(const std::vector<FontFamilyRecord> &families);
+    /// Has these faces resolved into the caches on a thread of low priority, in this order, in
+    /// place of what a running pre-warm has not come to. At most kPrewarmFamilies families, each
+    /// once.
+    void prewarm(std::vector<PrewarmFace> faces, double pointSize);
+
+    /// Makes the tables behind the look-ups: tens of milliseconds for a large library. Thread: any.
+    PreparedFamilies prepareFamilies(FontFamilyList families) const;
+    /// From now on names stand for the faces of these families, and every cache starts empty.
+    /// Nothing changes for an empty value. Takes microseconds: what it replaces dies on a worker.
+    void setFamilies(PreparedFamilies families);
+    /// For a few families; the tables are made when first needed.
+    void setFamilies(FontFamilyList families);
+
+    /// True once a face of these families was looked for in vain. A scan that finds the same
+    /// families again is then worth setting all the same: the file may be back. Thread: any.
+    bool hasUnresolvedFaces() const;
+
+    /// How the weight slider moves a style; nothing when its face has no weight axis that it could
+    /// move on. May read the file. Thread: any.
+    std::optional<VariableWeight> variableWeight(const QString &familyName,
+                                                 const FontStyleRecord &style) const;
+    /// The style at a weight of its axis, nearest to `weight`. Thread: any.
+    Font fontAtWeight(const QString &familyName, const VariableWeight &variable, double weight,
+                      double pointSize) const;
+    /// The names of the other families with a face in any font file of `familyNames`, in catalog
+    /// order: what happens to these files happens to those families. The first question after
+    /// setFamilies() makes an index: some ten milliseconds for 100,000 faces. Thread: any.
+    QStringList familiesSharingFiles(const QStringList &familyNames) const;
 
 private:
     struct Private;

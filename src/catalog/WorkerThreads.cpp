@@ -2,12 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/WorkerThreads.h"
 
+#include "platform/ThreadPriority.h"
+
 #include <algorithm>
+
+#include <pthread.h>
 
 namespace lorva {
 
-WorkerThreads::WorkerThreads(int most)
+namespace {
+
+/// The system refuses longer names whole.
+constexpr qsizetype kLongestThreadName = 15;
+
+} // namespace
+
+WorkerThreads::WorkerThreads(int most, QByteArray name, Priority priority)
     : m_most(size_t(std::max(most, 1)))
+    , m_name(name.mid(name.lastIndexOf('.') + 1).left(kLongestThreadName))
+    , m_priority(priority)
 {
 }
 
@@ -33,8 +46,17 @@ void WorkerThreads::push(std::function<void()> task)
     m_changed.notify_one();
 }
 
+void WorkerThreads::begin() const
+{
+    if (!m_name.isEmpty())
+        ::pthread_setname_np(::pthread_self(), m_name.constData());
+    if (m_priority == Priority::low)
+        lowerThisThreadsPriority();
+}
+
 void WorkerThreads::run(const std::stop_token &stop)
 {
+    begin();
     std::unique_lock lock(m_lock);
     while (!stop.stop_requested()) {
         ++m_idle;

@@ -12,6 +12,7 @@ namespace lorva::cli {
 
 int runListCommand(std::span<const QByteArray> words);
 int runInfoCommand(std::span<const QByteArray> words);
+int runScanCommand(std::span<const QByteArray> words);
 int runSpecimenCommand(std::span<const QByteArray> words);
 
 } // namespace lorva::cli

@@ -6,6 +6,7 @@
 #include "catalog/FaceReading.h"
 #include "catalog/StyleWeight.h"
 #include "cli/Console.h"
+#include "model/records/RecordsJson.h"
 
 #include <QStringList>
 
@@ -115,6 +116,43 @@ QString faceText(const FontFace &face)
     return text + variationText(face);
 }
 
+QString familyText(const FamilyIdentification &family)
+{
+    const FamilyScriptIdentity &identity = family.identity;
+    QStringList scripts;
+    for (const WritingScript script : identity.scripts)
+        scripts.push_back(storedName(script));
+    QString text =
+        QStringLiteral("Family %1\n").arg(singleLine(family.familyName));
+    text += line(QStringLiteral("Scripts"),
+                 scripts.isEmpty() ? QStringLiteral("none") : scripts.join(QStringLiteral(", ")));
+    if (identity.primary)
+        text += line(QStringLiteral("Primary script"), storedName(*identity.primary));
+    for (const QString &name : identity.alternates.value_or(QStringList()))
+        text += line(QStringLiteral("Other name"), name);
+    return text;
+}
+
+void writeFamily(JsonWriter &out, const FamilyIdentification &family)
+{
+    out.beginObject();
+    out.key("familyName");
+    out.string(family.familyName);
+    out.key("manufacturer");
+    out.string(family.manufacturer);
+    out.key("scripts");
+    writeJson(out, family.identity.scripts);
+    if (family.identity.primary) {
+        out.key("primaryScript");
+        writeJson(out, *family.identity.primary);
+    }
+    if (family.identity.alternates) {
+        out.key("alternateNames");
+        writeJson(out, *family.identity.alternates);
+    }
+    out.endObject();
+}
+
 void writeTraits(JsonWriter &out, const FontFace &face)
 {
     const QString label = styleLabel(face.names().style);
@@ -209,7 +247,9 @@ Result<FaceReport> reportFaces(const FilePath &path)
     const auto descriptors = (*file)->descriptors();
     if (!descriptors)
         return tl::unexpected(descriptors.error());
-    FaceReport report{path, {}};
+    FaceReport report{path, {}, identifyFamilies(**file, *descriptors, [](const auto &) {
+                          return true;
+                      })};
     int known = -1;
     for (const FaceDescriptor &descriptor : *descriptors) {
         if (std::exchange(known, descriptor.key.faceIndex) == descriptor.key.faceIndex)
@@ -234,6 +274,11 @@ QByteArray faceReportJson(const FaceReport &report)
     for (const auto &face : report.faces)
         writeFace(out, *face);
     out.endArray();
+    out.key("families");
+    out.beginArray();
+    for (const FamilyIdentification &family : report.families)
+        writeFamily(out, family);
+    out.endArray();
     out.endObject();
     return out.take();
 }
@@ -243,6 +288,8 @@ QString faceReportText(const FaceReport &report)
     QString text = singleLine(report.path) + u'\n';
     for (const auto &face : report.faces)
         text += faceText(*face);
+    for (const FamilyIdentification &family : report.families)
+        text += familyText(family);
     return text;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "catalog/FamilyIdentification.h"
 #include "text/FontFace.h"
 
 #include <memory>
@@ -16,6 +17,8 @@ struct FaceReport
     FilePath path;
     /// The sound faces, each in its default instance.
     std::vector<std::shared_ptr<const FontFace>> faces;
+    /// Of each family in the file.
+    std::vector<FamilyIdentification> families;
 };
 
 /// Fails when the file cannot be read, or when it holds no sound face.

@@ -12,7 +12,8 @@ namespace {
 constexpr char kHelp[] =
     "Usage: lorvactl info [--json] FILE\n"
     "\n"
-    "Shows the names, traits, variation axes and named instances of every face of a font file.\n"
+    "Shows the names, traits, variation axes and named instances of every face of a font file,\n"
+    "and which writing scripts its families serve.\n"
     "\n"
     "  --json   one JSON object instead\n"
     "  --help   show this help\n";

@@ -1,70 +1,61 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "base/Folding.h"
-#include "catalog/FontCatalogLoader.h"
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "install/FontFolderWalk.h"
+#include "cli/Library.h"
+#include "install/WatchedFontRegistrar.h"
 #include "model/records/RecordsJson.h"
-#include "platform/linux/FontconfigAvailableFonts.h"
-#include "platform/linux/XdgFolders.h"
 
 #include <algorithm>
-#include <chrono>
 #include <tuple>
-
-#include <sys/stat.h>
 
 namespace lorva::cli {
 
 namespace {
 
 constexpr char kHelp[] =
-    "Usage: lorvactl list [--json] [--folder DIR]...\n"
+    "Usage: lorvactl list [--json] [--script NAME] [--folder DIR]...\n"
     "\n"
     "Lists the font families of this machine, one line each: the name, a tab, the styles.\n"
     "Characters that would break a line are written as escapes (\\n, \\u{202e}).\n"
     "\n"
     "  --json         one JSON array of families instead\n"
+    "  --script NAME  only families that can set latin, japanese, korean, simplifiedChinese or\n"
+    "                 traditionalChinese\n"
     "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
     "  --help         show this help\n";
 
-Result<std::vector<FilePath>> folderFiles(const Arguments &arguments)
+FontCatalogResult scan(const std::vector<FilePath> &folders)
 {
-    std::vector<FilePath> files;
-    for (const QByteArray &word : arguments.values("--folder")) {
-        const FilePath folder = FilePath::absolute(word);
-        struct stat info;
-        if (::stat(folder.c_str(), &info) != 0)
-            return failure(ErrorKind::notFound,
-                           QStringLiteral("there is no folder ") + folder.displayText());
-        if (!S_ISDIR(info.st_mode))
-            return failure(ErrorKind::invalidValue,
-                           folder.displayText() + QStringLiteral(" is no folder"));
-        const std::vector<FilePath> found = fontFilesInFolder(folder);
-        files.insert(files.end(), found.begin(), found.end());
-    }
-    return files;
+    FontCatalogLoader loader(machineFonts(CacheUse::readOnly));
+    ScanProgress progress;
+    // Never empty: nobody asks this scan to stop.
+    return *loader.scan(WatchedFontRegistrar().fontFiles(folders, {}), progress.callback());
 }
 
-FontCatalogResult scan(const std::vector<FilePath> &watchedFiles)
+/// The script of `--script`, whatever its case; nothing without the option.
+Result<std::optional<WritingScript>> wantedScript(const Arguments &arguments)
 {
-    FontCatalogLoader loader(
-        {std::make_shared<FontconfigAvailableFonts>(xdgFolders().registeredLinks())});
-    ProgressLine line;
-    std::chrono::steady_clock::time_point shownAt;
-    const auto show = [&](const FontScanPhase &phase) {
-        const auto now = std::chrono::steady_clock::now();
-        if (now - shownAt < std::chrono::milliseconds(50))
-            return;
-        shownAt = now;
-        line.show(phase.text());
-    };
-    const FontCatalogLoader::ProgressCallback progress =
-        line.isShown() ? FontCatalogLoader::ProgressCallback(show) : nullptr;
-    // Never empty: nobody asks this scan to stop.
-    return *loader.scan(watchedFiles, progress);
+    const std::optional<QByteArray> name = arguments.value("--script");
+    if (!name)
+        return std::nullopt;
+    QStringList known;
+    for (const WritingScript script : kAllWritingScripts) {
+        if (storedName(script).compare(QString::fromUtf8(*name), Qt::CaseInsensitive) == 0)
+            return script;
+        known.push_back(storedName(script));
+    }
+    return failure(ErrorKind::usage,
+                   QStringLiteral("--script takes ") + known.join(QStringLiteral(", ")));
+}
+
+void keepOnly(WritingScript script, std::vector<FontFamilyRecord> &families)
+{
+    std::erase_if(families, [&](const FontFamilyRecord &family) {
+        return !family.scripts || !family.scripts->contains(script);
+    });
 }
 
 /// As a reader looks names up; names that only differ in case keep one order by their characters.
@@ -101,7 +92,11 @@ int runListCommand(std::span<const QByteArray> words)
     using Value = OptionSpec::Value;
     const Result<Arguments> arguments = Arguments::parse(
         words,
-        {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}, {"--folder"}});
+        {{"--help", Value::none},
+         {"-h", Value::none},
+         {"--json", Value::none},
+         {"--script"},
+         {"--folder"}});
     if (!arguments)
         return failUsage("list", arguments.error().detail);
     if (arguments->has("--help") || arguments->has("-h")) {
@@ -110,10 +105,15 @@ int runListCommand(std::span<const QByteArray> words)
     }
     if (!arguments->positional().empty())
         return failUsage("list", QStringLiteral("list takes folders as --folder DIR"));
-    const Result<std::vector<FilePath>> files = folderFiles(*arguments);
-    if (!files)
-        return fail(files.error().detail);
-    FontCatalogResult result = scan(*files);
+    const auto script = wantedScript(*arguments);
+    if (!script)
+        return failUsage("list", script.error().detail);
+    const Result<std::vector<FilePath>> folders = givenFolders(*arguments);
+    if (!folders)
+        return fail(folders.error().detail);
+    FontCatalogResult result = scan(*folders);
+    if (*script)
+        keepOnly(**script, result.families);
     sortByName(result.families);
     if (arguments->has("--json"))
         print(QByteArray(encodeFamilies(result.families) + '\n'));

@@ -14,6 +14,7 @@ namespace {
 constexpr char kHelp[] = "Usage: lorvactl COMMAND [OPTION]...\n"
                          "\n"
                          "  list       list the font families of this machine\n"
+                         "  scan       read the fonts that changed, and tell what that took\n"
                          "  info       show what a font file says about its faces\n"
                          "  specimen   draw text in a font as a PNG picture\n"
                          "\n"
@@ -30,6 +31,7 @@ struct Command
 
 constexpr Command kCommands[]{
     {"list", lorva::cli::runListCommand},
+    {"scan", lorva::cli::runScanCommand},
     {"info", lorva::cli::runInfoCommand},
     {"specimen", lorva::cli::runSpecimenCommand},
 };

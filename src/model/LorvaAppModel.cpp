@@ -6,8 +6,7 @@
 #include "base/Folding.h"
 #include "base/NotificationCentre.h"
 #include "base/RunThen.h"
-
-#include <QCoreApplication>
+#include "base/Trace.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,22 +14,6 @@
 namespace lorva {
 
 namespace {
-
-/// Below this a list is freed where it is let go of.
-constexpr size_t kSmallLibrary = 500;
-
-/// Freeing a large library takes longer than a frame, so that its last holder, often a view, leaves
-/// it to a worker.
-FontFamilyList shared(std::vector<FontFamilyRecord> families)
-{
-    using Families = const std::vector<FontFamilyRecord>;
-    return {new Families(std::move(families)), [](Families *list) {
-                if (list->size() > kSmallLibrary && QCoreApplication::instance())
-                    QThreadPool::globalInstance()->start([list] { delete list; });
-                else
-                    delete list;
-            }};
-}
 
 /// The families in the order that the user's language sorts their names. Thread: worker.
 FontFamilyList sortedByName(std::vector<FontFamilyRecord> families)
@@ -46,12 +29,25 @@ FontFamilyList sortedByName(std::vector<FontFamilyRecord> families)
     sorted.reserve(families.size());
     for (const auto &[key, index] : keys)
         sorted.push_back(std::move(families[index]));
-    return shared(std::move(sorted));
+    return makeFamilyList(std::move(sorted));
 }
 
-FontFamilyList noFamilies()
+/// The files of a snapshot that lie in the watched folders: what a scan would say of them, so that
+/// their cards do not change when it has ended. Thread: worker.
+QSet<FilePath> filesInFolders(const std::vector<FontFamilyRecord> &families,
+                              const std::vector<FilePath> &folders)
 {
-    return std::make_shared<const std::vector<FontFamilyRecord>>();
+    QSet<FilePath> files;
+    for (const FontFamilyRecord &family : families) {
+        for (const FontStyleRecord &style : family.styles) {
+            const auto holds = [&](const FilePath &folder) {
+                return style.fileURL->isInside(folder);
+            };
+            if (style.fileURL && std::ranges::any_of(folders, holds))
+                files.insert(*style.fileURL);
+        }
+    }
+    return files;
 }
 
 } // namespace
@@ -62,11 +58,13 @@ QByteArray LorvaAppModel::changeNotification()
 }
 
 LorvaAppModel::LorvaAppModel(std::unique_ptr<FontLibraryService> fontLibraryService,
-                             std::unique_ptr<ActivationProvider> activation, QObject *parent)
+                             std::unique_ptr<ActivationProvider> activation,
+                             std::unique_ptr<CatalogCache> catalogCache, QObject *parent)
     : QObject(parent)
     , m_fontLibraryService(std::move(fontLibraryService))
     , m_activation(std::move(activation))
-    , m_allFamilies(noFamilies())
+    , m_catalogCache(std::move(catalogCache))
+    , m_catalog(std::make_shared<ReadyCatalog>())
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.model"));
     m_pool.setMaxThreadCount(1);
@@ -80,6 +78,41 @@ void LorvaAppModel::loadCatalog()
     m_loadingText.clear();
     const qint64 generation = ++m_loadGeneration;
     changed();
+    if (m_catalogCache && !std::exchange(m_snapshotWasRead, true))
+        showSnapshot(generation);
+    else
+        scan(generation);
+}
+
+/// The scan waits for that: on two cores it would only delay the first picture.
+void LorvaAppModel::showSnapshot(qint64 generation)
+{
+    const auto read = [cache = m_catalogCache.get(), service = m_fontLibraryService.get(),
+                       folders = m_watchedFolders](const std::stop_token &) {
+        std::optional<CatalogSnapshot> snapshot = cache->load();
+        if (!snapshot)
+            return Catalog();
+        ReadyCatalog ready;
+        ready.snapshot = *std::move(snapshot);
+        ready.watchedFontURLs = filesInFolders(*ready.snapshot.families, folders);
+        ready.prepared = service->prepareFamilies(ready.snapshot.families);
+        return Catalog(std::make_shared<ReadyCatalog>(std::move(ready)));
+    };
+    runThen(m_pool, this, read, [this, generation](Catalog catalog) {
+        // A later load may have been quicker.
+        if (catalog && m_catalogGeneration == 0) {
+            installCatalog(std::move(catalog));
+            m_snapshotIsCurrent = true;
+            traceMoment("snapshot shown");
+            changed();
+        }
+        if (generation == m_loadGeneration)
+            scan(generation);
+    });
+}
+
+void LorvaAppModel::scan(qint64 generation)
+{
     m_fontLibraryService->loadCatalog(
         m_watchedFolders,
         [this, generation](const FontScanPhase &phase) {
@@ -87,7 +120,7 @@ void LorvaAppModel::loadCatalog()
                 return;
             m_loadingText = phase.text();
             // Once cards are on the screen, a scan says nothing until it has a result.
-            if (m_allFamilies->empty())
+            if (allFamilies()->empty())
                 changed();
         },
         [this, generation](FontCatalogResult result) {
@@ -99,30 +132,58 @@ void LorvaAppModel::loadCatalog()
 void LorvaAppModel::applyCatalog(FontCatalogResult result)
 {
     const qint64 generation = m_loadGeneration;
-    auto families = std::move(result.families);
-    result.families.clear();
-    runThen(
-        m_pool, this,
-        [families = std::move(families)](const std::stop_token &) mutable {
-            return sortedByName(std::move(families));
-        },
-        [this, generation, result = std::move(result)](FontFamilyList sorted) {
-            if (generation == m_loadGeneration)
-                installCatalog(std::move(sorted), result);
-        });
+    auto makeReady = [result = std::move(result), present = m_catalog,
+                      service = m_fontLibraryService.get()](const std::stop_token &) mutable {
+        const TraceStage stage("catalog: sort and compare");
+        ReadyCatalog ready;
+        ready.snapshot = {sortedByName(std::move(result.families)), result.manufacturers};
+        ready.watchedFontURLs = result.watchedFontURLs;
+        ready.isAsBefore = ready.snapshot == present->snapshot;
+        ready.prepared = service->prepareFamilies(ready.snapshot.families);
+        return Catalog(std::make_shared<ReadyCatalog>(std::move(ready)));
+    };
+    runThen(m_pool, this, std::move(makeReady), [this, generation](Catalog catalog) {
+        if (generation == m_loadGeneration)
+            finishLoad(std::move(catalog));
+    });
 }
 
-void LorvaAppModel::installCatalog(FontFamilyList families, const FontCatalogResult &result)
+void LorvaAppModel::finishLoad(Catalog catalog)
 {
-    m_allFamilies = std::move(families);
-    m_manufacturersByFamily = result.manufacturers;
-    m_activation->setWatchedFontURLs(result.watchedFontURLs);
+    const bool isSaved = m_snapshotIsCurrent && catalog->isAsBefore;
+    // Even an equal one: faces that could not be found are then looked for again.
+    installCatalog(std::move(catalog));
+    m_snapshotIsCurrent = isSaved;
+    m_isLoading = false;
+    m_loadingText.clear();
+    traceMoment("catalog applied");
+    changed();
+    saveSnapshot();
+}
+
+void LorvaAppModel::installCatalog(Catalog catalog)
+{
+    const TraceStage stage("catalog: install");
+    m_activation->setWatchedFontURLs(catalog->watchedFontURLs);
+    m_fontLibraryService->setFamilies(catalog->prepared);
+    m_catalog.swap(catalog);
     ++m_catalogGeneration;
     ++m_activationGeneration;
     validateSelection();
-    m_isLoading = false;
-    m_loadingText.clear();
-    changed();
+    // Letting go of a large catalog takes longer than a frame.
+    auto letGo = [old = std::move(catalog)](const std::stop_token &) mutable {
+        old.reset();
+        return true;
+    };
+    runThen(m_pool, this, std::move(letGo), [](bool) {});
+}
+
+void LorvaAppModel::saveSnapshot()
+{
+    if (!m_catalogCache || m_snapshotIsCurrent)
+        return;
+    m_catalogCache->save(m_catalog->snapshot);
+    m_snapshotIsCurrent = true;
 }
 
 FontFamilyList LorvaAppModel::visibleFamilies()
@@ -140,17 +201,17 @@ FontFamilyList LorvaAppModel::familiesOfSource() const
 {
     const auto kind = m_selectedSource.kind();
     if (kind == BrowserSource::Kind::discover)
-        return noFamilies();
+        return makeFamilyList();
     if (kind != BrowserSource::Kind::active && kind != BrowserSource::Kind::inactive)
-        return m_allFamilies;
+        return allFamilies();
     const bool wantsActive = kind == BrowserSource::Kind::active;
     std::vector<FontFamilyRecord> matching;
-    for (const FontFamilyRecord &family : *m_allFamilies) {
+    for (const FontFamilyRecord &family : *allFamilies()) {
         const auto state = activation(family);
         if (state && state->isActive() == wantsActive)
             matching.push_back(family);
     }
-    return shared(std::move(matching));
+    return makeFamilyList(std::move(matching));
 }
 
 std::optional<FontFamilyActivation> LorvaAppModel::activation(const FontFamilyRecord &family) const

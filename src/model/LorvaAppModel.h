@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "catalog/CatalogCache.h"
 #include "catalog/FontLibraryService.h"
 #include "model/CatalogActivation.h"
 #include "model/records/BrowserSource.h"
 #include "model/records/DisplayRecords.h"
+#include "model/records/FontFamilyList.h"
 
 #include <QObject>
 #include <QThreadPool>
@@ -16,8 +18,16 @@
 
 namespace lorva {
 
-/// Families as an immutable list that views and workers share. Never null.
-using FontFamilyList = std::shared_ptr<const std::vector<FontFamilyRecord>>;
+/// A catalog as the model shows it, made ready on a worker.
+struct ReadyCatalog
+{
+    /// Sorted by name.
+    CatalogSnapshot snapshot;
+    QSet<FilePath> watchedFontURLs;
+    PreparedFamilies prepared;
+    /// Holds what the catalog before it held.
+    bool isAsBefore = false;
+};
 
 /// What an answer of visibleFamilies() was computed from; equal stamps mean an equal answer.
 struct VisibleFamiliesStamp
@@ -32,8 +42,8 @@ struct VisibleFamiliesStamp
 
 /// The one object that holds the library and what the user chose about it.
 ///
-/// Owns: the library service and the activation provider it is given. Views hold it without owning
-/// it. Thread: main. Generations only grow while the process lives.
+/// Owns: the library service, the activation provider and the snapshot cache it is given. Views
+/// hold it without owning it. Thread: main. Generations only grow while the process lives.
 class LorvaAppModel final : public QObject
 {
     Q_OBJECT
@@ -43,9 +53,10 @@ public:
     static constexpr double kMinimumPointSize = 12;
     static constexpr double kMaximumPointSize = 160;
 
-    explicit LorvaAppModel(std::unique_ptr<FontLibraryService> fontLibraryService,
-                           std::unique_ptr<ActivationProvider> activation,
-                           QObject *parent = nullptr);
+    /// Without a `catalogCache` no library is remembered from start to start.
+    LorvaAppModel(std::unique_ptr<FontLibraryService> fontLibraryService,
+                  std::unique_ptr<ActivationProvider> activation,
+                  std::unique_ptr<CatalogCache> catalogCache = nullptr, QObject *parent = nullptr);
     ~LorvaAppModel() override;
 
     /// Called after every change that views must redraw for.
@@ -53,8 +64,10 @@ public:
 
     FontLibraryService &fontLibraryService() { return *m_fontLibraryService; }
 
-    /// Scans the system's fonts and the watched folders and shows the result. Returns at once.
+    /// Scans the system's fonts and the watched folders and shows the result; the first time, what
+    /// the last process found is shown until then. Returns at once.
     void loadCatalog();
+    /// True until the scan's result is shown.
     bool isLoading() const { return m_isLoading; }
     /// What the running scan does, for people; empty when none runs.
     QString loadingText() const { return m_loadingText; }
@@ -63,8 +76,11 @@ public:
     void setWatchedFolders(std::vector<FilePath> folders) { m_watchedFolders = std::move(folders); }
 
     /// Sorted by name as the user's language sorts, ignoring case.
-    FontFamilyList allFamilies() const { return m_allFamilies; }
-    const QHash<QString, QString> &manufacturersByFamily() const { return m_manufacturersByFamily; }
+    FontFamilyList allFamilies() const { return m_catalog->snapshot.families; }
+    const QHash<QString, QString> &manufacturersByFamily() const
+    {
+        return m_catalog->snapshot.manufacturers;
+    }
     /// The families that the browser shows for the selected source.
     FontFamilyList visibleFamilies();
     std::optional<FontFamilyActivation> activation(const FontFamilyRecord &family) const;
@@ -93,19 +109,30 @@ public:
     qint64 membershipGeneration() const { return m_membershipGeneration; }
 
 private:
+    using Catalog = std::shared_ptr<const ReadyCatalog>;
+
+    void showSnapshot(qint64 generation);
+    void scan(qint64 generation);
     void applyCatalog(FontCatalogResult result);
-    void installCatalog(FontFamilyList families, const FontCatalogResult &result);
+    void finishLoad(Catalog catalog);
+    void installCatalog(Catalog catalog);
+    void saveSnapshot();
     FontFamilyList familiesOfSource() const;
     void validateSelection();
     void changed();
 
     std::unique_ptr<FontLibraryService> m_fontLibraryService;
     std::unique_ptr<ActivationProvider> m_activation;
+    std::unique_ptr<CatalogCache> m_catalogCache;
     std::vector<FilePath> m_watchedFolders;
     QThreadPool m_pool;
 
-    FontFamilyList m_allFamilies;
-    QHash<QString, QString> m_manufacturersByFamily;
+    /// Never null.
+    Catalog m_catalog;
+    /// The snapshot file was looked at: once in a process.
+    bool m_snapshotWasRead = false;
+    /// The snapshot file holds m_catalog, or is being made to.
+    bool m_snapshotIsCurrent = false;
     bool m_isLoading = false;
     QString m_loadingText;
     qint64 m_loadGeneration = 0;

@@ -3,11 +3,16 @@
 
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
+#include "support/Waiting.h"
 
 #include <QImage>
 #include <QProcess>
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
+
+#include <unistd.h>
 
 namespace lorva {
 namespace {
@@ -82,6 +87,41 @@ TEST(Program, FailsWhenThePictureCannotBeWritten)
                    QProcessEnvironment::systemEnvironment());
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.constData();
+}
+
+/// Kills a window's process once its trace names all of `events` so many times; gives the trace.
+QByteArray traceUntil(const std::vector<std::pair<const char *, int>> &events)
+{
+    const FilePath file = test::TestHome::instance().root().child("trace.json");
+    ::unlink(file.c_str());
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("LORVA_TRACE"), file.displayText());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(LORVA_PROGRAM), QStringList());
+    QByteArray trace;
+    EXPECT_TRUE(test::waitUntil([&] {
+        trace = test::readFile(file);
+        return std::ranges::all_of(
+            events, [&](const auto &event) { return trace.count(event.first) >= event.second; });
+    })) << trace.constData();
+    process.kill();
+    process.waitForFinished();
+    return trace;
+}
+
+TEST(Program, ShowsAtTheSecondStartWhatTheFirstFoundEvenIfThatWasKilled)
+{
+    test::writeFile(test::TestHome::instance().systemFonts(), "one.ttf",
+                    test::FontBuilder("One").build());
+    const QByteArray first = traceUntil(
+        {{"first screen painted", 1}, {"snapshot: save", 2}, {"parse cache: save", 2}});
+    EXPECT_FALSE(first.contains("snapshot shown"));
+    const QByteArray second = traceUntil({{"first screen painted", 1}, {"catalog applied", 1}});
+    EXPECT_GE(second.indexOf("snapshot shown"), 0);
+    EXPECT_LT(second.indexOf("snapshot shown"), second.indexOf("catalog applied"));
+    EXPECT_FALSE(second.contains(": save")) << "nothing changed, nothing is written";
 }
 
 TEST(Program, RefusesUnknownArguments)

@@ -28,7 +28,7 @@ protected:
     void build()
     {
         FontCatalogLoader loader({m_fonts});
-        families = loader.scan({}, nullptr)->families;
+        families = makeFamilyList(loader.scan({}, nullptr)->families);
         const FilePath system = test::writeFile(m_folder, "system-ui",
                                                 test::face("System", "Regular", "System").build());
         const auto systemFont =
@@ -38,7 +38,7 @@ protected:
 
     const FontStyleRecord &style(const QString &family, const QString &label) const
     {
-        for (const FontFamilyRecord &record : families) {
+        for (const FontFamilyRecord &record : *families) {
             for (const FontStyleRecord &each : record.styles) {
                 if (record.familyName == family && each.label == label)
                     return each;
@@ -49,7 +49,7 @@ protected:
 
     const FilePath m_folder = test::TestHome::instance().makeFolder("resolver");
     const std::shared_ptr<test::ListedFonts> m_fonts = std::make_shared<test::ListedFonts>();
-    std::vector<FontFamilyRecord> families;
+    FontFamilyList families;
     SteadyTime now{1000s};
     std::optional<FaceResolver> resolver;
 };
@@ -172,9 +172,44 @@ TEST_F(ResolverTest, ReadsAReplacedFileAnew)
     EXPECT_EQ(thin.face()->names().style, "Thin");
 }
 
+TEST_F(ResolverTest, GivesTheFamiliesThatShareFiles)
+{
+    const auto all = [](const char *style, std::initializer_list<const char *> names) {
+        QList<QByteArray> faces;
+        for (const char *name : names)
+            faces.append(test::face(name, style, "").build());
+        return test::FontBuilder::collection(faces);
+    };
+    add("1.ttc", all("Regular", {"Gothic", "P Gothic", "UI Gothic"}));
+    add("2.ttf", test::face("Gothic", "Bold", "Gothic-Bold").build());
+    add("3.ttc", all("Black", {"UI Gothic", "Mincho"}));
+    add("4.ttf", test::face("Alone", "Regular", "Alone").build());
+    build();
+    const struct
+    {
+        QStringList given;
+        QStringList sharing;
+    } rows[]{
+        {{"Gothic"}, {"P Gothic", "UI Gothic"}},
+        {{"UI Gothic"}, {"Gothic", "P Gothic", "Mincho"}},
+        // Files of the given families only: not those of the families that share them.
+        {{"Mincho"}, {"UI Gothic"}},
+        {{"P Gothic", "Gothic"}, {"UI Gothic"}},
+        {{"Mincho", "Gothic", "Mincho"}, {"P Gothic", "UI Gothic"}},
+        {{"Gothic", "P Gothic", "UI Gothic", "Mincho"}, {}},
+        {{"Alone"}, {}},
+        {{"Unknown", "P Gothic"}, {"Gothic", "UI Gothic"}},
+        {{}, {}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(resolver->familiesSharingFiles(row.given), row.sharing)
+            << row.given.join(u',').toStdString();
+}
+
 TEST_F(ResolverTest, GivesANullFontOnASystemWithoutFonts)
 {
-    const FaceResolver bare({}, std::make_shared<SystemFont>(nullptr), [this] { return now; });
+    const FaceResolver bare(makeFamilyList(), std::make_shared<SystemFont>(nullptr),
+                            [this] { return now; });
     EXPECT_TRUE(bare.resolve("Foo", std::nullopt, 12).isNull());
 }
 

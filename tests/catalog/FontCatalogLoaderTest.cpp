@@ -7,8 +7,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <map>
+
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,8 +24,8 @@ using testing::IsEmpty;
 class Library
 {
 public:
-    explicit Library(int workers = 2, std::shared_ptr<const FamilyIdentifier> identifier = {})
-        : m_loader({m_fonts, std::move(identifier), workers})
+    explicit Library(int workers = 2)
+        : m_loader({m_fonts, {}, true, workers})
     {
     }
 
@@ -267,6 +269,8 @@ TEST(CatalogScan, GivesTheSameWithOneWorkerAndWithTwelve)
     Library twelve(12);
     for (int i = 0; i < 200; ++i) {
         const QByteArray bytes = test::face("Shared", "Bold", i % 3 ? "Same" : "")
+                                     .codePoints(i % 2 ? U"Aaz" : U"あのア")
+                                     .name(16, QStringLiteral("Family %1").arg(i % 7))
                                      .family(QStringLiteral("Family %1").arg(i % 7))
                                      .manufacturer(QStringLiteral("Maker %1").arg(i))
                                      .build();
@@ -290,7 +294,8 @@ TEST(CatalogScan, ReportsItsPhasesInOrder)
     EXPECT_THAT(phases,
                 ElementsAre(FontScanPhase::enumerating(0), FontScanPhase::enumerating(40),
                             FontScanPhase::scanning(16, 40), FontScanPhase::scanning(32, 40),
-                            FontScanPhase::scanning(40, 40), FontScanPhase::preparing()));
+                            FontScanPhase::scanning(40, 40), FontScanPhase::identifying(1, 1),
+                            FontScanPhase::preparing()));
 }
 
 TEST(CatalogScan, EndsEarlyWhenCancelledAndKeepsWhatItRead)
@@ -314,44 +319,69 @@ TEST(CatalogScan, EndsEarlyWhenCancelledAndKeepsWhatItRead)
     EXPECT_EQ(library.filesRead(), 160 - read);
 }
 
-/// Tells which file it was asked about: the family's scripts say so, as many calls as there were.
-class CountingIdentifier final : public FamilyIdentifier
+TEST(CatalogScan, IdentifiesEachNewFamilyByItsFirstFile)
 {
-public:
-    std::vector<FamilyIdentification> identify(const FilePath &file, const QString &) const override
-    {
-        ++calls;
-        if (file.fileName() == "silent.ttf")
-            return {};
-        const FamilyScriptIdentity identity{
-            {WritingScript::latin}, WritingScript::latin, QStringList{file.displayText()}};
-        return {{"Foo", identity, "Maker"}, {"Bar", identity, ""}};
-    }
-
-    mutable std::atomic<int> calls = 0;
-};
-
-TEST(CatalogScan, IdentifiesEachFamilyOnceByItsFirstFile)
-{
-    const auto identifier = std::make_shared<CountingIdentifier>();
-    Library library(2, identifier);
-    const FilePath foo = library.add("1.ttf", test::face("Foo", "Regular", "Foo-R").build());
-    library.add("2.ttf", test::face("Foo", "Bold", "Foo-B").build());
-    const FilePath bar = library.add("3.ttf", test::face("Bar", "Bold", "Bar-B").build());
-    library.add("silent.ttf", test::face("Silent", "Bold", "Silent").build());
-
-    const FontCatalogResult result = library.scan();
-    EXPECT_EQ(identifier->calls, 3);
-    ASSERT_EQ(result.families.size(), 3u);
-    EXPECT_EQ(result.families[0].alternateNames, QStringList{foo.displayText()});
-    EXPECT_EQ(result.families[1].alternateNames, QStringList{bar.displayText()});
-    EXPECT_EQ(result.families[1].primaryScript, WritingScript::latin);
-    EXPECT_FALSE(result.families[2].scripts.has_value());
-    EXPECT_EQ(result.manufacturers, (QHash<QString, QString>({{"Foo", "Maker"}})));
+    Library library;
+    library.add("1.ttf", test::face("Foo", "Regular", "Foo-R").codePoints(U"Aaz").build());
+    library.add("2.ttf", test::face("Foo", "Bold", "Foo-B").codePoints(U"あのア").build());
+    const FilePath bar =
+        library.add("3.ttf", test::face("Bar", "Bold", "Bar-B").codePoints(U"가나").build());
+    std::vector<FontFamilyRecord> families = library.scan().families;
+    ASSERT_EQ(families.size(), 2u);
+    EXPECT_EQ(families[0].scripts, std::set{WritingScript::latin});
+    EXPECT_EQ(families[1].primaryScript, WritingScript::korean);
+    EXPECT_EQ(library.loader().lastScan().familiesIdentified, 2);
 
     library.remove(bar);
-    library.scan();
-    EXPECT_EQ(identifier->calls, 4) << "only the family that stayed unknown is asked about again";
+    library.add("4.ttf", test::face("New", "Bold", "New-B").codePoints(U"あのア").build());
+    families = library.scan().families;
+    ASSERT_EQ(families.size(), 2u);
+    EXPECT_EQ(families[1].primaryScript, WritingScript::japanese);
+    EXPECT_EQ(library.loader().lastScan().familiesIdentified, 1) << "what is known stays";
+}
+
+TEST(CatalogScan, OpensEachFileOnce)
+{
+    Library library(1);
+    const QByteArray font = test::face("Foo", "Regular", "Foo").build();
+    library.add("1.ttf", font);
+    library.add("2.ttc",
+                test::FontBuilder::collection({font, test::face("Bar", "Thin", "Bar").build()}));
+    library.add("3.ttf", test::FontBuilder("Var").axis("wght", 100, 400, 900).build());
+    const int notices = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    // The closings keep equal openings from being counted as one.
+    ASSERT_GE(::inotify_add_watch(notices, library.folder().c_str(), IN_OPEN | IN_CLOSE), 0);
+    EXPECT_EQ(library.scan().families.size(), 3u);
+    std::map<std::string, int> openings;
+    alignas(inotify_event) char buffer[65536];
+    const ssize_t length = ::read(notices, buffer, sizeof buffer);
+    ::close(notices);
+    for (ssize_t at = 0; at < length;) {
+        const auto *event = reinterpret_cast<const inotify_event *>(buffer + at);
+        if (event->mask & IN_OPEN)
+            ++openings[event->name];
+        at += ssize_t(sizeof(inotify_event) + event->len);
+    }
+    EXPECT_THAT(openings, ElementsAre(testing::Pair("1.ttf", 1), testing::Pair("2.ttc", 1),
+                                      testing::Pair("3.ttf", 1)));
+}
+
+TEST(CatalogScan, GoesOnWhenAFolderVanishesMeanwhile)
+{
+    Library library;
+    const FilePath folder = test::TestHome::instance().makeFolder("vanishing");
+    const FilePath gone =
+        test::writeFile(folder, "gone.ttf", test::face("Gone", "Regular", "Gone").build());
+    library.add("kept.ttf", test::face("Kept", "Regular", "Kept").build());
+    const auto pullTheDisk = [&](const FontScanPhase &phase) {
+        if (phase.kind == FontScanPhase::Kind::enumerating)
+            ::rename(folder.c_str(), folder.parent().child("elsewhere").c_str());
+    };
+    const auto scanned = library.loader().scan({gone}, pullTheDisk);
+    EXPECT_THAT(described(scanned.value()), ElementsAre("Kept: Regular Kept 400"));
+    ::rename(folder.parent().child("elsewhere").c_str(), folder.c_str());
+    EXPECT_THAT(described(library.scan({gone})),
+                ElementsAre("Kept: Regular Kept 400", "Gone: Regular Gone 400"));
 }
 
 TEST(ScanWorkers, StayWithinTheirBounds)

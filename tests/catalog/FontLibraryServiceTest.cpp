@@ -11,9 +11,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
+#include <future>
 #include <mutex>
 #include <semaphore>
+
+#include <pthread.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 namespace lorva {
 namespace {
@@ -45,7 +51,22 @@ protected:
         service->loadCatalog({m_folder}, nullptr,
                              [&](const FontCatalogResult &result) { loaded = result; });
         test::waitUntil([&] { return loaded.has_value(); });
+        if (loaded)
+            service->setFamilies(service->prepareFamilies(makeFamilyList(loaded->families)));
         return loaded;
+    }
+
+    /// One file for each family, loaded.
+    void loadFamilies(std::initializer_list<const char *> names)
+    {
+        for (const char *name : names)
+            add(QByteArray(name) + ".ttf", test::face(name, "Regular", name).build());
+        ASSERT_TRUE(load());
+    }
+
+    bool isCached(const QString &family, double pointSize)
+    {
+        return service->cachedFont(family, std::nullopt, pointSize).has_value();
     }
 
     FilePath m_folder;
@@ -106,9 +127,28 @@ TEST_F(ServiceTest, LoadsWatchedFoldersAndResolvesWhatTheyHold)
         [&](const FontCatalogResult &result) { loaded = result; });
     ASSERT_TRUE(test::waitUntil([&] { return loaded.has_value(); }));
     using Kind = FontScanPhase::Kind;
-    EXPECT_THAT(kinds, ElementsAre(Kind::enumerating, Kind::scanning, Kind::preparing));
+    EXPECT_THAT(kinds,
+                ElementsAre(Kind::enumerating, Kind::scanning, Kind::identifying, Kind::preparing));
     EXPECT_EQ(loaded->watchedFontURLs, QSet<FilePath>{file});
+    EXPECT_TRUE(service->resolve("Foo", std::nullopt, 12).isStandIn()) << "not told yet";
+    service->setFamilies(service->prepareFamilies(makeFamilyList(loaded->families)));
     EXPECT_EQ(service->resolve("Foo", std::nullopt, 12).face()->path(), file);
+    const std::optional<Font> known = service->cachedFont("Foo", std::nullopt, 12);
+    service->setFamilies(PreparedFamilies());
+    EXPECT_EQ(service->cachedFont("Foo", std::nullopt, 12), known) << "nothing to install";
+}
+
+TEST_F(ServiceTest, KeepsWhatItFoundOutWhereItIsTold)
+{
+    const FilePath cache = m_folder.child("cache.json");
+    for (const bool saves : {false, true}) {
+        FontLibraryService::Dependencies dependencies{m_fonts, nullptr, cache, saves};
+        service = std::make_unique<FontLibraryService>(dependencies);
+        loadFamilies({"Foo"});
+        // Waits for a save that is under way.
+        service.reset();
+        EXPECT_EQ(::access(cache.c_str(), F_OK) == 0, saves);
+    }
 }
 
 TEST_F(ServiceTest, RunsLoadsOneAfterTheOtherAndDropsACancelledOne)
@@ -124,7 +164,6 @@ TEST_F(ServiceTest, RunsLoadsOneAfterTheOtherAndDropsACancelledOne)
     service->cancelLoad();
     ASSERT_TRUE(test::waitUntil([&] { return delivered.size() == 2; }));
     EXPECT_THAT(delivered, ElementsAre("second", "third"));
-    EXPECT_TRUE(service->resolve("Foo", std::nullopt, 12).isStandIn()) << "not in the last catalog";
 }
 
 TEST_F(ServiceTest, ServesTheNewestFirstOnAtMostThreeWorkers)
@@ -223,10 +262,108 @@ TEST_F(ServiceTest, TakesACatalogFromElsewhere)
     FontFamilyRecord family;
     family.familyName = "Foo";
     family.styles.push_back({"Foo-Bold", "Bold", "Foo-Bold", 700, false, file});
+    EXPECT_FALSE(service->hasUnresolvedFaces());
     EXPECT_TRUE(service->resolve("Foo", std::nullopt, 12).isStandIn());
-    service->setFamilies({family});
+    EXPECT_TRUE(service->hasUnresolvedFaces());
+    service->setFamilies(makeFamilyList({family}));
     EXPECT_FALSE(service->resolve("Foo", std::nullopt, 12).isStandIn())
         << "a new catalog is searched at once, rest or not";
+    EXPECT_FALSE(service->hasUnresolvedFaces());
+}
+
+TEST_F(ServiceTest, PrewarmsEachFamilyOnceWithoutTheMainThread)
+{
+    loadFamilies({"A", "B", "C"});
+    std::mutex lock;
+    std::vector<std::string> prepared;
+    const auto face = [&](const QString &family) {
+        return PrewarmFace{family, std::nullopt, [&, family](const Font &font) {
+                               EXPECT_NE(QThread::currentThread(), service->thread());
+                               EXPECT_EQ(font.pointSize(), 20);
+                               const std::lock_guard guard(lock);
+                               prepared.push_back(family.toStdString());
+                           }};
+    };
+    const PrewarmFace unprepared{"C"};
+    service->prewarm({face("B"), face("A"), face("B"), face("Lost"), unprepared}, 20);
+    ASSERT_TRUE(test::waitUntil([&] { return isCached("C", 20); }));
+    const std::lock_guard guard(lock);
+    EXPECT_THAT(prepared, ElementsAre("B", "A")) << "a stand-in is not worth preparing";
+    EXPECT_TRUE(isCached("A", 20));
+    EXPECT_TRUE(isCached("B", 20));
+    EXPECT_FALSE(isCached("A", 12));
+    EXPECT_FALSE(isCached("Lost", 20));
+}
+
+TEST_F(ServiceTest, AnotherPrewarmOrCatalogEndsTheRunningOne)
+{
+    loadFamilies({"A", "B", "C", "D"});
+    Gate gate;
+    const PrewarmFace held{"A", std::nullopt, [&](const Font &) { gate.pass("held"); }};
+    service->prewarm({held, {"B"}}, 20);
+    gate.arrived.acquire();
+    service->prewarm({{"C"}}, 20);
+    service->prewarm({{"D"}}, 20);
+    gate.open.release();
+    ASSERT_TRUE(test::waitUntil([&] { return isCached("D", 20); }));
+    service->prewarm({held}, 20);
+    gate.arrived.acquire();
+    EXPECT_FALSE(isCached("B", 20)) << "of the first pre-warm";
+    EXPECT_FALSE(isCached("C", 20)) << "replaced before it began";
+
+    FontFamilyRecord family;
+    family.familyName = "A";
+    service->setFamilies(makeFamilyList({family}));
+    gate.open.release();
+    service->prewarm({{"B", std::nullopt, {}}}, 20);
+    EXPECT_FALSE(isCached("A", 20)) << "the new catalog's caches are its own";
+}
+
+TEST_F(ServiceTest, MayBeDestroyedWhilePrewarming)
+{
+    loadFamilies({"A", "B"});
+    Gate gate;
+    const auto face = [&](const QString &family) {
+        return PrewarmFace{family, std::nullopt, [&](const Font &) {
+                               gate.enter("busy");
+                               gate.arrived.release();
+                               gate.leave();
+                           }};
+    };
+    for (int i = 0; i < 50; ++i)
+        service->prewarm({face("A"), face("B")}, 20 + i);
+    gate.arrived.acquire();
+    service.reset();
+    EXPECT_EQ(gate.inside, 0);
+}
+
+TEST_F(ServiceTest, KnowsItsThreadsByNameAndHurriesOnlyWhatSomebodyWaitsFor)
+{
+    struct Thread
+    {
+        std::string name;
+        int niceness = 0;
+    };
+    const auto current = [] {
+        std::array<char, 16> name{};
+        ::pthread_getname_np(::pthread_self(), name.data(), name.size());
+        return Thread{name.data(), ::getpriority(PRIO_PROCESS, id_t(::gettid()))};
+    };
+    loadFamilies({"A"});
+    std::promise<Thread> resolving;
+    std::promise<Thread> prewarming;
+    service->resolveAsync(request("A", [&](const Font &) {
+        resolving.set_value(current());
+        return QImage();
+    }));
+    service->prewarm({{"A", std::nullopt, [&](const Font &) { prewarming.set_value(current()); }}},
+                     20);
+    const Thread resolver = resolving.get_future().get();
+    const Thread prewarmer = prewarming.get_future().get();
+    EXPECT_EQ(resolver.name, "font-resolve");
+    EXPECT_EQ(resolver.niceness, current().niceness);
+    EXPECT_EQ(prewarmer.name, "prewarm");
+    EXPECT_TRUE(prewarmer.niceness > current().niceness || current().niceness >= 10);
 }
 
 TEST_F(ServiceTest, MayBeDestroyedWhileBusy)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "LorvactlSupport.h"
 #include "model/records/RecordsJson.h"
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
@@ -8,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,56 +19,15 @@
 namespace lorva {
 namespace {
 
+using test::expectFailure;
 using test::FontBuilder;
+using test::lorvactl;
+using test::Outcome;
+using test::path;
+using test::shell;
 using test::TestHome;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-struct Outcome
-{
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray error;
-};
-
-Outcome finished(QProcess &process)
-{
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-Outcome lorvactl(const QStringList &arguments)
-{
-    QProcess process;
-    process.setWorkingDirectory(TestHome::instance().home().displayText());
-    process.start(QStringLiteral(LORVACTL_PATH), arguments);
-    return finished(process);
-}
-
-/// Through a shell, for arguments that are no text and for redirections.
-Outcome shell(const QString &script)
-{
-    QProcess process;
-    process.start(QStringLiteral("/bin/sh"),
-                  {QStringLiteral("-c"),
-                   QString(QStringLiteral("lorvactl() { " LORVACTL_PATH " \"$@\"; }; ") + script)});
-    return finished(process);
-}
-
-QString path(const FilePath &file)
-{
-    return QString::fromUtf8(file.bytes());
-}
-
-void expectFailure(const Outcome &outcome, int exitCode, const char *words)
-{
-    EXPECT_EQ(outcome.exitCode, exitCode) << outcome.error.constData();
-    EXPECT_THAT(outcome.error.toStdString(), StartsWith("lorvactl: "));
-    EXPECT_THAT(outcome.error.toStdString(), HasSubstr(words));
-    EXPECT_EQ(outcome.error.count('\n'), 1) << outcome.error.constData();
-    EXPECT_EQ(outcome.out, "");
-}
 
 FilePath font(const QByteArray &name, const FontBuilder &builder = FontBuilder("Foo", "Bold"))
 {
@@ -79,7 +38,7 @@ TEST(Lorvactl, ExplainsItself)
 {
     for (const QStringList &arguments :
          {QStringList{"--help"}, QStringList{"list", "--help"}, QStringList{"info", "--help"},
-          QStringList{"specimen", "--help"}}) {
+          QStringList{"specimen", "--help"}, QStringList{"scan", "--help"}}) {
         const Outcome outcome = lorvactl(arguments);
         EXPECT_EQ(outcome.exitCode, 0);
         EXPECT_THAT(outcome.out.toStdString(), StartsWith("Usage: lorvactl "));
@@ -96,6 +55,8 @@ TEST(Lorvactl, RefusesWhatItDoesNotUnderstand)
     expectFailure(lorvactl({"list", "--json=yes"}), 2, "--json takes no value");
     expectFailure(lorvactl({"list", "--folder"}), 2, "--folder needs a value");
     expectFailure(lorvactl({"list", "somewhere"}), 2, "--folder");
+    expectFailure(lorvactl({"list", "--script", "klingon"}), 2, "traditionalChinese");
+    expectFailure(lorvactl({"scan", "somewhere"}), 2, "--folder");
     expectFailure(lorvactl({"info"}), 2, "one font file");
     expectFailure(lorvactl({"info", "a", "b"}), 2, "one font file");
     expectFailure(lorvactl({"specimen", "a.ttf"}), 2, "-o");
@@ -130,6 +91,8 @@ TEST(LorvactlList, WritesRecordsAsJson)
     FontFamilyRecord expected;
     expected.familyName = "Foo";
     expected.styles.push_back({"F", "Bold", "F", 700, false, file});
+    expected.scripts = std::set{WritingScript::latin};
+    expected.primaryScript = WritingScript::latin;
     EXPECT_THAT(*families, testing::Contains(expected));
 }
 

@@ -7,6 +7,7 @@
 #include "support/TestHome.h"
 #include "support/Waiting.h"
 
+#include <condition_variable>
 #include <memory>
 #include <mutex>
 
@@ -25,14 +26,29 @@ public:
         m_published = files;
     }
     std::vector<FilePath> fontFiles(const std::function<void(int)> &,
-                                    std::stop_token) const override
+                                    std::stop_token stop) const override
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, std::move(stop), [this] { return !m_isHeld; });
+        return m_published;
+    }
+    /// Scans wait from now on, until letGo().
+    void hold()
     {
         const std::lock_guard lock(m_mutex);
-        return m_published;
+        m_isHeld = true;
+    }
+    void letGo()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isHeld = false;
+        m_changed.notify_all();
     }
 
 private:
     mutable std::mutex m_mutex;
+    mutable std::condition_variable_any m_changed;
+    bool m_isHeld = false;
     std::vector<FilePath> m_published;
 };
 
@@ -60,6 +76,18 @@ struct LibraryFixture
             std::make_unique<FontLibraryService>(
                 FontLibraryService::Dependencies{fonts, systemFont}),
             std::make_unique<CatalogActivation>(PlatformFolders()));
+    }
+
+    /// A new model, as of a new process, that keeps its caches in `folder`.
+    void restart(const FilePath &folder)
+    {
+        model.reset();
+        FontLibraryService::Dependencies dependencies{fonts, systemFont};
+        dependencies.cacheFileURL = folder.child("parse-cache.json");
+        model = std::make_unique<LorvaAppModel>(
+            std::make_unique<FontLibraryService>(std::move(dependencies)),
+            std::make_unique<CatalogActivation>(PlatformFolders()),
+            std::make_unique<CatalogCache>(folder.child("catalog.json")));
     }
 
     FilePath addFamily(const QString &name, const std::u32string &characters = U"Aa 123")

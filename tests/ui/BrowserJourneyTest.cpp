@@ -32,12 +32,16 @@ protected:
     void SetUp() override { setReducedMotionOverride(true); }
     void TearDown() override { setReducedMotionOverride(std::nullopt); }
 
-    void start(int familyCount, QSize size = {1300, 900})
+    void open(QSize size = {1300, 900})
     {
-        library.addFamilies(QStringLiteral("Face"), familyCount);
         root = std::make_unique<LorvaRootSplitViewController>(*library.model);
         root->resize(size);
         root->show();
+    }
+    void start(int familyCount, QSize size = {1300, 900})
+    {
+        library.addFamilies(QStringLiteral("Face"), familyCount);
+        open(size);
         ASSERT_TRUE(library.load());
         ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
         view().setFocus();
@@ -346,6 +350,45 @@ TEST_F(BrowserJourney, AVanishedFontShowsTheSystemFontAndSaysSo)
     ASSERT_TRUE(library.load());
     renderNow();
     EXPECT_FALSE(preview.currentFont()->isStandIn()) << "a new catalog asks again";
+}
+
+/// A window over what the last process saw, whose own scan then finds more.
+TEST_F(BrowserJourney, TheScanTakesOverFromTheSnapshotWithoutAMove)
+{
+    const FilePath home = test::TestHome::instance().makeFolder("snapshot");
+    library.restart(home);
+    library.addFamilies(QStringLiteral("Face"), 60);
+    ASSERT_TRUE(library.load());
+    library.restart(home);
+    library.fonts->hold();
+    open();
+    library.model->loadCatalog();
+    ASSERT_TRUE(waitUntil(
+        [this] { return !view().visibleItems().empty() && root->browser().isSettled(); }));
+    EXPECT_TRUE(library.model->isLoading());
+
+    view().setScrollOffset(900);
+    const int shown = view().visibleItems().begin()->first + 4;
+    click(shown);
+    ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
+    renderNow();
+    const QString family = selected();
+    const QPoint place = centreOf(shown);
+    FontCollectionItem *item = view().visibleItems().at(shown);
+    const QImage before = item->grab().toImage();
+
+    library.addFamilies(QStringLiteral("Earlier"), 9);
+    library.fonts->letGo();
+    ASSERT_TRUE(waitUntil([this] { return !library.model->isLoading(); }));
+    renderNow();
+    EXPECT_EQ(library.model->allFamilies()->size(), 69U);
+    EXPECT_EQ(selected(), family);
+    ASSERT_TRUE(view().visibleItems().contains(shown + 9)) << "the same card, three rows on";
+    EXPECT_EQ(view().visibleItems().at(shown + 9), item);
+    EXPECT_EQ(centreOf(shown + 9).y(), place.y());
+    EXPECT_FALSE(card(shown + 9).previewView().isWaiting());
+    EXPECT_EQ(card(shown + 9).titleText(), family);
+    EXPECT_EQ(item->grab().toImage(), before) << "not even for a moment blank";
 }
 
 } // namespace

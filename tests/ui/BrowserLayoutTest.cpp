@@ -86,6 +86,27 @@ TEST(BrowserLayout, OnlyTouchedRowsAreVisible)
               (BrowserLayout::Range{0, 0}));
 }
 
+TEST(BrowserLayout, NearbyCardsAreThoseOfTheNextAndThePreviousScreen)
+{
+    // Two columns of rows 220 high; a window of 440.
+    const BrowserLayout layout(ViewMode::grid, 800, 36, 15);
+    const struct
+    {
+        int top;
+        std::vector<int> items;
+    } rows[]{
+        {0, {4, 5, 6, 7}},
+        {440, {8, 9, 10, 11, 3, 2, 1, 0}},
+        // Rows that are cut by the window's edges are shown already.
+        {450, {10, 11, 12, 13, 3, 2, 1, 0}},
+        {220, {6, 7, 8, 9, 1, 0}},
+        {220 * 6, {11, 10, 9, 8}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(layout.nearbyItems(row.top, 440), row.items) << row.top;
+    EXPECT_TRUE(BrowserLayout(ViewMode::grid, 800, 36, 0).nearbyItems(0, 440).empty());
+}
+
 TEST(BrowserLayout, ArrowKeysMoveAsTheEyeExpects)
 {
     // Three columns, four rows, the last one short: 0 1 2 / 3 4 5 / 6 7 8 / 9.

@@ -45,6 +45,7 @@ public:
         if (answersWithinTheCall)
             deliver(pending.size() - 1);
     }
+    void prewarm(std::vector<PrewarmFace>, double) override { ADD_FAILURE() << "a view asked"; }
     /// As a worker and then the main thread would; false when the request was no longer wanted.
     bool deliver(size_t index, bool asksFirst = true)
     {

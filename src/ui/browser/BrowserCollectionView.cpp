@@ -216,6 +216,8 @@ void BrowserCollectionView::placeVisibleItems()
         delete m_spare.back();
         m_spare.pop_back();
     }
+    if (onItemsPlaced)
+        onItemsPlaced();
 }
 
 FontCollectionItem *BrowserCollectionView::takeSpareItem()

@@ -42,6 +42,9 @@ public:
     /// Fills a card for the item at `index`. Called when a card is shown and when it must change.
     std::function<void(FontCollectionItem &item, int index)> configureItem;
 
+    /// Cards were placed: a scroll, another size, other content.
+    std::function<void()> onItemsPlaced;
+
     struct Content
     {
         QStringList ids;

@@ -60,6 +60,17 @@ BrowserLayout::Range BrowserLayout::visibleRange(int top, int height) const
     return {std::min(firstRow * m_columns, m_itemCount), std::min(endRow * m_columns, m_itemCount)};
 }
 
+std::vector<int> BrowserLayout::nearbyItems(int top, int height) const
+{
+    const Range shown = visibleRange(top, height);
+    std::vector<int> items;
+    for (int index = shown.last; index < visibleRange(top + height, height).last; ++index)
+        items.push_back(index);
+    for (int index = shown.first - 1; index >= visibleRange(top - height, height).first; --index)
+        items.push_back(index);
+    return items;
+}
+
 int BrowserLayout::neighbour(int index, Step step, int pageHeight) const
 {
     if (m_itemCount == 0)

@@ -6,6 +6,8 @@
 
 #include <QRect>
 
+#include <vector>
+
 namespace lorva {
 
 /// Where the cards of the browser stand, as plain arithmetic: no widget decides anything of this.
@@ -45,6 +47,10 @@ public:
     };
     /// The cards that a window of `height` points at scroll offset `top` touches.
     Range visibleRange(int top, int height) const;
+
+    /// The cards that a scroll would bring into that window: those of the next screen, then those
+    /// of the previous one, the nearest first.
+    std::vector<int> nearbyItems(int top, int height) const;
 
     enum class Step { left, right, up, down, pageUp, pageDown, home, end };
     /// The card that a key press moves the selection to, from `index` (−1: none yet). Up and down

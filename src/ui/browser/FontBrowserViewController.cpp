@@ -9,6 +9,9 @@
 #include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/FontCardContentView.h"
 #include "ui/browser/FontCollectionItem.h"
+#include "ui/preview/SpecimenImage.h"
+
+#include <QTimer>
 
 #include <algorithm>
 
@@ -34,6 +37,7 @@ FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolve
                                                      QWidget *parent)
     : QWidget(parent)
     , m_resolver(std::move(resolver))
+    , m_prewarmTimer(new QTimer(this))
     , m_topBar(new BrowserTopBar(this))
     , m_collection(new BrowserCollectionView(this))
     , m_empty(new BrowserEmptyStateView(this))
@@ -52,6 +56,11 @@ FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolve
         if (m_delegate)
             m_delegate->browserSelectionChanged(id.isEmpty() ? std::nullopt : std::optional(id));
     };
+    m_prewarmTimer->setObjectName(QStringLiteral("prewarmTimer"));
+    m_prewarmTimer->setSingleShot(true);
+    m_prewarmTimer->setInterval(kPrewarmDelayMilliseconds);
+    connect(m_prewarmTimer, &QTimer::timeout, this, &FontBrowserViewController::prewarm);
+    m_collection->onItemsPlaced = [this] { m_prewarmTimer->start(); };
     m_collection->onActivateSelection = [this] { openSelection(); };
     m_collection->onDoubleClick = [this] { openSelection(); };
     m_topBar->onPointSizeChanged = [this](double pointSize) {
@@ -125,6 +134,7 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
         m_orderedIDs.reserve(qsizetype(m_state.families->size()));
         for (const FontFamilyRecord &family : *m_state.families)
             m_orderedIDs.append(family.familyName);
+        m_prewarmTimer->start();
     }
     m_collection->setContent({m_orderedIDs, m_state.viewMode, m_state.pointSize,
                               m_state.selectedFamilyName.value_or(QString())});
@@ -164,10 +174,47 @@ void FontBrowserViewController::openSelection()
         m_delegate->browserOpenDetail(id);
 }
 
+/// The next screen first: libraries are read downwards.
+void FontBrowserViewController::prewarm()
+{
+    if (!showsItsSpecimens()) {
+        m_prewarmTimer->start();
+        return;
+    }
+    const BrowserLayout &layout = m_collection->arrangement();
+    Prewarmed wanted{
+        layout.nearbyItems(m_collection->scrollOffset(), m_collection->viewport()->height()),
+        m_state.families, m_state.catalogGeneration, m_state.viewMode, m_state.pointSize};
+    if (wanted == m_prewarmed)
+        return;
+    m_prewarmed = std::move(wanted);
+    if (m_prewarmed->items.empty())
+        return;
+    std::vector<PrewarmFace> faces;
+    for (const int index : m_prewarmed->items)
+        faces.push_back(prewarmFace(index));
+    const double pointSize =
+        previewConfiguration(cardConfiguration(m_prewarmed->items.front())).pointSize;
+    m_resolver->prewarm(std::move(faces), pointSize);
+}
+
+/// Sets the specimen once and throws it away: what the type engine had to read for it stays.
+PrewarmFace FontBrowserViewController::prewarmFace(int index) const
+{
+    const FontPreviewConfiguration preview = previewConfiguration(cardConfiguration(index));
+    const QSize card = m_collection->arrangement().cardRect(index).size();
+    const SpecimenCanvas canvas{FontCardContentView::previewRect(card).size(), devicePixelRatioF()};
+    return {preview.familyName, preview.style,
+            [preview, canvas](const Font &font) { layOutSpecimen(preview, font, canvas); }};
+}
+
 bool FontBrowserViewController::isSettled() const
 {
-    if (m_state.isLoading)
-        return false;
+    return !(m_state.isLoading && m_state.families->empty()) && showsItsSpecimens();
+}
+
+bool FontBrowserViewController::showsItsSpecimens() const
+{
     const auto &items = m_collection->visibleItems();
     return std::all_of(items.begin(), items.end(), [](const auto &entry) {
         const FontPreviewNSView &preview = entry.second->contentView().previewView();

@@ -9,6 +9,11 @@
 #include <QHash>
 #include <QWidget>
 
+#include <optional>
+#include <vector>
+
+class QTimer;
+
 namespace lorva {
 
 class BrowserCollectionView;
@@ -37,6 +42,8 @@ public:
     BrowserCollectionView &collectionView() { return *m_collection; }
     /// True once every card on screen shows its specimen (or there are none to show).
     bool isSettled() const;
+    /// How long nothing must move before the faces around the screen are made ready.
+    static constexpr int kPrewarmDelayMilliseconds = 100;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -46,6 +53,9 @@ private:
     void applyColors();
     void showCollection(bool isShown);
     FontCardConfiguration cardConfiguration(int index) const;
+    bool showsItsSpecimens() const;
+    void prewarm();
+    PrewarmFace prewarmFace(int index) const;
     void openSelection();
 
     const std::shared_ptr<FontResolver> m_resolver;
@@ -56,6 +66,19 @@ private:
     std::optional<BrowserSource> m_lastRenderedSource;
 
     bool m_collectionHadFocus = false;
+
+    /// What a pre-warm was asked for; an equal one would do nothing new.
+    struct Prewarmed
+    {
+        std::vector<int> items;
+        FontFamilyList families;
+        qint64 catalogGeneration = 0;
+        ViewMode viewMode = ViewMode::grid;
+        double pointSize = 0;
+        bool operator==(const Prewarmed &) const = default;
+    };
+    std::optional<Prewarmed> m_prewarmed;
+    QTimer *m_prewarmTimer;
 
     BrowserTopBar *m_topBar;
     BrowserCollectionView *m_collection;

@@ -68,6 +68,30 @@ double drawLines(QPainter &painter, const QString &text, const QFont &font, cons
 
 } // namespace
 
+FontPreviewConfiguration previewConfiguration(const FontCardConfiguration &card)
+{
+    const bool isList = card.viewMode == ViewMode::list;
+    FontPreviewConfiguration preview;
+    preview.text = card.previewText;
+    preview.familyName = card.family.familyName;
+    preview.style = card.style;
+    preview.pointSize = card.pointSize * (isList ? FontCardContentView::kListSizeRatio : 1.0);
+    preview.alignment = isList ? TextAlignment::left : TextAlignment::center;
+    preview.textColor = card.foregroundColor;
+    preview.logoImage = card.logoImage;
+    preview.logoSizeRatio = card.logoSizeRatio;
+    preview.logoSpacing = card.logoSpacing;
+    preview.singleLine = true;
+    preview.primaryScript = card.family.primaryScript.value_or(WritingScript::latin);
+    preview.prefersAsyncResolution = !card.activation || !card.activation->isActive();
+    return preview;
+}
+
+QRect FontCardContentView::previewRect(QSize cardSize)
+{
+    return QRect(QPoint(0, 0), cardSize).adjusted(0, kTitleRoom, 0, 0);
+}
+
 FontCardContentView::FontCardContentView(std::shared_ptr<FontResolver> resolver, QWidget *parent)
     : QWidget(parent)
     , m_preview(new FontPreviewNSView(std::move(resolver), this))
@@ -96,21 +120,7 @@ QString FontCardContentView::subtitleText() const
 
 void FontCardContentView::applyPreview()
 {
-    const bool isList = m_configuration.viewMode == ViewMode::list;
-    FontPreviewConfiguration preview;
-    preview.text = m_configuration.previewText;
-    preview.familyName = m_configuration.family.familyName;
-    preview.style = m_configuration.style;
-    preview.pointSize = m_configuration.pointSize * (isList ? kListSizeRatio : 1.0);
-    preview.alignment = isList ? TextAlignment::left : TextAlignment::center;
-    preview.textColor = m_configuration.foregroundColor;
-    preview.logoImage = m_configuration.logoImage;
-    preview.logoSizeRatio = m_configuration.logoSizeRatio;
-    preview.logoSpacing = m_configuration.logoSpacing;
-    preview.singleLine = true;
-    preview.primaryScript = m_configuration.family.primaryScript.value_or(WritingScript::latin);
-    preview.prefersAsyncResolution =
-        !m_configuration.activation || !m_configuration.activation->isActive();
+    const FontPreviewConfiguration preview = previewConfiguration(m_configuration);
     if (preview == m_appliedPreview)
         return;
     m_appliedPreview = preview;
@@ -119,7 +129,7 @@ void FontCardContentView::applyPreview()
 
 void FontCardContentView::resizeEvent(QResizeEvent *)
 {
-    m_preview->setGeometry(rect().adjusted(0, kTitleRoom, 0, 0));
+    m_preview->setGeometry(previewRect(size()));
 }
 
 void FontCardContentView::paintEvent(QPaintEvent *)

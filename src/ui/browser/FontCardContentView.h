@@ -9,6 +9,9 @@
 
 namespace lorva {
 
+/// What the specimen of such a card asks for.
+FontPreviewConfiguration previewConfiguration(const FontCardConfiguration &card);
+
 /// What a card shows: name, number of styles, system tag, and the specimen.
 ///
 /// Thread: main. A configuration equal to the last one costs nothing; one that only changes the
@@ -22,6 +25,8 @@ public:
 
     FontCardContentView(std::shared_ptr<FontResolver> resolver, QWidget *parent);
 
+    /// Where the specimen stands on a card of that size.
+    static QRect previewRect(QSize cardSize);
     void configure(const FontCardConfiguration &configuration);
     const FontPreviewNSView &previewView() const { return *m_preview; }
     /// The texts as shown; for the title, before it is shortened to the room there is.

@@ -35,6 +35,12 @@ public:
             m_service->resolveAsync(std::move(request));
     }
 
+    void prewarm(std::vector<PrewarmFace> faces, double pointSize) override
+    {
+        if (m_service)
+            m_service->prewarm(std::move(faces), pointSize);
+    }
+
 private:
     QPointer<FontLibraryService> m_service;
 };

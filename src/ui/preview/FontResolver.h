@@ -6,10 +6,11 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace lorva {
 
-/// Where a specimen gets its font from: the three ways that FontLibraryService offers, behind an
+/// Where a specimen gets its font from: what FontLibraryService offers, behind an
 /// interface so that deliveries can be scripted in any order.
 ///
 /// Thread: main.
@@ -27,6 +28,9 @@ public:
                          double pointSize) const = 0;
     /// Queues a request; see PendingResolve. Never answered when the service is gone.
     virtual void resolveAsync(PendingResolve request) = 0;
+    /// Has faces that may be shown next made ready, in place of those asked for before. Returns at
+    /// once; nobody hears of the end.
+    virtual void prewarm(std::vector<PrewarmFace> faces, double pointSize) = 0;
 };
 
 /// The service as a resolver. Does not own it, and survives it.

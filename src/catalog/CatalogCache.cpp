@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "catalog/CatalogCache.h"
+
+#include "base/AtomicFile.h"
+#include "base/Json.h"
+#include "base/Trace.h"
+#include "base/WholeFile.h"
+#include "catalog/SharedTexts.h"
+#include "model/records/RecordsJson.h"
+#include "platform/ThreadPriority.h"
+
+#include <QLoggingCategory>
+
+#include <algorithm>
+
+namespace lorva {
+
+Q_LOGGING_CATEGORY(snapshotLog, "lorva.catalog.snapshot", QtWarningMsg)
+
+namespace {
+
+/// Two million faces take less.
+constexpr qint64 kMostBytes = qint64(1) << 30;
+
+bool isPlausible(const FontFamilyRecord &family)
+{
+    return !family.familyName.isEmpty()
+        && std::all_of(
+            family.styles.begin(), family.styles.end(),
+            [](const FontStyleRecord &style) { return isPlausibleWeight(style.weight); });
+}
+
+class FamilyRows
+{
+public:
+    std::vector<FontFamilyRecord> families;
+
+    /// Judges the family read last and makes it small.
+    void take(JsonReader &in)
+    {
+        if (in.hasFailed())
+            return;
+        FontFamilyRecord &family = families.back();
+        if (!isPlausible(family))
+            return in.fail(ErrorKind::invalidValue, QStringLiteral("no scan gives such a family"));
+        const qsizetype known = m_names.size();
+        m_names.insert(family.familyName);
+        if (m_names.size() == known)
+            return in.fail(ErrorKind::invalidValue, QStringLiteral("the family is there already"));
+        for (FontStyleRecord &style : family.styles)
+            m_texts.share(style);
+        family.styles.shrink_to_fit();
+    }
+
+private:
+    QSet<QString> m_names;
+    SharedTexts m_texts;
+};
+
+void readJson(JsonReader &in, FamilyRows &out)
+{
+    in.readArray([&] {
+        lorva::readJson(in, out.families.emplace_back());
+        out.take(in);
+    });
+}
+
+struct Document
+{
+    FamilyRows families;
+    QHash<QString, QString> manufacturers;
+};
+
+template <class Fields, JsonRecordOf<Document> Record>
+void jsonFields(Fields &fields, Record &document)
+{
+    fields("families", document.families);
+    fields("manufacturers", document.manufacturers);
+}
+
+void writeSnapshot(const FilePath &file, const CatalogSnapshot &snapshot)
+{
+    const TraceStage stage("snapshot: save");
+    const QByteArray json = encodeSnapshot(snapshot);
+    // The folder may have gone since; if it cannot be made, the write says so.
+    static_cast<void>(makeFolders(file.parent()));
+    const Result<void> written = writeFileAtomically(file, json);
+    if (!written)
+        qCInfo(snapshotLog).noquote() << written.error().detail;
+}
+
+Result<CatalogSnapshot> readSnapshot(const FilePath &file)
+{
+    const TraceStage stage("snapshot: read");
+    Result<QByteArray> json = readWholeFile(file, kMostBytes);
+    if (!json)
+        return tl::unexpected(std::move(json.error()));
+    return decodeSnapshot(*std::move(json));
+}
+
+} // namespace
+
+bool CatalogSnapshot::operator==(const CatalogSnapshot &other) const
+{
+    return *families == *other.families && manufacturers == other.manufacturers;
+}
+
+QByteArray encodeSnapshot(const CatalogSnapshot &snapshot)
+{
+    JsonWriter out;
+    out.beginObject();
+    JsonFieldWriter fields(out);
+    fields("families", *snapshot.families);
+    fields("manufacturers", snapshot.manufacturers);
+    out.endObject();
+    return out.take();
+}
+
+Result<CatalogSnapshot> decodeSnapshot(QByteArray json)
+{
+    Result<Document> document = decodeJson<Document>(std::move(json));
+    if (!document)
+        return tl::unexpected(std::move(document.error()));
+    return CatalogSnapshot{makeFamilyList(std::move(document->families.families)),
+                           std::move(document->manufacturers)};
+}
+
+CatalogCache::CatalogCache(FilePath file)
+    : m_fileURL(std::move(file))
+{
+    static_cast<void>(makeFolders(m_fileURL.parent()));
+    m_ioQueue.setObjectName(QStringLiteral("vantrel.lorva.catalog-cache"));
+    m_ioQueue.setMaxThreadCount(1);
+}
+
+CatalogCache::~CatalogCache()
+{
+    m_ioQueue.waitForDone();
+}
+
+void CatalogCache::save(CatalogSnapshot snapshot)
+{
+    m_ioQueue.start([file = m_fileURL, snapshot = std::move(snapshot)] {
+        lowerThisThreadsPriority();
+        writeSnapshot(file, snapshot);
+    });
+}
+
+std::optional<CatalogSnapshot> CatalogCache::load() const
+{
+    Result<CatalogSnapshot> snapshot = readSnapshot(m_fileURL);
+    if (snapshot)
+        return *std::move(snapshot);
+    qCInfo(snapshotLog).noquote() << snapshot.error().detail;
+    return std::nullopt;
+}
+
+} // namespace lorva

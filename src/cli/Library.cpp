@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "cli/Library.h"
+
+#include "platform/linux/FontconfigAvailableFonts.h"
+#include "platform/linux/XdgFolders.h"
+
+#include <sys/stat.h>
+
+namespace lorva::cli {
+
+Result<std::vector<FilePath>> givenFolders(const Arguments &arguments)
+{
+    std::vector<FilePath> folders;
+    for (const QByteArray &word : arguments.values("--folder")) {
+        const FilePath folder = FilePath::absolute(word);
+        struct stat info;
+        if (::stat(folder.c_str(), &info) != 0)
+            return failure(ErrorKind::notFound,
+                           QStringLiteral("there is no folder ") + folder.displayText());
+        if (!S_ISDIR(info.st_mode))
+            return failure(ErrorKind::invalidValue,
+                           folder.displayText() + QStringLiteral(" is no folder"));
+        folders.push_back(folder);
+    }
+    return folders;
+}
+
+FontCatalogLoader::Dependencies machineFonts(CacheUse cacheUse)
+{
+    const PlatformFolders folders = xdgFolders();
+    return {std::make_shared<FontconfigAvailableFonts>(folders.registeredLinks()),
+            folders.parseCache(), cacheUse == CacheUse::readAndSave};
+}
+
+FontCatalogLoader::ProgressCallback ScanProgress::callback()
+{
+    if (!m_line.isShown())
+        return nullptr;
+    return [this](const FontScanPhase &phase) { show(phase); };
+}
+
+void ScanProgress::show(const FontScanPhase &phase)
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (m_shownKind == phase.kind && now - m_shownAt < std::chrono::milliseconds(50))
+        return;
+    m_shownKind = phase.kind;
+    m_shownAt = now;
+    m_line.show(phase.text());
+}
+
+} // namespace lorva::cli

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "catalog/FontCatalogLoader.h"
+#include "cli/Arguments.h"
+#include "cli/Console.h"
+
+#include <chrono>
+
+namespace lorva::cli {
+
+/// The folders of the `--folder` options. Fails for one that does not exist or is none.
+Result<std::vector<FilePath>> givenFolders(const Arguments &arguments);
+
+/// A loader over this machine's fonts and this user's parse cache.
+enum class CacheUse { readOnly, readAndSave };
+FontCatalogLoader::Dependencies machineFonts(CacheUse cacheUse);
+
+/// Shows the phases of a scan on a terminal, each new one at once, else twenty times a second.
+class ScanProgress
+{
+public:
+    /// Null where nobody would see it.
+    FontCatalogLoader::ProgressCallback callback();
+
+private:
+    void show(const FontScanPhase &phase);
+
+    ProgressLine m_line;
+    std::optional<FontScanPhase::Kind> m_shownKind;
+    std::chrono::steady_clock::time_point m_shownAt;
+};
+
+} // namespace lorva::cli

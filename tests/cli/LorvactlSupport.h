@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/TestHome.h"
+
+#include <QProcess>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace lorva::test {
+
+struct Outcome
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray error;
+};
+
+inline Outcome finished(QProcess &process)
+{
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+inline Outcome lorvactl(const QStringList &arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(TestHome::instance().home().displayText());
+    process.start(QStringLiteral(LORVACTL_PATH), arguments);
+    return finished(process);
+}
+
+/// Through a shell, for arguments that are no text and for redirections.
+inline Outcome shell(const QString &script)
+{
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"),
+                  {QStringLiteral("-c"),
+                   QString(QStringLiteral("lorvactl() { " LORVACTL_PATH " \"$@\"; }; ") + script)});
+    return finished(process);
+}
+
+inline QString path(const FilePath &file)
+{
+    return QString::fromUtf8(file.bytes());
+}
+
+inline void expectFailure(const Outcome &outcome, int exitCode, const char *words)
+{
+    EXPECT_EQ(outcome.exitCode, exitCode) << outcome.error.constData();
+    EXPECT_THAT(outcome.error.toStdString(), testing::StartsWith("lorvactl: "));
+    EXPECT_THAT(outcome.error.toStdString(), testing::HasSubstr(words));
+    EXPECT_EQ(outcome.error.count('\n'), 1) << outcome.error.constData();
+    EXPECT_EQ(outcome.out, "");
+}
+
+} // namespace lorva::test
