@@ -18,13 +18,21 @@ import tempfile
 import time
 from pathlib import Path
 
+import bench_start
+
 EXTENSIONS = {".otf", ".ttf", ".ttc", ".otc", ".dfont"}
 # As many files as the libraries of designers hold; the fonts of the machine are linked this often.
 LARGE_LIBRARY = 7000
+# The generated libraries, by their families of ten faces each.
+MANY_FAMILIES, FEW_FAMILIES = 10000, 1000
+START_BAR_MS = 400
+# Starts before those that are measured: the first ones make caches and warm files.
+SETTLED_STARTS = 1
 SAMPLE_TEXT = "Aa 123"
 SAMPLE_SIZE_PX = 48
 SAMPLE_FONTS = 60
 README_MARKS = ("<!-- bench:begin -->", "<!-- bench:end -->")
+FC_FORMAT = "%{family}|%{style}|%{postscriptname}|%{weight}|%{slant}\n"
 NO_FONTS = '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>'
 
 
@@ -60,6 +68,13 @@ def large_library(files, folder):
                 os.link(folder / "000" / name, target)
         stamp_file.write_text(stamp)
     return font_files(folder)
+
+
+def generated_library(build, families):
+    """A folder of generated fonts; made once, and anew when the generator has changed."""
+    folder = build / f"library-{families}"
+    run_ms([str(build / "bench/lorva_generate_library"), str(folder), str(families)])
+    return folder
 
 
 def run_ms(command, environment=None, output=os.devnull):
@@ -121,7 +136,8 @@ class Bench:
 
     def environment(self, system_fonts):
         """A fresh home, so that no cache and no watched folder of this user takes part. Without the system's
-        fonts fontconfig knows none at all, and a scan reads exactly the folder it is given."""
+        fonts fontconfig knows none at all, and a scan reads exactly the folder it is given. With them
+        fontconfig is the system's own; what it caches for this home is warm after a first run."""
         fresh = Path(tempfile.mkdtemp(dir=self.home))
         conf = fresh / "fonts.conf"
         conf.write_text(NO_FONTS)
@@ -138,6 +154,11 @@ class Bench:
         compared = f"{instead}: {ms(theirs)}" if theirs else "–"
         self.rows.append((what, ms(ours), compared, ratio, bar))
 
+    def add_against_bar(self, key, what, ours, bar_ms):
+        """A row that stands against what is allowed, for want of another program that does the same."""
+        self.figures[key] = {"ours_ms": ours, "bar_ms": bar_ms}
+        self.rows.append((what, ms(ours), f"the bar: {ms(bar_ms)}", f"{ours / bar_ms:.3f}", "1 ×"))
+
     # The scan, whole process against whole process.
 
     def count_faces(self, folder, files):
@@ -150,8 +171,7 @@ class Bench:
         return ours, fc
 
     def scan(self, key, folder, files, bar):
-        fc_scan = [tool("fc-scan"), "--format",
-                   "%{family}|%{style}|%{postscriptname}|%{weight}|%{slant}\n", *files]
+        fc_scan = [tool("fc-scan"), "--format", FC_FORMAT, *files]
 
         def ours():
             environment = self.environment(False)
@@ -160,6 +180,36 @@ class Bench:
         mine, theirs = in_turns(self.runs, ours, lambda: run_ms(fc_scan))
         self.add(key, f"scan of {len(files):,} files with no cache, whole process", statistics.median(mine),
                  "`fc-scan`", statistics.median(theirs), bar)
+
+    def scan_generated(self, library):
+        """No cache, over so many faces with so little in them that the work is all in the counting."""
+        # fc-scan takes a quarter of a minute for it.
+        runs = min(self.runs, 3)
+        files = len(font_files(library))
+
+        def ours():
+            return run_ms([self.lorvactl, "list", "--json", "--folder", str(library)],
+                          self.environment(False))
+
+        fc_scan = [tool("fc-scan"), "--format", FC_FORMAT, str(library)]
+        mine, theirs = in_turns(runs, ours, lambda: run_ms(fc_scan))
+        self.add("scan_generated", f"scan of {files:,} small generated files with no cache, whole process",
+                 statistics.median(mine), "`fc-scan`", statistics.median(theirs), "–")
+
+    def scan_unchanged(self, key, folder, files, what):
+        """The second scan of a home, whole process, against what looks at the same files."""
+        environment = self.environment(False)
+        command = [self.lorvactl, "scan", "--json", "--folder", str(folder)]
+        find = [tool("find"), "-L", str(folder), "-type", "f", "-printf", "%s %T@\\n"]
+        output = os.path.join(self.home, "scan.json")
+        run_ms(command, environment)
+        mine, theirs = in_turns(self.runs, lambda: run_ms(command, environment, output), lambda: run_ms(find))
+        report = json.loads(Path(output).read_text())
+        if report["filesRead"] != 0 or report["filesReused"] != files:
+            raise Failed(f"of {files} unchanged files the scan read {report['filesRead']} again")
+        self.figures[f"{key}_steps_ms"] = report["milliseconds"]
+        self.add(key, f"scan of {what} with nothing changed, whole process", statistics.median(mine),
+                 "`find -printf '%s %T@'`", statistics.median(theirs), "3 ×")
 
     def fontconfig_load(self):
         """What a scan of the system's fonts spends in fontconfig before it reads its first file."""
@@ -206,26 +256,67 @@ class Bench:
                  statistics.median(mine), "`hb-view`", statistics.median(theirs), "–")
         return theirs
 
+    # The start, from just before the process to the first screen with its specimens.
+
+    def start(self, many, few):
+        program = str(self.build / "src/app/lorva")
+        libraries = many, few
+        homes = [self.environment(True) for _ in libraries]
+        for library, home in zip(libraries, homes):
+            # Also warms fontconfig and the files, so that the later first starts measure only ours.
+            bench_start.make_caches(program, library, home)
+        starts = [[], []]
+        for turn in range(SETTLED_STARTS + self.runs):
+            for taken, library, home in zip(starts, libraries, homes):
+                result = bench_start.measure(program, library, home)
+                if turn >= SETTLED_STARTS:
+                    taken.append(result)
+        for home in homes:
+            bench_start.forget_caches(home)
+        first = [bench_start.make_caches(program, library, home) for library, home in zip(libraries, homes)]
+        self.figures["start_window"] = {"many": starts[0], "few": starts[1], "without_snapshot": first}
+        self.add_start_rows(*starts, first)
+
+    def add_start_rows(self, many, few, first):
+        def median(starts, key):
+            return statistics.median(start[key] for start in starts)
+
+        painted = median(many, "painted_ms")
+        self.add_against_bar("start_many", f"start to the first screen, {MANY_FAMILIES:,} families, "
+                             f"{MANY_FAMILIES * 10:,} faces", painted, START_BAR_MS)
+        self.add("start_ratio", "the same", painted, f"with {FEW_FAMILIES:,} families",
+                 median(few, "painted_ms"), "1.5 ×")
+        self.figures["memory_mb"] = {key: median(many, key) for key in ("rss_mb", "peak_mb")}
+        self.notes.append(
+            f"The start is of the window at 1720×920 without a display, from before the process to the last "
+            f"specimen on the screen, fade-in included; the library is known after "
+            f"{ms(median(many, 'shown_ms'))} ({FEW_FAMILIES:,} families: {ms(median(few, 'shown_ms'))}). "
+            f"The scan behind it has been applied after {ms(median(many, 'applied_ms'))}; the program then "
+            f"holds {median(many, 'rss_mb'):.0f} MB, at its highest {median(many, 'peak_mb'):.0f} MB. The "
+            f"very first start, without snapshot and parse cache, shows its specimens after "
+            f"{ms(first[0]['painted_ms'])} ({FEW_FAMILIES:,} families: {ms(first[1]['painted_ms'])}).")
+
     # The Google Benchmark programs.
 
-    def programs(self, library):
+    def programs(self, library, generated):
         """Runs them all; gives each benchmark's figures by its bare name."""
         results = {}
-        for program in sorted((self.build / "bench").iterdir()):
-            if not program.is_file() or not os.access(program, os.X_OK):
-                continue
+        for program in sorted((self.build / "bench").glob("*_benchmark")):
             out = Path(self.home) / f"{program.name}.json"
             print(f"bench: {program.name} …", file=sys.stderr)
             # The whole processes are timed above, in turns and over the same list of files.
             run_ms([str(program), f"--benchmark_out={out}", "--benchmark_out_format=json",
                     "--benchmark_filter=-lorvactlList|fcScan"],
                    {**os.environ, "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8",
-                    "LORVA_BENCH_FONTS": str(library)})
+                    "LORVA_BENCH_FONTS": str(library), "LORVA_BENCH_LIBRARY": str(generated)})
             for result in json.loads(out.read_text())["benchmarks"]:
                 scale = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}[result.get("time_unit", "ns")]
+                if result.get("error_occurred"):
+                    raise Failed(f"{result['name']}: {result['error_message']}")
                 if "real_time" in result:
                     result["ms"] = result["real_time"] * scale
-                    results[result["name"].split("/")[0].split("::")[-1]] = result
+                    # "lorva::scan/generated/real_time" is known as "scan/generated".
+                    results[re.match(r"(?:.*::)?([^/]+(?:/(?:real|generated)\b)?)", result["name"])[1]] = result
         self.figures["programs"] = results
         return results
 
@@ -235,7 +326,9 @@ class Bench:
             specimen = results["pathToPixels"]
             records = [results[f"decode 100k faces, {reader}"]["ms"]
                        for reader in ("ours", "QJsonDocument", "RapidJSON")]
-            again = [results[name]["ms"] for name in ("scanWithNothingChanged", "walkAndStat")]
+            again = [results[f"{name}/real"]["ms"] for name in ("scanWithNothingChanged", "walkAndStat")]
+            caches = [results[name] for name in ("readParseCache", "readSnapshot")]
+            cold = results["scanWithoutCache/generated"]
         except KeyError as missing:
             raise Failed(f"no benchmark is called {missing}") from None
         self.add("scan_unchanged", f"scan of {LARGE_LIBRARY:,} files with nothing changed", again[0],
@@ -243,9 +336,15 @@ class Bench:
         for key, share, bar in (("median", 0.5, "0.3 ms"), ("p95", 0.95, "1 ms")):
             self.add(f"specimen_{key}", f"never-seen specimen, path to pixels, {key}",
                      specimen[f"{key}_us"] / 1000, f"`hb-view`, {key}", percentile(hb_view, share), bar)
+        for key, what, figures in zip(("parse_cache", "snapshot"), ("parse cache", "snapshot"), caches):
+            self.add_against_bar(key, f"{what} of {figures['faces']:,.0f} faces read", figures["ms"], 100)
         self.add("records", "100,000 faces read from JSON", records[0], "`QJsonDocument`", records[1],
                  "100 ms")
         self.add("records_rapidjson", "the same", records[0], "RapidJSON", records[2], "100 ms")
+        self.notes.append(
+            f"Of {cold['faces']:,.0f} generated faces a scan with no cache adds {cold['peak_mb']:.0f} MB at "
+            f"its highest, reading the parse cache {caches[0]['peak_mb']:.0f} MB and the snapshot "
+            f"{caches[1]['peak_mb']:.0f} MB.")
 
     def table(self):
         lines = ["| what | Lorva | instead | ratio | at most |", "|---|--:|--:|--:|--:|"]
@@ -285,14 +384,23 @@ def main():
         bench = Bench(options.build, max(1, options.runs), home)
         library = options.build / "library"
         many = large_library(files, library)
+        generated, few = (generated_library(options.build, families)
+                          for families in (MANY_FAMILIES, FEW_FAMILIES))
+        print("bench: start …", file=sys.stderr)
+        bench.start(generated, few)
         print("bench: scan …", file=sys.stderr)
         bench.scan("scan_large", library, many, "0.15 ×")
         bench.scan("scan_installed", options.folder, files, "–")
+        bench.scan_generated(generated)
+        bench.scan_unchanged("scan_unchanged_process", library, len(many), f"{len(many):,} files")
+        generated_files = len(font_files(generated))
+        bench.scan_unchanged("scan_unchanged_generated", generated, generated_files,
+                             f"{generated_files:,} small generated files")
         ours, theirs = bench.count_faces(options.folder, files)
         bench.fontconfig_load()
         print("bench: specimens …", file=sys.stderr)
         hb_view = bench.specimen_processes(files)
-        bench.from_programs(bench.programs(library), hb_view)
+        bench.from_programs(bench.programs(library, generated), hb_view)
         bench.notes.insert(0, f"Medians of {bench.runs} runs in turns, files warm, on {machine()}. The "
                               f"{len(many):,} files are this machine's {len(files):,} fonts linked under "
                               f"more names: {ours:,} styles after joining equal ones, {theirs:,} patterns "
@@ -308,5 +416,5 @@ def main():
 if __name__ == "__main__":
     try:
         main()
-    except (Failed, OSError) as failed:
+    except (Failed, bench_start.NotStarted, OSError) as failed:
         sys.exit(f"bench: {failed}")

@@ -28,11 +28,11 @@ constexpr int kNotAsked = -2;
 /// the statics of a process are destroyed.
 constinit std::atomic<int> traceDescriptor{kNotAsked};
 
-double monotonicMicroseconds()
+qint64 monotonicMicroseconds()
 {
     timespec now{};
     ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return double(now.tv_sec) * 1e6 + double(now.tv_nsec / 1000);
+    return qint64(now.tv_sec) * 1'000'000 + now.tv_nsec / 1000;
 }
 
 /// Opened without waiting and emptied only if it is a regular file: a FIFO under that name must
@@ -123,15 +123,16 @@ int openTrace()
     return writePiece(*opened, begin) ? *opened : kOff;
 }
 
-/// The descriptor, or kOff. Asks the environment at the first call.
+/// The descriptor, or kOff. Asks the environment at the first call; whoever sees an open file sees
+/// its first event in it, too.
 int tracingDescriptor()
 {
-    const int known = traceDescriptor.load(std::memory_order_relaxed);
+    const int known = traceDescriptor.load(std::memory_order_acquire);
     if (known != kNotAsked)
         return known;
     static std::once_flag once;
-    std::call_once(once, [] { traceDescriptor.store(openTrace(), std::memory_order_relaxed); });
-    return traceDescriptor.load(std::memory_order_relaxed);
+    std::call_once(once, [] { traceDescriptor.store(openTrace(), std::memory_order_release); });
+    return traceDescriptor.load(std::memory_order_acquire);
 }
 
 void nameThreadOnce(int descriptor)
@@ -147,12 +148,12 @@ void writeEvent(const char *phase, const char *name)
     const int descriptor = tracingDescriptor();
     if (descriptor < 0)
         return;
-    const double time = monotonicMicroseconds();
+    const qint64 time = monotonicMicroseconds();
     nameThreadOnce(descriptor);
     JsonWriter out;
     beginEvent(out, phase, name);
     out.key(std::string_view("ts"));
-    out.number(time);
+    out.integer(time);
     if (*phase == 'i') {
         out.key(std::string_view("s"));
         out.utf8("t");

@@ -107,7 +107,9 @@ TEST(Trace, StagesNestAndTimeGoesOn)
 TEST(Trace, NoEventOfAnyThreadIsLostOrTorn)
 {
     const FilePath trace = TestHome::instance().root().child("threads.json");
-    EXPECT_EQ(runProbe(QStringLiteral("threads"), trace).output, "on\n");
+    const Outcome outcome = runProbe(QStringLiteral("threads"), trace);
+    EXPECT_EQ(outcome.output, "on\n");
+    EXPECT_EQ(outcome.errors, "") << "a thread sanitizer speaks here";
 
     std::map<double, int> openByThread;
     std::map<double, int> stagesByThread;
