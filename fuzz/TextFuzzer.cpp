@@ -99,7 +99,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const auto descriptors = (*file)->descriptors();
     if (!descriptors)
         return 0;
+    constexpr char32_t kSamples[]{U'a', U'\u3042', U'\U0001F600'};
     for (size_t i = 0; i < std::min(kFacesTried, descriptors->size()); ++i) {
+        static_cast<void>((*file)->reach((*descriptors)[i].key, kSamples));
         if (const auto face = (*file)->face((*descriptors)[i].key))
             tryFace(*face);
     }
