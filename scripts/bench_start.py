@@ -13,6 +13,7 @@ from pathlib import Path
 SCREEN = {"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1920, "height": 1080, "logicalDpi": 96,
                        "logicalBaseDpi": 96, "dpr": 1}]}
 SHOWN = "snapshot shown"
+DRAWN = "specimens drawn"
 PAINTED = "first screen painted"
 APPLIED = "catalog applied"
 SAVES = ("snapshot: save", "parse cache: save")
@@ -120,7 +121,8 @@ def measure(program, library, environment):
     """One start from its caches: its moments and stages in ms, and its memory at rest."""
     with opened(program, library, environment) as window:
         events = window.wait_for(PAINTED, SHOWN, APPLIED)
-        return {"painted_ms": window.moment_ms(events, PAINTED), "shown_ms": window.moment_ms(events, SHOWN),
+        return {"painted_ms": window.moment_ms(events, PAINTED), "drawn_ms": window.moment_ms(events, DRAWN),
+                "shown_ms": window.moment_ms(events, SHOWN),
                 "applied_ms": window.moment_ms(events, APPLIED), "stages_ms": stages_ms(events),
                 **window.settled_memory()}
 

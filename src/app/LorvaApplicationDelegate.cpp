@@ -44,17 +44,15 @@ std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
 }
 
 std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
-                                         const PlatformFolders &folders)
+                                         const PlatformFolders &folders,
+                                         std::unique_ptr<CatalogCache> catalogCache)
 {
     FontLibraryService::Dependencies dependencies{
         std::make_shared<FontconfigAvailableFonts>(folders.registeredLinks()),
         std::make_shared<FontconfigSystemFont>()};
-    // A picture may use what is known of the files, but shows nothing but what is there now.
     dependencies.cacheFileURL = folders.parseCache();
+    // A picture leaves the user's files as they are.
     dependencies.savesCache = !options.screenshot;
-    auto catalogCache = options.screenshot
-        ? nullptr
-        : std::make_unique<CatalogCache>(folders.catalogSnapshot());
     auto model = std::make_unique<LorvaAppModel>(
         std::make_unique<FontLibraryService>(std::move(dependencies)),
         std::make_unique<CatalogActivation>(folders), std::move(catalogCache));
@@ -68,10 +66,21 @@ std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
 
 } // namespace
 
-LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options)
+std::unique_ptr<CatalogCache> LorvaApplicationDelegate::beginReadingCatalog(
+    const LaunchOptions &options)
+{
+    if (options.screenshot)
+        return nullptr;
+    auto cache = std::make_unique<CatalogCache>(xdgFolders().catalogSnapshot());
+    cache->prefetch();
+    return cache;
+}
+
+LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options,
+                                                   std::unique_ptr<CatalogCache> catalogCache)
     : m_options(std::move(options))
     , m_preferences(makePreferences(m_options, xdgFolders()))
-    , m_model(makeModel(m_options, xdgFolders()))
+    , m_model(makeModel(m_options, xdgFolders(), std::move(catalogCache)))
     , m_windowFrameStore(*m_preferences)
 {
     traceMoment("model made");
@@ -142,6 +151,10 @@ void LorvaApplicationDelegate::watchFirstScreen()
         look->start();
     });
     connect(look, &QTimer::timeout, this, [this, look] {
+        if (m_root->browser().isDrawn() && !std::exchange(m_specimensAreDrawn, true)) {
+            m_window->repaint();
+            traceMoment("specimens drawn");
+        }
         if (!m_root->browser().isSettled())
             return;
         reportFirstScreen();

@@ -26,7 +26,12 @@ public:
     static constexpr QSize kWantedContentSize{1720, 920};
     static constexpr QSize kMinimumContentSize{960, 800};
 
-    explicit LorvaApplicationDelegate(LaunchOptions options);
+    /// The catalog of the last start, being read already: to be called first of all, before the
+    /// toolkit is started. Null for a picture, which shows nothing but what is there now.
+    static std::unique_ptr<CatalogCache> beginReadingCatalog(const LaunchOptions &options);
+
+    explicit LorvaApplicationDelegate(LaunchOptions options,
+                                      std::unique_ptr<CatalogCache> catalogCache = nullptr);
     ~LorvaApplicationDelegate() override;
 
     /// Builds and shows the window and starts the catalog load.
@@ -59,6 +64,8 @@ private:
     std::unique_ptr<QMainWindow> m_window;
     LorvaRootSplitViewController *m_root = nullptr;
     QElapsedTimer m_sinceCatalog;
+    /// They may still fade in.
+    bool m_specimensAreDrawn = false;
     bool m_firstScreenIsPainted = false;
 };
 

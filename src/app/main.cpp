@@ -77,6 +77,7 @@ int main(int argc, char **argv)
         return kExitUsage;
     }
 
+    auto catalogCache = lorva::LorvaApplicationDelegate::beginReadingCatalog(*options);
     // Before the application object: its font database is filled from the process's configuration.
     {
         const lorva::TraceStage stage("start: interface fonts");
@@ -93,7 +94,7 @@ int main(int argc, char **argv)
     applicationStage.end();
     qInstallMessageHandler(usual);
 
-    lorva::LorvaApplicationDelegate delegate(*options);
+    lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache));
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -22,11 +22,24 @@ namespace {
 
 constexpr int kNameAttempts = 16;
 
+/// When a new file gets a name of its own. Without one it vanishes with the process, but not every
+/// file system can make such a file.
+enum class Naming { whenWritten, atOnce };
+
+FilePath randomName(const FilePath &folder)
+{
+    const QByteArray random = QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+    return folder.child(QByteArray(".lorva-" + random + ".tmp"));
+}
+
 /// A new file that is removed again unless it was kept.
 class TemporaryFile
 {
 public:
-    TemporaryFile() = default;
+    explicit TemporaryFile(Naming naming)
+        : m_naming(naming)
+    {
+    }
     TemporaryFile(const TemporaryFile &) = delete;
     TemporaryFile &operator=(const TemporaryFile &) = delete;
 
@@ -41,19 +54,14 @@ public:
     /// Each of these gives 0 or the system's error number.
     int create(const FilePath &folder)
     {
-        for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
-            const QByteArray random =
-                QByteArray::number(QRandomGenerator::global()->generate64(), 36);
-            const FilePath path = folder.child(QByteArray(".lorva-" + random + ".tmp"));
-            m_descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-            if (m_descriptor >= 0) {
-                m_path = path;
-                return 0;
-            }
-            if (errno != EEXIST)
-                return errno;
-        }
-        return EEXIST;
+        m_folder = folder;
+        if (m_naming == Naming::atOnce)
+            return underNewName([this](const FilePath &path) {
+                m_descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+                return m_descriptor >= 0;
+            });
+        m_descriptor = ::open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666);
+        return m_descriptor >= 0 ? 0 : errno;
     }
 
     int write(QByteArrayView bytes) const
@@ -81,6 +89,11 @@ public:
     {
         if (::fsync(m_descriptor) != 0)
             return errno;
+        if (m_naming == Naming::whenWritten) {
+            const int code = giveName();
+            if (code != 0)
+                return code;
+        }
         return ::close(std::exchange(m_descriptor, -1)) == 0 ? 0 : errno;
     }
 
@@ -93,7 +106,34 @@ public:
     }
 
 private:
+    int giveName()
+    {
+        const QByteArray self = "/proc/self/fd/" + QByteArray::number(m_descriptor);
+        return underNewName([&](const FilePath &path) {
+            return ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW)
+                == 0;
+        });
+    }
+
+    /// Calls `take` with names until one is free.
+    template <class Take>
+    int underNewName(Take take)
+    {
+        for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
+            const FilePath path = randomName(m_folder);
+            if (take(path)) {
+                m_path = path;
+                return 0;
+            }
+            if (errno != EEXIST)
+                return errno;
+        }
+        return EEXIST;
+    }
+
+    const Naming m_naming;
     int m_descriptor = -1;
+    FilePath m_folder;
     FilePath m_path;
 };
 
@@ -118,12 +158,9 @@ void flushFolder(const FilePath &folder)
     ::close(descriptor);
 }
 
-} // namespace
-
-Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes)
+int replace(const FilePath &target, QByteArrayView bytes, Naming naming)
 {
-    const FilePath target = withLinksFollowed(path);
-    TemporaryFile file;
+    TemporaryFile file(naming);
     int code = file.create(target.parent());
     if (code == 0)
         code = file.write(bytes);
@@ -131,8 +168,17 @@ Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes)
         file.takePermissionsOf(target);
         code = file.flush();
     }
-    if (code == 0)
-        code = file.renameTo(target);
+    return code == 0 ? file.renameTo(target) : code;
+}
+
+} // namespace
+
+Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes)
+{
+    const FilePath target = withLinksFollowed(path);
+    int code = replace(target, bytes, Naming::whenWritten);
+    if (code != 0)
+        code = replace(target, bytes, Naming::atOnce);
     if (code != 0)
         return systemFailure(code, "write", path);
     flushFolder(target.parent());

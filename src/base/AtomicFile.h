@@ -12,7 +12,8 @@ namespace lorva {
 /// followed, so that it keeps pointing at the file. An existing file's permissions are kept.
 ///
 /// The folder must exist. Fails with notFound, permissionDenied, notRegularFile (a folder has that
-/// name) or ioFailure (a full disk, …); no new file stays behind. Thread: any.
+/// name) or ioFailure (a full disk, …). No new file stays behind, on most file systems not even
+/// that of a process which is killed meanwhile. Thread: any.
 Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes);
 
 } // namespace lorva

@@ -4,6 +4,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/Json.h"
+#include "base/RunThen.h"
 #include "base/Trace.h"
 #include "base/WholeFile.h"
 #include "catalog/SharedTexts.h"
@@ -99,6 +100,15 @@ Result<CatalogSnapshot> readSnapshot(const FilePath &file)
     return decodeSnapshot(*std::move(json));
 }
 
+std::optional<CatalogSnapshot> loadSnapshot(const FilePath &file)
+{
+    Result<CatalogSnapshot> snapshot = readSnapshot(file);
+    if (snapshot)
+        return *std::move(snapshot);
+    qCInfo(snapshotLog).noquote() << snapshot.error().detail;
+    return std::nullopt;
+}
+
 } // namespace
 
 bool CatalogSnapshot::operator==(const CatalogSnapshot &other) const
@@ -141,19 +151,23 @@ CatalogCache::~CatalogCache()
 
 void CatalogCache::save(CatalogSnapshot snapshot)
 {
-    m_ioQueue.start([file = m_fileURL, snapshot = std::move(snapshot)] {
+    std::function<void()> work = [file = m_fileURL, snapshot = std::move(snapshot)] {
+        detail::passOrder();
         lowerThisThreadsPriority();
         writeSnapshot(file, snapshot);
-    });
+    };
+    detail::passOrder();
+    m_ioQueue.start(std::move(work));
 }
 
-std::optional<CatalogSnapshot> CatalogCache::load() const
+void CatalogCache::prefetch()
 {
-    Result<CatalogSnapshot> snapshot = readSnapshot(m_fileURL);
-    if (snapshot)
-        return *std::move(snapshot);
-    qCInfo(snapshotLog).noquote() << snapshot.error().detail;
-    return std::nullopt;
+    m_prefetched = std::async(std::launch::async, loadSnapshot, m_fileURL);
+}
+
+std::optional<CatalogSnapshot> CatalogCache::load()
+{
+    return m_prefetched.valid() ? m_prefetched.get() : loadSnapshot(m_fileURL);
 }
 
 } // namespace lorva

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QThreadPool>
 
+#include <future>
 #include <optional>
 
 namespace lorva {
@@ -48,13 +49,17 @@ public:
     const FilePath &fileURL() const { return m_fileURL; }
     /// Returns at once. Thread: any.
     void save(CatalogSnapshot snapshot);
-    /// Nothing when the file is missing, cannot be read or does not decode. Thread: any, it takes
-    /// its time.
-    std::optional<CatalogSnapshot> load() const;
+    /// Begins to read the file on a thread of its own, for the next load() to take: at a start
+    /// there is other work to do meanwhile.
+    void prefetch();
+    /// Nothing when the file is missing, cannot be read or does not decode. Thread: any, one at a
+    /// time; it takes its time.
+    std::optional<CatalogSnapshot> load();
 
 private:
     const FilePath m_fileURL;
     QThreadPool m_ioQueue;
+    std::future<std::optional<CatalogSnapshot>> m_prefetched;
 };
 
 } // namespace lorva

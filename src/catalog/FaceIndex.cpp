@@ -5,7 +5,6 @@
 #include <QHashFunctions>
 
 #include <algorithm>
-#include <tuple>
 
 namespace lorva {
 
@@ -50,25 +49,40 @@ FaceIndex::FaceIndex(FontFamilyList families)
 {
 }
 
-void FaceIndex::prepare() const
+void FaceIndex::prepareFamilies() const
 {
-    std::call_once(m_built, [this] { build(); });
+    std::call_once(m_familiesBuilt, [this] { buildFamilies(); });
 }
 
-void FaceIndex::build() const
+void FaceIndex::prepareNames() const
 {
-    const std::vector<FontFamilyRecord> &families = *m_families;
-    for (quint32 family = 0; family < families.size(); ++family) {
-        m_familyPlaces.push_back({hashOf(families[family].familyName), family, 0});
-        const std::vector<FontStyleRecord> &styles = families[family].styles;
+    std::call_once(m_namesBuilt, [this] { buildNames(); });
+}
+
+void FaceIndex::buildFamilies() const
+{
+    m_familyPlaces.reserve(m_families->size());
+    for (quint32 family = 0; family < m_families->size(); ++family)
+        m_familyPlaces.push_back({hashOf((*m_families)[family].familyName), family, 0});
+    sort(m_familyPlaces);
+}
+
+void FaceIndex::buildNames() const
+{
+    for (quint32 family = 0; family < m_families->size(); ++family) {
+        const std::vector<FontStyleRecord> &styles = (*m_families)[family].styles;
         for (quint32 style = 0; style < styles.size(); ++style)
             m_stylePlaces.push_back({hashOf(styles[style].postScriptName), family, style});
     }
-    const auto isBefore = [](const Place &a, const Place &b) {
+    sort(m_stylePlaces);
+    m_stylePlaces.shrink_to_fit();
+}
+
+void FaceIndex::sort(std::vector<Place> &places)
+{
+    std::sort(places.begin(), places.end(), [](const Place &a, const Place &b) {
         return std::tie(a.hash, a.family, a.style) < std::tie(b.hash, b.family, b.style);
-    };
-    std::sort(m_familyPlaces.begin(), m_familyPlaces.end(), isBefore);
-    std::sort(m_stylePlaces.begin(), m_stylePlaces.end(), isBefore);
+    });
 }
 
 std::pair<std::vector<FaceIndex::Place>::const_iterator,
@@ -85,7 +99,7 @@ FaceIndex::placesOf(const std::vector<Place> &places, const QString &name)
 
 std::optional<quint32> FaceIndex::familyPlace(const QString &familyName) const
 {
-    prepare();
+    prepareFamilies();
     const auto [begin, end] = placesOf(m_familyPlaces, familyName);
     for (auto place = begin; place != end; ++place) {
         if ((*m_families)[place->family].familyName == familyName)
@@ -102,7 +116,7 @@ const FontFamilyRecord *FaceIndex::family(const QString &familyName) const
 
 std::vector<const FontStyleRecord *> FaceIndex::stylesNamed(const QString &postScriptName) const
 {
-    prepare();
+    prepareNames();
     std::vector<const FontStyleRecord *> styles;
     const auto [begin, end] = placesOf(m_stylePlaces, postScriptName);
     for (auto place = begin; place != end; ++place) {

@@ -6,10 +6,10 @@
 
 #include <QStringList>
 
-#include <compare>
 #include <mutex>
 #include <optional>
 #include <set>
+#include <tuple>
 #include <vector>
 
 namespace lorva {
@@ -19,15 +19,18 @@ int fontManagerWeight(qint64 weight);
 
 /// Finds the faces of one catalog by family, by PostScript name and by file.
 ///
-/// Shares the families it was made of. The tables behind the look-ups by name are made at the first
-/// one, or by prepare(); that of the files when first needed. Thread: any.
+/// Shares the families it was made of. Each table behind the look-ups is made when first needed, or
+/// by prepare…(). Thread: any.
 class FaceIndex
 {
 public:
     explicit FaceIndex(FontFamilyList families);
 
-    /// Makes the tables now, so that no later look-up has to.
-    void prepare() const;
+    /// Makes the table of the families now, so that no later look-up has to: a millisecond for
+    /// 10,000.
+    void prepareFamilies() const;
+    /// The same for that of the PostScript names: some ten milliseconds for 100,000 faces.
+    void prepareNames() const;
 
     /// Null for a name that the catalog does not have.
     const FontFamilyRecord *family(const QString &familyName) const;
@@ -54,10 +57,16 @@ private:
     {
         quint32 hash = 0;
         quint32 family = 0;
-        auto operator<=>(const FilePlace &) const = default;
+        bool operator==(const FilePlace &) const = default;
+        bool operator<(const FilePlace &other) const
+        {
+            return std::tie(hash, family) < std::tie(other.hash, other.family);
+        }
     };
-    void build() const;
+    void buildFamilies() const;
+    void buildNames() const;
     void buildFiles() const;
+    static void sort(std::vector<Place> &places);
     std::optional<quint32> familyPlace(const QString &familyName) const;
     /// Adds the families that have a face in `path`.
     void addFamiliesOfFile(const FilePath &path, std::set<quint32> &families) const;
@@ -65,8 +74,9 @@ private:
     placesOf(const std::vector<Place> &places, const QString &name);
 
     const FontFamilyList m_families;
-    mutable std::once_flag m_built;
+    mutable std::once_flag m_familiesBuilt;
     mutable std::vector<Place> m_familyPlaces;
+    mutable std::once_flag m_namesBuilt;
     mutable std::vector<Place> m_stylePlaces;
     mutable std::once_flag m_filesBuilt;
     mutable std::vector<FilePlace> m_filePlaces;

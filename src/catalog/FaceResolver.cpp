@@ -99,10 +99,8 @@ Font FaceResolver::resolve(const QString &familyName, const std::optional<FontSt
     } else {
         const FontStyleRecord *wanted = wantedStyle(familyName, style);
         Found found = wanted ? search(familyName, *wanted) : Found{};
-        if (!found.face) {
+        if (!found.face)
             found.resolution.path = FaceResolution::Unresolved{m_now()};
-            m_hasUnresolvedFaces = true;
-        }
         face = found.face;
         m_faceResolutionCache.insert(name, std::move(found.resolution));
     }

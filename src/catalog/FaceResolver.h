@@ -11,7 +11,6 @@
 
 #include <QHashFunctions>
 
-#include <atomic>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -87,7 +86,8 @@ public:
                  SteadyClock now);
 
     /// Makes the index now, so that no look-up has to.
-    void prepare() const { m_index.prepare(); }
+    void prepareFamilies() const { m_index.prepareFamilies(); }
+    void prepareNames() const { m_index.prepareNames(); }
     std::optional<Font> cachedFont(const QString &familyName,
                                    const std::optional<FontStyleRecord> &style,
                                    double pointSize) const;
@@ -100,8 +100,6 @@ public:
     /// The style at `weight`, kept within its axis. A stand-in stays as it is.
     Font fontAtWeight(const QString &familyName, const VariableWeight &variable, double weight,
                       double pointSize) const;
-    /// True once some face was looked for in vain.
-    bool hasUnresolvedFaces() const { return m_hasUnresolvedFaces; }
     /// See FaceIndex.
     QStringList familiesSharingFiles(const QStringList &familyNames) const
     {
@@ -171,7 +169,6 @@ private:
     mutable BoundedCache<QByteArray, std::shared_ptr<const DescribedFile>> m_fileDescriptorCache{
         kFileDescriptors};
     mutable BoundedCache<FaceName, FaceResolution, Hash> m_faceResolutionCache{kFaceResolutions};
-    mutable std::atomic<bool> m_hasUnresolvedFaces = false;
 };
 
 } // namespace lorva

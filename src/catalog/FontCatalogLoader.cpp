@@ -129,8 +129,8 @@ std::optional<FontCatalogResult> FontCatalogLoader::scan(
     scan.done.filesRead = int(stale.size());
     scan.done.filesReused = int(files.size() - stale.size());
     m_report = scan.done;
-    qCInfo(logScan) << files.size() << "files," << stale.size() << "read,"
-                    << result.families.size() << "families";
+    qCInfo(logScan) << files.size() << "files," << stale.size() << "read," << result.families.size()
+                    << "families";
     return result;
 }
 

@@ -87,6 +87,8 @@ struct FontLibraryService::Private
     {
         // What it has not come to is of the old catalog.
         cancelPrewarm();
+        // Nobody waits for its names: a face is first looked for in its own file.
+        prewarmThread.push([resolver] { resolver->prepareNames(); });
         {
             const std::lock_guard lock(resolverLock);
             faceResolver.swap(resolver);
@@ -95,7 +97,7 @@ struct FontLibraryService::Private
         prewarmThread.push([old = std::move(resolver)] {});
     }
 
-    void cancelPrewarm() { prewarmTask.request_stop(); }
+    void cancelPrewarm() const { prewarmTask.request_stop(); }
 
     void startLoad();
     void run(const std::shared_ptr<Load> &load);
@@ -230,7 +232,7 @@ void FontLibraryService::prewarm(std::vector<PrewarmFace> faces, double pointSiz
 PreparedFamilies FontLibraryService::prepareFamilies(FontFamilyList families) const
 {
     std::shared_ptr<const FaceResolver> resolver = d->makeResolver(std::move(families));
-    resolver->prepare();
+    resolver->prepareFamilies();
     return PreparedFamilies(std::move(resolver));
 }
 
@@ -245,11 +247,6 @@ void FontLibraryService::setFamilies(FontFamilyList families)
 {
     Q_ASSERT(QThread::currentThread() == thread());
     d->install(d->makeResolver(std::move(families)));
-}
-
-bool FontLibraryService::hasUnresolvedFaces() const
-{
-    return d->currentResolver()->hasUnresolvedFaces();
 }
 
 std::optional<VariableWeight> FontLibraryService::variableWeight(const QString &familyName,

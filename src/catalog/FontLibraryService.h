@@ -129,10 +129,6 @@ public:
     /// For a few families; the tables are made when first needed.
     void setFamilies(FontFamilyList families);
 
-    /// True once a face of these families was looked for in vain. A scan that finds the same
-    /// families again is then worth setting all the same: the file may be back. Thread: any.
-    bool hasUnresolvedFaces() const;
-
     /// How the weight slider moves a style; nothing when its face has no weight axis that it could
     /// move on. May read the file. Thread: any.
     std::optional<VariableWeight> variableWeight(const QString &familyName,

@@ -69,28 +69,37 @@ void jsonFields(Fields &fields, Record &file)
     fields("e", file.styles);
 }
 
-// What can be said about a value holds in both directions: nothing is written that would not be
-// read.
+// What a scan gives; nothing is written that would not be read.
 
-bool isKeptPath(const QByteArray &path)
+bool isPlausiblePath(const FilePath &path)
 {
-    return path.startsWith('/') && !path.contains('\0') && path.isValidUtf8();
+    return path.bytes().startsWith('/') && !path.bytes().contains('\0');
 }
 
-bool isKeptEntry(const ParsedEntry &entry)
+bool isPlausible(const FilePath &path, const ParsedEntry &entry)
 {
     const std::optional<FilePath> &file = entry.style.fileURL;
     return !entry.familyName.isEmpty() && isPlausibleWeight(entry.style.weight)
-        && (!file || isKeptPath(file->bytes()));
+        && (!file || *file == path || isPlausiblePath(*file));
 }
 
-bool isKeptFile(const FilePath &path, const ParsedFontFile &file)
+bool isPlausible(const FilePath &path, const ParsedFontFile &file)
 {
-    return file.fileSize >= 0 && std::isfinite(file.modified) && isKeptPath(path.bytes())
-        && std::all_of(file.entries.begin(), file.entries.end(), isKeptEntry);
+    return file.fileSize >= 0 && std::isfinite(file.modified) && isPlausiblePath(path)
+        && std::all_of(file.entries.begin(), file.entries.end(),
+                       [&](const ParsedEntry &entry) { return isPlausible(path, entry); });
 }
 
 // --- Writing ---
+
+/// JSON is text, and a path need not be.
+bool hasTextPaths(const FilePath &path, const ParsedFontFile &file)
+{
+    return path.isUtf8()
+        && std::all_of(file.entries.begin(), file.entries.end(), [](const ParsedEntry &entry) {
+               return !entry.style.fileURL || entry.style.fileURL->isUtf8();
+           });
+}
 
 PersistedStyle rowOf(const ParsedEntry &entry)
 {
@@ -119,7 +128,7 @@ std::vector<FileRow> keptFiles(const QHash<FilePath, ParsedFontFile> &files)
     std::vector<FileRow> rows;
     rows.reserve(size_t(files.size()));
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        if (isKeptFile(file.key(), *file))
+        if (isPlausible(file.key(), *file) && hasTextPaths(file.key(), *file))
             rows.emplace_back(&file.key(), &*file);
     }
     std::sort(rows.begin(), rows.end(),
@@ -161,7 +170,7 @@ private:
     {
         const FilePath path(std::move(m_row.path.bytes));
         ParsedFontFile file{m_row.size, m_row.modified, entriesOf(path)};
-        if (!isKeptFile(path, file))
+        if (!isPlausible(path, file))
             return in.fail(ErrorKind::invalidValue, QStringLiteral("no scan gives such a file"));
         const qsizetype known = files.size();
         // Assigned, because QHash::insert() copies.

@@ -17,7 +17,7 @@ constexpr qsizetype kLongestThreadName = 15;
 
 } // namespace
 
-WorkerThreads::WorkerThreads(int most, QByteArray name, Priority priority)
+WorkerThreads::WorkerThreads(int most, const QByteArray &name, Priority priority)
     : m_most(size_t(std::max(most, 1)))
     , m_name(name.mid(name.lastIndexOf('.') + 1).left(kLongestThreadName))
     , m_priority(priority)

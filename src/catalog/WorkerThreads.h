@@ -28,7 +28,8 @@ public:
         low
     };
 
-    explicit WorkerThreads(int most, QByteArray name = {}, Priority priority = Priority::usual);
+    explicit WorkerThreads(int most, const QByteArray &name = {},
+                           Priority priority = Priority::usual);
     ~WorkerThreads();
     WorkerThreads(const WorkerThreads &) = delete;
     WorkerThreads &operator=(const WorkerThreads &) = delete;

@@ -122,8 +122,7 @@ QString familyText(const FamilyIdentification &family)
     QStringList scripts;
     for (const WritingScript script : identity.scripts)
         scripts.push_back(storedName(script));
-    QString text =
-        QStringLiteral("Family %1\n").arg(singleLine(family.familyName));
+    QString text = QStringLiteral("Family %1\n").arg(singleLine(family.familyName));
     text += line(QStringLiteral("Scripts"),
                  scripts.isEmpty() ? QStringLiteral("none") : scripts.join(QStringLiteral(", ")));
     if (identity.primary)
@@ -247,9 +246,8 @@ Result<FaceReport> reportFaces(const FilePath &path)
     const auto descriptors = (*file)->descriptors();
     if (!descriptors)
         return tl::unexpected(descriptors.error());
-    FaceReport report{path, {}, identifyFamilies(**file, *descriptors, [](const auto &) {
-                          return true;
-                      })};
+    FaceReport report{
+        path, {}, identifyFamilies(**file, *descriptors, [](const auto &) { return true; })};
     int known = -1;
     for (const FaceDescriptor &descriptor : *descriptors) {
         if (std::exchange(known, descriptor.key.faceIndex) == descriptor.key.faceIndex)

@@ -90,13 +90,12 @@ void printLines(const std::vector<FontFamilyRecord> &families)
 int runListCommand(std::span<const QByteArray> words)
 {
     using Value = OptionSpec::Value;
-    const Result<Arguments> arguments = Arguments::parse(
-        words,
-        {{"--help", Value::none},
-         {"-h", Value::none},
-         {"--json", Value::none},
-         {"--script"},
-         {"--folder"}});
+    const Result<Arguments> arguments = Arguments::parse(words,
+                                                         {{"--help", Value::none},
+                                                          {"-h", Value::none},
+                                                          {"--json", Value::none},
+                                                          {"--script"},
+                                                          {"--folder"}});
     if (!arguments)
         return failUsage("list", arguments.error().detail);
     if (arguments->has("--help") || arguments->has("-h")) {

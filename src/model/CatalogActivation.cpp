@@ -7,9 +7,17 @@
 
 namespace lorva {
 
+bool CatalogActivation::isWatched(const FilePath &file) const
+{
+    if (m_watched)
+        return m_watched->contains(file);
+    return std::ranges::any_of(m_watchedFolders,
+                               [&](const FilePath &folder) { return file.isInside(folder); });
+}
+
 bool CatalogActivation::isActive(const FilePath &file) const
 {
-    if (!m_watched.contains(file))
+    if (!isWatched(file))
         return true;
     const auto holds = [&](const FilePath &folder) { return file.isInside(folder); };
     return holds(m_folders.userFonts) || holds(m_folders.allUsersFonts)

@@ -23,6 +23,8 @@ public:
     /// Nothing for a family that the user cannot switch: one without any file.
     virtual std::optional<FontFamilyActivation> activation(
         const FontFamilyRecord &family) const = 0;
+    /// What lies in these counts as watched until a scan has said what does.
+    virtual void setWatchedFolders(std::vector<FilePath> folders) = 0;
     /// The font files that came from watched folders; replaced whole after each scan.
     virtual void setWatchedFontURLs(QSet<FilePath> urls) = 0;
 };
@@ -39,13 +41,20 @@ public:
     }
 
     std::optional<FontFamilyActivation> activation(const FontFamilyRecord &family) const override;
+    void setWatchedFolders(std::vector<FilePath> folders) override
+    {
+        m_watchedFolders = std::move(folders);
+    }
     void setWatchedFontURLs(QSet<FilePath> urls) override { m_watched = std::move(urls); }
 
 private:
+    bool isWatched(const FilePath &file) const;
     bool isActive(const FilePath &file) const;
 
     PlatformFolders m_folders;
-    QSet<FilePath> m_watched;
+    std::vector<FilePath> m_watchedFolders;
+    /// Empty until the first scan.
+    std::optional<QSet<FilePath>> m_watched;
 };
 
 } // namespace lorva

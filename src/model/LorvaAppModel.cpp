@@ -7,6 +7,7 @@
 #include "base/NotificationCentre.h"
 #include "base/RunThen.h"
 #include "base/Trace.h"
+#include "platform/FreeMemory.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,24 +31,6 @@ FontFamilyList sortedByName(std::vector<FontFamilyRecord> families)
     for (const auto &[key, index] : keys)
         sorted.push_back(std::move(families[index]));
     return makeFamilyList(std::move(sorted));
-}
-
-/// The files of a snapshot that lie in the watched folders: what a scan would say of them, so that
-/// their cards do not change when it has ended. Thread: worker.
-QSet<FilePath> filesInFolders(const std::vector<FontFamilyRecord> &families,
-                              const std::vector<FilePath> &folders)
-{
-    QSet<FilePath> files;
-    for (const FontFamilyRecord &family : families) {
-        for (const FontStyleRecord &style : family.styles) {
-            const auto holds = [&](const FilePath &folder) {
-                return style.fileURL->isInside(folder);
-            };
-            if (style.fileURL && std::ranges::any_of(folders, holds))
-                files.insert(*style.fileURL);
-        }
-    }
-    return files;
 }
 
 } // namespace
@@ -87,14 +70,14 @@ void LorvaAppModel::loadCatalog()
 /// The scan waits for that: on two cores it would only delay the first picture.
 void LorvaAppModel::showSnapshot(qint64 generation)
 {
-    const auto read = [cache = m_catalogCache.get(), service = m_fontLibraryService.get(),
-                       folders = m_watchedFolders](const std::stop_token &) {
+    m_activation->setWatchedFolders(m_watchedFolders);
+    const auto read = [cache = m_catalogCache.get(),
+                       service = m_fontLibraryService.get()](const std::stop_token &) {
         std::optional<CatalogSnapshot> snapshot = cache->load();
         if (!snapshot)
             return Catalog();
         ReadyCatalog ready;
         ready.snapshot = *std::move(snapshot);
-        ready.watchedFontURLs = filesInFolders(*ready.snapshot.families, folders);
         ready.prepared = service->prepareFamilies(ready.snapshot.families);
         return Catalog(std::make_shared<ReadyCatalog>(std::move(ready)));
     };
@@ -151,6 +134,7 @@ void LorvaAppModel::applyCatalog(FontCatalogResult result)
 void LorvaAppModel::finishLoad(Catalog catalog)
 {
     const bool isSaved = m_snapshotIsCurrent && catalog->isAsBefore;
+    m_activation->setWatchedFontURLs(catalog->watchedFontURLs);
     // Even an equal one: faces that could not be found are then looked for again.
     installCatalog(std::move(catalog));
     m_snapshotIsCurrent = isSaved;
@@ -164,7 +148,6 @@ void LorvaAppModel::finishLoad(Catalog catalog)
 void LorvaAppModel::installCatalog(Catalog catalog)
 {
     const TraceStage stage("catalog: install");
-    m_activation->setWatchedFontURLs(catalog->watchedFontURLs);
     m_fontLibraryService->setFamilies(catalog->prepared);
     m_catalog.swap(catalog);
     ++m_catalogGeneration;
@@ -172,7 +155,9 @@ void LorvaAppModel::installCatalog(Catalog catalog)
     validateSelection();
     // Letting go of a large catalog takes longer than a frame.
     auto letGo = [old = std::move(catalog)](const std::stop_token &) mutable {
+        const TraceStage freeing("catalog: let the old one go");
         old.reset();
+        returnFreeMemory();
         return true;
     };
     runThen(m_pool, this, std::move(letGo), [](bool) {});

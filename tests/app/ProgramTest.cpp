@@ -115,8 +115,8 @@ TEST(Program, ShowsAtTheSecondStartWhatTheFirstFoundEvenIfThatWasKilled)
 {
     test::writeFile(test::TestHome::instance().systemFonts(), "one.ttf",
                     test::FontBuilder("One").build());
-    const QByteArray first = traceUntil(
-        {{"first screen painted", 1}, {"snapshot: save", 2}, {"parse cache: save", 2}});
+    const QByteArray first =
+        traceUntil({{"first screen painted", 1}, {"snapshot: save", 2}, {"parse cache: save", 2}});
     EXPECT_FALSE(first.contains("snapshot shown"));
     const QByteArray second = traceUntil({{"first screen painted", 1}, {"catalog applied", 1}});
     EXPECT_GE(second.indexOf("snapshot shown"), 0);

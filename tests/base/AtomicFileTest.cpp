@@ -2,51 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "base/AtomicFile.h"
 
-#include "support/TestHome.h"
-
-#include <gtest/gtest.h>
+#include "support/AdverseSystem.h"
 
 #include <csignal>
 #include <filesystem>
 
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <fcntl.h>
+#include <sys/wait.h>
 
 namespace lorva {
 
 namespace {
 
+using test::makeCaseFolder;
 using test::readFile;
 using test::TestHome;
 using test::writeFile;
-
-/// Permissions do not bind root, so the case acts as nobody meanwhile.
-class AsOrdinaryUser
-{
-public:
-    AsOrdinaryUser()
-        : m_isRoot(::geteuid() == 0)
-    {
-        if (m_isRoot && ::seteuid(65534) != 0)
-            ADD_FAILURE() << "cannot act as nobody";
-    }
-    ~AsOrdinaryUser()
-    {
-        if (m_isRoot && ::seteuid(0) != 0)
-            ADD_FAILURE() << "cannot act as root again";
-    }
-
-private:
-    const bool m_isRoot;
-};
-
-/// An empty folder of the running case's own.
-FilePath makeCaseFolder()
-{
-    const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
-    return TestHome::instance().makeFolder(info->name());
-}
 
 /// By the system's own listing: Qt's leaves out names that are no UTF-8.
 std::vector<std::string> namesIn(const FilePath &folder)
@@ -129,11 +100,10 @@ TEST(AtomicFile, FailsInAReadOnlyFolderAndKeepsTheOldFile)
 {
     const FilePath folder = makeCaseFolder();
     const FilePath path = writeFile(folder, "file", "old");
-    ::chmod(TestHome::instance().root().c_str(), 0755);
     ::chmod(path.c_str(), 0666);
     ::chmod(folder.c_str(), 0555);
     {
-        const AsOrdinaryUser user;
+        const test::AsOrdinaryUser user;
         const Result<void> result = writeFileAtomically(path, "new");
         ASSERT_FALSE(result);
         EXPECT_EQ(result.error().kind, ErrorKind::permissionDenied);
@@ -147,17 +117,36 @@ TEST(AtomicFile, FailsOnAFullDiskAndKeepsTheOldFile)
 {
     const FilePath folder = makeCaseFolder();
     const FilePath path = writeFile(folder, "file", "old");
-    // A limit on the size of files stands for the full disk: the write ends in the middle.
-    ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{4096, RLIM_INFINITY};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const Result<void> result = writeFileAtomically(path, QByteArray(10000, 'x'));
-    const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
+    const auto result = [&] {
+        const test::FullDisk disk(4096);
+        return writeFileAtomically(path, QByteArray(10000, 'x'));
+    }();
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, ErrorKind::tooLarge);
     EXPECT_EQ(readFile(path), "old");
     EXPECT_EQ(namesIn(folder).size(), 1U);
+}
+
+TEST(AtomicFile, LeavesNothingBehindWhenKilledInTheMiddle)
+{
+    const FilePath folder = makeCaseFolder();
+    const FilePath path = writeFile(folder, "file", "old");
+    const int unnamed = ::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    if (unnamed < 0)
+        GTEST_SKIP() << "this file system knows no files without a name";
+    ::close(unnamed);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const test::FullDisk disk(4096);
+        ::signal(SIGXFSZ, SIG_DFL);
+        writeFileAtomically(path, QByteArray(10000, 'x'));
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status)) << "it died while it wrote";
+    EXPECT_EQ(namesIn(folder), std::vector<std::string>{"file"});
+    EXPECT_EQ(readFile(path), "old");
 }
 
 } // namespace

@@ -5,15 +5,13 @@
 #include "CacheSupport.h"
 #include "catalog/FontCatalogLoader.h"
 #include "CatalogSupport.h"
-#include "support/AdverseSystem.h"
 
-#include <thread>
+#include <gtest/gtest.h>
 
 namespace lorva {
 
 namespace {
 
-using test::makeCaseFolder;
 using test::sampleSnapshot;
 
 const QByteArray kStyle = R"({"id":"A-R","label":"Regular","postScriptName":"A-R","weight":400,)"
@@ -34,14 +32,8 @@ QByteArray changed(const QByteArray &from, const QByteArray &to)
 {
     QByteArray json = kDocument;
     const qsizetype at = json.indexOf(from);
-    EXPECT_GE(at, 0) << from;
+    EXPECT_GE(at, 0) << from.constData();
     return json.replace(at, from.size(), to);
-}
-
-/// Saves, and waits until it is done.
-void saveNow(const FilePath &file, const CatalogSnapshot &snapshot)
-{
-    CatalogCache(file).save(snapshot);
 }
 
 TEST(CatalogCache, HasTheAgreedForm)
@@ -52,16 +44,15 @@ TEST(CatalogCache, HasTheAgreedForm)
 
 TEST(CatalogCache, ComesBackUnchanged)
 {
-    const FilePath file = makeCaseFolder().child("a").child("catalog.json");
-    EXPECT_FALSE(CatalogCache(file).load()) << "nothing was saved";
+    // Large lists are freed elsewhere.
     for (const int count : {0, 1, 700}) {
         const CatalogSnapshot snapshot = sampleSnapshot(1, count);
-        saveNow(file, snapshot);
-        const std::optional<CatalogSnapshot> loaded = CatalogCache(file).load();
-        ASSERT_TRUE(loaded);
-        EXPECT_EQ(*loaded->families, *snapshot.families);
-        EXPECT_EQ(loaded->manufacturers, snapshot.manufacturers);
-        EXPECT_EQ(encodeSnapshot(*loaded), encodeSnapshot(snapshot));
+        const QByteArray json = encodeSnapshot(snapshot);
+        const Result<CatalogSnapshot> decoded = decodeSnapshot(json);
+        ASSERT_TRUE(decoded);
+        EXPECT_EQ(*decoded->families, *snapshot.families);
+        EXPECT_EQ(decoded->manufacturers, snapshot.manufacturers);
+        EXPECT_EQ(encodeSnapshot(*decoded), json);
     }
 }
 
@@ -115,70 +106,6 @@ TEST(CatalogCache, RefusesDamageAsAWhole)
     const QByteArray json = encodeSnapshot(sampleSnapshot(1, 10));
     for (qsizetype size = 0; size < json.size(); size += size < 200 ? 1 : 7)
         EXPECT_FALSE(decodeSnapshot(json.first(size))) << size;
-}
-
-TEST(CatalogCache, LeavesTheLastOfManySaves)
-{
-    const FilePath file = makeCaseFolder().child("catalog.json");
-    for (int round = 0; round < 10; ++round) {
-        {
-            CatalogCache cache(file);
-            for (int seed = 0; seed < 5; ++seed)
-                cache.save(sampleSnapshot(seed + round, 20));
-        }
-        EXPECT_TRUE(CatalogCache(file).load() == sampleSnapshot(4 + round, 20));
-    }
-}
-
-TEST(CatalogCache, ReadsOneWholeSnapshotWhileItIsReplaced)
-{
-    const FilePath file = makeCaseFolder().child("catalog.json");
-    const CatalogSnapshot snapshots[]{sampleSnapshot(1, 30), sampleSnapshot(2, 50)};
-    saveNow(file, snapshots[0]);
-    CatalogCache cache(file);
-    std::jthread reader([&](const std::stop_token &stop) {
-        while (!stop.stop_requested()) {
-            const std::optional<CatalogSnapshot> loaded = cache.load();
-            ASSERT_TRUE(loaded);
-            EXPECT_TRUE(*loaded == snapshots[0] || *loaded == snapshots[1]);
-        }
-    });
-    for (int i = 1; i < 60; ++i)
-        saveNow(file, snapshots[i % 2]);
-}
-
-TEST(CatalogCache, GivesNothingForWhatItCannotRead)
-{
-    const FilePath folder = makeCaseFolder();
-    ::chmod(folder.c_str(), 0755);
-    ::chmod(test::writeFile(folder, "secret", kDocument).c_str(), 0);
-    test::writeFile(folder, "damaged", kDocument.chopped(1));
-    ASSERT_EQ(::mkdir(folder.child("folder").c_str(), 0755), 0);
-    ASSERT_EQ(::mkfifo(folder.child("fifo").c_str(), 0666), 0);
-    const test::AsOrdinaryUser user;
-    for (const char *name : {"secret", "damaged", "folder", "fifo", "missing", "damaged/below"})
-        EXPECT_FALSE(CatalogCache(folder.child(name)).load()) << name;
-}
-
-TEST(CatalogCache, KeepsTheOldFileWhereItCannotWrite)
-{
-    const FilePath folder = makeCaseFolder();
-    const FilePath file = folder.child("catalog.json");
-    saveNow(file, sampleSnapshot(1, 2));
-    {
-        const test::FullDisk disk(4096);
-        saveNow(file, sampleSnapshot(2, 100));
-    }
-    EXPECT_TRUE(CatalogCache(file).load() == sampleSnapshot(1, 2));
-    ::chmod(folder.c_str(), 0555);
-    {
-        const test::AsOrdinaryUser user;
-        saveNow(file, sampleSnapshot(3, 2));
-    }
-    ::chmod(folder.c_str(), 0755);
-    EXPECT_TRUE(CatalogCache(file).load() == sampleSnapshot(1, 2));
-    saveNow(file, sampleSnapshot(4, 2));
-    EXPECT_TRUE(CatalogCache(file).load() == sampleSnapshot(4, 2));
 }
 
 } // namespace

@@ -362,8 +362,9 @@ TEST(CatalogScan, OpensEachFileOnce)
             ++openings[event->name];
         at += ssize_t(sizeof(inotify_event) + event->len);
     }
-    EXPECT_THAT(openings, ElementsAre(testing::Pair("1.ttf", 1), testing::Pair("2.ttc", 1),
-                                      testing::Pair("3.ttf", 1)));
+    EXPECT_THAT(openings,
+                ElementsAre(testing::Pair("1.ttf", 1), testing::Pair("2.ttc", 1),
+                            testing::Pair("3.ttf", 1)));
 }
 
 TEST(CatalogScan, GoesOnWhenAFolderVanishesMeanwhile)

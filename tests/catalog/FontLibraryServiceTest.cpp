@@ -262,13 +262,10 @@ TEST_F(ServiceTest, TakesACatalogFromElsewhere)
     FontFamilyRecord family;
     family.familyName = "Foo";
     family.styles.push_back({"Foo-Bold", "Bold", "Foo-Bold", 700, false, file});
-    EXPECT_FALSE(service->hasUnresolvedFaces());
     EXPECT_TRUE(service->resolve("Foo", std::nullopt, 12).isStandIn());
-    EXPECT_TRUE(service->hasUnresolvedFaces());
     service->setFamilies(makeFamilyList({family}));
     EXPECT_FALSE(service->resolve("Foo", std::nullopt, 12).isStandIn())
         << "a new catalog is searched at once, rest or not";
-    EXPECT_FALSE(service->hasUnresolvedFaces());
 }
 
 TEST_F(ServiceTest, PrewarmsEachFamilyOnceWithoutTheMainThread)
@@ -315,7 +312,6 @@ TEST_F(ServiceTest, AnotherPrewarmOrCatalogEndsTheRunningOne)
     family.familyName = "A";
     service->setFamilies(makeFamilyList({family}));
     gate.open.release();
-    service->prewarm({{"B", std::nullopt, {}}}, 20);
     EXPECT_FALSE(isCached("A", 20)) << "the new catalog's caches are its own";
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "CatalogSupport.h"
 #include "catalog/FontCatalogLoader.h"
+#include "CatalogSupport.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,8 @@ protected:
     LoaderCache()
     {
         static int cases = 0;
-        m_folder = test::TestHome::instance().makeFolder("remembered" + QByteArray::number(++cases));
+        m_folder =
+            test::TestHome::instance().makeFolder("remembered" + QByteArray::number(++cases));
         cacheFile = m_folder.child("new/home").child("parse-cache.json");
     }
 

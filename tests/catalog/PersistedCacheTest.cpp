@@ -38,7 +38,7 @@ QByteArray changed(const QByteArray &from, const QByteArray &to)
 {
     QByteArray json = kDocument;
     const qsizetype at = json.indexOf(from);
-    EXPECT_GE(at, 0) << from;
+    EXPECT_GE(at, 0) << from.constData();
     return json.replace(at, from.size(), to);
 }
 
@@ -133,10 +133,11 @@ TEST(PersistedCache, RefusesEachKeyThatIsMissingOrOfAnotherType)
         const QByteArray key = '"' + QByteArray(row.key) + "\":";
         const QByteArray other = qstrcmp(row.key, "i") == 0 ? "7" : "true";
         expectFailure(changed(key + row.value, key + other), ErrorKind::typeMismatch, row.place);
-        if (row.isRequired)
+        if (row.isRequired) {
             expectFailure(changed(key, "\"?\":"), ErrorKind::missingKey, row.place);
-        else if (qstrcmp(row.key, "Fam") != 0)
+        } else if (qstrcmp(row.key, "Fam") != 0) {
             EXPECT_TRUE(decodePersistedCache(changed(key, "\"?\":"))) << row.key;
+        }
     }
 }
 

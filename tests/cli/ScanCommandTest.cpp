@@ -30,8 +30,7 @@ protected:
         folder = TestHome::instance().makeFolder("scanned");
         add("1.ttf", FontBuilder("Foo", "Regular").postScriptName("Foo-R").codePoints(U"Aaz"));
         add("2.ttf", FontBuilder("Foo", "Bold").postScriptName("Foo-B").codePoints(U"Aaz"));
-        add("3.ttf",
-            FontBuilder("Bar", "Regular").codePoints(U"Aazあのア").name(1, "バー", 0x411));
+        add("3.ttf", FontBuilder("Bar", "Regular").codePoints(U"Aazあのア").name(1, "バー", 0x411));
         ::unlink(cacheFile().c_str());
     }
 
@@ -107,8 +106,8 @@ TEST_F(ScanCommand, ShowsItsPhasesOnATerminal)
     ASSERT_GT(length, 0);
     const QString text = QString::fromUtf8(shown, length);
     qsizetype from = 0;
-    for (const char16_t *phase : {u"Finding fonts…", u"Scanning ", u"Identifying fonts… ",
-                                  u"Preparing…"}) {
+    for (const char16_t *phase :
+         {u"Finding fonts…", u"Scanning ", u"Identifying fonts… ", u"Preparing…"}) {
         from = text.indexOf(QStringView(phase), from);
         EXPECT_GE(from, 0) << QString::fromUtf16(phase).toStdString();
     }
@@ -145,8 +144,9 @@ TEST_F(ScanCommand, InfoTellsWhatAFamilyServes)
 {
     const QString file = path(folder.child("3.ttf"));
     const std::string text = lorvactl({"info", file}).out.toStdString();
-    EXPECT_THAT(text, ContainsRegex("\nFamily Bar\n +Scripts: +latin, japanese\n"
-                                    " +Primary script: +japanese\n +Other name: +バー\n"));
+    EXPECT_THAT(text,
+                ContainsRegex("\nFamily Bar\n +Scripts: +latin, japanese\n"
+                              " +Primary script: +japanese\n +Other name: +バー\n"));
     const QJsonObject family = QJsonDocument::fromJson(lorvactl({"info", "--json", file}).out)
                                    .object()["families"]
                                    .toArray()[0]

@@ -63,7 +63,8 @@ private:
 inline FilePath makeCaseFolder()
 {
     const auto *info = ::testing::UnitTest::GetInstance()->current_test_info();
-    return TestHome::instance().makeFolder(QByteArray(info->test_suite_name()) + info->name());
+    QByteArray name = QByteArray(info->test_suite_name()) + info->name();
+    return TestHome::instance().makeFolder(name.replace('/', '-'));
 }
 
 } // namespace lorva::test

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "model/records/FontFamilyList.h"
 
+#include "base/RunThen.h"
+#include "platform/FreeMemory.h"
+
 #include <QCoreApplication>
 #include <QThreadPool>
 
@@ -18,10 +21,16 @@ FontFamilyList makeFamilyList(std::vector<FontFamilyRecord> families)
 {
     using Families = const std::vector<FontFamilyRecord>;
     return {new Families(std::move(families)), [](Families *list) {
-                if (list->size() > kSmallLibrary && QCoreApplication::instance())
-                    QThreadPool::globalInstance()->start([list] { delete list; });
-                else
+                if (list->size() <= kSmallLibrary || !QCoreApplication::instance()) {
                     delete list;
+                    return;
+                }
+                detail::passOrder();
+                QThreadPool::globalInstance()->start([list] {
+                    detail::passOrder();
+                    delete list;
+                    returnFreeMemory();
+                });
             }};
 }
 

@@ -82,9 +82,21 @@ void BrowserCollectionView::setContent(const Content &content)
     m_selectedID = content.selectedID;
     if (itemsChanged)
         replaceItems(content.ids);
+    else if (!content.ids.isSharedWith(m_ids))
+        // Equal names, but the old ones would hold on to the memory of a library that is gone.
+        setIds(content.ids);
     if (itemsChanged || isRearranged)
         relayout(anchor);
     reconfigureVisibleItems();
+}
+
+void BrowserCollectionView::setIds(const QStringList &ids)
+{
+    m_ids = ids;
+    m_indexByID.clear();
+    m_indexByID.reserve(ids.size());
+    for (int index = 0; index < ids.size(); ++index)
+        m_indexByID.insert(ids.at(index), index);
 }
 
 /// Cards are handed over by family, so that what stays on screen is not set anew.
@@ -94,13 +106,7 @@ void BrowserCollectionView::replaceItems(const QStringList &ids)
     for (const auto &[index, item] : m_visible)
         byID.insert(m_ids.at(index), item);
     m_visible.clear();
-
-    m_ids = ids;
-    m_indexByID.clear();
-    m_indexByID.reserve(ids.size());
-    for (int index = 0; index < ids.size(); ++index)
-        m_indexByID.insert(ids.at(index), index);
-
+    setIds(ids);
     for (auto it = byID.cbegin(); it != byID.cend(); ++it) {
         if (const auto found = m_indexByID.constFind(it.key()); found != m_indexByID.cend()) {
             m_visible.emplace(*found, it.value());

@@ -90,6 +90,7 @@ private:
         double offset = 0;
     };
     Anchor currentAnchor() const;
+    void setIds(const QStringList &ids);
     void replaceItems(const QStringList &ids);
     void relayout(const Anchor &anchor);
     void placeVisibleItems();

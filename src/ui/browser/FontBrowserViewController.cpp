@@ -210,7 +210,16 @@ PrewarmFace FontBrowserViewController::prewarmFace(int index) const
 
 bool FontBrowserViewController::isSettled() const
 {
-    return !(m_state.isLoading && m_state.families->empty()) && showsItsSpecimens();
+    return isDrawn() && showsItsSpecimens();
+}
+
+bool FontBrowserViewController::isDrawn() const
+{
+    const auto &items = m_collection->visibleItems();
+    return !(m_state.isLoading && m_state.families->empty())
+        && std::none_of(items.begin(), items.end(), [](const auto &entry) {
+               return entry.second->contentView().previewView().isWaiting();
+           });
 }
 
 bool FontBrowserViewController::showsItsSpecimens() const

@@ -42,6 +42,8 @@ public:
     BrowserCollectionView &collectionView() { return *m_collection; }
     /// True once every card on screen shows its specimen (or there are none to show).
     bool isSettled() const;
+    /// The same, but specimens may still fade in.
+    bool isDrawn() const;
     /// How long nothing must move before the faces around the screen are made ready.
     static constexpr int kPrewarmDelayMilliseconds = 100;
 
