@@ -88,49 +88,39 @@ std::optional<FontCatalogResult> FontCatalogLoader::scan(
 {
     const std::lock_guard lock(m_scanning);
     Scan scan{watchedFontURLs, progress, std::move(stop)};
-    {
-        const PhaseClock clock("scan: caches", scan.done.readingCache);
-        loadPersistedCache();
-    }
-    std::vector<FilePath> files;
-    std::vector<StaleFile> stale;
-    {
-        const PhaseClock clock("scan: enumerating", scan.done.enumerating);
-        files = enumerateFiles(scan);
-        if (!scan.stop.stop_requested())
-            stale = staleFiles(files);
-    }
-    Identifications identifications;
-    {
-        const PhaseClock clock("scan: scanning", scan.done.scanning);
-        identifications = readFiles(stale, scan);
-    }
-    if (!scan.stop.stop_requested()) {
-        const PhaseClock clock("scan: identifying", scan.done.identifying);
-        identifyFamilies(files, std::move(identifications), scan);
-    }
+    loadPersistedCache(scan);
+    const std::vector<FilePath> files = enumerateFiles(scan);
+    const std::vector<StaleFile> stale = staleFiles(files, scan);
+    Identifications identifications = readFiles(stale, scan);
+    // They point into the file cache, which nothing but pruning changes from here on.
+    const std::vector<ParsedFile> parsed = parsedFiles(files);
+    identifyFamilies(parsed, std::move(identifications), scan);
     if (scan.stop.stop_requested()) {
         // What was read so far need not be read again, not even by the next process.
         scheduleSave();
         return std::nullopt;
     }
-
-    FontCatalogResult result;
-    {
-        const PhaseClock clock("scan: preparing", scan.done.preparing);
-        pruneCaches(files);
-        scheduleSave();
-        scan.report(FontScanPhase::preparing());
-        result.families = groupFamilies(files);
-        result.manufacturers = m_manufacturerCache;
-        result.watchedFontURLs = QSet<FilePath>(watchedFontURLs.begin(), watchedFontURLs.end());
-    }
+    FontCatalogResult result = makeResult(parsed, scan);
     scan.done.filesFound = int(files.size());
     scan.done.filesRead = int(stale.size());
     scan.done.filesReused = int(files.size() - stale.size());
     m_report = scan.done;
     qCInfo(logScan) << files.size() << "files," << stale.size() << "read," << result.families.size()
                     << "families";
+    return result;
+}
+
+FontCatalogResult FontCatalogLoader::makeResult(std::span<const ParsedFile> parsed, Scan &scan)
+{
+    const PhaseClock clock("scan: preparing", scan.done.preparing);
+    scan.report(FontScanPhase::preparing());
+    FontCatalogResult result;
+    result.families = groupFamilies(parsed);
+    pruneCaches(parsed, result.families);
+    scheduleSave();
+    result.manufacturers = m_manufacturerCache;
+    result.watchedFontURLs =
+        QSet<FilePath>(scan.watchedFontURLs.begin(), scan.watchedFontURLs.end());
     return result;
 }
 
@@ -145,8 +135,9 @@ Result<void> FontCatalogLoader::finishSaving()
     return m_saver ? m_saver->finish() : Result<void>();
 }
 
-void FontCatalogLoader::loadPersistedCache()
+void FontCatalogLoader::loadPersistedCache(Scan &scan)
 {
+    const PhaseClock clock("scan: caches", scan.done.readingCache);
     if (std::exchange(m_persistedCacheLoaded, true) || m_dependencies.cacheFileURL.isEmpty())
         return;
     auto cache = readPersistedCache(m_dependencies.cacheFileURL);
@@ -159,8 +150,9 @@ void FontCatalogLoader::loadPersistedCache()
     m_identityCache = std::move(cache->identities);
 }
 
-std::vector<FilePath> FontCatalogLoader::enumerateFiles(const Scan &scan) const
+std::vector<FilePath> FontCatalogLoader::enumerateFiles(Scan &scan) const
 {
+    const PhaseClock clock("scan: finding files", scan.done.enumerating);
     scan.report(FontScanPhase::enumerating(0));
     const auto found = [&](int count) { scan.report(FontScanPhase::enumerating(count)); };
     std::vector<FilePath> files = m_dependencies.availableFonts->fontFiles(found, scan.stop);
@@ -175,10 +167,11 @@ std::vector<FilePath> FontCatalogLoader::enumerateFiles(const Scan &scan) const
 }
 
 std::vector<FontCatalogLoader::StaleFile> FontCatalogLoader::staleFiles(
-    std::span<const FilePath> files) const
+    std::span<const FilePath> files, Scan &scan) const
 {
+    const PhaseClock clock("scan: looking for changes", scan.done.enumerating);
     std::vector<StaleFile> stale;
-    for (size_t place = 0; place < files.size(); ++place) {
+    for (size_t place = 0; place < files.size() && !scan.stop.stop_requested(); ++place) {
         const FilePath &file = files[place];
         // Taken before the file is read: when it changes in between, the next scan reads it again.
         const std::optional<FileFingerprint> current = lorva::fingerprintOf(file);
@@ -190,8 +183,9 @@ std::vector<FontCatalogLoader::StaleFile> FontCatalogLoader::staleFiles(
 }
 
 FontCatalogLoader::Identifications FontCatalogLoader::readFiles(std::span<const StaleFile> stale,
-                                                                const Scan &scan)
+                                                                Scan &scan)
 {
+    const PhaseClock clock("scan: scanning", scan.done.scanning);
     using Batch = std::vector<FaceReading>;
     const size_t batches = (stale.size() + kBatchSize - 1) / kBatchSize;
     const auto filesOf = [&](size_t batch) {
@@ -256,32 +250,51 @@ void FontCatalogLoader::keepManufacturers(std::span<const FaceReading> readings)
     }
 }
 
-std::vector<FontCatalogLoader::UnidentifiedFile> FontCatalogLoader::unidentifiedFiles(
+/// In the order of the files; those that a cancelled scan has not come to are left out.
+std::vector<FontCatalogLoader::ParsedFile> FontCatalogLoader::parsedFiles(
     std::span<const FilePath> files) const
+{
+    std::vector<ParsedFile> parsed;
+    parsed.reserve(files.size());
+    for (const FilePath &file : files) {
+        const auto cached = m_fileCache.constFind(file);
+        if (cached != m_fileCache.cend())
+            parsed.emplace_back(&file, &*cached);
+    }
+    return parsed;
+}
+
+std::vector<FontCatalogLoader::UnidentifiedFile> FontCatalogLoader::unidentifiedFiles(
+    std::span<const ParsedFile> files) const
 {
     std::vector<UnidentifiedFile> unidentified;
     QSet<QString> met;
-    for (const FilePath &file : files) {
+    const QString *last = nullptr;
+    for (const auto &[file, parsed] : files) {
         std::vector<QString> families;
-        const auto cached = m_fileCache.constFind(file);
-        if (cached == m_fileCache.cend())
-            continue;
-        for (const ParsedEntry &entry : cached->entries) {
+        for (const ParsedEntry &entry : parsed->entries) {
+            // Most faces come right after one of their family.
+            if (last && *last == entry.familyName)
+                continue;
+            last = &entry.familyName;
             if (m_identityCache.contains(entry.familyName) || met.contains(entry.familyName))
                 continue;
             met.insert(entry.familyName);
             families.push_back(entry.familyName);
         }
         if (!families.empty())
-            unidentified.push_back({file, std::move(families)});
+            unidentified.push_back({*file, std::move(families)});
     }
     return unidentified;
 }
 
-void FontCatalogLoader::identifyFamilies(std::span<const FilePath> files, Identifications known,
+void FontCatalogLoader::identifyFamilies(std::span<const ParsedFile> files, Identifications known,
                                          Scan &scan)
 {
+    const PhaseClock clock("scan: identifying", scan.done.identifying);
     using Found = std::vector<FamilyIdentification>;
+    if (scan.stop.stop_requested())
+        return;
     std::vector<UnidentifiedFile> unidentified = unidentifiedFiles(files);
     size_t total = 0;
     size_t done = 0;
@@ -327,17 +340,23 @@ int FontCatalogLoader::keepIdentities(std::span<const QString> families,
 }
 
 /// Forgets files that are gone, and families that no file holds any more.
-void FontCatalogLoader::pruneCaches(std::span<const FilePath> files)
+void FontCatalogLoader::pruneCaches(std::span<const ParsedFile> files,
+                                    const std::vector<FontFamilyRecord> &families)
 {
-    const QSet<FilePath> present(files.begin(), files.end());
-    qsizetype removed =
-        m_fileCache.removeIf([&](const auto &entry) { return !present.contains(entry.key()); });
-    QSet<QString> families;
-    for (const ParsedFontFile &file : std::as_const(m_fileCache)) {
-        for (const ParsedEntry &entry : file.entries)
-            families.insert(entry.familyName);
+    qsizetype removed = 0;
+    // The files of a scan differ, so that as many in the cache are the same.
+    if (m_fileCache.size() != qsizetype(files.size())) {
+        QSet<FilePath> present;
+        for (const auto &[file, parsed] : files)
+            present.insert(*file);
+        removed +=
+            m_fileCache.removeIf([&](const auto &entry) { return !present.contains(entry.key()); });
     }
-    const auto isGone = [&](const auto &entry) { return !families.contains(entry.key()); };
+    QSet<QString> names;
+    names.reserve(qsizetype(families.size()));
+    for (const FontFamilyRecord &family : families)
+        names.insert(family.familyName);
+    const auto isGone = [&](const auto &entry) { return !names.contains(entry.key()); };
     removed += m_manufacturerCache.removeIf(isGone);
     removed += m_identityCache.removeIf(isGone);
     if (removed > 0)
@@ -353,14 +372,11 @@ void FontCatalogLoader::scheduleSave()
 }
 
 std::vector<FontFamilyRecord> FontCatalogLoader::groupFamilies(
-    std::span<const FilePath> files) const
+    std::span<const ParsedFile> files) const
 {
     FamilyGrouping grouping;
-    for (const FilePath &file : files) {
-        const auto cached = m_fileCache.constFind(file);
-        if (cached != m_fileCache.cend())
-            grouping.add(cached->entries);
-    }
+    for (const auto &[file, parsed] : files)
+        grouping.add(parsed->entries);
     return grouping.take(m_identityCache);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/FontLibraryService.h"
 
+#include "base/Trace.h"
 #include "catalog/FaceResolver.h"
 #include "catalog/FontCatalogLoader.h"
 #include "catalog/MainThreadQueue.h"
@@ -141,8 +142,11 @@ void FontLibraryService::Private::run(const std::shared_ptr<Load> &load)
     };
     report(FontScanPhase::enumerating(0));
     const std::stop_token stop = load->stop.get_token();
-    auto result = std::make_shared<std::optional<FontCatalogResult>>(
-        loader.scan(watchedRegistrar.fontFiles(load->folders, stop), report, stop));
+    TraceStage walk("scan: folders");
+    const std::vector<FilePath> watched = watchedRegistrar.fontFiles(load->folders, stop);
+    walk.end();
+    auto result =
+        std::make_shared<std::optional<FontCatalogResult>>(loader.scan(watched, report, stop));
     mainThread.post([this, result] { finishLoad(std::move(*result)); });
 }
 
@@ -231,6 +235,7 @@ void FontLibraryService::prewarm(std::vector<PrewarmFace> faces, double pointSiz
 
 PreparedFamilies FontLibraryService::prepareFamilies(FontFamilyList families) const
 {
+    const TraceStage stage("catalog: index");
     std::shared_ptr<const FaceResolver> resolver = d->makeResolver(std::move(families));
     resolver->prepareFamilies();
     return PreparedFamilies(std::move(resolver));

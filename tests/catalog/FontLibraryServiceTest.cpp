@@ -313,6 +313,8 @@ TEST_F(ServiceTest, AnotherPrewarmOrCatalogEndsTheRunningOne)
     service->setFamilies(makeFamilyList({family}));
     gate.open.release();
     EXPECT_FALSE(isCached("A", 20)) << "the new catalog's caches are its own";
+    // Waits for the worker, which still looks at the gate.
+    service.reset();
 }
 
 TEST_F(ServiceTest, MayBeDestroyedWhilePrewarming)
