@@ -67,8 +67,9 @@ public:
     const QString &text(std::string_view utf8)
     {
         QString &recent = m_texts[placeOf(utf8)];
-        // Only ASCII compares without decoding; all else is decoded anew.
-        if (recent != QLatin1String(utf8.data(), qsizetype(utf8.size())) || hasHighBit(utf8))
+        // Only ASCII compares without decoding; all else is decoded anew. An empty text is no null.
+        if (recent.isNull() || recent != QLatin1String(utf8.data(), qsizetype(utf8.size()))
+            || hasHighBit(utf8))
             recent = QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
         return recent;
     }

@@ -115,7 +115,8 @@ int openTrace()
         return kOff;
     const Result<int> opened = openTraceFile(FilePath::absolute(name));
     if (!opened) {
-        std::fprintf(stderr, "lorva: %s\n", qUtf8Printable(opened.error().detail));
+        std::fprintf(stderr, "%s: %s\n", program_invocation_short_name,
+                     qUtf8Printable(opened.error().detail));
         return kOff;
     }
     // With a first event here every later one can bring its comma along.

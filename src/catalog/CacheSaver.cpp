@@ -23,8 +23,9 @@ Result<void> writeCache(const FilePath &file, const PersistedCache &cache)
 {
     const TraceStage stage("parse cache: save");
     const QByteArray json = encodePersistedCache(cache);
-    // The folder may have gone since; if it cannot be made, the write says so.
-    static_cast<void>(makeFolders(file.parent()));
+    // It may have gone since.
+    if (Result<void> made = makeFolders(file.parent()); !made)
+        return made;
     return writeFileAtomically(file, json);
 }
 
@@ -44,7 +45,7 @@ struct CacheSaver::Private
     std::mutex mutex;
     std::condition_variable changed;
     std::optional<PersistedCache> waiting;
-    bool isWriting = false;
+    bool cacheSaveInFlight = false;
     bool isEnding = false;
     Result<void> lastSave;
     std::thread thread;
@@ -64,7 +65,7 @@ void CacheSaver::Private::run()
     lowerThisThreadsPriority();
     std::optional<PersistedCache> next;
     for (std::unique_lock lock(mutex); takeNext(lock, next);) {
-        isWriting = true;
+        cacheSaveInFlight = true;
         lock.unlock();
         Result<void> written = writeCache(file, *next);
         if (!written)
@@ -73,7 +74,7 @@ void CacheSaver::Private::run()
         next.reset();
         lock.lock();
         lastSave = std::move(written);
-        isWriting = false;
+        cacheSaveInFlight = false;
         changed.notify_all();
     }
 }
@@ -114,7 +115,7 @@ void CacheSaver::save(PersistedCache cache)
 Result<void> CacheSaver::finish()
 {
     std::unique_lock lock(d->mutex);
-    d->changed.wait(lock, [this] { return !d->waiting && !d->isWriting; });
+    d->changed.wait(lock, [this] { return !d->waiting && !d->cacheSaveInFlight; });
     return d->lastSave;
 }
 

@@ -80,15 +80,17 @@ void jsonFields(Fields &fields, Record &document)
     fields("manufacturers", document.manufacturers);
 }
 
-void writeSnapshot(const FilePath &file, const CatalogSnapshot &snapshot)
+bool writeSnapshot(const FilePath &file, const CatalogSnapshot &snapshot)
 {
     const TraceStage stage("snapshot: save");
     const QByteArray json = encodeSnapshot(snapshot);
-    // The folder may have gone since; if it cannot be made, the write says so.
-    static_cast<void>(makeFolders(file.parent()));
-    const Result<void> written = writeFileAtomically(file, json);
+    // The folder may have gone since.
+    Result<void> written = makeFolders(file.parent());
+    if (written)
+        written = writeFileAtomically(file, json);
     if (!written)
         qCInfo(snapshotLog).noquote() << written.error().detail;
+    return written.has_value();
 }
 
 Result<CatalogSnapshot> readSnapshot(const FilePath &file)
@@ -151,10 +153,10 @@ CatalogCache::~CatalogCache()
 
 void CatalogCache::save(CatalogSnapshot snapshot)
 {
-    std::function<void()> work = [file = m_fileURL, snapshot = std::move(snapshot)] {
+    std::function<void()> work = [this, snapshot = std::move(snapshot)] {
         detail::passOrder();
         lowerThisThreadsPriority();
-        writeSnapshot(file, snapshot);
+        m_hasFailed = !writeSnapshot(m_fileURL, snapshot);
     };
     detail::passOrder();
     m_ioQueue.start(std::move(work));
@@ -162,7 +164,14 @@ void CatalogCache::save(CatalogSnapshot snapshot)
 
 void CatalogCache::prefetch()
 {
-    m_prefetched = std::async(std::launch::async, loadSnapshot, m_fileURL);
+    using Snapshot = std::optional<CatalogSnapshot>;
+    const auto promise = std::make_shared<std::promise<Snapshot>>();
+    m_prefetched = promise->get_future();
+    detail::passOrder();
+    m_ioQueue.start([file = m_fileURL, promise] {
+        detail::passOrder();
+        promise->set_value(loadSnapshot(file));
+    });
 }
 
 std::optional<CatalogSnapshot> CatalogCache::load()

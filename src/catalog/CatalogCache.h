@@ -10,6 +10,7 @@
 #include <QString>
 #include <QThreadPool>
 
+#include <atomic>
 #include <future>
 #include <optional>
 
@@ -49,8 +50,10 @@ public:
     const FilePath &fileURL() const { return m_fileURL; }
     /// Returns at once. Thread: any.
     void save(CatalogSnapshot snapshot);
-    /// Begins to read the file on a thread of its own, for the next load() to take: at a start
-    /// there is other work to do meanwhile.
+    /// True once the save that ended last did not work. Thread: any.
+    bool hasFailed() const { return m_hasFailed; }
+    /// Begins to read the file on another thread, for the next load() to take: at a start there is
+    /// other work to do meanwhile. To be called before the first save().
     void prefetch();
     /// Nothing when the file is missing, cannot be read or does not decode. Thread: any, one at a
     /// time; it takes its time.
@@ -58,6 +61,7 @@ public:
 
 private:
     const FilePath m_fileURL;
+    std::atomic<bool> m_hasFailed = false;
     QThreadPool m_ioQueue;
     std::future<std::optional<CatalogSnapshot>> m_prefetched;
 };

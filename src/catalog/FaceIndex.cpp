@@ -54,9 +54,10 @@ void FaceIndex::prepareFamilies() const
     std::call_once(m_familiesBuilt, [this] { buildFamilies(); });
 }
 
-void FaceIndex::prepareNames() const
+void FaceIndex::prepareLookUps() const
 {
     std::call_once(m_namesBuilt, [this] { buildNames(); });
+    std::call_once(m_filesBuilt, [this] { buildFiles(); });
 }
 
 void FaceIndex::buildFamilies() const
@@ -116,7 +117,7 @@ const FontFamilyRecord *FaceIndex::family(const QString &familyName) const
 
 std::vector<const FontStyleRecord *> FaceIndex::stylesNamed(const QString &postScriptName) const
 {
-    prepareNames();
+    std::call_once(m_namesBuilt, [this] { buildNames(); });
     std::vector<const FontStyleRecord *> styles;
     const auto [begin, end] = placesOf(m_stylePlaces, postScriptName);
     for (auto place = begin; place != end; ++place) {

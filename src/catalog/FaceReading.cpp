@@ -3,6 +3,7 @@
 #include "catalog/FaceReading.h"
 
 #include "catalog/StyleWeight.h"
+#include "text/OpenedFile.h"
 
 #include <QLoggingCategory>
 
@@ -89,6 +90,7 @@ FaceReading readFaces(const FilePath &file,
         reading.entries.push_back(*std::move(entry));
     }
     reading.identifications = identifyFamilies(*opened->file, *descriptors, isNewFamily);
+    reading.isLasting = !opened->opening->hasFailed();
     return reading;
 }
 

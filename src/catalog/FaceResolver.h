@@ -87,7 +87,8 @@ public:
 
     /// Makes the index now, so that no look-up has to.
     void prepareFamilies() const { m_index.prepareFamilies(); }
-    void prepareNames() const { m_index.prepareNames(); }
+    void prepareLookUps() const { m_index.prepareLookUps(); }
+    bool isEmpty() const { return m_index.isEmpty(); }
     std::optional<Font> cachedFont(const QString &familyName,
                                    const std::optional<FontStyleRecord> &style,
                                    double pointSize) const;

@@ -91,6 +91,7 @@ std::optional<FontCatalogResult> FontCatalogLoader::scan(
     loadPersistedCache(scan);
     const std::vector<FilePath> files = enumerateFiles(scan);
     const std::vector<StaleFile> stale = staleFiles(files, scan);
+    forgetIdentities(stale);
     Identifications identifications = readFiles(stale, scan);
     // They point into the file cache, which nothing but pruning changes from here on.
     const std::vector<ParsedFile> parsed = parsedFiles(files);
@@ -182,6 +183,19 @@ std::vector<FontCatalogLoader::StaleFile> FontCatalogLoader::staleFiles(
     return stale;
 }
 
+/// A file that was read before and has changed since may serve other scripts now: a newer version,
+/// or the rest of a file that was still being copied. Its families are new ones then.
+void FontCatalogLoader::forgetIdentities(std::span<const StaleFile> stale)
+{
+    for (const StaleFile &file : stale) {
+        const auto cached = m_fileCache.constFind(file.path);
+        if (cached == m_fileCache.cend())
+            continue;
+        for (const ParsedEntry &entry : cached->entries)
+            m_cacheDirty = m_identityCache.remove(entry.familyName) > 0 || m_cacheDirty;
+    }
+}
+
 FontCatalogLoader::Identifications FontCatalogLoader::readFiles(std::span<const StaleFile> stale,
                                                                 Scan &scan)
 {
@@ -205,8 +219,10 @@ FontCatalogLoader::Identifications FontCatalogLoader::readFiles(std::span<const 
     };
     Identifications identifications;
     std::vector<FaceReading> readings(stale.size());
+    std::vector<bool> isRead(batches);
     int done = 0;
     const auto merge = [&](size_t batch, Batch output) {
+        isRead[batch] = true;
         for (size_t i = 0; i < output.size(); ++i) {
             const size_t file = batch * kBatchSize + i;
             readings[file].manufacturers = std::move(output[i].manufacturers);
@@ -218,7 +234,10 @@ FontCatalogLoader::Identifications FontCatalogLoader::readFiles(std::span<const 
         scan.report(FontScanPhase::scanning(done, int(stale.size())));
     };
     runTaskGroup<Batch>(batches, m_dependencies.workers, scan.stop, readBatch, merge);
-    keepManufacturers(readings);
+    // Of a cancelled scan only what no unread file comes before.
+    const auto unread = std::find(isRead.begin(), isRead.end(), false) - isRead.begin();
+    keepManufacturers(
+        std::span(readings).first(std::min(size_t(unread) * kBatchSize, readings.size())));
     return identifications;
 }
 
@@ -349,8 +368,10 @@ void FontCatalogLoader::pruneCaches(std::span<const ParsedFile> files,
         QSet<FilePath> present;
         for (const auto &[file, parsed] : files)
             present.insert(*file);
-        removed +=
-            m_fileCache.removeIf([&](const auto &entry) { return !present.contains(entry.key()); });
+        // What another process scans, or this one with its next folders, need not be read again.
+        removed += m_fileCache.removeIf([&](const auto &entry) {
+            return !present.contains(entry.key()) && !lorva::fingerprintOf(entry.key());
+        });
     }
     QSet<QString> names;
     names.reserve(qsizetype(families.size()));

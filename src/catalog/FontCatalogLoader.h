@@ -88,6 +88,7 @@ private:
     void loadPersistedCache(Scan &scan);
     std::vector<FilePath> enumerateFiles(Scan &scan) const;
     std::vector<StaleFile> staleFiles(std::span<const FilePath> files, Scan &scan) const;
+    void forgetIdentities(std::span<const StaleFile> stale);
     Identifications readFiles(std::span<const StaleFile> stale, Scan &scan);
     void keepReading(const StaleFile &file, FaceReading reading);
     void keepManufacturers(std::span<const FaceReading> readings);

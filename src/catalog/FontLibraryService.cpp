@@ -8,6 +8,7 @@
 #include "catalog/MainThreadQueue.h"
 #include "catalog/WorkerThreads.h"
 #include "install/WatchedFontRegistrar.h"
+#include "platform/ThreadPriority.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -89,7 +90,7 @@ struct FontLibraryService::Private
         // What it has not come to is of the old catalog.
         cancelPrewarm();
         // Nobody waits for its names: a face is first looked for in its own file.
-        prewarmThread.push([resolver] { resolver->prepareNames(); });
+        prewarmThread.push([resolver] { resolver->prepareLookUps(); });
         {
             const std::lock_guard lock(resolverLock);
             faceResolver.swap(resolver);
@@ -116,9 +117,8 @@ struct FontLibraryService::Private
     /// Stops the running pre-warm. Thread: main.
     std::stop_source prewarmTask{std::nostopstate};
     MainThreadQueue mainThread;
-    // Last, so that all are stopped before anything they use goes. Only the resolve workers are
-    // waited for by somebody: a scan runs while the first screen is painted.
-    WorkerThreads loaderThread{1, "vantrel.lorva.catalog", WorkerThreads::Priority::low};
+    // Last, so that all are stopped before anything they use goes. Nobody waits for a pre-warm.
+    WorkerThreads loaderThread{1, "vantrel.lorva.catalog"};
     WorkerThreads prewarmThread{1, "vantrel.lorva.prewarm", WorkerThreads::Priority::low};
     WorkerThreads resolveQueue{kMaxResolveWorkers, "vantrel.lorva.font-resolve"};
 };
@@ -131,6 +131,9 @@ void FontLibraryService::Private::startLoad()
 /// Thread: the loader's.
 void FontLibraryService::Private::run(const std::shared_ptr<Load> &load)
 {
+    // Before anything is shown, the user waits for the scan; later ones must not slow the window.
+    if (!currentResolver()->isEmpty())
+        lowerThisThreadsPriority();
     ProgressThrottle throttle;
     const auto report = [&](const FontScanPhase &phase) {
         if (!load->progress || !throttle.lets(phase))

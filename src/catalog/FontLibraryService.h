@@ -96,10 +96,9 @@ public:
     using CatalogCallback = std::function<void(FontCatalogResult)>;
 
     /// Walks `watchedFolders`, scans them and the available fonts off the main thread, and hands
-    /// the result over on the main thread. What resolves stays as it is until setFamilies(), so
-    /// that the caches survive a scan that found nothing new. A load asked for while one runs is
-    /// run after it. `progress` is called on the main thread, with at most some thirty reports a
-    /// second.
+    /// the result over on the main thread. What resolves stays as it is until setFamilies(). A
+    /// load asked for while one runs is run after it. `progress` is called on the main thread, with
+    /// at most some thirty reports a second.
     void loadCatalog(std::vector<FilePath> watchedFolders, ProgressCallback progress,
                      CatalogCallback done);
     /// Ends the running scan early; its callback is not called.

@@ -2,25 +2,45 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Library.h"
 
+#include "base/SystemError.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/XdgFolders.h"
 
+#include <cerrno>
+
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace lorva::cli {
+
+namespace {
+
+tl::unexpected<Error> folderFailure(int code, const FilePath &folder)
+{
+    if (code == ENOENT)
+        return failure(ErrorKind::notFound,
+                       QStringLiteral("there is no folder ") + folder.displayText());
+    return systemFailure(code, "read", folder);
+}
+
+} // namespace
 
 Result<std::vector<FilePath>> givenFolders(const Arguments &arguments)
 {
     std::vector<FilePath> folders;
     for (const QByteArray &word : arguments.values("--folder")) {
+        // "$UNSET" would else be the working folder.
+        if (word.isEmpty())
+            return failure(ErrorKind::usage, QStringLiteral("--folder needs the name of a folder"));
         const FilePath folder = FilePath::absolute(word);
         struct stat info;
         if (::stat(folder.c_str(), &info) != 0)
-            return failure(ErrorKind::notFound,
-                           QStringLiteral("there is no folder ") + folder.displayText());
+            return folderFailure(errno, folder);
         if (!S_ISDIR(info.st_mode))
             return failure(ErrorKind::invalidValue,
                            folder.displayText() + QStringLiteral(" is no folder"));
+        if (::access(folder.c_str(), R_OK | X_OK) != 0)
+            return folderFailure(errno, folder);
         folders.push_back(folder);
     }
     return folders;

@@ -10,7 +10,8 @@
 
 namespace lorva::cli {
 
-/// The folders of the `--folder` options. Fails for one that does not exist or is none.
+/// The folders of the `--folder` options. Fails for one that does not exist, is none or cannot be
+/// read, and with usage for an empty name.
 Result<std::vector<FilePath>> givenFolders(const Arguments &arguments);
 
 /// A loader over this machine's fonts and this user's parse cache.

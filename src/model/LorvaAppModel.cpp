@@ -165,7 +165,7 @@ void LorvaAppModel::installCatalog(Catalog catalog)
 
 void LorvaAppModel::saveSnapshot()
 {
-    if (!m_catalogCache || m_snapshotIsCurrent)
+    if (!m_catalogCache || (m_snapshotIsCurrent && !m_catalogCache->hasFailed()))
         return;
     m_catalogCache->save(m_catalog->snapshot);
     m_snapshotIsCurrent = true;

@@ -5,8 +5,8 @@
 namespace lorva {
 
 /// Gives memory that was freed, but kept for later, back to the system: after a large library was
-/// read and sorted, a quarter of the process would else stay idle. Takes some milliseconds.
-/// Thread: a worker.
+/// read and sorted, a quarter of the process would else stay idle. Takes up to a tenth of a second,
+/// in which other threads go on. Thread: a worker.
 void returnFreeMemory();
 
 } // namespace lorva

@@ -211,6 +211,11 @@ const FilePath &FontFace::path() const
     return m_data->file->path;
 }
 
+bool FontFace::isUpToDate() const
+{
+    return currentIdentity(m_data->file->path) == m_data->file->identity;
+}
+
 FaceKey FontFace::key() const
 {
     return m_data->key;

@@ -100,6 +100,9 @@ public:
     ~FontFace();
 
     const FilePath &path() const;
+    /// False once the file was replaced, changed or removed: what was read of it stays usable.
+    /// Looks at the file.
+    bool isUpToDate() const;
     FaceKey key() const;
     const FaceNames &names() const;
     FaceTraits traits() const;

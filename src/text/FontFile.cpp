@@ -21,16 +21,29 @@ tl::unexpected<Error> named(const FilePath &path, const Error &error)
     return failure(error.kind, path.displayText() + u": " + error.detail);
 }
 
-/// Only asked of faces without a name, so the cost of HarfBuzz does not matter.
+/// What seems damaged may only not have been read.
+tl::unexpected<Error> judged(const OpenedFile &opened, const FilePath &path, const Error &error)
+{
+    if (opened.hasFailed())
+        return failure(ErrorKind::ioFailure, path.displayText() + u": cannot be read");
+    return named(path, error);
+}
+
+/// The largest maps of real fonts take half a megabyte. Reading much larger ones for each of 256
+/// faces of a collection would take seconds.
+constexpr quint32 kMaxCharacterMapBytes = 4 << 20;
+
+const TableEntry *characterMap(const SfntDirectory &directory)
+{
+    const TableEntry *map = directory.find(fontTag('c', 'm', 'a', 'p'));
+    return map && map->length <= kMaxCharacterMapBytes ? map : nullptr;
+}
+
 bool hasCharacterMap(const std::shared_ptr<const FontFile::Data> &file,
                      const SfntDirectory &directory)
 {
-    return directory.has(fontTag('c', 'm', 'a', 'p')) && mapsAnyCharacter(file, directory);
+    return characterMap(directory) && mapsAnyCharacter(file, directory);
 }
-
-/// A map of every character of Unicode, each in a group of its own, takes 13 MB. Reading a larger
-/// one for each face of a collection would take seconds.
-constexpr quint32 kMaxCharacterMapBytes = 16 << 20;
 
 /// HarfBuzz decides, as it does in drawing: which subtable counts, symbol fonts, damaged tables.
 std::vector<bool> mappedCharacters(const std::shared_ptr<const FontFile::Data> &file,
@@ -38,8 +51,7 @@ std::vector<bool> mappedCharacters(const std::shared_ptr<const FontFile::Data> &
                                    std::span<const char32_t> characters)
 {
     std::vector<bool> isMapped(characters.size());
-    const TableEntry *map = directory.find(fontTag('c', 'm', 'a', 'p'));
-    if (!map || map->length > kMaxCharacterMapBytes)
+    if (!characterMap(directory))
         return isMapped;
     const WarmFace face(file, directory);
     std::transform(characters.begin(), characters.end(), isMapped.begin(), [&](char32_t scalar) {
@@ -96,11 +108,11 @@ Result<FontFile::KeptOpen> FontFile::openForReading(const FilePath &path)
         return tl::unexpected(opened.error());
     auto locations = readFaceLocations(**opened);
     if (!locations)
-        return named(path, locations.error());
+        return judged(**opened, path, locations.error());
     // The one face of a plain font decides about the file; of several, the sound ones count.
     if (locations->size() == 1) {
         if (const auto directory = readDirectory(**opened, locations->front()); !directory)
-            return named(path, directory.error());
+            return judged(**opened, path, directory.error());
     }
     auto data = std::make_shared<Data>();
     data->path = path;
@@ -140,7 +152,7 @@ Result<std::vector<FaceDescriptor>> FontFile::descriptors() const
         all.insert(all.end(), std::move_iterator(faces.begin()), std::move_iterator(faces.end()));
     }
     if (all.empty())
-        return named(m_data->path, lastError);
+        return judged(**opened, m_data->path, lastError);
     return all;
 }
 
@@ -182,8 +194,11 @@ Result<FaceReach> FontFile::reach(FaceKey key, std::span<const char32_t> charact
     const auto directory = directoryOf(**opened, key);
     if (!directory)
         return tl::unexpected(directory.error());
-    return FaceReach{mappedCharacters(m_data, *directory, characters),
-                     familyNames(**opened, *directory)};
+    FaceReach reach{mappedCharacters(m_data, *directory, characters),
+                    familyNames(**opened, *directory)};
+    if ((*opened)->hasFailed())
+        return failure(ErrorKind::ioFailure, m_data->path.displayText() + u": cannot be read");
+    return reach;
 }
 
 } // namespace lorva

@@ -44,6 +44,12 @@ FileIdentity identityOf(const struct stat &info)
 
 } // namespace
 
+std::optional<FileIdentity> currentIdentity(const FilePath &path)
+{
+    struct stat info;
+    return ::stat(path.c_str(), &info) == 0 ? std::optional(identityOf(info)) : std::nullopt;
+}
+
 Result<std::shared_ptr<const OpenedFile>> OpenedFile::open(const FilePath &path)
 {
     // O_NONBLOCK: opening a FIFO that nobody writes to would wait for ever.
@@ -87,6 +93,8 @@ bool OpenedFile::read(quint64 offset, char *out, quint64 length) const
         const ssize_t got = ::pread(m_fd, out, length, off_t(offset));
         if (got < 0 && errno == EINTR)
             continue;
+        if (got < 0)
+            m_hasFailed = true;
         if (got <= 0)
             return false;
         offset += quint64(got);

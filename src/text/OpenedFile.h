@@ -6,7 +6,9 @@
 #include "base/Result.h"
 
 #include <array>
+#include <atomic>
 #include <memory>
+#include <optional>
 
 namespace lorva {
 
@@ -19,6 +21,9 @@ struct FileIdentity
     qint64 modifiedNs = 0;
     bool operator==(const FileIdentity &) const = default;
 };
+
+/// What a path leads to just now; nothing when it cannot be looked at.
+std::optional<FileIdentity> currentIdentity(const FilePath &path);
 
 /// One opening of a font file: a descriptor, closed at the end of its scope, and the file's first
 /// page, which nearly always holds the whole table directory.
@@ -36,6 +41,9 @@ public:
     OpenedFile &operator=(const OpenedFile &) = delete;
 
     const FileIdentity &identity() const { return m_identity; }
+    /// True once the disk failed to give bytes that it has: what was read is then no judgement of
+    /// the file.
+    bool hasFailed() const { return m_hasFailed; }
     quint64 size() const { return quint64(m_identity.size); }
 
     /// Fills `out` with exactly `length` bytes; false if the file does not give them.
@@ -51,6 +59,7 @@ private:
     void readFirstPage();
 
     int m_fd;
+    mutable std::atomic<bool> m_hasFailed = false;
     FileIdentity m_identity;
     quint64 m_firstPageSize = 0;
     std::array<char, 4096> m_firstPage;

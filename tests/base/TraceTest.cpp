@@ -158,7 +158,7 @@ TEST(Trace, SaysInOneLineThatItsFileCannotBeWritten)
         const Outcome outcome = runProbe(QStringLiteral("nest"), unwritable);
         EXPECT_EQ(outcome.output, "off\n") << unwritable.c_str();
         EXPECT_EQ(outcome.errors.count('\n'), 1) << outcome.errors.constData();
-        EXPECT_TRUE(outcome.errors.startsWith("lorva: cannot write the trace ")
+        EXPECT_TRUE(outcome.errors.startsWith("trace_probe: cannot write the trace ")
                     && outcome.errors.contains(unwritable.bytes()))
             << outcome.errors.constData();
     }

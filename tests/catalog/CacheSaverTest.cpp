@@ -46,7 +46,7 @@ TEST(CacheSaver, SaysThatItFailedUntilItWorksAgain)
     saver.save(sampleCache(1, 1));
     const Result<void> saved = saver.finish();
     ASSERT_FALSE(saved);
-    EXPECT_TRUE(saved.error().detail.contains(saver.file().displayText()));
+    EXPECT_TRUE(saved.error().detail.contains(inTheWay.displayText()));
     EXPECT_TRUE(saver.hasFailed());
     EXPECT_EQ(test::readFile(inTheWay), "x");
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/FontCatalogLoader.h"
 #include "CatalogSupport.h"
+#include "support/FailingDisk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -101,6 +102,52 @@ TEST_F(LoaderCache, KeepsTheFileTrueToTheFonts)
     EXPECT_EQ(cache.files.size(), 2);
     EXPECT_EQ(cache.identities.keys(), QStringList{"Newer"});
     EXPECT_TRUE(cache.manufacturers.isEmpty());
+}
+
+TEST_F(LoaderCache, AScanOfLessDoesNotCostTheNextOneItsFiles)
+{
+    addThree();
+    const FontCatalogResult all = scan();
+    const std::vector<FilePath> files = fonts->files;
+    fonts->files = {files[2]};
+    EXPECT_TRUE(scan().families.empty());
+    fonts->files = files;
+    const FontCatalogResult again = scan();
+    EXPECT_EQ(report.filesRead, 0);
+    EXPECT_EQ(report.familiesIdentified, 2) << "identities are those of the last catalog";
+    EXPECT_EQ(again.families, all.families);
+    EXPECT_EQ(again.manufacturers, all.manufacturers);
+}
+
+TEST_F(LoaderCache, AFileThatChangedMakesItsFamiliesNew)
+{
+    addThree();
+    add("4.ttf", test::face("One", "Thin", "One-T").build());
+    scan();
+    add("1.ttf", test::face("One", "Bold", "One-B").codePoints(U"가나").build());
+    const FontCatalogResult result = scan();
+    EXPECT_EQ(report.filesRead, 1);
+    EXPECT_EQ(report.familiesIdentified, 1);
+    EXPECT_EQ(result.families[0].primaryScript, WritingScript::korean);
+    EXPECT_EQ(result.manufacturers.value("One"), "Maker") << "nobody says otherwise";
+}
+
+TEST_F(LoaderCache, DoesNotHoldAFailingDiskAgainstAFont)
+{
+    addThree();
+    // Tables beyond the first page, which is read as a whole.
+    add("5.ttf", test::face("Far", "Bold", "Far-B").table("AAAA", QByteArray(8192, 'x')).build());
+    {
+        const test::FailingDisk disk;
+        scan();
+    }
+    EXPECT_EQ(report.filesRead, 4);
+    const FontCatalogResult healthy = scan();
+    EXPECT_GE(report.filesRead, 1) << "what could not be read is not kept";
+    ASSERT_EQ(healthy.families.size(), 3u);
+    EXPECT_EQ(healthy.families.back().primaryScript, WritingScript::latin);
+    scan();
+    EXPECT_EQ(report.filesRead, 0);
 }
 
 TEST_F(LoaderCache, TakesFromAnImperfectFileWhatItMay)

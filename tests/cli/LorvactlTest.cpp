@@ -54,6 +54,7 @@ TEST(Lorvactl, RefusesWhatItDoesNotUnderstand)
     expectFailure(lorvactl({"list", "--bogus"}), 2, "unknown option --bogus");
     expectFailure(lorvactl({"list", "--json=yes"}), 2, "--json takes no value");
     expectFailure(lorvactl({"list", "--folder"}), 2, "--folder needs a value");
+    expectFailure(lorvactl({"scan", "--folder", ""}), 2, "needs the name of a folder");
     expectFailure(lorvactl({"list", "somewhere"}), 2, "--folder");
     expectFailure(lorvactl({"list", "--script", "klingon"}), 2, "traditionalChinese");
     expectFailure(lorvactl({"scan", "somewhere"}), 2, "--folder");

@@ -65,7 +65,7 @@ TEST_F(ScanCommand, RemembersWhatItRead)
     told = scan();
     EXPECT_EQ(told["filesRead"].toInt(), 1);
     EXPECT_EQ(told["filesReused"].toInt(), found - 1);
-    EXPECT_EQ(told["familiesIdentified"].toInt(), 0);
+    EXPECT_EQ(told["familiesIdentified"].toInt(), 1) << "a file of it has changed";
     double steps = 0;
     for (const char *step : {"cache", "enumerating", "scanning", "identifying", "preparing"}) {
         const QJsonValue time = told["milliseconds"].toObject()[QLatin1String(step)];

@@ -352,6 +352,27 @@ TEST_F(BrowserJourney, AVanishedFontShowsTheSystemFontAndSaysSo)
     EXPECT_FALSE(preview.currentFont()->isStandIn()) << "a new catalog asks again";
 }
 
+TEST_F(BrowserJourney, AFontReplacedInPlaceShowsItsNewShapes)
+{
+    start(3);
+    const auto capHeight = [this](int index) {
+        return card(index).previewView().currentFont()->face()->metrics().capHeight;
+    };
+    const Font untouched = *card(0).previewView().currentFont();
+    EXPECT_EQ(capHeight(1), 700);
+    test::writeFile(test::TestHome::instance().root().child("library"), "Face 001.ttf",
+                    test::FontBuilder(QStringLiteral("Face 001"))
+                        .postScriptName(QStringLiteral("Face001"))
+                        .codePoints(U"Aa 123")
+                        .capHeight(640)
+                        .build());
+    ASSERT_TRUE(library.load());
+    ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
+    renderNow();
+    EXPECT_EQ(capHeight(1), 640);
+    EXPECT_EQ(*card(0).previewView().currentFont(), untouched) << "the others stay as they are";
+}
+
 /// A window over what the last process saw, whose own scan then finds more.
 TEST_F(BrowserJourney, TheScanTakesOverFromTheSnapshotWithoutAMove)
 {

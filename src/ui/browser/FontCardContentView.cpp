@@ -105,11 +105,17 @@ void FontCardContentView::configure(const FontCardConfiguration &configuration)
         return;
     const FontCardConfiguration previous = std::exchange(m_configuration, configuration);
     const bool hasNewCatalog = previous.catalogGeneration != configuration.catalogGeneration;
-    const Font shown = m_preview->currentFont().value_or(Font());
-    if (hasNewCatalog && (previous.family != configuration.family || shown.isStandIn()))
+    if (hasNewCatalog && (previous.family != configuration.family || !showsItsFile()))
         m_appliedPreview.reset();
     applyPreview();
     update();
+}
+
+/// False for a stand-in and for an older version of the file; a specimen still to come is right.
+bool FontCardContentView::showsItsFile() const
+{
+    const Font shown = m_preview->currentFont().value_or(Font());
+    return shown.isNull() || (!shown.isStandIn() && shown.face()->isUpToDate());
 }
 
 QString FontCardContentView::subtitleText() const

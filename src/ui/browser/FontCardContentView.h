@@ -40,6 +40,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    bool showsItsFile() const;
     void applyPreview();
     QRect systemTagRect() const;
     void paintHairlines(QPainter &painter) const;
