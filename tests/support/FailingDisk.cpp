@@ -4,26 +4,28 @@
 
 #include <atomic>
 #include <cerrno>
+#include <limits>
 
 #include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
 
-std::atomic<bool> isFailing = false;
+constexpr long long kHealthy = std::numeric_limits<long long>::max();
+std::atomic<long long> failsFrom = kHealthy;
 
 } // namespace
 
 namespace lorva::test {
 
-FailingDisk::FailingDisk()
+FailingDisk::FailingDisk(long long fromByte)
 {
-    isFailing = true;
+    failsFrom = fromByte;
 }
 
 FailingDisk::~FailingDisk()
 {
-    isFailing = false;
+    failsFrom = kHealthy;
 }
 
 } // namespace lorva::test
@@ -31,7 +33,7 @@ FailingDisk::~FailingDisk()
 /// A program's own function comes before that of the C library, for the whole process.
 extern "C" ssize_t pread(int file, void *bytes, size_t length, off_t offset)
 {
-    if (isFailing) {
+    if (offset >= failsFrom) {
         errno = EIO;
         return -1;
     }

@@ -4,12 +4,12 @@
 
 namespace lorva::test {
 
-/// While one lives, reads at a position of a file fail with EIO, as those of a dying disk or a
-/// network that is gone do.
+/// While one lives, reads from this position of a file on fail with EIO, as those of a dying disk
+/// or of a network that is gone do.
 class FailingDisk
 {
 public:
-    FailingDisk();
+    explicit FailingDisk(long long fromByte);
     ~FailingDisk();
     FailingDisk(const FailingDisk &) = delete;
     FailingDisk &operator=(const FailingDisk &) = delete;
