@@ -5,6 +5,8 @@
 #include "base/JsonFieldFinder.h"
 #include "base/JsonPlace.h"
 
+#include <QHashFunctions>
+
 #include <simdjson.h>
 
 #include <algorithm>

@@ -31,6 +31,7 @@ FailingDisk::~FailingDisk()
 } // namespace lorva::test
 
 /// A program's own function comes before that of the C library, for the whole process.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): the library's are reserved
 extern "C" ssize_t pread(int file, void *bytes, size_t length, off_t offset)
 {
     if (offset >= failsFrom) {

@@ -15,8 +15,6 @@
 namespace lorva {
 namespace {
 
-using test::fontWith;
-
 /// Answers when the case says so, in the order that the case says.
 class ScriptedResolver final : public FontResolver
 {
