@@ -146,6 +146,7 @@ Shows every font of this computer as a live specimen.
   --help                print this help
 
 QT_SCALE_FACTOR=2 makes the picture twice as dense. QT_LOGGING_RULES="lorva.*=true" logs.
+LORVA_TRACE=FILE writes down where the time of a start goes, as Chrome trace events.
 )");
 }
 

@@ -226,6 +226,24 @@ TEST_F(BrowserJourney, AFreshScanKeepsPlaceAndSelection)
     EXPECT_EQ(view().visibleItems().at(moved), item) << "the same card, not one painted anew";
 }
 
+TEST_F(BrowserJourney, WhereTheFirstCardVanishesTheNextOneHoldsThePlace)
+{
+    start(60);
+    view().setScrollOffset(1100);
+    const int first = view().visibleItems().begin()->first;
+    const QString next = view().items().at(first + 1);
+    const int y = view().visibleItems().at(first + 1)->y();
+    // Two rows and the first card in sight.
+    for (int index = first - 5; index <= first; ++index)
+        std::erase(library.fonts->files,
+                   *library.model->allFamilies()->at(size_t(index)).styles[0].fileURL);
+    ASSERT_TRUE(library.load());
+    renderNow();
+    const int moved = int(view().items().indexOf(next));
+    ASSERT_TRUE(view().visibleItems().contains(moved));
+    EXPECT_EQ(view().visibleItems().at(moved)->y(), y);
+}
+
 TEST_F(BrowserJourney, EachSourceKeepsItsPlace)
 {
     start(60);

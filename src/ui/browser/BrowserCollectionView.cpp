@@ -76,7 +76,7 @@ void BrowserCollectionView::setContent(const Content &content)
 {
     const bool itemsChanged = content.ids != m_ids;
     const bool isRearranged = content.mode != m_mode || content.pointSize != m_pointSize;
-    const Anchor anchor = itemsChanged || isRearranged ? currentAnchor() : Anchor();
+    const auto anchors = itemsChanged || isRearranged ? currentAnchors() : std::vector<Anchor>();
     m_mode = content.mode;
     m_pointSize = content.pointSize;
     m_selectedID = content.selectedID;
@@ -86,7 +86,7 @@ void BrowserCollectionView::setContent(const Content &content)
         // Equal names, but the old ones would hold on to the memory of a library that is gone.
         setIds(content.ids);
     if (itemsChanged || isRearranged)
-        relayout(anchor);
+        relayout(anchors);
     reconfigureVisibleItems();
 }
 
@@ -155,22 +155,28 @@ void BrowserCollectionView::scrollToItem(int index)
         setScrollOffset(std::min(card.top(), card.bottom() + 1 - viewport()->height()));
 }
 
-BrowserCollectionView::Anchor BrowserCollectionView::currentAnchor() const
+/// The selected card, when in sight, is what the eye rests on; else the first one in sight that
+/// stays.
+std::vector<BrowserCollectionView::Anchor> BrowserCollectionView::currentAnchors() const
 {
+    std::vector<Anchor> anchors;
     if (m_ids.isEmpty() || scrollOffset() == 0)
-        return {};
+        return anchors;
     const int top = scrollOffset();
     const auto range = m_layout.visibleRange(top, viewport()->height());
-    // The selected card, when in sight, is what the eye rests on; else the first one in sight.
-    int index = m_indexByID.value(m_selectedID, -1);
-    if (index < range.first || index >= range.last)
-        index = range.first;
-    if (index >= m_ids.size())
-        return {};
-    return {m_ids.at(index), double(m_layout.cardRect(index).top() - top) / m_layout.rowHeight()};
+    const auto add = [&](int index) {
+        const double offset = m_layout.cardRect(index).top() - top;
+        anchors.push_back({m_ids.at(index), offset / m_layout.rowHeight()});
+    };
+    const int selected = m_indexByID.value(m_selectedID, -1);
+    if (selected >= range.first && selected < range.last)
+        add(selected);
+    for (int index = range.first; index < std::min(range.last, int(m_ids.size())); ++index)
+        add(index);
+    return anchors;
 }
 
-void BrowserCollectionView::relayout(const Anchor &anchor)
+void BrowserCollectionView::relayout(const std::vector<Anchor> &anchors)
 {
     m_layout = BrowserLayout(m_mode, viewport()->width(), m_pointSize, int(m_ids.size()));
     const int overflow = std::max(m_layout.contentHeight() - viewport()->height(), 0);
@@ -178,9 +184,11 @@ void BrowserCollectionView::relayout(const Anchor &anchor)
         const QSignalBlocker blocker(verticalScrollBar());
         verticalScrollBar()->setPageStep(viewport()->height());
         verticalScrollBar()->setRange(0, overflow);
-        if (const auto found = m_indexByID.constFind(anchor.id); found != m_indexByID.cend()) {
-            const double top =
-                m_layout.cardRect(*found).top() - anchor.offset * m_layout.rowHeight();
+        const auto anchor = std::ranges::find_if(
+            anchors, [this](const Anchor &each) { return m_indexByID.contains(each.id); });
+        if (anchor != anchors.end()) {
+            const double top = m_layout.cardRect(m_indexByID.value(anchor->id)).top()
+                - anchor->offset * m_layout.rowHeight();
             verticalScrollBar()->setValue(int(std::lround(top)));
         }
     }
@@ -299,7 +307,7 @@ void BrowserCollectionView::resizeEvent(QResizeEvent *event)
     if (widthChange <= kIgnoredWidthChange && !heightChanged && m_layout.itemCount() > 0)
         return;
     const int columns = m_layout.columns();
-    relayout(currentAnchor());
+    relayout(currentAnchors());
     if (m_layout.columns() != columns)
         reconfigureVisibleItems();
 }
@@ -351,7 +359,7 @@ void BrowserCollectionView::changeEvent(QEvent *event)
 {
     QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange)
-        relayout(currentAnchor());
+        relayout(currentAnchors());
 }
 
 void BrowserCollectionView::select(int index)

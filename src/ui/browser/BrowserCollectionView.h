@@ -89,10 +89,10 @@ private:
         /// From the top of the window to the top of the card, as a share of the card's height.
         double offset = 0;
     };
-    Anchor currentAnchor() const;
+    std::vector<Anchor> currentAnchors() const;
     void setIds(const QStringList &ids);
     void replaceItems(const QStringList &ids);
-    void relayout(const Anchor &anchor);
+    void relayout(const std::vector<Anchor> &anchors);
     void placeVisibleItems();
     FontCollectionItem *takeSpareItem();
     void paintViewport(const QRect &exposed);
