@@ -5,12 +5,8 @@
 #include "base/JsonFieldFinder.h"
 #include "base/JsonPlace.h"
 
-#include <QHashFunctions>
-
 #include <simdjson.h>
 
-#include <algorithm>
-#include <array>
 #include <cstring>
 #include <utility>
 
@@ -61,36 +57,6 @@ bool looksLikeInteger(std::string_view token)
 
 } // namespace
 
-/// Gives texts, and a text that was given not long ago once more: the records of a library repeat
-/// their labels and names, and most of the time of reading them went into allocations.
-class RecentTexts
-{
-public:
-    const QString &text(std::string_view utf8)
-    {
-        QString &recent = m_texts[placeOf(utf8)];
-        // Only ASCII compares without decoding; all else is decoded anew. An empty text is no null.
-        if (recent.isNull() || recent != QLatin1String(utf8.data(), qsizetype(utf8.size()))
-            || hasHighBit(utf8))
-            recent = QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-        return recent;
-    }
-
-private:
-    static constexpr size_t kPlaces = 512;
-
-    static size_t placeOf(std::string_view text)
-    {
-        return qHashBits(text.data(), text.size()) % kPlaces;
-    }
-    static bool hasHighBit(std::string_view text)
-    {
-        return std::any_of(text.begin(), text.end(), [](char c) { return uchar(c) >= 0x80; });
-    }
-
-    std::array<QString, kPlaces> m_texts;
-};
-
 /// The parser's state. simdjson's on-demand parser walks the text itself, so a value must be taken
 /// in the order in which it stands there; `isWaiting` says that it has not been taken yet.
 struct JsonReader::Impl
@@ -99,7 +65,6 @@ struct JsonReader::Impl
     ondemand::parser parser;
     ondemand::document document;
     ondemand::value value;
-    RecentTexts recentTexts;
     bool isRoot = true;
     bool isWaiting = false;
     int depth = 0;
@@ -295,7 +260,7 @@ void JsonReader::read(QString &out)
     if (!m_impl->take())
         return;
     if (const std::optional<std::string_view> text = m_impl->takeString())
-        out = m_impl->recentTexts.text(*text);
+        out = QString::fromUtf8(text->data(), qsizetype(text->size()));
 }
 
 void JsonReader::read(JsonUtf8 &out)
