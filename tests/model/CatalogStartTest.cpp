@@ -113,17 +113,6 @@ TEST_F(CatalogStart, TakesTheFreshResultAndRemembersIt)
                 ElementsAre(QStringLiteral("Aardvark"), QStringLiteral("Beta")));
 }
 
-TEST_F(CatalogStart, ASelectionEndsWithItsFamily)
-{
-    ASSERT_TRUE(library.load());
-    restart();
-    ASSERT_TRUE(showSnapshot());
-    library.model->selectFamily(QStringLiteral("Alpha"));
-    ::unlink(watched.child("a.ttf").c_str());
-    ASSERT_TRUE(endLoad());
-    EXPECT_EQ(library.model->selectedFamilyName(), std::nullopt);
-}
-
 TEST_F(CatalogStart, ReplacesASnapshotThatCannotBeUsed)
 {
     ASSERT_TRUE(library.load());

@@ -204,28 +204,6 @@ TEST_F(BrowserJourney, ColumnsFollowTheWindow)
         EXPECT_EQ(item->width(), 400) << index;
 }
 
-TEST_F(BrowserJourney, AFreshScanKeepsPlaceAndSelection)
-{
-    start(60);
-    view().setScrollOffset(1100);
-    const int index = view().visibleItems().begin()->first + 4;
-    click(index);
-    const QString name = selected();
-    const int y = view().visibleItems().at(index)->y();
-    const FontCollectionItem *item = view().visibleItems().at(index);
-
-    library.addFamilies(QStringLiteral("Added"), 9);
-    ASSERT_TRUE(library.load());
-    renderNow();
-
-    EXPECT_EQ(selected(), name);
-    const int moved = int(view().items().indexOf(name));
-    EXPECT_EQ(moved, index + 9);
-    ASSERT_TRUE(view().visibleItems().contains(moved));
-    EXPECT_EQ(view().visibleItems().at(moved)->y(), y);
-    EXPECT_EQ(view().visibleItems().at(moved), item) << "the same card, not one painted anew";
-}
-
 TEST_F(BrowserJourney, WhereTheFirstCardVanishesTheNextOneHoldsThePlace)
 {
     start(60);
