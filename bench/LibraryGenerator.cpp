@@ -4,6 +4,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/SystemError.h"
+#include "base/WholeFile.h"
 #include "bench/GeneratedFamily.h"
 
 #include <QCryptographicHash>
@@ -26,6 +27,7 @@ namespace {
 
 constexpr char kStampName[] = ".lorva-generated-library";
 constexpr char kUnfinished[] = "unfinished";
+constexpr qint64 kMostStampBytes = 4096;
 
 QString textOf(const FilePath &path)
 {
@@ -47,10 +49,8 @@ QByteArray stampOf(int families)
 
 std::optional<QByteArray> readStamp(const FilePath &folder)
 {
-    QFile file(textOf(folder.child(kStampName)));
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    return file.readAll();
+    const auto stamp = readWholeFile(folder.child(kStampName), kMostStampBytes);
+    return stamp ? std::optional(*stamp) : std::nullopt;
 }
 
 Result<void> makeEmptyFolder(const FilePath &folder)
@@ -66,16 +66,14 @@ Result<void> makeEmptyFolder(const FilePath &folder)
                        QStringLiteral("%1 holds something else than a generated library")
                            .arg(folder.displayText()));
     }
-    if (!QDir().mkpath(textOf(folder)))
-        return systemFailure(errno, "make", folder);
-    return writeFileAtomically(folder.child(kStampName), kUnfinished);
+    return writeWholeFile(folder.child(kStampName), kUnfinished);
 }
 
 /// Without a flush to the disk for each file, which a benchmark's input does not need.
 Result<void> writeFile(const FilePath &path, const QByteArray &bytes)
 {
     int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    if (descriptor < 0 && errno == ENOENT && QDir().mkpath(textOf(path.parent())))
+    if (descriptor < 0 && errno == ENOENT && makeFolders(path.parent()))
         descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (descriptor < 0)
         return systemFailure(errno, "write", path);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/WholeFile.h"
 
+#include "base/AtomicFile.h"
 #include "base/SystemError.h"
 
 #include <cerrno>
@@ -107,6 +108,13 @@ Result<QByteArray> readWholeFile(const FilePath &path, qint64 mostBytes)
     if (const int code = fill(file, bytes))
         return systemFailure(code, "read", path);
     return bytes;
+}
+
+Result<void> writeWholeFile(const FilePath &path, QByteArrayView bytes)
+{
+    if (Result<void> made = makeFolders(path.parent()); !made)
+        return made;
+    return writeFileAtomically(path, bytes);
 }
 
 Result<void> makeFolders(const FilePath &folder)

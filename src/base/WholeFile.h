@@ -12,6 +12,9 @@ namespace lorva {
 /// permissionDenied, notRegularFile, tooLarge (more than `mostBytes`) or ioFailure. Thread: any.
 Result<QByteArray> readWholeFile(const FilePath &path, qint64 mostBytes);
 
+/// writeFileAtomically() that makes the folder first, with its missing parents. Thread: any.
+Result<void> writeWholeFile(const FilePath &path, QByteArrayView bytes);
+
 /// Makes `folder` and its missing parents, for the user alone. Fails with permissionDenied,
 /// notRegularFile (a file has the name) or ioFailure. Thread: any.
 Result<void> makeFolders(const FilePath &folder);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/CacheSaver.h"
 
-#include "base/AtomicFile.h"
 #include "base/Trace.h"
 #include "base/WholeFile.h"
 #include "platform/ThreadPriority.h"
@@ -22,11 +21,7 @@ namespace {
 Result<void> writeCache(const FilePath &file, const PersistedCache &cache)
 {
     const TraceStage stage("parse cache: save");
-    const QByteArray json = encodePersistedCache(cache);
-    // It may have gone since.
-    if (Result<void> made = makeFolders(file.parent()); !made)
-        return made;
-    return writeFileAtomically(file, json);
+    return writeWholeFile(file, encodePersistedCache(cache));
 }
 
 } // namespace

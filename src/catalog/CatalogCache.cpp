@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/CatalogCache.h"
 
-#include "base/AtomicFile.h"
 #include "base/Json.h"
 #include "base/RunThen.h"
 #include "base/Trace.h"
@@ -83,11 +82,7 @@ void jsonFields(Fields &fields, Record &document)
 bool writeSnapshot(const FilePath &file, const CatalogSnapshot &snapshot)
 {
     const TraceStage stage("snapshot: save");
-    const QByteArray json = encodeSnapshot(snapshot);
-    // The folder may have gone since.
-    Result<void> written = makeFolders(file.parent());
-    if (written)
-        written = writeFileAtomically(file, json);
+    const Result<void> written = writeWholeFile(file, encodeSnapshot(snapshot));
     if (!written)
         qCInfo(snapshotLog).noquote() << written.error().detail;
     return written.has_value();

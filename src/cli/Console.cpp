@@ -106,6 +106,11 @@ int failUsage(std::string_view command, const QString &message)
     return exitUsage;
 }
 
+int fail(std::string_view command, const Error &error)
+{
+    return error.kind == ErrorKind::usage ? failUsage(command, error.detail) : fail(error.detail);
+}
+
 ProgressLine::ProgressLine()
     : m_isTerminal(::isatty(STDERR_FILENO) == 1)
 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/FilePath.h"
+#include "base/Result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -30,6 +31,9 @@ void printText(const QString &text);
 int fail(const QString &message);
 /// One line on standard error, with a pointer to the command's help.
 int failUsage(std::string_view command, const QString &message);
+
+/// failUsage() for an error of that kind, else fail().
+int fail(std::string_view command, const Error &error);
 
 /// A line on standard error that the next one replaces; shown only on a terminal.
 class ProgressLine

@@ -109,8 +109,7 @@ int runListCommand(std::span<const QByteArray> words)
         return failUsage("list", script.error().detail);
     const Result<std::vector<FilePath>> folders = givenFolders(*arguments);
     if (!folders)
-        return folders.error().kind == ErrorKind::usage ? failUsage("list", folders.error().detail)
-                                                        : fail(folders.error().detail);
+        return fail("list", folders.error());
     FontCatalogResult result = scan(*folders);
     if (*script)
         keepOnly(**script, result.families);

@@ -155,8 +155,7 @@ int runScanCommand(std::span<const QByteArray> words)
         return failUsage("scan", QStringLiteral("scan takes folders as --folder DIR"));
     const Result<std::vector<FilePath>> folders = givenFolders(*arguments);
     if (!folders)
-        return folders.error().kind == ErrorKind::usage ? failUsage("scan", folders.error().detail)
-                                                        : fail(folders.error().detail);
+        return fail("scan", folders.error());
     return run(*folders, arguments->has("--json"));
 }
 

@@ -147,6 +147,13 @@ QString instancePostScriptName(const FaceFacts &facts, const FvarInstance &insta
     return shortened(prefix + arbitraryInstanceSuffix(facts.fvar, instance), prefix);
 }
 
+std::vector<QString> readFamilyNames(const OpenedFile &file, const SfntDirectory &directory)
+{
+    const QByteArray bytes =
+        readTable(file, directory, fontTag('n', 'a', 'm', 'e'), kMaxNameTableBytes);
+    return NameTable(bytes, NameSelection::families).familyNames();
+}
+
 QString familyName(const NameTable &names)
 {
     return firstText(names, NameId::typographicFamily, NameId::family);

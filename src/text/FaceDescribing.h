@@ -32,6 +32,9 @@ QString instanceName(const FaceFacts &facts, const FvarInstance &instance);
 /// the default instance, else a generated one.
 QString instancePostScriptName(const FaceFacts &facts, const FvarInstance &instance);
 
+/// NameTable::familyNames() of a face; empty where the naming table cannot be read.
+std::vector<QString> readFamilyNames(const OpenedFile &file, const SfntDirectory &directory);
+
 QString familyName(const NameTable &names);
 QString styleName(const NameTable &names);
 

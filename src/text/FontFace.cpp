@@ -268,19 +268,12 @@ const std::vector<VariationSetting> &FontFace::coordinates() const
 std::vector<QString> FontFace::familyNamesInAllLanguages() const
 {
     const auto opened = m_data->file->reopen();
-    if (!opened)
-        return {};
-    const QByteArray bytes =
-        readTable(**opened, m_data->directory, fontTag('n', 'a', 'm', 'e'), kMaxNameTableBytes);
-    return NameTable(bytes, NameSelection::families).familyNames();
+    return opened ? readFamilyNames(**opened, m_data->directory) : std::vector<QString>();
 }
 
 std::optional<quint32> FontFace::glyphFor(char32_t scalar) const
 {
-    hb_codepoint_t glyph = 0;
-    if (!hb_font_get_nominal_glyph(warmFace(*m_data)->font(), scalar, &glyph) || glyph == 0)
-        return std::nullopt;
-    return glyph;
+    return warmFace(*m_data)->glyphFor(scalar);
 }
 
 std::shared_ptr<hb_font_t> FontFace::shapingFont(std::span<const VariationSetting> variations) const

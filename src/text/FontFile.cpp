@@ -8,8 +8,6 @@
 #include "text/FontLimits.h"
 #include "text/WarmFaces.h"
 
-#include <hb.h>
-
 #include <algorithm>
 
 namespace lorva {
@@ -21,12 +19,15 @@ tl::unexpected<Error> named(const FilePath &path, const Error &error)
     return failure(error.kind, path.displayText() + u": " + error.detail);
 }
 
+tl::unexpected<Error> notRead(const FilePath &path)
+{
+    return failure(ErrorKind::ioFailure, path.displayText() + u": cannot be read");
+}
+
 /// What seems damaged may only not have been read.
 tl::unexpected<Error> judged(const OpenedFile &opened, const FilePath &path, const Error &error)
 {
-    if (opened.hasFailed())
-        return failure(ErrorKind::ioFailure, path.displayText() + u": cannot be read");
-    return named(path, error);
+    return opened.hasFailed() ? notRead(path) : named(path, error);
 }
 
 /// The largest maps of real fonts take half a megabyte. Reading much larger ones for each of 256
@@ -54,18 +55,9 @@ std::vector<bool> mappedCharacters(const std::shared_ptr<const FontFile::Data> &
     if (!characterMap(directory))
         return isMapped;
     const WarmFace face(file, directory);
-    std::transform(characters.begin(), characters.end(), isMapped.begin(), [&](char32_t scalar) {
-        hb_codepoint_t glyph = 0;
-        return hb_font_get_nominal_glyph(face.font(), scalar, &glyph) && glyph != 0;
-    });
+    std::transform(characters.begin(), characters.end(), isMapped.begin(),
+                   [&](char32_t scalar) { return face.glyphFor(scalar).has_value(); });
     return isMapped;
-}
-
-std::vector<QString> familyNames(const OpenedFile &opened, const SfntDirectory &directory)
-{
-    const QByteArray bytes =
-        readTable(opened, directory, fontTag('n', 'a', 'm', 'e'), kMaxNameTableBytes);
-    return NameTable(bytes, NameSelection::families).familyNames();
 }
 
 } // namespace
@@ -195,9 +187,9 @@ Result<FaceReach> FontFile::reach(FaceKey key, std::span<const char32_t> charact
     if (!directory)
         return tl::unexpected(directory.error());
     FaceReach reach{mappedCharacters(m_data, *directory, characters),
-                    familyNames(**opened, *directory)};
+                    readFamilyNames(**opened, *directory)};
     if ((*opened)->hasFailed())
-        return failure(ErrorKind::ioFailure, m_data->path.displayText() + u": cannot be read");
+        return notRead(m_data->path);
     return reach;
 }
 

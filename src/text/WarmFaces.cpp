@@ -155,6 +155,14 @@ WarmFace::WarmFace(const std::shared_ptr<const FontFile::Data> &file,
 }
 
 /// Opening the file anew for each of some fifteen tables would cost as much as shaping a line.
+std::optional<quint32> WarmFace::glyphFor(char32_t scalar) const
+{
+    hb_codepoint_t glyph = 0;
+    if (!hb_font_get_nominal_glyph(font(), scalar, &glyph) || glyph == 0)
+        return std::nullopt;
+    return glyph;
+}
+
 void WarmFace::readForDrawing() const
 {
     std::call_once(m_readOnce, [this] {

@@ -6,6 +6,7 @@
 
 #include <list>
 #include <mutex>
+#include <optional>
 #include <unordered_map>
 
 #include <hb.h>
@@ -24,6 +25,8 @@ public:
     hb_face_t *face() const { return m_face.get(); }
     /// At the default instance, scaled to unitsPerEm, immutable.
     hb_font_t *font() const { return m_font.get(); }
+    /// The nominal glyph of a character; nothing for unmapped ones and for glyph 0.
+    std::optional<quint32> glyphFor(char32_t scalar) const;
     /// Has everything read that drawing Latin text would ask for, in one opening of the file; once.
     void readForDrawing() const;
     /// What letting the face go would free at most.

@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/InterfaceFamilies.h"
 
+#include "base/WholeFile.h"
+
 #include <QList>
 
 #include <algorithm>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace lorva {
 
@@ -17,27 +15,12 @@ namespace {
 /// A settings file is a few hundred lines; more is none that a desktop wrote.
 constexpr qint64 kMaxSettingsBytes = 1 << 20;
 
-QByteArray settingsText(const FilePath &path)
-{
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (descriptor < 0)
-        return {};
-    struct stat info;
-    QByteArray text;
-    if (::fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode)
-        && info.st_size <= kMaxSettingsBytes) {
-        text.resize(info.st_size);
-        text.resize(std::max<ssize_t>(::read(descriptor, text.data(), size_t(text.size())), 0));
-    }
-    ::close(descriptor);
-    return text;
-}
-
 /// The value of `key` in the group "[group]" of an ini file.
 QByteArray settingsValue(const FilePath &path, const QByteArray &group, const QByteArray &key)
 {
+    const QByteArray text = readWholeFile(path, kMaxSettingsBytes).value_or(QByteArray());
     bool isInGroup = false;
-    for (const QByteArray &line : settingsText(path).split('\n')) {
+    for (const QByteArray &line : text.split('\n')) {
         const QByteArray entry = line.trimmed();
         if (entry.startsWith('['))
             isInGroup = entry == QByteArray('[' + group + ']');
