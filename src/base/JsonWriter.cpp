@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <utility>
@@ -75,6 +76,19 @@ char32_t takePoint(QStringView text, qsizetype &at)
     if (QChar::isHighSurrogate(unit) && at < text.size() && text[at].isLowSurrogate())
         return QChar::surrogateToUcs4(unit, text[at++].unicode());
     return QChar::ReplacementCharacter;
+}
+
+/// Appends what `text` begins with and needs neither escape nor encoding, and gives its length: in
+/// names that is nearly always all.
+qsizetype appendPlain(QByteArray &out, QStringView text)
+{
+    const auto end =
+        std::find_if(text.begin(), text.end(), [](QChar unit) { return !isPlain(unit.unicode()); });
+    const qsizetype before = out.size();
+    out.resize(before + (end - text.begin()));
+    std::transform(text.begin(), end, out.begin() + before,
+                   [](QChar unit) { return char(unit.unicode()); });
+    return end - text.begin();
 }
 
 } // namespace
@@ -176,11 +190,10 @@ void JsonWriter::quoted(QStringView text)
 {
     m_text.append('"');
     for (qsizetype at = 0; at < text.size();) {
-        const char16_t unit = text[at].unicode();
-        if (isPlain(unit)) {
-            m_text.append(char(unit));
-            ++at;
-        } else if (unit < 0x80) {
+        at += appendPlain(m_text, text.sliced(at));
+        if (at == text.size())
+            break;
+        if (const char16_t unit = text[at].unicode(); unit < 0x80) {
             appendEscape(m_text, unit);
             ++at;
         } else {
