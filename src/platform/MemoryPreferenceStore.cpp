@@ -4,19 +4,26 @@
 
 namespace lorva {
 
-std::optional<PreferenceValue> MemoryPreferenceStore::value(const QString &key) const
+PreferenceStoreStatus MemoryPreferenceStore::status() const
 {
-    const auto found = m_values.constFind(key);
-    return found == m_values.cend() ? std::nullopt : std::optional(*found);
+    PreferenceStoreStatus status;
+    for (const auto &[key, row] : m_rows)
+        status.entries.push_back(entryOf(key, row));
+    return status;
 }
 
-void MemoryPreferenceStore::setValue(const QString &key,
-                                     const std::optional<PreferenceValue> &value)
+std::optional<PreferenceRow> MemoryPreferenceStore::row(const QString &key) const
 {
-    if (value)
-        m_values.insert(key, *value);
+    const auto found = m_rows.find(key);
+    return found == m_rows.end() ? std::nullopt : std::optional(found->second);
+}
+
+void MemoryPreferenceStore::setRow(const QString &key, const std::optional<PreferenceRow> &row)
+{
+    if (row)
+        m_rows.insert_or_assign(key, *row);
     else
-        m_values.remove(key);
+        m_rows.erase(key);
 }
 
 } // namespace lorva

@@ -4,19 +4,24 @@
 
 #include "platform/ValuePreferenceStore.h"
 
+#include <map>
+
 namespace lorva {
 
 /// Preferences that end with the process: for tests, and for runs that must leave no trace.
 class MemoryPreferenceStore final : public ValuePreferenceStore
 {
 public:
-    void inTransaction(const std::function<void()> &change) override { change(); }
+    void inTransaction(std::function<void()> change) override { change(); }
+    bool writeWaitingChanges() override { return true; }
+    bool takeChangesElsewhere() override { return false; }
+    PreferenceStoreStatus status() const override;
 
 private:
-    std::optional<PreferenceValue> value(const QString &key) const override;
-    void setValue(const QString &key, const std::optional<PreferenceValue> &value) override;
+    std::optional<PreferenceRow> row(const QString &key) const override;
+    void setRow(const QString &key, const std::optional<PreferenceRow> &row) override;
 
-    QHash<QString, PreferenceValue> m_values;
+    std::map<QString, PreferenceRow> m_rows;
 };
 
 } // namespace lorva

@@ -3,37 +3,36 @@
 #include "platform/PreferenceDatabase.h"
 
 #include "base/WholeFile.h"
-
-#include <QDateTime>
-#include <QLoggingCategory>
+#include "platform/PreferenceFilesAside.h"
 
 #include <array>
+#include <cerrno>
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace lorva {
 
-Q_LOGGING_CATEGORY(preferenceFileLog, "lorva.platform.preferences", QtWarningMsg)
-
 namespace {
 
 using Access = SqliteConnection::Access;
-
-constexpr char kFileName[] = "preferences.sqlite";
 
 /// Held while a damaged file is moved, so that two starting processes do not move each other's new
 /// one.
 class FolderLock
 {
 public:
-    explicit FolderLock(const FilePath &folder)
+    FolderLock(const FilePath &folder, QDeadlineTimer deadline)
         : m_descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
     {
-        if (m_descriptor >= 0)
-            ::flock(m_descriptor, LOCK_EX);
+        while (m_descriptor >= 0 && ::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+            m_isHeldByOther = errno == EWOULDBLOCK && deadline.hasExpired();
+            // A file system without locks must do without.
+            if (m_isHeldByOther || errno != EWOULDBLOCK)
+                return;
+            ::usleep(2000);
+        }
     }
     ~FolderLock()
     {
@@ -42,34 +41,23 @@ public:
     }
     Q_DISABLE_COPY_MOVE(FolderLock)
 
+    bool isHeldByOther() const { return m_isHeldByOther; }
+
 private:
     const int m_descriptor;
+    bool m_isHeldByOther = false;
 };
 
-/// "preferences.sqlite.damaged-20260131-120000", with a number while the name is taken.
-FilePath freeNameFor(const FilePath &file)
+bool isDamaged(const Result<PreferenceDatabase> &database)
 {
-    const QByteArray date = QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss").toLatin1();
-    const QByteArray base = file.bytes() + ".damaged-" + date;
-    QByteArray name = base;
-    struct stat info;
-    for (int count = 2; ::lstat(name.constData(), &info) == 0; ++count)
-        name = base + '-' + QByteArray::number(count);
-    return FilePath(name);
+    return !database && database.error().kind == ErrorKind::malformed;
 }
 
-bool moveAside(const FilePath &file)
+/// A lock that is held passes; a file behind it is not to be read past it.
+bool isWorthReading(const Error &whyNotWritten)
 {
-    const FilePath aside = freeNameFor(file);
-    if (::rename(file.c_str(), aside.c_str()) != 0)
-        return false;
-    qCWarning(preferenceFileLog).noquote()
-        << "the preferences could not be read; they were moved to" << aside.displayText();
-    // The log belongs to the file; beside a new one it would be read as damage.
-    for (const char *suffix : {"-wal", "-shm", "-journal"})
-        ::rename(QByteArray(file.bytes() + suffix).constData(),
-                 QByteArray(aside.bytes() + suffix).constData());
-    return true;
+    return whyNotWritten.kind == ErrorKind::permissionDenied
+        || whyNotWritten.kind == ErrorKind::ioFailure;
 }
 
 } // namespace
@@ -79,32 +67,56 @@ PreferenceDatabase::PreferenceDatabase(SqliteConnection connection)
 {
 }
 
-Result<PreferenceDatabase> PreferenceDatabase::open(const FilePath &folder)
+Result<PreferenceDatabase> PreferenceDatabase::open(const FilePath &folder, QDeadlineTimer deadline)
 {
-    // Without the folder, opening says what is wrong.
-    static_cast<void>(makeFolders(folder));
+    const Result<void> made = makeFolders(folder);
     const FilePath file = folder.child(kFileName);
-    Result<PreferenceDatabase> database = openFile(file, Access::readWrite);
-    if (!database && database.error().kind == ErrorKind::malformed) {
-        const FolderLock lock(folder);
-        // Another process may have mended it while this one waited for the lock.
-        database = openFile(file, Access::readWrite);
-        if (!database && database.error().kind == ErrorKind::malformed && moveAside(file))
-            database = openFile(file, Access::readWrite);
-    }
-    if (!database && database.error().kind != ErrorKind::malformed)
-        database = openFile(file, Access::immutable);
+    Result<PreferenceDatabase> database = openFile(file, Access::readWrite, deadline);
+    if (isDamaged(database))
+        database = openDamaged(file, deadline);
+    if (!database && isWorthReading(database.error()))
+        database = openForReading(file, database.error(), deadline);
+    if (!database && !made)
+        return tl::unexpected(made.error());
+    if (database && !database->m_whyReadOnly && database->m_connection.isReadOnly())
+        database->m_whyReadOnly =
+            Error{ErrorKind::permissionDenied, QStringLiteral("the file cannot be written")};
     return database;
 }
 
-Result<PreferenceDatabase> PreferenceDatabase::openFile(const FilePath &file, Access access)
+Result<PreferenceDatabase> PreferenceDatabase::openDamaged(const FilePath &file,
+                                                           QDeadlineTimer deadline)
 {
-    Result<SqliteConnection> connection = SqliteConnection::open(file, access);
+    const FolderLock lock(file.parent(), deadline);
+    // Another process may have mended it while this one waited for the lock.
+    Result<PreferenceDatabase> database = openFile(file, Access::readWrite, deadline);
+    if (isDamaged(database) && !lock.isHeldByOther() && movePreferencesAside(file))
+        return openFile(file, Access::readWrite, deadline);
+    return database;
+}
+
+Result<PreferenceDatabase> PreferenceDatabase::openForReading(const FilePath &file,
+                                                              const Error &why,
+                                                              QDeadlineTimer deadline)
+{
+    Result<PreferenceDatabase> database = openFile(file, Access::immutable, deadline);
+    if (!database)
+        return tl::unexpected(why);
+    database->m_whyReadOnly = why;
+    return database;
+}
+
+Result<PreferenceDatabase> PreferenceDatabase::openFile(const FilePath &file, Access access,
+                                                        QDeadlineTimer deadline)
+{
+    Result<SqliteConnection> connection = SqliteConnection::open(file, access, deadline);
     if (!connection)
         return tl::unexpected(connection.error());
     PreferenceDatabase database(std::move(*connection));
     // Whose file it is comes first: another program's database is not to be changed.
     Result<void> done = database.checkSoundness();
+    if (done)
+        done = database.checkShape();
     if (done && access == Access::readWrite)
         done = database.makeTable();
     if (!done)
@@ -114,23 +126,27 @@ Result<PreferenceDatabase> PreferenceDatabase::openFile(const FilePath &file, Ac
 
 Result<void> PreferenceDatabase::checkSoundness()
 {
+    // Three megabytes take less than a millisecond.
     const auto checked = m_connection.run("PRAGMA quick_check(1)");
     if (!checked)
         return tl::unexpected(checked.error());
     if (checked->empty() || checked->front().front() != "ok")
         return failure(ErrorKind::malformed, QStringLiteral("the database is damaged"));
+    return {};
+}
+
+Result<void> PreferenceDatabase::checkShape()
+{
     const auto tables =
         m_connection.run("SELECT name FROM sqlite_schema WHERE name = 'preferences'");
     if (!tables)
         return tl::unexpected(tables.error());
     if (tables->empty())
         return {};
-    const auto shaped = m_connection.run("SELECT key, kind, value FROM preferences LIMIT 0");
+    Result<void> shaped = runOnly("SELECT key, kind, value FROM preferences LIMIT 0");
     if (!shaped && shaped.error().kind == ErrorKind::invalidValue)
         return failure(ErrorKind::malformed, shaped.error().detail);
-    if (!shaped)
-        return tl::unexpected(shaped.error());
-    return {};
+    return shaped;
 }
 
 Result<void> PreferenceDatabase::makeTable()
@@ -139,16 +155,25 @@ Result<void> PreferenceDatabase::makeTable()
         "CREATE TABLE IF NOT EXISTS preferences"
         " (key TEXT PRIMARY KEY NOT NULL, kind TEXT NOT NULL, value BLOB NOT NULL)";
     // Asking for the log fails on some file systems only at the next use, so the old journal is the
-    // answer to any trouble but damage.
-    static_cast<void>(m_connection.run("PRAGMA journal_mode=WAL"));
-    Result<std::vector<SqliteConnection::Row>> made = m_connection.run(kMakeTable);
-    if (!made && made.error().kind != ErrorKind::malformed) {
-        static_cast<void>(m_connection.run("PRAGMA journal_mode=DELETE"));
-        made = m_connection.run(kMakeTable);
-    }
-    if (!made)
-        return tl::unexpected(made.error());
-    return {};
+    // answer to any trouble but damage and a lock.
+    writeAhead();
+    Result<void> made = runOnly(kMakeTable);
+    if (made || made.error().kind == ErrorKind::malformed
+        || made.error().kind == ErrorKind::cancelled)
+        return made;
+    static_cast<void>(m_connection.run("PRAGMA synchronous=FULL"));
+    static_cast<void>(m_connection.run("PRAGMA journal_mode=DELETE"));
+    return runOnly(kMakeTable);
+}
+
+void PreferenceDatabase::writeAhead()
+{
+    const auto mode = m_connection.run("PRAGMA journal_mode=WAL");
+    // A killed process loses nothing that it has committed. With the log, waiting for the disk only
+    // at checkpoints is as safe from damage as waiting at each commit: a power cut may take the
+    // last changes, whole ones. In return no change waits for a slow disk.
+    if (mode && !mode->empty() && mode->front().front() == "wal")
+        static_cast<void>(m_connection.run("PRAGMA synchronous=NORMAL"));
 }
 
 Result<std::optional<PreferenceRow>> PreferenceDatabase::read(const QString &key)
@@ -164,6 +189,17 @@ Result<std::optional<PreferenceRow>> PreferenceDatabase::read(const QString &key
     return PreferenceRow{row[0], row[1]};
 }
 
+Result<std::map<QString, PreferenceRow>> PreferenceDatabase::readAll()
+{
+    const auto rows = m_connection.run("SELECT key, kind, value FROM preferences");
+    if (!rows)
+        return tl::unexpected(rows.error());
+    std::map<QString, PreferenceRow> all;
+    for (const SqliteConnection::Row &row : *rows)
+        all.insert_or_assign(QString::fromUtf8(row[0]), PreferenceRow{row[1], row[2]});
+    return all;
+}
+
 Result<void> PreferenceDatabase::write(const QString &key, const std::optional<PreferenceRow> &row)
 {
     static constexpr char kRemove[] = "DELETE FROM preferences WHERE key = CAST(?1 AS TEXT)";
@@ -174,32 +210,39 @@ Result<void> PreferenceDatabase::write(const QString &key, const std::optional<P
     std::vector<QByteArray> values{key.toUtf8()};
     if (row)
         values.insert(values.end(), {row->kind, row->value});
-    const auto done = m_connection.run(row ? kReplace : kRemove, values);
-    if (!done)
-        return tl::unexpected(done.error());
-    return {};
+    return runOnly(row ? kReplace : kRemove, values);
 }
 
 Result<void> PreferenceDatabase::begin()
 {
-    const auto done = m_connection.run("BEGIN IMMEDIATE");
-    if (!done)
-        return tl::unexpected(done.error());
-    return {};
+    return runOnly("BEGIN IMMEDIATE");
 }
 
 Result<void> PreferenceDatabase::commit()
 {
-    const auto done = m_connection.run("COMMIT");
-    if (!done)
-        return tl::unexpected(done.error());
-    return {};
+    return runOnly("COMMIT");
 }
 
 void PreferenceDatabase::rollBack()
 {
     // A failed commit may already have ended the transaction.
     static_cast<void>(m_connection.run("ROLLBACK"));
+}
+
+Result<QByteArray> PreferenceDatabase::dataVersion()
+{
+    const auto rows = m_connection.run("PRAGMA data_version");
+    if (!rows)
+        return tl::unexpected(rows.error());
+    return rows->empty() ? QByteArray() : rows->front().front();
+}
+
+Result<void> PreferenceDatabase::runOnly(const char *statement, std::span<const QByteArray> values)
+{
+    const auto done = m_connection.run(statement, values);
+    if (!done)
+        return tl::unexpected(done.error());
+    return {};
 }
 
 } // namespace lorva

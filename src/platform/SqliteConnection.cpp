@@ -8,9 +8,6 @@ namespace lorva {
 
 namespace {
 
-/// Another process holds its lock for milliseconds; a disk that is busy may take longer.
-constexpr int kBusyTimeoutMs = 3000;
-
 struct FinalizeStatement
 {
     void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
@@ -30,6 +27,8 @@ ErrorKind kindOfCode(int code)
         return ErrorKind::permissionDenied;
     case SQLITE_ERROR:
         return ErrorKind::invalidValue;
+    case SQLITE_BUSY:
+        return ErrorKind::cancelled;
     default:
         return ErrorKind::ioFailure;
     }
@@ -52,9 +51,9 @@ SqliteConnection::Row currentRow(sqlite3_stmt *statement)
 void bindValues(sqlite3_stmt *statement, std::span<const QByteArray> values)
 {
     int place = 1;
-    for (const QByteArray &value : values)
+    for (const QByteArray &value : values) // which outlive the statement: no copy
         sqlite3_bind_blob64(statement, place++, value.constData(), sqlite3_uint64(value.size()),
-                            SQLITE_TRANSIENT);
+                            SQLITE_STATIC);
 }
 
 } // namespace
@@ -64,19 +63,32 @@ void SqliteConnection::Close::operator()(sqlite3 *connection) const
     sqlite3_close(connection);
 }
 
-SqliteConnection::SqliteConnection(sqlite3 *connection)
+SqliteConnection::SqliteConnection(sqlite3 *connection, QDeadlineTimer deadline)
     : m_connection(connection)
+    , m_deadline(deadline)
 {
 }
 
 Error SqliteConnection::lastError() const
 {
     sqlite3 *const connection = m_connection.get();
-    return {kindOfCode(sqlite3_extended_errcode(connection)),
-            QString::fromUtf8(sqlite3_errmsg(connection))};
+    return {kindOfCode(sqlite3_extended_errcode(connection)), lastDetail()};
 }
 
-Result<SqliteConnection> SqliteConnection::open(const FilePath &file, Access access)
+/// With the system's reason where there is one: "disk I/O error (No space left on device)".
+QString SqliteConnection::lastDetail() const
+{
+    sqlite3 *const connection = m_connection.get();
+    const QString detail = QString::fromUtf8(sqlite3_errmsg(connection));
+    const int code = sqlite3_extended_errcode(connection) & 0xff;
+    const int reason = sqlite3_system_errno(connection);
+    if (reason == 0 || (code != SQLITE_IOERR && code != SQLITE_CANTOPEN))
+        return detail;
+    return QStringLiteral("%1 (%2)").arg(detail, qt_error_string(reason));
+}
+
+Result<SqliteConnection> SqliteConnection::open(const FilePath &file, Access access,
+                                                QDeadlineTimer deadline)
 {
     const bool isImmutable = access == Access::immutable;
     const int flags = SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX
@@ -86,18 +98,18 @@ Result<SqliteConnection> SqliteConnection::open(const FilePath &file, Access acc
         url.append("?immutable=1");
     sqlite3 *opened = nullptr;
     const int code = sqlite3_open_v2(url.constData(), &opened, flags, nullptr);
-    SqliteConnection connection(opened);
+    SqliteConnection connection(opened, deadline);
     if (!opened)
         return failure(ErrorKind::ioFailure, QStringLiteral("out of memory"));
     if (code != SQLITE_OK)
         return tl::unexpected(connection.lastError());
-    sqlite3_busy_timeout(opened, kBusyTimeoutMs);
     return connection;
 }
 
 Result<std::vector<SqliteConnection::Row>> SqliteConnection::run(const char *statement,
                                                                  std::span<const QByteArray> values)
 {
+    sqlite3_busy_timeout(m_connection.get(), int(m_deadline.remainingTime()));
     sqlite3_stmt *prepared = nullptr;
     if (sqlite3_prepare_v2(m_connection.get(), statement, -1, &prepared, nullptr) != SQLITE_OK)
         return tl::unexpected(lastError());
@@ -111,6 +123,18 @@ Result<std::vector<SqliteConnection::Row>> SqliteConnection::run(const char *sta
     if (code != SQLITE_DONE)
         return tl::unexpected(lastError());
     return rows;
+}
+
+bool SqliteConnection::isReadOnly() const
+{
+    return sqlite3_db_readonly(m_connection.get(), "main") == 1;
+}
+
+bool SqliteConnection::hasMoved() const
+{
+    int isMoved = 0;
+    sqlite3_file_control(m_connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &isMoved);
+    return isMoved != 0;
 }
 
 } // namespace lorva

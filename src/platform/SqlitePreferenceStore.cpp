@@ -2,142 +2,165 @@
 // SPDX-License-Identifier: MIT
 #include "platform/SqlitePreferenceStore.h"
 
-#include "platform/PreferenceDatabase.h"
+#include "platform/PreferenceFile.h"
+#include "platform/PreferenceFilesAside.h"
 
-#include <QLoggingCategory>
+#include <span>
+#include <utility>
 
 namespace lorva {
 
-Q_LOGGING_CATEGORY(preferenceLog, "lorva.platform.preferences", QtWarningMsg)
-
 namespace {
 
-using PendingValues = QHash<QString, std::optional<PreferenceRow>>;
+using Change = std::function<void()>;
+using Values = PreferenceFile::Values;
+using Wait = PreferenceFile::Wait;
 
-void logFailure(const char *what, const Error &error)
+/// More than these are not tried again with each new change, which would take longer and longer.
+constexpr size_t kMostTriedWithAChange = 32;
+
+void runAll(std::span<const Change> changes)
 {
-    qCWarning(preferenceLog).noquote() << what << error.detail;
+    for (const Change &change : changes)
+        change();
 }
 
 } // namespace
 
 struct SqlitePreferenceStore::Private
 {
-    std::optional<PreferenceDatabase> database;
-    /// What could not be written; outlives the attempt until the same key is written with success.
-    PendingValues unwritten;
-    /// The writes of the transaction that is open, for the case that it cannot be completed.
-    PendingValues inTransaction;
-    bool isTransactionOpen = false;
-    bool hasTransactionFailed = false;
+    enum class Target {
+        none, ///< no change is running
+        file,
+        memory,
+    };
+
+    PreferenceFile file;
+    std::vector<Change> waiting;
+    /// What the waiting changes have made of the values; nothing for a key that they removed.
+    Values overlay;
+    /// What the changes that run now have written so far.
+    Values written;
+    Target target = Target::none;
+    bool hasMetOthers = false;
 
     std::optional<PreferenceRow> read(const QString &key);
     void write(const QString &key, const std::optional<PreferenceRow> &row);
-    void begin();
-    void end();
-    bool commit();
+    bool writeAll(size_t inMemory, Wait wait);
+    void runInMemory(const Change &change);
 };
 
 std::optional<PreferenceRow> SqlitePreferenceStore::Private::read(const QString &key)
 {
-    for (const PendingValues *pending : {&inTransaction, &unwritten}) {
-        if (const auto found = pending->constFind(key); found != pending->cend())
+    if (const auto found = written.constFind(key); found != written.cend())
+        return *found;
+    // Changes that are made again start from what the file holds now.
+    if (target != Target::file) {
+        if (const auto found = overlay.constFind(key); found != overlay.cend())
             return *found;
     }
-    if (!database)
-        return std::nullopt;
-    Result<std::optional<PreferenceRow>> row = database->read(key);
-    if (!row) {
-        logFailure("a preference could not be read:", row.error());
-        return std::nullopt;
-    }
-    return *std::move(row);
+    return file.read(key);
 }
 
 void SqlitePreferenceStore::Private::write(const QString &key,
                                            const std::optional<PreferenceRow> &row)
 {
-    inTransaction.insert(key, row);
-    if (!database || hasTransactionFailed)
-        return;
-    if (const Result<void> written = database->write(key, row); !written) {
-        logFailure("a preference could not be written:", written.error());
-        hasTransactionFailed = true;
-    }
+    written.insert(key, row);
+    if (target == Target::file)
+        file.write(key, row);
 }
 
-void SqlitePreferenceStore::Private::begin()
+/// Makes all waiting changes in one transaction; the first `inMemory` of them are in the overlay.
+bool SqlitePreferenceStore::Private::writeAll(size_t inMemory, Wait wait)
 {
-    isTransactionOpen = true;
-    hasTransactionFailed = !database;
-    if (!database)
-        return;
-    if (const Result<void> begun = database->begin(); !begun) {
-        logFailure("the preferences could not be locked:", begun.error());
-        hasTransactionFailed = true;
-    }
-}
-
-bool SqlitePreferenceStore::Private::commit()
-{
-    if (hasTransactionFailed)
+    if (!file.begin(wait))
         return false;
-    const Result<void> committed = database->commit();
-    if (!committed)
-        logFailure("the preferences could not be written:", committed.error());
-    return committed.has_value();
+    target = Target::file;
+    const std::span<const Change> changes(waiting);
+    runAll(changes.first(inMemory));
+    const bool isAsBefore = written == overlay;
+    runAll(changes.subspan(inMemory));
+    target = Target::none;
+    written.clear();
+    if (!file.commit())
+        return false;
+    hasMetOthers = hasMetOthers || !isAsBefore;
+    overlay.clear();
+    waiting.clear();
+    return true;
 }
 
-void SqlitePreferenceStore::Private::end()
+void SqlitePreferenceStore::Private::runInMemory(const Change &change)
 {
-    const bool isWritten = commit();
-    if (!isWritten && database)
-        database->rollBack();
-    for (auto write = inTransaction.cbegin(); write != inTransaction.cend(); ++write) {
-        if (isWritten)
-            unwritten.remove(write.key());
-        else
-            unwritten.insert(write.key(), write.value());
-    }
-    inTransaction.clear();
-    isTransactionOpen = false;
+    target = Target::memory;
+    change();
+    target = Target::none;
+    overlay.insert(std::exchange(written, {}));
 }
 
-SqlitePreferenceStore::SqlitePreferenceStore(const FilePath &applicationSupport)
-    : d(std::make_unique<Private>())
+SqlitePreferenceStore::SqlitePreferenceStore(const FilePath &applicationSupport,
+                                             std::chrono::milliseconds patience)
+    : d(new Private{PreferenceFile(applicationSupport, patience), {}, {}, {}})
 {
-    Result<PreferenceDatabase> database = PreferenceDatabase::open(applicationSupport);
-    if (database)
-        d->database.emplace(std::move(*database));
-    else
-        logFailure("the preferences could not be opened:", database.error());
 }
 
 SqlitePreferenceStore::~SqlitePreferenceStore() = default;
 
-std::optional<PreferenceValue> SqlitePreferenceStore::value(const QString &key) const
+std::optional<PreferenceRow> SqlitePreferenceStore::row(const QString &key) const
 {
-    const std::optional<PreferenceRow> row = d->read(key);
-    return row ? preferenceOfRow(*row) : std::nullopt;
+    return d->read(key);
 }
 
-void SqlitePreferenceStore::setValue(const QString &key,
-                                     const std::optional<PreferenceValue> &value)
+void SqlitePreferenceStore::setRow(const QString &key, const std::optional<PreferenceRow> &row)
 {
-    const std::optional<PreferenceRow> row =
-        value ? std::optional(rowOfPreference(*value)) : std::nullopt;
-    inTransaction([&] { d->write(key, row); });
+    inTransaction([this, key, row] { d->write(key, row); });
 }
 
-void SqlitePreferenceStore::inTransaction(const std::function<void()> &change)
+void SqlitePreferenceStore::inTransaction(Change change)
 {
-    if (d->isTransactionOpen) {
+    if (d->target != Private::Target::none) {
         change();
         return;
     }
-    d->begin();
-    change();
-    d->end();
+    const size_t inMemory = d->waiting.size();
+    d->waiting.push_back(std::move(change));
+    const Wait wait = inMemory == 0 ? Wait::patiently : Wait::notAtAll;
+    if (inMemory <= kMostTriedWithAChange && d->writeAll(inMemory, wait))
+        return;
+    d->runInMemory(d->waiting.back());
+    if (onChangeWaits)
+        onChangeWaits();
+}
+
+bool SqlitePreferenceStore::writeWaitingChanges()
+{
+    if (d->waiting.empty())
+        return true;
+    return d->target == Private::Target::none && d->writeAll(d->waiting.size(), Wait::notAtAll);
+}
+
+bool SqlitePreferenceStore::takeChangesElsewhere()
+{
+    const bool isFileOther = d->file.takeChangesElsewhere();
+    return std::exchange(d->hasMetOthers, false) || isFileOther;
+}
+
+PreferenceStoreStatus SqlitePreferenceStore::status() const
+{
+    std::map<QString, PreferenceRow> rows = d->file.readAll();
+    for (auto each = d->overlay.cbegin(); each != d->overlay.cend(); ++each) {
+        rows.erase(each.key());
+        if (*each)
+            rows.emplace(each.key(), **each);
+    }
+    PreferenceStoreStatus status;
+    for (const auto &[key, row] : rows)
+        status.entries.push_back(entryOf(key, row));
+    status.file = d->file.path();
+    status.movedAside = preferencesAside(d->file.path());
+    status.failure = d->file.failure();
+    status.waitingChanges = int(d->waiting.size());
+    return status;
 }
 
 } // namespace lorva

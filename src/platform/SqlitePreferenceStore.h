@@ -4,6 +4,7 @@
 
 #include "platform/ValuePreferenceStore.h"
 
+#include <chrono>
 #include <memory>
 
 namespace lorva {
@@ -12,28 +13,34 @@ class FilePath;
 
 /// The user's preferences in one SQLite file, shared by all our processes of the user.
 ///
-/// Every read asks the file, so that what another process wrote is seen at once. Every write is one
-/// immediate transaction of its own, or part of the one that inTransaction() opens.
+/// Every read asks the file, so that what another process wrote is seen at once; one that fails
+/// gives the last value that this process knows. Every write is one immediate transaction of its
+/// own, or part of the one that inTransaction() opens.
 /// Failure: a file that is no database is moved aside with its date, and the defaults are used.
-/// What cannot be written (no space, no permission) is kept in memory, and this process's reads see
-/// it. Thread: main. Several stores, of one process or many, may use one file.
+/// What cannot be written waits in memory, in order, and is made again over whatever the file then
+/// holds. Thread: main. Several stores, of one process or many, may use one file.
 class SqlitePreferenceStore final : public ValuePreferenceStore
 {
 public:
+    /// What a window can wait before people notice.
+    static constexpr std::chrono::milliseconds kPatience{250};
+
     /// Over `applicationSupport`/preferences.sqlite; folder and file are made when they are
-    /// missing.
-    explicit SqlitePreferenceStore(const FilePath &applicationSupport);
+    /// missing. Waits for another process's lock at most `patience` for one change.
+    explicit SqlitePreferenceStore(const FilePath &applicationSupport,
+                                   std::chrono::milliseconds patience = kPatience);
     ~SqlitePreferenceStore() override;
 
-    /// A call inside another's `change` is part of the outer one. When the transaction cannot be
-    /// had or completed, its writes stay in memory.
-    void inTransaction(const std::function<void()> &change) override;
+    void inTransaction(std::function<void()> change) override;
+    bool writeWaitingChanges() override;
+    bool takeChangesElsewhere() override;
+    PreferenceStoreStatus status() const override;
 
 private:
     struct Private;
 
-    std::optional<PreferenceValue> value(const QString &key) const override;
-    void setValue(const QString &key, const std::optional<PreferenceValue> &value) override;
+    std::optional<PreferenceRow> row(const QString &key) const override;
+    void setRow(const QString &key, const std::optional<PreferenceRow> &row) override;
 
     const std::unique_ptr<Private> d;
 };

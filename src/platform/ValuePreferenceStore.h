@@ -7,7 +7,7 @@
 
 namespace lorva {
 
-/// A preference store over two functions: give a value, put a value.
+/// A preference store over two functions: give a row, put a row.
 class ValuePreferenceStore : public PreferenceStore
 {
 public:
@@ -16,6 +16,7 @@ public:
     std::optional<QStringList> stringArray(const QString &key) const final;
     std::optional<QHash<QString, QString>> stringDictionary(const QString &key) const final;
     std::optional<bool> boolean(const QString &key) const final;
+    bool contains(const QString &key) const final;
 
     void setData(const QString &key, const QByteArray &value) final;
     void setString(const QString &key, const QString &value) final;
@@ -23,13 +24,19 @@ public:
     void setStringDictionary(const QString &key, const QHash<QString, QString> &value) final;
     void setBoolean(const QString &key, bool value) final;
     void remove(const QString &key) final;
+    void keepUnreadable(const QString &key) final;
+
+protected:
+    static PreferenceStoreStatus::Entry entryOf(const QString &key, const PreferenceRow &row);
 
 private:
     /// Nothing when the key is absent.
-    virtual std::optional<PreferenceValue> value(const QString &key) const = 0;
+    virtual std::optional<PreferenceRow> row(const QString &key) const = 0;
     /// Nothing removes the key.
-    virtual void setValue(const QString &key, const std::optional<PreferenceValue> &value) = 0;
+    virtual void setRow(const QString &key, const std::optional<PreferenceRow> &row) = 0;
 
+    void setValue(const QString &key, const PreferenceValue &value);
+    void keepRow(const QString &key);
     template <class T>
     std::optional<T> valueOfKind(const QString &key) const;
 };

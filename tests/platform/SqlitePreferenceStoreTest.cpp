@@ -2,18 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/SqlitePreferenceStore.h"
 #include "platform/SqliteConnection.h"
-#include "support/TestHome.h"
+#include "support/AdverseSystem.h"
 
 #include <QDir>
 
 #include <gmock/gmock.h>
 
-#include <csignal>
 #include <thread>
 
-#include <sys/resource.h>
+#include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace lorva {
@@ -21,6 +19,7 @@ namespace {
 
 using test::TestHome;
 using test::writeFile;
+using namespace std::chrono_literals;
 
 class SqlitePreferenceStoreTest : public testing::Test
 {
@@ -30,7 +29,8 @@ protected:
         return QDir(m_folder.displayText()).entryList({"preferences.sqlite.damaged-*"});
     }
 
-    const FilePath m_folder = TestHome::instance().root().child("share").child("Lorva");
+    const FilePath m_parent = test::makeCaseFolder();
+    const FilePath m_folder = m_parent.child("Lorva");
     const FilePath m_file = m_folder.child("preferences.sqlite");
 };
 
@@ -57,7 +57,7 @@ TEST_F(SqlitePreferenceStoreTest, storesOnOneFileSeeEachOthersWrites)
 
 void appendOften(const FilePath &folder, const QString &word, int times)
 {
-    SqlitePreferenceStore store(folder);
+    SqlitePreferenceStore store(folder, 60s);
     for (int i = 0; i < times; ++i) {
         store.inTransaction([&] {
             QStringList words = store.stringArray("words").value_or(QStringList());
@@ -76,35 +76,6 @@ TEST_F(SqlitePreferenceStoreTest, transactionsOfTwoLoseNothing)
     const QStringList words = store.stringArray("words").value_or(QStringList());
     EXPECT_EQ(words.count("own"), 30);
     EXPECT_EQ(words.count("other"), 30);
-}
-
-TEST_F(SqlitePreferenceStoreTest, aKilledWriterLeavesWholeValues)
-{
-    SqlitePreferenceStore(m_folder).setStringArray("words", {});
-    int ready[2];
-    ASSERT_EQ(::pipe(ready), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        SqlitePreferenceStore store(m_folder);
-        store.inTransaction([&] {
-            store.setString("half", "done");
-            store.setStringArray("words", QStringList(2000, QStringLiteral("word")));
-            const ssize_t told = ::write(ready[1], "x", 1);
-            static_cast<void>(told);
-            ::pause();
-        });
-        ::_exit(0);
-    }
-    char byte = 0;
-    ASSERT_EQ(::read(ready[0], &byte, 1), 1);
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-
-    SqlitePreferenceStore store(m_folder);
-    EXPECT_EQ(store.string("half"), std::nullopt);
-    EXPECT_EQ(store.stringArray("words"), QStringList());
-    store.setBoolean("writable", true);
-    EXPECT_EQ(SqlitePreferenceStore(m_folder).boolean("writable"), true);
 }
 
 /// Several pages of it.
@@ -138,7 +109,9 @@ TEST_P(DamagedPreferences, areMovedAsideAndNewOnesStarted)
     }
     EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "new");
     ASSERT_EQ(filesAside().size(), 1);
-    EXPECT_EQ(test::readFile(m_folder.child(filesAside().front().toUtf8())), damaged);
+    const FilePath aside = m_folder.child(filesAside().front().toUtf8());
+    EXPECT_EQ(test::readFile(aside), damaged);
+    EXPECT_THAT(SqlitePreferenceStore(m_folder).status().movedAside, testing::ElementsAre(aside));
 }
 
 QByteArray otherDatabase(const QByteArray &)
@@ -163,7 +136,6 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SqlitePreferenceStoreTest, anEmptyFileIsANewDatabase)
 {
-    TestHome::instance().makeFolder("share");
     writeFile(m_folder, "preferences.sqlite", "");
     SqlitePreferenceStore(m_folder).setBoolean("key", true);
     EXPECT_EQ(SqlitePreferenceStore(m_folder).boolean("key"), true);
@@ -184,66 +156,136 @@ TEST_F(SqlitePreferenceStoreTest, damagedValuesAndUnknownKindsCountAsAbsent)
     EXPECT_EQ(store.stringArray("array"), std::nullopt);
     EXPECT_EQ(store.string("future"), std::nullopt);
     EXPECT_EQ(store.boolean("flag"), std::nullopt);
+    EXPECT_EQ(store.status().entries.at(2),
+              (PreferenceStoreStatus::Entry{"future", "number", 1, false}));
+
+    store.keepUnreadable("array");
+    store.keepUnreadable("future");
+    const auto kept = raw->run("SELECT key, kind, value FROM preferences"
+                               " WHERE key LIKE '%.unreadable' ORDER BY key");
+    EXPECT_THAT(kept.value(),
+                testing::ElementsAre(SqliteConnection::Row{"array.unreadable", "stringArray", "[1"},
+                                     SqliteConnection::Row{"future.unreadable", "number", "a"}));
 }
 
-TEST_F(SqlitePreferenceStoreTest, withoutAFolderValuesLiveInMemory)
+TEST_F(SqlitePreferenceStoreTest, withoutAFolderChangesWaitUntilThereIsOne)
 {
-    writeFile(TestHome::instance().root(), "share", "a file where the folder should be");
+    writeFile(m_parent, "Lorva", "a file where the folder should be");
     SqlitePreferenceStore store(m_folder);
     store.setString("key", "kept");
-    store.inTransaction([&] { store.setBoolean("flag", store.string("key") == "kept"); });
+    store.inTransaction([&store] { store.setBoolean("flag", store.string("key") == "kept"); });
     EXPECT_EQ(store.boolean("flag"), true);
-    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), std::nullopt);
+    EXPECT_FALSE(store.writeWaitingChanges());
+    const PreferenceStoreStatus status = store.status();
+    EXPECT_EQ(status.waitingChanges, 2);
+    EXPECT_EQ(status.entries.size(), 2u);
+    ASSERT_TRUE(status.failure);
+    EXPECT_THAT(status.failure->detail.toStdString(),
+                testing::HasSubstr(m_folder.displayText().toStdString()));
+
+    ::unlink(m_folder.c_str());
+    EXPECT_TRUE(store.writeWaitingChanges());
+    EXPECT_EQ(store.status().failure, std::nullopt);
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).boolean("flag"), true);
 }
 
-TEST_F(SqlitePreferenceStoreTest, onAFullDiskValuesLiveInMemory)
+TEST_F(SqlitePreferenceStoreTest, onAFullDiskChangesWaitForSpace)
 {
     SqlitePreferenceStore store(m_folder);
     store.setString("key", "old");
     store.setString("gone", "old");
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{0, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    store.inTransaction([&] {
-        store.setString("key", QString(100000, u'x'));
-        store.remove("gone");
-    });
-    EXPECT_EQ(store.string("key"), QString(100000, u'x'));
-    EXPECT_EQ(store.string("gone"), std::nullopt);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    // The file holds what was there, and both stores go on working.
+    const QString large(100000, u'x');
+    {
+        const test::FullDisk full(0);
+        store.inTransaction([&store, large] {
+            store.setString("key", large);
+            store.remove("gone");
+        });
+        for (int i = 0; i < 100; ++i)
+            store.inTransaction([&store] {
+                store.setString("key", QString(store.string("key").value_or("") % QChar(u'y')));
+            });
+        EXPECT_EQ(store.string("key"), QString(large % QString(100, u'y')));
+        EXPECT_EQ(store.string("gone"), std::nullopt);
+        EXPECT_FALSE(store.writeWaitingChanges());
+        EXPECT_EQ(store.status().waitingChanges, 101);
+        EXPECT_TRUE(store.status().failure);
+    }
     EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "old");
-    store.setString("key", "new");
-    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "new");
+    EXPECT_TRUE(store.writeWaitingChanges());
+    EXPECT_FALSE(store.takeChangesElsewhere());
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), QString(large % QString(100, u'y')));
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("gone"), std::nullopt);
 }
 
-/// Becomes a user without rights, where the tests run as root and permissions would not hold.
-class Unprivileged
+struct Permissions
 {
-public:
-    Unprivileged() { EXPECT_EQ(::seteuid(::geteuid() == 0 ? 65534 : ::geteuid()), 0); }
-    ~Unprivileged() { EXPECT_EQ(::seteuid(::getuid()), 0); }
+    const char *what;
+    mode_t folder;
+    mode_t file;
 };
 
-TEST_F(SqlitePreferenceStoreTest, aReadOnlyFolderIsReadAndChangesLiveInMemory)
+class LockedAwayPreferences : public SqlitePreferenceStoreTest,
+                              public testing::WithParamInterface<Permissions>
+{
+};
+
+TEST_P(LockedAwayPreferences, areReadAndChangesWaitForPermission)
 {
     SqlitePreferenceStore(m_folder).setString("key", "stored");
-    ::chmod(TestHome::instance().root().c_str(), 0755);
-    ::chmod(m_folder.parent().c_str(), 0755);
-    ::chmod(m_file.c_str(), 0444);
-    ::chmod(m_folder.c_str(), 0555);
+    ::chmod(m_parent.c_str(), 0755);
+    ::chmod(m_file.c_str(), GetParam().file);
+    ::chmod(m_folder.c_str(), GetParam().folder);
+    std::optional<SqlitePreferenceStore> store;
     {
-        const Unprivileged user;
-        SqlitePreferenceStore store(m_folder);
-        EXPECT_EQ(store.string("key"), "stored");
-        store.setString("key", "changed");
-        EXPECT_EQ(store.string("key"), "changed");
+        const test::AsOrdinaryUser user;
+        store.emplace(m_folder);
+        EXPECT_EQ(store->string("key"), "stored");
+        EXPECT_TRUE(store->status().failure);
+        store->setString("key", "changed");
+        EXPECT_EQ(store->string("key"), "changed");
         EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "stored");
     }
-    ::chmod(m_folder.c_str(), 0755);
+    EXPECT_TRUE(store->writeWaitingChanges());
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "changed");
+    EXPECT_EQ(store->status().failure, std::nullopt);
     EXPECT_TRUE(filesAside().isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Where, LockedAwayPreferences,
+                         testing::Values(Permissions{"folderAndFile", 0555, 0444},
+                                         Permissions{"folder", 0555, 0666},
+                                         Permissions{"file", 0777, 0444}),
+                         [](const auto &each) { return each.param.what; });
+
+TEST_F(SqlitePreferenceStoreTest, aFileThatWasMovedAwayIsNotWrittenOn)
+{
+    SqlitePreferenceStore store(m_folder);
+    store.setString("key", "old");
+    ASSERT_EQ(::rename(m_file.c_str(), m_folder.child("elsewhere").c_str()), 0);
+    store.setString("other", "new");
+    EXPECT_TRUE(store.takeChangesElsewhere());
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("other"), "new");
+    EXPECT_EQ(store.string("key"), std::nullopt);
+}
+
+TEST_F(SqlitePreferenceStoreTest, damageThatShowsLateIsMovedAsideToo)
+{
+    const QByteArray large(3000000, 'x'); // more than a connection keeps of the file
+    SqlitePreferenceStore(m_folder).setData("large", large);
+    SqlitePreferenceStore(m_folder).setData("key", large);
+    SqlitePreferenceStore store(m_folder);
+    const int file = ::open(m_file.c_str(), O_WRONLY);
+    const QByteArray damage(5000000, '\xab');
+    ASSERT_EQ(::pwrite(file, damage.constData(), size_t(damage.size()), 8192), damage.size());
+    ::close(file);
+
+    store.inTransaction([&store] { store.setBoolean("had", store.contains("large")); });
+    EXPECT_EQ(store.status().waitingChanges, 1);
+    EXPECT_TRUE(store.writeWaitingChanges());
+    EXPECT_TRUE(store.takeChangesElsewhere());
+    EXPECT_EQ(filesAside().size(), 1);
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).boolean("had"), false);
 }
 
 } // namespace

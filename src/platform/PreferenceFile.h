@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/PreferenceDatabase.h"
+
+#include <QHash>
+
+#include <chrono>
+
+namespace lorva {
+
+/// The preference database as one process meets it over time: opened again when it could not be or
+/// has gone, waited for no longer than agreed, and its last failure kept.
+///
+/// Failures are logged once under `lorva.platform.preferences`. Thread: one at a time.
+class PreferenceFile
+{
+public:
+    /// How long an operation may wait for the locks of others.
+    enum class Wait { patiently, notAtAll };
+
+    using Values = QHash<QString, std::optional<PreferenceRow>>;
+
+    /// Over `folder`/preferences.sqlite.
+    PreferenceFile(FilePath folder, std::chrono::milliseconds patience);
+
+    /// Nothing when the key is absent. What cannot be read gives the last value known here, so that
+    /// a lock or a failing disk does not look like an empty library; within a transaction it also
+    /// makes commit() fail.
+    std::optional<PreferenceRow> read(const QString &key);
+    /// The last values known here when it cannot be read.
+    std::map<QString, PreferenceRow> readAll();
+
+    /// Starts a transaction on the file that the path names now. When false there is none.
+    bool begin(Wait wait);
+    void write(const QString &key, const std::optional<PreferenceRow> &row);
+    /// Ends it. When false nothing since begin() was written.
+    bool commit();
+
+    /// True once after another connection has written, or another file has taken the place.
+    bool takeChangesElsewhere();
+
+    FilePath path() const { return m_folder.child(PreferenceDatabase::kFileName); }
+    /// What is wrong now, with the path.
+    const std::optional<Error> &failure() const;
+
+private:
+    bool ensureWritable(QDeadlineTimer deadline);
+    void take(PreferenceDatabase database);
+    void closeIfDamaged();
+    void noteFailure(std::optional<Error> &place, const Error &error) const;
+    QDeadlineTimer deadlineFor(Wait wait) const;
+
+    const FilePath m_folder;
+    const std::chrono::milliseconds m_patience;
+    std::optional<PreferenceDatabase> m_database;
+    QByteArray m_dataVersion;
+    /// Since it could not be opened: when looking at it is worth a try.
+    QDeadlineTimer m_nextLook;
+    std::optional<Error> m_openFailure;
+    std::optional<Error> m_readFailure;
+    std::optional<Error> m_writeFailure;
+    Values m_known;
+    Values m_uncommitted;
+    bool m_isInTransaction = false;
+    bool m_hasTransactionFailed = false;
+    bool m_isOther = false;
+};
+
+} // namespace lorva
