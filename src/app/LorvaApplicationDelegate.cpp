@@ -6,6 +6,7 @@
 #include "base/AtomicFile.h"
 #include "base/Trace.h"
 #include "catalog/CatalogCache.h"
+#include "model/CatalogActivation.h"
 #include "model/stores/WindowGeometry.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/FontconfigSystemFont.h"
@@ -45,6 +46,7 @@ std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
 
 std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
                                          const PlatformFolders &folders,
+                                         PreferenceStore &preferences,
                                          std::unique_ptr<CatalogCache> catalogCache)
 {
     FontLibraryService::Dependencies dependencies{
@@ -53,14 +55,16 @@ std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
     dependencies.cacheFileURL = folders.parseCache();
     // A picture leaves the user's files as they are.
     dependencies.savesCache = !options.screenshot;
-    auto model = std::make_unique<LorvaAppModel>(
+    auto model = std::make_unique<LorvaAppModel>(LorvaAppModel::Dependencies{
         std::make_unique<FontLibraryService>(std::move(dependencies)),
-        std::make_unique<CatalogActivation>(folders), std::move(catalogCache));
-    model->setWatchedFolders(options.folders);
+        std::make_unique<CatalogActivation>(folders), preferences,
+        std::make_unique<GivenFolders>(options.folders), std::move(catalogCache)});
     model->setViewMode(options.viewMode.value_or(model->viewMode()));
-    model->setColorMode(options.colorMode.value_or(model->colorMode()));
-    model->setPointSize(options.pointSize.value_or(model->browserPointSize()));
-    model->setSampleText(options.sampleText.value_or(model->sampleText()));
+    SourceDisplaySettings display;
+    display.colorMode = options.colorMode;
+    display.browserPointSize = options.pointSize;
+    display.sampleText = options.sampleText;
+    model->setDisplayForThisRun(display);
     return model;
 }
 
@@ -80,7 +84,7 @@ LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options,
                                                    std::unique_ptr<CatalogCache> catalogCache)
     : m_options(std::move(options))
     , m_preferences(makePreferences(m_options, xdgFolders()))
-    , m_model(makeModel(m_options, xdgFolders(), std::move(catalogCache)))
+    , m_model(makeModel(m_options, xdgFolders(), *m_preferences, std::move(catalogCache)))
     , m_windowFrameStore(*m_preferences)
 {
     traceMoment("model made");
@@ -103,6 +107,11 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
     m_root->browser().setFocus();
     m_window->show();
     m_model->loadCatalog();
+    connect(qApp, &QGuiApplication::applicationStateChanged, m_model.get(),
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive)
+                    m_model->reconcileActivation();
+            });
 }
 
 void LorvaApplicationDelegate::buildWindow()

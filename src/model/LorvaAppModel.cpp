@@ -3,11 +3,9 @@
 
 #include "model/LorvaAppModel.h"
 
-#include "base/Folding.h"
 #include "base/NotificationCentre.h"
-#include "base/RunThen.h"
-#include "base/Trace.h"
-#include "platform/FreeMemory.h"
+#include "model/stores/LogoStore.h"
+#include "platform/PreferenceWatcher.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,22 +14,8 @@ namespace lorva {
 
 namespace {
 
-/// The families in the order that the user's language sorts their names. Thread: worker.
-FontFamilyList sortedByName(std::vector<FontFamilyRecord> families)
-{
-    const NameCollator collator;
-    std::vector<std::pair<QByteArray, size_t>> keys;
-    keys.reserve(families.size());
-    for (size_t i = 0; i < families.size(); ++i)
-        keys.emplace_back(collator.sortKey(families[i].familyName), i);
-    std::stable_sort(keys.begin(), keys.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
-    std::vector<FontFamilyRecord> sorted;
-    sorted.reserve(families.size());
-    for (const auto &[key, index] : keys)
-        sorted.push_back(std::move(families[index]));
-    return makeFamilyList(std::move(sorted));
-}
+/// Beyond this nobody looks for what they did.
+constexpr int kUndoLimit = 200;
 
 } // namespace
 
@@ -40,168 +24,77 @@ QByteArray LorvaAppModel::changeNotification()
     return QByteArrayLiteral("vantrel.merid.lorvaAppModelDidChange");
 }
 
-LorvaAppModel::LorvaAppModel(std::unique_ptr<FontLibraryService> fontLibraryService,
-                             std::unique_ptr<ActivationProvider> activation,
-                             std::unique_ptr<CatalogCache> catalogCache, QObject *parent)
+LorvaAppModel::LorvaAppModel(Dependencies dependencies, QObject *parent)
     : QObject(parent)
-    , m_fontLibraryService(std::move(fontLibraryService))
-    , m_activation(std::move(activation))
-    , m_catalogCache(std::move(catalogCache))
+    , m_fontLibraryService(std::move(dependencies.fontLibraryService))
+    , m_installationService(std::move(dependencies.installationService))
+    , m_watchedFolders(std::move(dependencies.watchedFolders))
+    , m_catalogCache(std::move(dependencies.catalogCache))
+    , m_preferences(dependencies.preferences)
+    , m_collectionStore(m_preferences)
+    , m_styleStore(m_preferences)
+    , m_displaySettingsStore(m_preferences)
+    , m_foundryStore(m_preferences)
+    , m_organizationStore(m_preferences, m_collectionStore, m_styleStore, m_foundryStore)
     , m_catalog(std::make_shared<ReadyCatalog>())
+    , m_organization(m_organizationStore, m_styleStore)
+    , m_collapsedGroups(m_foundryStore.collapsedGroups())
+    , m_display(m_displaySettingsStore, m_selectedSource)
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.model"));
     m_pool.setMaxThreadCount(1);
+    m_quietPool.setObjectName(QStringLiteral("vantrel.lorva.model-quiet"));
+    m_quietPool.setMaxThreadCount(1);
+    m_undoStack.setUndoLimit(kUndoLimit);
+    m_catalogReconcileTask.setSingleShot(true);
+    m_catalogReconcileTask.setInterval(kReconcileDelay);
+    connect(&m_catalogReconcileTask, &QTimer::timeout, this, &LorvaAppModel::loadCatalog);
+
+    LogoStore(m_preferences).migrate(m_displaySettingsStore);
+    m_display.reload();
+    auto *watcher = new PreferenceWatcher(m_preferences, this);
+    connect(watcher, &PreferenceWatcher::changedElsewhere, this,
+            &LorvaAppModel::takeChangesElsewhere);
+    NotificationCentre::shared().observe(ActivationProvider::changeNotification(), this,
+                                         [this](const void *) { activationMayHaveChanged(); });
 }
 
 LorvaAppModel::~LorvaAppModel() = default;
 
-void LorvaAppModel::loadCatalog()
+void LorvaAppModel::changed()
 {
-    m_isLoading = true;
-    m_loadingText.clear();
-    const qint64 generation = ++m_loadGeneration;
-    changed();
-    if (m_catalogCache && !std::exchange(m_snapshotWasRead, true))
-        showSnapshot(generation);
-    else
-        scan(generation);
+    if (onChange)
+        onChange();
+    NotificationCentre::shared().post(changeNotification(), this);
 }
 
-/// The scan waits for that: on two cores it would only delay the first picture.
-void LorvaAppModel::showSnapshot(qint64 generation)
+FontFamilySubset LorvaAppModel::visibleFamilies()
 {
-    m_activation->setWatchedFolders(m_watchedFolders);
-    const auto read = [cache = m_catalogCache.get(),
-                       service = m_fontLibraryService.get()](const std::stop_token &) {
-        std::optional<CatalogSnapshot> snapshot = cache->load();
-        if (!snapshot)
-            return Catalog();
-        ReadyCatalog ready;
-        ready.snapshot = *std::move(snapshot);
-        ready.prepared = service->prepareFamilies(ready.snapshot.families);
-        return Catalog(std::make_shared<ReadyCatalog>(std::move(ready)));
-    };
-    runThen(m_pool, this, read, [this, generation](Catalog catalog) {
-        // A later load may have been quicker.
-        if (catalog && m_catalogGeneration == 0) {
-            installCatalog(std::move(catalog));
-            m_snapshotIsCurrent = true;
-            traceMoment("snapshot shown");
-            changed();
-        }
-        if (generation == m_loadGeneration)
-            scan(generation);
-    });
+    return m_visibleFamilies.answer(
+        {m_selectedSource, m_searchQuery, m_catalogGeneration, m_activationGeneration,
+         m_membershipGeneration},
+        {allFamilies(), m_index.get(), m_activations.get(), m_organization});
 }
 
-void LorvaAppModel::scan(qint64 generation)
-{
-    m_fontLibraryService->loadCatalog(
-        m_watchedFolders,
-        [this, generation](const FontScanPhase &phase) {
-            if (generation != m_loadGeneration)
-                return;
-            m_loadingText = phase.text();
-            // Once cards are on the screen, a scan says nothing until it has a result.
-            if (allFamilies()->empty())
-                changed();
-        },
-        [this, generation](FontCatalogResult result) {
-            if (generation == m_loadGeneration)
-                applyCatalog(std::move(result));
-        });
-}
-
-void LorvaAppModel::applyCatalog(FontCatalogResult result)
-{
-    const qint64 generation = m_loadGeneration;
-    auto makeReady = [result = std::move(result), present = m_catalog,
-                      service = m_fontLibraryService.get()](const std::stop_token &) mutable {
-        const TraceStage stage("catalog: sort and compare");
-        ReadyCatalog ready;
-        ready.snapshot = {sortedByName(std::move(result.families)), result.manufacturers};
-        ready.watchedFontURLs = result.watchedFontURLs;
-        ready.isAsBefore = ready.snapshot == present->snapshot;
-        ready.prepared = service->prepareFamilies(ready.snapshot.families);
-        return Catalog(std::make_shared<ReadyCatalog>(std::move(ready)));
-    };
-    runThen(m_pool, this, std::move(makeReady), [this, generation](Catalog catalog) {
-        if (generation == m_loadGeneration)
-            finishLoad(std::move(catalog));
-    });
-}
-
-void LorvaAppModel::finishLoad(Catalog catalog)
-{
-    const bool isSaved = m_snapshotIsCurrent && catalog->isAsBefore;
-    m_activation->setWatchedFontURLs(catalog->watchedFontURLs);
-    // Even an equal one: faces that could not be found are then looked for again.
-    installCatalog(std::move(catalog));
-    m_snapshotIsCurrent = isSaved;
-    m_isLoading = false;
-    m_loadingText.clear();
-    traceMoment("catalog applied");
-    changed();
-    saveSnapshot();
-}
-
-void LorvaAppModel::installCatalog(Catalog catalog)
-{
-    const TraceStage stage("catalog: install");
-    m_fontLibraryService->setFamilies(catalog->prepared);
-    m_catalog.swap(catalog);
-    ++m_catalogGeneration;
-    ++m_activationGeneration;
-    validateSelection();
-    // Letting go of a large catalog takes longer than a frame.
-    auto letGo = [old = std::move(catalog)](const std::stop_token &) mutable {
-        const TraceStage freeing("catalog: let the old one go");
-        old.reset();
-        returnFreeMemory();
-        return true;
-    };
-    runThen(m_pool, this, std::move(letGo), [](bool) {});
-}
-
-void LorvaAppModel::saveSnapshot()
-{
-    if (!m_catalogCache || (m_snapshotIsCurrent && !m_catalogCache->hasFailed()))
-        return;
-    m_catalogCache->save(m_catalog->snapshot);
-    m_snapshotIsCurrent = true;
-}
-
-FontFamilyList LorvaAppModel::visibleFamilies()
-{
-    const VisibleFamiliesStamp stamp{
-        m_selectedSource, {}, m_catalogGeneration, m_activationGeneration, m_membershipGeneration};
-    if (m_cachedVisibleFamilies && m_visibleFamiliesStamp == stamp)
-        return m_cachedVisibleFamilies;
-    m_cachedVisibleFamilies = familiesOfSource();
-    m_visibleFamiliesStamp = stamp;
-    return m_cachedVisibleFamilies;
-}
-
-FontFamilyList LorvaAppModel::familiesOfSource() const
+void LorvaAppModel::validateSelection()
 {
     const auto kind = m_selectedSource.kind();
-    if (kind == BrowserSource::Kind::discover)
-        return makeFamilyList();
-    if (kind != BrowserSource::Kind::active && kind != BrowserSource::Kind::inactive)
-        return allFamilies();
-    const bool wantsActive = kind == BrowserSource::Kind::active;
-    std::vector<FontFamilyRecord> matching;
-    for (const FontFamilyRecord &family : *allFamilies()) {
-        const auto state = activation(family);
-        if (state && state->isActive() == wantsActive)
-            matching.push_back(family);
+    const QString &id = m_selectedSource.id();
+    const bool hasGone =
+        (kind == BrowserSource::Kind::collection && !m_organization.collectionMembers(id))
+        || (kind == BrowserSource::Kind::foundry && !m_organization.foundryMembers(id));
+    if (hasGone) {
+        m_selectedSource = BrowserSource::allFonts();
+        m_display.select(m_selectedSource);
     }
-    return makeFamilyList(std::move(matching));
-}
-
-std::optional<FontFamilyActivation> LorvaAppModel::activation(const FontFamilyRecord &family) const
-{
-    return m_activation->activation(family);
+    if (!m_selectedFamilyName)
+        return;
+    const FontFamilySubset visible = visibleFamilies();
+    const bool isVisible = std::any_of(visible.begin(), visible.end(), [&](const auto &family) {
+        return family.familyName == *m_selectedFamilyName;
+    });
+    if (!isVisible)
+        m_selectedFamilyName.reset();
 }
 
 void LorvaAppModel::select(const BrowserSource &source)
@@ -209,7 +102,16 @@ void LorvaAppModel::select(const BrowserSource &source)
     if (source == m_selectedSource)
         return;
     m_selectedSource = source;
+    m_display.select(source);
     validateSelection();
+    changed();
+}
+
+void LorvaAppModel::setSearchQuery(const QString &text)
+{
+    if (text == m_searchQuery)
+        return;
+    m_searchQuery = text;
     changed();
 }
 
@@ -229,11 +131,11 @@ void LorvaAppModel::openDetail(const std::optional<QString> &name)
     changed();
 }
 
-void LorvaAppModel::setSampleText(const QString &text)
+void LorvaAppModel::setCatalogueVisible(bool isVisible)
 {
-    if (text == m_sampleText)
+    if (isVisible == m_isCatalogueVisible)
         return;
-    m_sampleText = text;
+    m_isCatalogueVisible = isVisible;
     changed();
 }
 
@@ -245,43 +147,109 @@ void LorvaAppModel::setViewMode(ViewMode mode)
     changed();
 }
 
+void LorvaAppModel::updateDisplay(std::function<void(SourceDisplaySettings &)> change)
+{
+    const DisplayValues before = display();
+    m_display.update(std::move(change));
+    if (display() != before)
+        changed();
+}
+
+void LorvaAppModel::setDisplayForThisRun(const SourceDisplaySettings &settings)
+{
+    m_display.setForThisRun(settings);
+    changed();
+}
+
 void LorvaAppModel::setPointSize(double pointSize)
 {
     if (!std::isfinite(pointSize))
         return;
     const double wanted = std::clamp(pointSize, kMinimumPointSize, kMaximumPointSize);
-    if (wanted == m_browserPointSize)
+    if (wanted != browserPointSize())
+        updateDisplay([=](SourceDisplaySettings &own) { own.browserPointSize = wanted; });
+}
+
+void LorvaAppModel::setFontWeight(double weight)
+{
+    if (!std::isfinite(weight))
         return;
-    m_browserPointSize = wanted;
-    changed();
+    const auto wanted = qint64(std::lround(
+        std::clamp(weight, SourceDisplay::kMinimumWeight, SourceDisplay::kMaximumWeight)));
+    if (double(wanted) != browserFontWeight())
+        updateDisplay([=](SourceDisplaySettings &own) { own.browserFontWeight = wanted; });
+}
+
+void LorvaAppModel::setSampleText(const QString &text)
+{
+    if (text != sampleText())
+        updateDisplay([=](SourceDisplaySettings &own) { own.sampleText = text; });
 }
 
 void LorvaAppModel::setColorMode(ColorMode mode)
 {
-    if (mode == m_colorMode)
-        return;
-    m_colorMode = mode;
-    changed();
+    if (mode != colorMode())
+        updateDisplay([=](SourceDisplaySettings &own) { own.colorMode = mode; });
 }
 
-void LorvaAppModel::validateSelection()
+void LorvaAppModel::setCustomForegroundColorHex(const QString &hex)
 {
-    if (!m_selectedFamilyName)
-        return;
-    const FontFamilyList visible = visibleFamilies();
-    const bool isVisible =
-        std::any_of(visible->begin(), visible->end(), [&](const FontFamilyRecord &family) {
-            return family.familyName == *m_selectedFamilyName;
+    const std::optional<QString> wanted = colorHex(hex);
+    if (wanted && wanted != customForegroundColorHex())
+        updateDisplay([=](SourceDisplaySettings &own) { own.customForegroundColorHex = wanted; });
+}
+
+void LorvaAppModel::setCustomBackgroundColorHex(const QString &hex)
+{
+    const std::optional<QString> wanted = colorHex(hex);
+    if (wanted && wanted != customBackgroundColorHex())
+        updateDisplay([=](SourceDisplaySettings &own) { own.customBackgroundColorHex = wanted; });
+}
+
+void LorvaAppModel::setImageForegroundColorHex(const QString &hex)
+{
+    const std::optional<QString> wanted = colorHex(hex);
+    if (wanted && wanted != imageForegroundColorHex())
+        updateDisplay([=](SourceDisplaySettings &own) { own.imageForegroundColorHex = wanted; });
+}
+
+void LorvaAppModel::setBackgroundImageID(const std::optional<QString> &id)
+{
+    if (id != backgroundImageID())
+        updateDisplay(
+            [=](SourceDisplaySettings &own) { own.backgroundImageID = id.value_or(QString()); });
+}
+
+void LorvaAppModel::setBackgroundImageUserFilename(const std::optional<QString> &filename)
+{
+    if (filename != backgroundImageUserFilename())
+        updateDisplay([=](SourceDisplaySettings &own) {
+            own.backgroundImageUserFilename = filename.value_or(QString());
         });
-    if (!isVisible)
-        m_selectedFamilyName.reset();
 }
 
-void LorvaAppModel::changed()
+void LorvaAppModel::setLogoImageData(const QByteArray &imageData)
 {
-    if (onChange)
-        onChange();
-    NotificationCentre::shared().post(changeNotification(), this);
+    if (imageData != display().logoImageData)
+        updateDisplay([=](SourceDisplaySettings &own) { own.logoImageData = imageData; });
+}
+
+void LorvaAppModel::setLogoSizeRatio(double ratio)
+{
+    if (ratio != display().logoSizeRatio && SourceDisplay::isLogoSizeRatio(ratio))
+        updateDisplay([=](SourceDisplaySettings &own) { own.logoSizeRatio = ratio; });
+}
+
+void LorvaAppModel::setLogoSpacing(double spacing)
+{
+    if (spacing != display().logoSpacing && SourceDisplay::isLogoSpacing(spacing))
+        updateDisplay([=](SourceDisplaySettings &own) { own.logoSpacing = spacing; });
+}
+
+void LorvaAppModel::setLogoVisible(bool isVisible)
+{
+    if (isVisible != display().logoVisible)
+        updateDisplay([=](SourceDisplaySettings &own) { own.logoVisible = isVisible; });
 }
 
 } // namespace lorva

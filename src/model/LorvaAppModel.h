@@ -2,61 +2,64 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "catalog/CatalogCache.h"
-#include "catalog/FontLibraryService.h"
-#include "model/CatalogActivation.h"
+#include "model/LibraryOrganization.h"
+#include "model/ReadyCatalog.h"
 #include "model/records/BrowserSource.h"
 #include "model/records/DisplayRecords.h"
-#include "model/records/FontFamilyList.h"
+#include "model/records/FontFamilySubset.h"
+#include "model/SourceDisplay.h"
+#include "model/stores/CollectionStore.h"
+#include "model/stores/DisplaySettingsStore.h"
+#include "model/stores/FoundryStore.h"
+#include "model/stores/StyleStore.h"
+#include "model/VisibleFamilies.h"
+#include "model/WatchedFolderProvider.h"
 
 #include <QObject>
 #include <QThreadPool>
+#include <QTimer>
+#include <QUndoStack>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace lorva {
 
-/// A catalog as the model shows it, made ready on a worker.
-struct ReadyCatalog
-{
-    /// Sorted by name.
-    CatalogSnapshot snapshot;
-    QSet<FilePath> watchedFontURLs;
-    PreparedFamilies prepared;
-    /// Holds what the catalog before it held.
-    bool isAsBefore = false;
-};
-
-/// What an answer of visibleFamilies() was computed from; equal stamps mean an equal answer.
-struct VisibleFamiliesStamp
-{
-    BrowserSource source;
-    QString query;
-    qint64 catalogGeneration = 0;
-    qint64 activationGeneration = 0;
-    qint64 membershipGeneration = 0;
-    bool operator==(const VisibleFamiliesStamp &) const = default;
-};
-
 /// The one object that holds the library and what the user chose about it.
 ///
-/// Owns: the library service, the activation provider and the snapshot cache it is given. Views
-/// hold it without owning it. Thread: main. Generations only grow while the process lives.
+/// Every change is written through to its store at once, raises the generation that depends on it,
+/// and is told by onChange and changeNotification(). What other processes change in the stores is
+/// noticed and shown likewise.
+///
+/// Owns: the library service, the activation provider, the watched folders and the snapshot cache
+/// it is given, and the stores. Views hold it without owning it. Thread: main. Generations only
+/// grow while the process lives.
 class LorvaAppModel final : public QObject
 {
     Q_OBJECT
 public:
     /// Posted on the notification centre, with the model as object, after a change.
     static QByteArray changeNotification();
-    static constexpr double kMinimumPointSize = 12;
-    static constexpr double kMaximumPointSize = 160;
+    /// Changes that ask for a new scan wait this long for the next one.
+    static constexpr std::chrono::milliseconds kReconcileDelay{1500};
+    static constexpr double kMinimumPointSize = SourceDisplay::kMinimumPointSize;
+    static constexpr double kMaximumPointSize = SourceDisplay::kMaximumPointSize;
 
-    /// Without a `catalogCache` no library is remembered from start to start.
-    LorvaAppModel(std::unique_ptr<FontLibraryService> fontLibraryService,
-                  std::unique_ptr<ActivationProvider> activation,
-                  std::unique_ptr<CatalogCache> catalogCache = nullptr, QObject *parent = nullptr);
+    struct Dependencies
+    {
+        std::unique_ptr<FontLibraryService> fontLibraryService;
+        std::unique_ptr<ActivationProvider> installationService;
+        /// Outlives the model.
+        PreferenceStore &preferences;
+        /// Null: there are none.
+        std::unique_ptr<WatchedFolderProvider> watchedFolders = nullptr;
+        /// Null: no library is remembered from start to start.
+        std::unique_ptr<CatalogCache> catalogCache = nullptr;
+    };
+
+    explicit LorvaAppModel(Dependencies dependencies, QObject *parent = nullptr);
     ~LorvaAppModel() override;
 
     /// Called after every change that views must redraw for.
@@ -64,16 +67,20 @@ public:
 
     FontLibraryService &fontLibraryService() { return *m_fontLibraryService; }
 
+    // The catalog
+
     /// Scans the system's fonts and the watched folders and shows the result; the first time, what
     /// the last process found is shown until then. Returns at once.
     void loadCatalog();
+    /// loadCatalog() when nobody has asked for kReconcileDelay: for what may come in bursts.
+    void requestCatalogReconcile();
+    /// Looks anew which families are switched on, as a load does at its end; does nothing while one
+    /// runs. Returns at once.
+    void reconcileActivation();
     /// True until the scan's result is shown.
     bool isLoading() const { return m_isLoading; }
     /// What the running scan does, for people; empty when none runs.
     QString loadingText() const { return m_loadingText; }
-    /// Folders whose fonts belong to the library, in the user's order. Takes effect with the next
-    /// load.
-    void setWatchedFolders(std::vector<FilePath> folders) { m_watchedFolders = std::move(folders); }
 
     /// Sorted by name as the user's language sorts, ignoring case.
     FontFamilyList allFamilies() const { return m_catalog->snapshot.families; }
@@ -81,54 +88,181 @@ public:
     {
         return m_catalog->snapshot.manufacturers;
     }
-    /// The families that the browser shows for the selected source.
-    FontFamilyList visibleFamilies();
+    /// A family of the present catalog, until the next one comes; null for an unknown name.
+    const FontFamilyRecord *family(const QString &name) const;
+    /// Families that belong together under another name. Nothing fills it.
+    const QHash<QString, QString> &superFamilyMap() const { return m_superFamilyMap; }
     std::optional<FontFamilyActivation> activation(const FontFamilyRecord &family) const;
 
+    // What is shown
+
+    /// The families that the browser shows for selectedSource() and searchQuery(), in the catalog's
+    /// order. A source whose record has gone shows all.
+    FontFamilySubset visibleFamilies();
     BrowserSource selectedSource() const { return m_selectedSource; }
     void select(const BrowserSource &source);
+    QString searchQuery() const { return m_searchQuery; }
+    void setSearchQuery(const QString &text);
     std::optional<QString> selectedFamilyName() const { return m_selectedFamilyName; }
     void selectFamily(const std::optional<QString> &name);
     std::optional<QString> detailFamilyName() const { return m_detailFamilyName; }
     void openDetail(const std::optional<QString> &name);
-
-    QString sampleText() const { return m_sampleText; }
-    void setSampleText(const QString &text);
+    bool isCatalogueVisible() const { return m_isCatalogueVisible; }
+    void setCatalogueVisible(bool isVisible);
     ViewMode viewMode() const { return m_viewMode; }
     void setViewMode(ViewMode mode);
-    double browserPointSize() const { return m_browserPointSize; }
+
+    // How it is shown. Each source has its own settings, as SourceDisplay says; a setter writes
+    // those of the selected source.
+
+    const DisplayValues &display() const { return m_display.values(); }
+    /// Values that the program was started with: they win over stored ones and are not stored.
+    void setDisplayForThisRun(const SourceDisplaySettings &settings);
+    double browserPointSize() const { return display().browserPointSize; }
     /// Clamped to kMinimumPointSize … kMaximumPointSize; values that are no numbers are refused.
     void setPointSize(double pointSize);
-    ColorMode colorMode() const { return m_colorMode; }
+    double browserFontWeight() const { return display().browserFontWeight; }
+    /// Clamped to 100 … 900 and rounded; values that are no numbers are refused.
+    void setFontWeight(double weight);
+    QString sampleText() const { return display().sampleText; }
+    void setSampleText(const QString &text);
+    ColorMode colorMode() const { return display().colorMode; }
     void setColorMode(ColorMode mode);
-    QString customForegroundColorHex() const { return m_customForegroundColorHex; }
-    QString customBackgroundColorHex() const { return m_customBackgroundColorHex; }
+    /// As all colours: "#" and six hexadecimal digits; anything else is refused.
+    QString customForegroundColorHex() const { return display().customForegroundColorHex; }
+    void setCustomForegroundColorHex(const QString &hex);
+    QString customBackgroundColorHex() const { return display().customBackgroundColorHex; }
+    void setCustomBackgroundColorHex(const QString &hex);
+    QString imageForegroundColorHex() const { return display().imageForegroundColorHex; }
+    void setImageForegroundColorHex(const QString &hex);
+    /// A built-in background image; nothing for none.
+    std::optional<QString> backgroundImageID() const { return display().backgroundImageID; }
+    void setBackgroundImageID(const std::optional<QString> &id);
+    /// A background image of the user's own; nothing for none.
+    std::optional<QString> backgroundImageUserFilename() const
+    {
+        return display().backgroundImageUserFilename;
+    }
+    void setBackgroundImageUserFilename(const std::optional<QString> &filename);
+    /// The bytes of an image file; empty for none.
+    void setLogoImageData(const QByteArray &imageData);
+    /// Out of reason (not within 0.01 … 20, 0 … 20): refused.
+    void setLogoSizeRatio(double ratio);
+    void setLogoSpacing(double spacing);
+    void setLogoVisible(bool isVisible);
+
+    // The user's organisation. A change that fails (an unknown id, a name that cannot be) changes
+    // nothing; its error is fit to be shown. Each can be undone.
+
+    QUndoStack &undoStack() { return m_undoStack; }
+    const std::vector<FontCollectionRecord> &collections() const
+    {
+        return m_organization.organization().collections;
+    }
+    /// Gives the new collection's id.
+    Result<QString> createCollection(const QString &name);
+    Result<void> renameCollection(const QString &id, const QString &name);
+    Result<void> deleteCollection(const QString &id);
+    Result<void> addFamilies(const QString &collectionID, const QStringList &familyNames);
+    Result<void> removeFamilies(const QString &collectionID, const QStringList &familyNames);
+    bool isMember(const QString &familyName, const QString &collectionID) const
+    {
+        return m_organization.collectionMemberSet(collectionID).contains(familyName);
+    }
+    /// `base`, with a number if a collection has that name already.
+    QString freeCollectionName(const QString &base) const;
+
+    const std::vector<FontStyleCategoryRecord> &styleCategories() const
+    {
+        return m_organization.organization().styleCategories;
+    }
+    const QHash<QString, QString> &styleIDByFamily() const
+    {
+        return m_organization.styleIDByFamily();
+    }
+    /// Puts each family into exactly that category, or into none.
+    Result<void> setStyle(const QStringList &familyNames, const std::optional<QString> &categoryID);
+    /// Gives the new category's id.
+    Result<QString> createStyleCategory(const QString &name);
+    Result<void> renameStyleCategory(const QString &id, const QString &name);
+    Result<void> deleteStyleCategory(const QString &id);
+
+    /// With the user's corrections, without those that the user hid.
+    const std::vector<FoundryCollectionRecord> &foundryCollections() const
+    {
+        return m_organization.foundryCollections();
+    }
+    const std::vector<FoundryCollectionRecord> &dismissedFoundries() const
+    {
+        return m_organization.dismissedFoundries();
+    }
+    const QSet<QString> &dismissedFoundryIDs() const
+    {
+        return m_organization.organization().foundries.dismissed;
+    }
+    const QHash<QString, QString> &foundryIDByFamily() const
+    {
+        return m_organization.foundryIDByFamily();
+    }
+    /// An empty id: of no foundry.
+    Result<void> setFoundry(const QStringList &familyNames, const QString &foundryID);
+    /// Back to the foundry that the fonts name.
+    Result<void> resetFoundry(const QStringList &familyNames);
+    /// Nothing brings the fonts' own name back.
+    Result<void> renameFoundry(const QString &id, const std::optional<QString> &name);
+    Result<void> dismissFoundry(const QString &id);
+    Result<void> bringBackFoundry(const QString &id);
+
+    const QSet<QString> &collapsedGroups() const { return m_collapsedGroups; }
+    void toggleGroupCollapsed(const QString &group);
+    bool hasSeenQuizIntro() const;
+    void setHasSeenQuizIntro();
+    bool hidesQuizPromoInSidebar() const;
+    void hideQuizPromoInSidebar();
 
     qint64 catalogGeneration() const { return m_catalogGeneration; }
     qint64 activationGeneration() const { return m_activationGeneration; }
     qint64 membershipGeneration() const { return m_membershipGeneration; }
 
 private:
-    using Catalog = std::shared_ptr<const ReadyCatalog>;
-
     void showSnapshot(qint64 generation);
+    void indexSnapshot();
     void scan(qint64 generation);
     void applyCatalog(FontCatalogResult result);
-    void finishLoad(Catalog catalog);
+    void finishLoad(const Catalog &catalog);
+    void endLoad();
     void installCatalog(Catalog catalog);
+    void finishClassification(const Catalog &catalog);
     void saveSnapshot();
-    FontFamilyList familiesOfSource() const;
+    void activationMayHaveChanged();
+    void refreshActivations();
+
     void validateSelection();
+    void updateDisplay(std::function<void(SourceDisplaySettings &)> change);
+    Result<void> changeOrganization(const QString &commandName, LibraryOrganization::Change change);
+    void membershipChanged();
+    void takeChangesElsewhere();
     void changed();
 
     std::unique_ptr<FontLibraryService> m_fontLibraryService;
-    std::unique_ptr<ActivationProvider> m_activation;
+    std::unique_ptr<ActivationProvider> m_installationService;
+    std::unique_ptr<WatchedFolderProvider> m_watchedFolders;
     std::unique_ptr<CatalogCache> m_catalogCache;
-    std::vector<FilePath> m_watchedFolders;
+    PreferenceStore &m_preferences;
+    CollectionStore m_collectionStore;
+    StyleStore m_styleStore;
+    DisplaySettingsStore m_displaySettingsStore;
+    FoundryStore m_foundryStore;
+    OrganizationStore m_organizationStore;
     QThreadPool m_pool;
+    /// For what nobody waits for.
+    QThreadPool m_quietPool;
 
     /// Never null.
     Catalog m_catalog;
+    /// Null while they are being worked out.
+    std::shared_ptr<const LibraryIndex> m_index;
+    std::shared_ptr<const FamilyActivations> m_activations;
     /// The snapshot file was looked at: once in a process.
     bool m_snapshotWasRead = false;
     /// The snapshot file holds m_catalog, or is being made to.
@@ -139,18 +273,22 @@ private:
     qint64 m_catalogGeneration = 0;
     qint64 m_activationGeneration = 0;
     qint64 m_membershipGeneration = 0;
-    FontFamilyList m_cachedVisibleFamilies;
-    std::optional<VisibleFamiliesStamp> m_visibleFamiliesStamp;
+    qint64 m_activationRun = 0;
+    QTimer m_catalogReconcileTask;
+
+    LibraryOrganization m_organization;
+    QUndoStack m_undoStack;
+    QHash<QString, QString> m_superFamilyMap;
+    QSet<QString> m_collapsedGroups;
+    VisibleFamilies m_visibleFamilies;
 
     BrowserSource m_selectedSource;
+    QString m_searchQuery;
     std::optional<QString> m_selectedFamilyName;
     std::optional<QString> m_detailFamilyName;
-    QString m_sampleText = QStringLiteral("Aa 123");
+    bool m_isCatalogueVisible = false;
     ViewMode m_viewMode = ViewMode::grid;
-    double m_browserPointSize = 36;
-    ColorMode m_colorMode = ColorMode::white;
-    QString m_customForegroundColorHex = QStringLiteral("#FFFFFF");
-    QString m_customBackgroundColorHex = QStringLiteral("#F04000");
+    SourceDisplay m_display;
 };
 
 } // namespace lorva

@@ -5,6 +5,8 @@
 
 #include "ui/browser/FontBrowserViewController.h"
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
@@ -29,21 +31,35 @@ ColorPair colorsOf(const LorvaAppModel &model)
     return {QStringLiteral("#000000"), QStringLiteral("#FFFFFF")};
 }
 
-QString titleOf(const BrowserSource &source)
+template <class Records>
+std::optional<QString> nameOf(const Records &records, const QString &id)
 {
-    switch (source.kind()) {
-    case BrowserSource::Kind::active:
-        return LorvaRootSplitViewController::tr("Active");
-    case BrowserSource::Kind::inactive:
-        return LorvaRootSplitViewController::tr("Inactive");
-    default:
-        return LorvaRootSplitViewController::tr("All Fonts");
-    }
+    const auto found = std::ranges::find(records, id, [](const auto &record) { return record.id; });
+    return found == records.end() ? std::nullopt : std::optional(found->name);
 }
 
-BrowserEmptyState emptyStateOf(const BrowserSource &source)
+QString titleOf(const BrowserSource &source, const LorvaAppModel &model)
+{
+    using Kind = BrowserSource::Kind;
+    std::optional<QString> title;
+    if (source.kind() == Kind::active)
+        title = LorvaRootSplitViewController::tr("Active");
+    else if (source.kind() == Kind::inactive)
+        title = LorvaRootSplitViewController::tr("Inactive");
+    else if (source.kind() == Kind::style)
+        title = nameOf(model.styleCategories(), source.id());
+    else if (source.kind() == Kind::collection)
+        title = nameOf(model.collections(), source.id());
+    else if (source.kind() == Kind::foundry)
+        title = nameOf(model.foundryCollections(), source.id());
+    return title.value_or(LorvaRootSplitViewController::tr("All Fonts"));
+}
+
+BrowserEmptyState emptyStateOf(const BrowserSource &source, const QString &query)
 {
     using Empty = BrowserEmptyState::SourceEmpty;
+    if (!query.isEmpty())
+        return {BrowserEmptyState::NoSearchResults{query}};
     switch (source.kind()) {
     case BrowserSource::Kind::active:
         return {
@@ -54,6 +70,13 @@ BrowserEmptyState emptyStateOf(const BrowserSource &source)
         return {Empty{LorvaRootSplitViewController::tr("No Inactive Fonts"),
                       LorvaRootSplitViewController::tr(
                           "Fonts of your folders that are not switched on appear here."),
+                      false}};
+    case BrowserSource::Kind::style:
+    case BrowserSource::Kind::collection:
+    case BrowserSource::Kind::foundry:
+        return {Empty{LorvaRootSplitViewController::tr("No Fonts Here"),
+                      LorvaRootSplitViewController::tr(
+                          "None of the families that belong here are on this computer."),
                       false}};
     default:
         return {Empty{LorvaRootSplitViewController::tr("No Fonts"),
@@ -85,15 +108,18 @@ FontBrowserState LorvaRootSplitViewController::browserState() const
 {
     FontBrowserState state;
     state.source = m_model.selectedSource();
-    state.title = titleOf(state.source);
+    state.title = titleOf(state.source, m_model);
     state.families = m_model.visibleFamilies();
     state.selectedFamilyName = m_model.selectedFamilyName();
+    state.searchQuery = m_model.searchQuery();
     state.viewMode = m_model.viewMode();
+    state.fontWeight = int(m_model.browserFontWeight());
     state.pointSize = m_model.browserPointSize();
     state.colorMode = m_model.colorMode();
     const ColorPair colors = colorsOf(m_model);
     state.foregroundColorHex = colors.foreground;
     state.backgroundColorHex = colors.background;
+    state.imageForegroundColorHex = m_model.imageForegroundColorHex();
     state.sampleText = m_model.sampleText();
     state.activationProvider = [this](const FontFamilyRecord &family) {
         return m_model.activation(family);
@@ -102,8 +128,8 @@ FontBrowserState LorvaRootSplitViewController::browserState() const
     state.activationGeneration = m_model.activationGeneration();
     state.isLoading = m_model.isLoading();
     state.loadingText = m_model.loadingText();
-    if (state.families->empty() && !state.isLoading)
-        state.emptyState = emptyStateOf(state.source);
+    if (state.families.empty() && !state.isLoading)
+        state.emptyState = emptyStateOf(state.source, m_model.searchQuery().trimmed());
     return state;
 }
 

@@ -34,7 +34,7 @@ protected:
     void restart()
     {
         library.restart(home.child("Lorva"));
-        library.model->setWatchedFolders({watched});
+        *library.watchedFolders = {watched};
     }
 
     FilePath snapshotFile() const { return home.child("Lorva/catalog.json"); }

@@ -100,7 +100,7 @@ TEST(LorvaAppModel, SourcesFollowActivation)
     library.addFamily(QStringLiteral("System"));
     const FilePath folder = test::TestHome::instance().makeFolder("watched");
     test::writeFile(folder, "w.ttf", test::FontBuilder(QStringLiteral("Watched")).build());
-    library.model->setWatchedFolders({folder});
+    *library.watchedFolders = {folder};
     ASSERT_TRUE(library.load());
 
     EXPECT_EQ(library.visibleNames().size(), 2);
@@ -146,14 +146,14 @@ TEST(CatalogActivation, TellsWhatTheSystemOffersFromWhatIsOnlyWatched)
     const auto inactive = FontFamilyActivation::inactive();
     const auto active = FontFamilyActivation::active(std::nullopt, false);
     const auto mixed = FontFamilyActivation::active(std::nullopt, true);
-    EXPECT_EQ(activation.activation(familyWith({"/w/a.ttf"})), inactive);
-    EXPECT_EQ(activation.activation(familyWith({"/usr/share/fonts/x.ttf"})), active)
+    EXPECT_EQ(activation.state()->activation(familyWith({"/w/a.ttf"})), inactive);
+    EXPECT_EQ(activation.state()->activation(familyWith({"/usr/share/fonts/x.ttf"})), active)
         << "watching a system folder switches nothing off";
-    EXPECT_EQ(activation.activation(familyWith({"/opt/y.ttf"})), active);
-    EXPECT_EQ(activation.activation(familyWith({"/opt/y.ttf", "/w/a.ttf"})), mixed);
-    EXPECT_EQ(activation.activation(familyWith({nullptr, "/w/a.ttf"})), inactive);
-    EXPECT_EQ(activation.activation(familyWith({nullptr})), std::nullopt);
-    EXPECT_EQ(activation.activation(familyWith({})), std::nullopt);
+    EXPECT_EQ(activation.state()->activation(familyWith({"/opt/y.ttf"})), active);
+    EXPECT_EQ(activation.state()->activation(familyWith({"/opt/y.ttf", "/w/a.ttf"})), mixed);
+    EXPECT_EQ(activation.state()->activation(familyWith({nullptr, "/w/a.ttf"})), inactive);
+    EXPECT_EQ(activation.state()->activation(familyWith({nullptr})), std::nullopt);
+    EXPECT_EQ(activation.state()->activation(familyWith({})), std::nullopt);
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/CatalogActivation.h"
 #include "model/LorvaAppModel.h"
+#include "platform/MemoryPreferenceStore.h"
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
 #include "support/Waiting.h"
@@ -60,11 +62,29 @@ public:
     Location systemFont() const override { return {path, 0}; }
 };
 
+/// The folders that a case lists as watched.
+class ListedFolders final : public WatchedFolderProvider
+{
+public:
+    explicit ListedFolders(std::shared_ptr<const std::vector<FilePath>> folders)
+        : m_folders(std::move(folders))
+    {
+    }
+    std::vector<FilePath> resolvedFolders() override { return *m_folders; }
+
+private:
+    std::shared_ptr<const std::vector<FilePath>> m_folders;
+};
+
 /// A model over fonts built for the case: families "<prefix> 000", "<prefix> 001", …
 struct LibraryFixture
 {
     std::shared_ptr<FolderFonts> fonts = std::make_shared<FolderFonts>();
     std::shared_ptr<FixtureSystemFont> systemFont = std::make_shared<FixtureSystemFont>();
+    /// A case may put another in its place and start the model anew.
+    std::unique_ptr<PreferenceStore> preferences = std::make_unique<MemoryPreferenceStore>();
+    std::shared_ptr<std::vector<FilePath>> watchedFolders =
+        std::make_shared<std::vector<FilePath>>();
     std::unique_ptr<LorvaAppModel> model;
 
     LibraryFixture()
@@ -72,10 +92,7 @@ struct LibraryFixture
         systemFont->path = addFamily(QStringLiteral("Stand In"));
         fonts->files.clear();
         fonts->publish();
-        model = std::make_unique<LorvaAppModel>(
-            std::make_unique<FontLibraryService>(
-                FontLibraryService::Dependencies{fonts, systemFont}),
-            std::make_unique<CatalogActivation>(PlatformFolders()));
+        makeModel({fonts, systemFont}, nullptr);
     }
 
     /// A new model, as of a new process, that keeps its caches in `folder`.
@@ -84,10 +101,17 @@ struct LibraryFixture
         model.reset();
         FontLibraryService::Dependencies dependencies{fonts, systemFont};
         dependencies.cacheFileURL = folder.child("parse-cache.json");
-        model = std::make_unique<LorvaAppModel>(
+        makeModel(std::move(dependencies),
+                  std::make_unique<CatalogCache>(folder.child("catalog.json")));
+    }
+
+    void makeModel(FontLibraryService::Dependencies dependencies,
+                   std::unique_ptr<CatalogCache> catalogCache)
+    {
+        model = std::make_unique<LorvaAppModel>(LorvaAppModel::Dependencies{
             std::make_unique<FontLibraryService>(std::move(dependencies)),
-            std::make_unique<CatalogActivation>(PlatformFolders()),
-            std::make_unique<CatalogCache>(folder.child("catalog.json")));
+            std::make_unique<CatalogActivation>(PlatformFolders()), *preferences,
+            std::make_unique<ListedFolders>(watchedFolders), std::move(catalogCache)});
     }
 
     FilePath addFamily(const QString &name, const std::u32string &characters = U"Aa 123")
@@ -119,7 +143,7 @@ struct LibraryFixture
     QStringList visibleNames()
     {
         QStringList names;
-        for (const FontFamilyRecord &family : *model->visibleFamilies())
+        for (const FontFamilyRecord &family : model->visibleFamilies())
             names.append(family.familyName);
         return names;
     }

@@ -5,6 +5,7 @@
 #include "model/LorvaAppModel.h"
 #include "model/records/BrowserSource.h"
 #include "model/records/DisplayRecords.h"
+#include "model/records/FontFamilySubset.h"
 
 #include <QImage>
 
@@ -38,8 +39,8 @@ struct FontBrowserState
 {
     QString title = QStringLiteral("All Fonts");
     BrowserSource source;
-    /// In display order. Never null.
-    FontFamilyList families = std::make_shared<const std::vector<FontFamilyRecord>>();
+    /// In display order.
+    FontFamilySubset families;
     std::optional<QString> selectedFamilyName;
     QString searchQuery;
     ViewMode viewMode = ViewMode::grid;

@@ -81,7 +81,7 @@ FontBrowserViewController::~FontBrowserViewController() = default;
 void FontBrowserViewController::apply(const FontBrowserState &state)
 {
     const FontBrowserState previous = std::exchange(m_state, state);
-    const bool spins = m_state.families->empty() && m_state.isLoading;
+    const bool spins = m_state.families.empty() && m_state.isLoading;
     const bool isEmpty = m_state.emptyState && !m_state.isLoading;
     m_loading->setText(m_state.loadingText);
     m_loading->setVisible(spins);
@@ -131,8 +131,8 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
     if (previous.families != m_state.families
         || previous.catalogGeneration != m_state.catalogGeneration) {
         m_orderedIDs.clear();
-        m_orderedIDs.reserve(qsizetype(m_state.families->size()));
-        for (const FontFamilyRecord &family : *m_state.families)
+        m_orderedIDs.reserve(qsizetype(m_state.families.size()));
+        for (const FontFamilyRecord &family : m_state.families)
             m_orderedIDs.append(family.familyName);
         m_prewarmTimer->start();
     }
@@ -146,7 +146,7 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
 
 FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) const
 {
-    const FontFamilyRecord &family = m_state.families->at(size_t(index));
+    const FontFamilyRecord &family = m_state.families[size_t(index)];
     FontCardConfiguration card;
     card.family = family;
     card.previewText = m_state.sampleText;
@@ -216,7 +216,7 @@ bool FontBrowserViewController::isSettled() const
 bool FontBrowserViewController::isDrawn() const
 {
     const auto &items = m_collection->visibleItems();
-    return !(m_state.isLoading && m_state.families->empty())
+    return !(m_state.isLoading && m_state.families.empty())
         && std::none_of(items.begin(), items.end(), [](const auto &entry) {
                return entry.second->contentView().previewView().isWaiting();
            });

@@ -73,7 +73,7 @@ private:
     struct Prewarmed
     {
         std::vector<int> items;
-        FontFamilyList families;
+        FontFamilySubset families;
         qint64 catalogGeneration = 0;
         ViewMode viewMode = ViewMode::grid;
         double pointSize = 0;

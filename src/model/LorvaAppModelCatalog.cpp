@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+// The way from files to what is shown: snapshot, scan, result.
+
+#include "model/LorvaAppModel.h"
+
+#include "base/RunThen.h"
+#include "base/Trace.h"
+#include "platform/FreeMemory.h"
+#include "platform/ThreadPriority.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace lorva {
+
+void LorvaAppModel::loadCatalog()
+{
+    m_catalogReconcileTask.stop();
+    m_isLoading = true;
+    m_loadingText.clear();
+    const qint64 generation = ++m_loadGeneration;
+    changed();
+    if (m_catalogCache && !std::exchange(m_snapshotWasRead, true))
+        showSnapshot(generation);
+    else
+        scan(generation);
+}
+
+void LorvaAppModel::requestCatalogReconcile()
+{
+    m_catalogReconcileTask.start();
+}
+
+/// The scan waits for that: on two cores it would only delay the first picture.
+void LorvaAppModel::showSnapshot(qint64 generation)
+{
+    if (m_watchedFolders)
+        m_installationService->setWatchedFolders(m_watchedFolders->resolvedFolders());
+    const auto read = [cache = m_catalogCache.get(), service = m_fontLibraryService.get()](
+                          const std::stop_token &) { return readSnapshot(*cache, *service); };
+    runThen(m_pool, this, read, [this, generation](Catalog catalog) {
+        // A later load may have been quicker.
+        if (catalog && m_catalogGeneration == 0) {
+            installCatalog(std::move(catalog));
+            m_snapshotIsCurrent = true;
+            traceMoment("snapshot shown");
+            changed();
+            indexSnapshot();
+        }
+        if (generation == m_loadGeneration)
+            scan(generation);
+    });
+}
+
+/// The snapshot is on the screen before what only searches, foundries and two of the sources need.
+void LorvaAppModel::indexSnapshot()
+{
+    struct Worked
+    {
+        std::shared_ptr<const LibraryIndex> index;
+        std::shared_ptr<const FamilyActivations> activations;
+    };
+    const auto work = [catalog = m_catalog,
+                       state = m_installationService->state()](const std::stop_token &) {
+        lowerThisThreadsPriority();
+        return Worked{makeLibraryIndex(catalog->snapshot),
+                      activationsOf(catalog->snapshot.families, *state)};
+    };
+    runThen(m_quietPool, this, work, [this, generation = m_catalogGeneration](Worked worked) {
+        if (generation != m_catalogGeneration)
+            return;
+        m_index = std::move(worked.index);
+        m_activations = std::move(worked.activations);
+        m_organization.setDerivedFoundries(m_index->derivedFoundries);
+        m_visibleFamilies.forget();
+        ++m_activationGeneration;
+        membershipChanged();
+    });
+}
+
+void LorvaAppModel::scan(qint64 generation)
+{
+    m_fontLibraryService->loadCatalog(
+        m_watchedFolders ? m_watchedFolders->resolvedFolders() : std::vector<FilePath>(),
+        [this, generation](const FontScanPhase &phase) {
+            if (generation != m_loadGeneration)
+                return;
+            m_loadingText = phase.text();
+            // Once cards are on the screen, a scan says nothing until it has a result.
+            if (allFamilies()->empty())
+                changed();
+        },
+        [this, generation](FontCatalogResult result) {
+            if (generation == m_loadGeneration)
+                applyCatalog(std::move(result));
+        });
+}
+
+void LorvaAppModel::applyCatalog(FontCatalogResult result)
+{
+    m_installationService->setWatchedFontURLs(result.watchedFontURLs);
+    const CatalogCircumstances circumstances{m_catalog, m_index, m_installationService->state(),
+                                             m_organization.unclassified()};
+    auto work = [result = std::move(result), circumstances,
+                 service = m_fontLibraryService.get()](const std::stop_token &) mutable {
+        return makeReady(std::move(result), circumstances, *service);
+    };
+    runThen(m_pool, this, std::move(work), [this, generation = m_loadGeneration](Catalog catalog) {
+        if (generation == m_loadGeneration)
+            finishLoad(catalog);
+    });
+}
+
+void LorvaAppModel::finishLoad(const Catalog &catalog)
+{
+    const bool isSaved = m_snapshotIsCurrent && catalog->isAsBefore;
+    // Even an equal one: faces that could not be found are then looked for again.
+    installCatalog(catalog);
+    m_snapshotIsCurrent = isSaved;
+    finishClassification(catalog);
+    m_organization.setDerivedFoundries(m_index->derivedFoundries);
+    ++m_membershipGeneration;
+    m_installationService->reconcile(
+        allFamilies(),
+        [model = QPointer(this), state = catalog->activationState, generation = m_loadGeneration] {
+            if (!model || generation != model->m_loadGeneration)
+                return;
+            if (model->m_installationService->state() != state)
+                model->refreshActivations();
+            model->endLoad();
+        });
+}
+
+void LorvaAppModel::endLoad()
+{
+    m_isLoading = false;
+    m_loadingText.clear();
+    validateSelection();
+    traceMoment("catalog applied");
+    changed();
+    saveSnapshot();
+}
+
+void LorvaAppModel::installCatalog(Catalog catalog)
+{
+    const TraceStage stage("catalog: install");
+    m_fontLibraryService->setFamilies(catalog->prepared);
+    m_index = catalog->index;
+    m_activations = catalog->activations;
+    m_catalog.swap(catalog);
+    ++m_catalogGeneration;
+    ++m_activationGeneration;
+    // Letting go of a large catalog takes longer than a frame.
+    auto letGo = [old = std::move(catalog)](const std::stop_token &) mutable {
+        const TraceStage freeing("catalog: let the old one go");
+        old.reset();
+        returnFreeMemory();
+        return true;
+    };
+    runThen(m_pool, this, std::move(letGo), [](bool) {});
+}
+
+void LorvaAppModel::finishClassification(const Catalog &catalog)
+{
+    if (!catalog->unclassified)
+        return;
+    m_organization.finishClassification(
+        *catalog->unclassified, catalog->classified,
+        [families = allFamilies()](const LibraryOrganization::Unclassified &from) {
+            return classified(families, from);
+        });
+}
+
+void LorvaAppModel::saveSnapshot()
+{
+    if (!m_catalogCache || (m_snapshotIsCurrent && !m_catalogCache->hasFailed()))
+        return;
+    m_catalogCache->save(m_catalog->snapshot);
+    m_snapshotIsCurrent = true;
+}
+
+const FontFamilyRecord *LorvaAppModel::family(const QString &name) const
+{
+    if (m_index) {
+        const std::optional<quint32> place = m_index->place(name);
+        return place ? &(*allFamilies())[*place] : nullptr;
+    }
+    const auto found = std::ranges::find(*allFamilies(), name, &FontFamilyRecord::familyName);
+    return found == allFamilies()->end() ? nullptr : &*found;
+}
+
+std::optional<FontFamilyActivation> LorvaAppModel::activation(const FontFamilyRecord &family) const
+{
+    return m_installationService->state()->activation(family);
+}
+
+void LorvaAppModel::reconcileActivation()
+{
+    // Its end does the same.
+    if (m_isLoading)
+        return;
+    m_installationService->reconcile(allFamilies(), [model = QPointer(this)] {
+        if (model)
+            model->refreshActivations();
+    });
+}
+
+void LorvaAppModel::activationMayHaveChanged()
+{
+    // Cards show it at once; the sources Active and Inactive follow from a worker.
+    ++m_activationGeneration;
+    changed();
+    refreshActivations();
+    requestCatalogReconcile();
+}
+
+void LorvaAppModel::refreshActivations()
+{
+    const auto work = [families = allFamilies(),
+                       state = m_installationService->state()](const std::stop_token &) {
+        lowerThisThreadsPriority();
+        return activationsOf(families, *state);
+    };
+    runThen(m_quietPool, this, work,
+            [this, wanted = ++m_activationRun,
+             catalog = m_catalogGeneration](std::shared_ptr<const FamilyActivations> activations) {
+                if (wanted != m_activationRun || catalog != m_catalogGeneration)
+                    return;
+                m_activations = std::move(activations);
+                ++m_activationGeneration;
+                validateSelection();
+                changed();
+            });
+}
+
+} // namespace lorva
