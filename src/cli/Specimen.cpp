@@ -3,7 +3,7 @@
 #include "cli/Specimen.h"
 
 #include "base/AtomicFile.h"
-#include "install/FontFolderWalk.h"
+#include "cli/OutputFile.h"
 #include "text/GlyphPainter.h"
 
 #include <QBuffer>
@@ -12,31 +12,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include <sys/stat.h>
-
 namespace lorva::cli {
 
 namespace {
-
-bool isSameFile(const FilePath &a, const FilePath &b)
-{
-    struct stat first;
-    struct stat second;
-    return ::stat(a.c_str(), &first) == 0 && ::stat(b.c_str(), &second) == 0
-        && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
-}
-
-/// By name, by identity or by contents: a slip of the hand must not cost anyone a font.
-Result<void> checkPicturePath(const SpecimenRequest &request)
-{
-    if (isSameFile(request.font, request.picture) || isFontFileName(request.picture)
-        || FontFile::open(request.picture)) {
-        return failure(ErrorKind::invalidValue,
-                       request.picture.displayText()
-                           + QStringLiteral(": refusing to write over a font file"));
-    }
-    return {};
-}
 
 Result<FaceKey> faceKey(const FontFile &file, const SpecimenRequest &request)
 {
@@ -124,7 +102,7 @@ Result<QByteArray> drawPng(const Page &page, const SpecimenRequest &request)
 
 Result<void> writeSpecimen(const SpecimenRequest &request)
 {
-    if (Result<void> checked = checkPicturePath(request); !checked)
+    if (Result<void> checked = refuseFontFile(request.picture); !checked)
         return checked;
     const auto face = openFace(request);
     if (!face)

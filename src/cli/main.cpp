@@ -4,6 +4,7 @@
 #include "cli/Console.h"
 
 #include <QByteArray>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <clocale>
@@ -13,13 +14,21 @@ namespace {
 
 constexpr char kHelp[] = "Usage: lorvactl COMMAND [OPTION]...\n"
                          "\n"
-                         "  list       list the font families of this machine\n"
-                         "  scan       read the fonts that changed, and tell what that took\n"
-                         "  info       show what a font file says about its faces\n"
-                         "  specimen   draw text in a font as a PNG picture\n"
+                         "  list         list the font families of this machine\n"
+                         "  search       list those that a search finds\n"
+                         "  scan         read the fonts that changed, and tell what that took\n"
+                         "  info         show what a font file says about its faces\n"
+                         "  specimen     draw text in a font as a PNG picture\n"
                          "\n"
-                         "  --help     show this help; also after a command\n"
-                         "  --version  show the version\n"
+                         "  collections  list, make and change collections\n"
+                         "  styles       list, make and change style categories\n"
+                         "  foundries    list and correct the foundries\n"
+                         "  export       write all of that to a file\n"
+                         "  import       take it in from such a file\n"
+                         "  doctor       tell how preferences and caches fare\n"
+                         "\n"
+                         "  --help       show this help; also after a command\n"
+                         "  --version    show the version\n"
                          "\n"
                          "Exit status: 0 done, 1 failed, 2 the command was not understood.\n";
 
@@ -31,9 +40,16 @@ struct Command
 
 constexpr Command kCommands[]{
     {"list", lorva::cli::runListCommand},
+    {"search", lorva::cli::runSearchCommand},
     {"scan", lorva::cli::runScanCommand},
     {"info", lorva::cli::runInfoCommand},
     {"specimen", lorva::cli::runSpecimenCommand},
+    {"collections", lorva::cli::runCollectionsCommand},
+    {"styles", lorva::cli::runStylesCommand},
+    {"foundries", lorva::cli::runFoundriesCommand},
+    {"export", lorva::cli::runExportCommand},
+    {"import", lorva::cli::runImportCommand},
+    {"doctor", lorva::cli::runDoctorCommand},
 };
 
 } // namespace
@@ -43,6 +59,8 @@ int main(int argc, char **argv)
     using namespace lorva::cli;
     std::setlocale(LC_ALL, "");
     std::setlocale(LC_NUMERIC, "C");
+    // A command says itself what failed, in one line. QT_LOGGING_RULES still brings the log back.
+    QLoggingCategory::setFilterRules(QStringLiteral("lorva.*.warning=false"));
     const std::vector<QByteArray> words(argv + std::min(argc, 1), argv + argc);
     if (words.empty())
         return failUsage({}, QStringLiteral("a command is missing"));

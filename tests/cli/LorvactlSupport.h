@@ -9,6 +9,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 namespace lorva::test {
 
 struct Outcome
@@ -28,6 +30,9 @@ inline Outcome finished(QProcess &process)
 inline Outcome lorvactl(const QStringList &arguments)
 {
     QProcess process;
+    // AsOrdinaryUser changes the effective user only; a real and an effective user that differ
+    // would keep the leak checker from its work in the new process.
+    process.setChildProcessModifier([] { ::setreuid(::geteuid(), ::geteuid()); });
     process.setWorkingDirectory(TestHome::instance().home().displayText());
     process.start(QStringLiteral(LORVACTL_PATH), arguments);
     return finished(process);

@@ -36,9 +36,10 @@ FilePath font(const QByteArray &name, const FontBuilder &builder = FontBuilder("
 
 TEST(Lorvactl, ExplainsItself)
 {
-    for (const QStringList &arguments :
-         {QStringList{"--help"}, QStringList{"list", "--help"}, QStringList{"info", "--help"},
-          QStringList{"specimen", "--help"}, QStringList{"scan", "--help"}}) {
+    for (const char *command : {"", "list", "search", "scan", "info", "specimen", "collections",
+                                "styles", "foundries", "export", "import", "doctor"}) {
+        QStringList arguments{QString::fromLatin1(command), "--help"};
+        arguments.removeAll(QString());
         const Outcome outcome = lorvactl(arguments);
         EXPECT_EQ(outcome.exitCode, 0);
         EXPECT_THAT(outcome.out.toStdString(), StartsWith("Usage: lorvactl "));

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "base/JsonWriter.h"
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/DoctorChecks.h"
+#include "platform/linux/XdgFolders.h"
+
+#include <algorithm>
+
+namespace lorva::cli {
+
+namespace {
+
+constexpr char kHelp[] = "Usage: lorvactl doctor [--json]\n"
+                         "\n"
+                         "Tells how the preferences and the caches fare, and changes nothing. One "
+                         "line for each finding:\n"
+                         "\"ok\", \"note\" or \"wrong\", a tab, the file or preference, a tab, "
+                         "what there is to say. A note\n"
+                         "is worth knowing, but nothing is out of order: preferences of another "
+                         "version, or damaged ones\n"
+                         "that were kept beside new ones.\n"
+                         "\n"
+                         "  --json         one JSON object instead\n"
+                         "  --help         show this help\n"
+                         "\n"
+                         "Exit status: 0 all is well, 1 something is wrong.\n";
+
+std::string_view stateName(Finding::State state)
+{
+    switch (state) {
+    case Finding::State::well:
+        return "ok";
+    case Finding::State::note:
+        return "note";
+    case Finding::State::wrong:
+        break;
+    }
+    return "wrong";
+}
+
+void printLines(const Findings &findings)
+{
+    for (const Finding &each : findings)
+        printText(QStringLiteral("%1\t%2\t%3\n")
+                      .arg(QLatin1String(stateName(each.state).data()), singleLine(each.about),
+                           singleLine(each.text)));
+}
+
+void printJson(const Findings &findings, bool isWell)
+{
+    JsonWriter out;
+    out.beginObject();
+    out.key("isWell");
+    out.boolean(isWell);
+    out.key("findings");
+    out.beginArray();
+    for (const Finding &each : findings) {
+        out.beginObject();
+        out.key("state");
+        out.utf8(QByteArrayView(stateName(each.state)));
+        out.key("about");
+        out.string(each.about);
+        out.key("text");
+        out.string(each.text);
+        out.endObject();
+    }
+    out.endArray();
+    out.endObject();
+    print(QByteArray(out.take() + '\n'));
+}
+
+int run(bool isJson)
+{
+    const PlatformFolders folders = xdgFolders();
+    Examined examined{folders, lookAtPreferences(folders.applicationSupport), std::nullopt};
+    Findings findings;
+    for (const DoctorCheck check : doctorChecks())
+        check(examined, findings);
+    const bool isWell = std::none_of(findings.begin(), findings.end(), [](const Finding &each) {
+        return each.state == Finding::State::wrong;
+    });
+    if (isJson)
+        printJson(findings, isWell);
+    else
+        printLines(findings);
+    const int code = finish();
+    return isWell ? code : exitFailed;
+}
+
+} // namespace
+
+int runDoctorCommand(std::span<const QByteArray> words)
+{
+    using Value = OptionSpec::Value;
+    const Result<Arguments> arguments = Arguments::parse(
+        words, {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}});
+    if (!arguments)
+        return failUsage("doctor", arguments.error().detail);
+    if (arguments->has("--help") || arguments->has("-h")) {
+        print(kHelp);
+        return finish();
+    }
+    if (!arguments->positional().empty())
+        return failUsage("doctor", QStringLiteral("doctor takes no words"));
+    return run(arguments->has("--json"));
+}
+
+} // namespace lorva::cli

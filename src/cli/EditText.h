@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/stores/OrganizationEdit.h"
+
+namespace lorva::cli {
+
+/// What an edit does, one line for each grouping, family and foundry.
+/// `after` is what it leads to.
+QStringList editLines(const OrganizationEdit &edit, const Organization &after);
+
+} // namespace lorva::cli

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "base/AtomicFile.h"
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/Console.h"
+#include "cli/OutputFile.h"
+#include "cli/UserOrganization.h"
+#include "model/stores/OrganizationFile.h"
+
+namespace lorva::cli {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: lorvactl export [-o FILE]\n"
+    "\n"
+    "Writes collections, style categories, what you said about foundries, and display settings as\n"
+    "one JSON document, for another machine or for version control. Equal organisations give "
+    "equal\n"
+    "bytes.\n"
+    "\n"
+    "  -o FILE        the file to write, whole or not at all; standard output if not given\n"
+    "  --help         show this help\n";
+
+Result<void> run(const Arguments &arguments)
+{
+    UserOrganization user;
+    Result<Organization> organization = user.load();
+    if (!organization)
+        return tl::unexpected(organization.error());
+    const QByteArray json =
+        encodeOrganizationFile({*std::move(organization), user.displaySettings().all()});
+    const std::optional<QByteArray> target = arguments.value("-o");
+    if (!target) {
+        print(json);
+        return {};
+    }
+    const FilePath file = FilePath::absolute(*target);
+    const Result<void> checked = refuseFontFile(file);
+    return checked ? writeFileAtomically(file, json) : checked;
+}
+
+} // namespace
+
+int runExportCommand(std::span<const QByteArray> words)
+{
+    using Value = OptionSpec::Value;
+    const Result<Arguments> arguments =
+        Arguments::parse(words, {{"--help", Value::none}, {"-h", Value::none}, {"-o"}});
+    if (!arguments)
+        return failUsage("export", arguments.error().detail);
+    if (arguments->has("--help") || arguments->has("-h")) {
+        print(kHelp);
+        return finish();
+    }
+    if (!arguments->positional().empty() || arguments->value("-o") == QByteArray(""))
+        return failUsage("export", QStringLiteral("export takes a file as -o FILE"));
+    if (const Result<void> done = run(*arguments); !done)
+        return fail("export", done.error());
+    return finish();
+}
+
+} // namespace lorva::cli

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "cli/FamilyNames.h"
+
+#include "cli/Console.h"
+#include "cli/GroupingNames.h"
+
+namespace lorva::cli {
+
+void FamilyNames::add(const QStringList &names)
+{
+    for (const QString &name : names) {
+        const qsizetype before = m_names.size();
+        m_names.insert(name);
+        if (m_names.size() == before)
+            continue;
+        m_nameByPrintedForm.insert(singleLine(name), name);
+        m_namesByFoldedForm[withoutCase(name)].push_back(name);
+    }
+}
+
+void FamilyNames::addMembers(const Organization &organization)
+{
+    for (const FontCollectionRecord &collection : organization.collections)
+        add(collection.familyNames);
+    for (const FontStyleCategoryRecord &category : organization.styleCategories)
+        add(category.familyNames);
+    add(organization.foundries.overrides.keys());
+}
+
+Result<QString> FamilyNames::find(const QString &typed, Unknown unknown) const
+{
+    if (typed.isEmpty())
+        return failure(ErrorKind::invalidValue, QStringLiteral("a family has no empty name"));
+    if (m_names.contains(typed))
+        return typed;
+    if (const auto printed = m_nameByPrintedForm.constFind(typed);
+        printed != m_nameByPrintedForm.cend())
+        return *printed;
+    const QStringList alike = m_namesByFoldedForm.value(withoutCase(typed));
+    if (alike.size() == 1)
+        return alike.front();
+    if (alike.size() > 1)
+        return failure(ErrorKind::invalidValue,
+                       QStringLiteral("several families are called \"%1\": %2")
+                           .arg(typed, alike.join(QStringLiteral(", "))));
+    if (unknown == Unknown::isKept)
+        return typed;
+    return failure(ErrorKind::notFound, QStringLiteral("there is no family \"%1\"").arg(typed));
+}
+
+Result<QStringList> FamilyNames::find(const QStringList &typed, Unknown unknown) const
+{
+    QStringList found;
+    for (const QString &each : typed) {
+        Result<QString> name = find(each, unknown);
+        if (!name)
+            return tl::unexpected(name.error());
+        found.push_back(*std::move(name));
+    }
+    return found;
+}
+
+} // namespace lorva::cli

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/Result.h"
+#include "model/records/Organization.h"
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+
+namespace lorva::cli {
+
+/// Families, to be found by what somebody typed.
+class FamilyNames
+{
+public:
+    explicit FamilyNames(const QStringList &names = {}) { add(names); }
+
+    void add(const QStringList &names);
+    /// The members of all groupings, also those that this machine lacks.
+    void addMembers(const Organization &organization);
+
+    enum class Unknown { fails, isKept };
+    /// The families meant: each by its name, by its name as lorvactl prints it, or by its name in
+    /// another case if that fits one only. Fails at the first that is not to be found; with
+    /// isKept, an unknown name stands for itself.
+    Result<QStringList> find(const QStringList &typed, Unknown unknown) const;
+
+private:
+    Result<QString> find(const QString &typed, Unknown unknown) const;
+
+    QSet<QString> m_names;
+    QHash<QString, QString> m_nameByPrintedForm;
+    QHash<QString, QStringList> m_namesByFoldedForm;
+};
+
+} // namespace lorva::cli

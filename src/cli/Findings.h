@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace lorva::cli {
+
+/// One thing that the doctor has found.
+struct Finding
+{
+    enum class State {
+        well,
+        note, ///< worth knowing, but nothing is out of order
+        wrong,
+    };
+
+    State state = State::well;
+    /// A file or a preference key.
+    QString about;
+    /// For people, one line.
+    QString text;
+};
+
+using Findings = std::vector<Finding>;
+
+} // namespace lorva::cli

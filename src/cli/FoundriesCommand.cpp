@@ -1,0 +1,300 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/FamilyListing.h"
+#include "cli/GroupingListing.h"
+#include "cli/GroupingNames.h"
+#include "cli/UserOrganization.h"
+#include "cli/Verbs.h"
+#include "model/stores/OrganizationChanges.h"
+#include "organize/Foundries.h"
+
+#include <algorithm>
+
+namespace lorva::cli {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: lorvactl foundries [list [FOUNDRY]] [--hidden] [--json] [--folder DIR]...\n"
+    "       lorvactl foundries rename FOUNDRY NAME | rename FOUNDRY --original\n"
+    "       lorvactl foundries delete|hide|show FOUNDRY\n"
+    "       lorvactl foundries add|remove|set FOUNDRY FAMILY...\n"
+    "       lorvactl foundries reset FAMILY...\n"
+    "\n"
+    "Lists the foundries of this machine's fonts with two families at least, corrected by what "
+    "you\n"
+    "said, one line each: the name, a tab, the number of families; or the families of one. "
+    "Changes\n"
+    "are seen at once by a window that is open.\n"
+    "\n"
+    "  rename         shows the foundry under another name, or under its own with --original\n"
+    "  delete, hide   hides it, its families stay in the library; list --hidden shows such ones\n"
+    "  show           brings it back\n"
+    "  add            moves families to it, whatever their fonts say\n"
+    "  remove         takes families out of it; they are of no foundry then\n"
+    "  set            makes these families its own; others that their fonts count to it are of no\n"
+    "                 foundry then\n"
+    "  reset          lets the fonts of families say it again\n"
+    "\n"
+    "FOUNDRY is its name, whatever its case, or its id, which --json shows. FAMILY is the name of "
+    "a\n"
+    "family of this machine or of one that you sorted; a lone - reads names from standard input,\n"
+    "one per line. A command is done whole or not at all.\n"
+    "\n"
+    "  --json         JSON instead of lines\n"
+    "  --missing      take names of families that this machine lacks, for when their fonts come\n"
+    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --help         show this help\n";
+
+const QString kNoun = QStringLiteral("foundry");
+
+/// What the fonts of the machine say.
+struct FontsSay
+{
+    std::vector<FoundryCollectionRecord> foundries;
+    QStringList families;
+
+    QStringList familiesOf(const QString &foundryID) const
+    {
+        for (const FoundryCollectionRecord &foundry : foundries) {
+            if (foundry.id == foundryID)
+                return foundry.familyNames;
+        }
+        return {};
+    }
+};
+
+FontsSay readFonts(const std::vector<FilePath> &folders)
+{
+    const FontCatalogResult result = scanLibrary(folders);
+    FontsSay fonts{deriveFoundries(result.manufacturers, kFewestFamiliesOfFoundry), {}};
+    for (const FontFamilyRecord &family : result.families)
+        fonts.families.push_back(family.familyName);
+    return fonts;
+}
+
+/// The foundries that can be named: those of the fonts under the names shown, and those that only
+/// corrections know, whose fonts may come again.
+std::vector<GroupingName> allFoundries(const FontsSay &fonts, const FoundryCorrections &corrections)
+{
+    std::vector<GroupingName> names = groupingNames(fonts.foundries);
+    const auto addUnknown = [&](const QString &id) {
+        const auto isThere = [&](const GroupingName &each) { return each.id == id; };
+        if (!id.isEmpty() && std::none_of(names.begin(), names.end(), isThere))
+            names.push_back({id, id});
+    };
+    std::for_each(corrections.names.keyBegin(), corrections.names.keyEnd(), addUnknown);
+    std::for_each(corrections.dismissed.begin(), corrections.dismissed.end(), addUnknown);
+    for (GroupingName &each : names)
+        each.name = corrections.names.value(each.id, each.name);
+    return names;
+}
+
+Result<QString> foundryNamed(const std::vector<GroupingName> &foundries, const QString &typed)
+{
+    const Result<size_t> place = findGrouping(foundries, typed, kNoun);
+    return place ? Result<QString>(foundries[*place].id) : tl::unexpected(place.error());
+}
+
+Result<QStringList> knownFamilies(const FontsSay &fonts, const Organization &organization,
+                                  const VerbRequest &request)
+{
+    FamilyNames names(fonts.families);
+    names.addMembers(organization);
+    return names.find(request.families, request.unknownFamilies);
+}
+
+/// Lets the fonts say it where they say this already: a correction less to keep.
+void moveFamilies(Organization &organization, const FontsSay &fonts, const QString &foundryID,
+                  const QStringList &families)
+{
+    const QStringList derived = fonts.familiesOf(foundryID);
+    const QSet<QString> native(derived.cbegin(), derived.cend());
+    QStringList foreign = families;
+    foreign.removeIf([&](const QString &name) { return native.contains(name); });
+    setFoundry(organization, foreign, foundryID);
+    QStringList own = families;
+    own.removeIf([&](const QString &name) { return !native.contains(name); });
+    resetFoundry(organization, own);
+}
+
+QStringList membersOf(const FontsSay &fonts, const Organization &organization,
+                      const QString &foundryID)
+{
+    const CorrectedFoundries corrected =
+        correctedFoundries(fonts.foundries, organization.foundries);
+    for (const auto *foundries : {&corrected.shown, &corrected.dismissed}) {
+        for (const FoundryCollectionRecord &foundry : *foundries) {
+            if (foundry.id == foundryID)
+                return foundry.familyNames;
+        }
+    }
+    return {};
+}
+
+/// Families that leave: those that were moved here go where their fonts say, others to no foundry.
+void dropFamilies(Organization &organization, const FontsSay &fonts, const QString &foundryID,
+                  const QStringList &families)
+{
+    const QStringList derived = fonts.familiesOf(foundryID);
+    for (const QString &name : families) {
+        if (derived.contains(name))
+            setFoundry(organization, {name}, QString());
+        else
+            resetFoundry(organization, {name});
+    }
+}
+
+/// Reads the fonts, finds the foundry among all that can be named, and calls `change` with its id.
+using FoundryChange = Result<void> (*)(Organization &, const FontsSay &, const QString &foundryID,
+                                       const VerbRequest &);
+Result<void> changeFoundry(const VerbRequest &request, FoundryChange change)
+{
+    const FontsSay fonts = readFonts(request.folders);
+    return UserOrganization().change([=](Organization &organization) -> Result<void> {
+        const Result<QString> id =
+            foundryNamed(allFoundries(fonts, organization.foundries), request.subjects.front());
+        return id ? change(organization, fonts, *id, request) : tl::unexpected(id.error());
+    });
+}
+
+Result<void> list(const VerbRequest &request)
+{
+    const Result<Organization> organization = UserOrganization().load();
+    if (!organization)
+        return tl::unexpected(organization.error());
+    const CorrectedFoundries corrected =
+        correctedFoundries(readFonts(request.folders).foundries, organization->foundries);
+    const auto &foundries = request.isHidden ? corrected.dismissed : corrected.shown;
+    if (request.subjects.isEmpty()) {
+        printGroupings(foundries, request.isJson);
+        return {};
+    }
+    const Result<size_t> place =
+        findGrouping(groupingNames(foundries), request.subjects.front(), kNoun);
+    if (!place)
+        return tl::unexpected(place.error());
+    printGrouping(foundries[*place], request.isJson);
+    return {};
+}
+
+Result<void> refuseToCreate(const VerbRequest &)
+{
+    return failure(ErrorKind::unsupported,
+                   QStringLiteral("a foundry comes from the fonts and cannot be created; rename "
+                                  "one, or add families to one"));
+}
+
+Result<void> rename(const VerbRequest &request)
+{
+    if (request.isOriginal == (request.subjects.size() == 2))
+        return failure(ErrorKind::usage,
+                       QStringLiteral("rename needs either a new name or --original"));
+    return changeFoundry(request,
+                         [](Organization &organization, const FontsSay &, const QString &id,
+                            const VerbRequest &asked) {
+                             return renameFoundry(organization, id,
+                                                  asked.isOriginal
+                                                      ? std::nullopt
+                                                      : std::optional(asked.subjects.back()));
+                         });
+}
+
+Result<void> hide(const VerbRequest &request)
+{
+    return changeFoundry(request,
+                         [](Organization &organization, const FontsSay &, const QString &id,
+                            const VerbRequest &) -> Result<void> {
+                             dismissFoundry(organization, id);
+                             return {};
+                         });
+}
+
+Result<void> show(const VerbRequest &request)
+{
+    return changeFoundry(request,
+                         [](Organization &organization, const FontsSay &, const QString &id,
+                            const VerbRequest &) -> Result<void> {
+                             bringBackFoundry(organization, id);
+                             return {};
+                         });
+}
+
+Result<void> addFamilies(Organization &organization, const FontsSay &fonts, const QString &id,
+                         const VerbRequest &request)
+{
+    if (fonts.familiesOf(id).isEmpty())
+        return failure(ErrorKind::notFound,
+                       QStringLiteral("no fonts of this machine are of the foundry \"%1\"")
+                           .arg(request.subjects.front()));
+    const Result<QStringList> families = knownFamilies(fonts, organization, request);
+    if (!families)
+        return tl::unexpected(families.error());
+    moveFamilies(organization, fonts, id, *families);
+    return {};
+}
+
+Result<void> removeFamilies(Organization &organization, const FontsSay &fonts, const QString &id,
+                            const VerbRequest &request)
+{
+    const FamilyNames members(membersOf(fonts, organization, id));
+    const auto families = members.find(request.families, FamilyNames::Unknown::fails);
+    if (!families)
+        return failure(families.error().kind,
+                       QStringLiteral("foundry \"%1\": %2")
+                           .arg(request.subjects.front(), families.error().detail));
+    setFoundry(organization, *families, QString());
+    return {};
+}
+
+Result<void> setFamilies(Organization &organization, const FontsSay &fonts, const QString &id,
+                         const VerbRequest &request)
+{
+    const QStringList members = membersOf(fonts, organization, id);
+    if (const auto added = addFamilies(organization, fonts, id, request); !added)
+        return added;
+    const Result<QStringList> families = knownFamilies(fonts, organization, request);
+    const QSet<QString> staying(families->cbegin(), families->cend());
+    QStringList leaving = members;
+    leaving.removeIf([&](const QString &name) { return staying.contains(name); });
+    dropFamilies(organization, fonts, id, leaving);
+    return {};
+}
+
+Result<void> reset(const VerbRequest &request)
+{
+    const FontsSay fonts = readFonts(request.folders);
+    return UserOrganization().change([=](Organization &organization) -> Result<void> {
+        const Result<QStringList> families = knownFamilies(fonts, organization, request);
+        if (!families)
+            return tl::unexpected(families.error());
+        resetFoundry(organization, *families);
+        return {};
+    });
+}
+
+} // namespace
+
+int runFoundriesCommand(std::span<const QByteArray> words)
+{
+    using Families = Verb::Families;
+    const auto changing = [](FoundryChange change) {
+        return [change](const VerbRequest &request) { return changeFoundry(request, change); };
+    };
+    const Verb verbs[]{
+        {"list", 0, 1, Families::none, "--json --hidden --folder", list},
+        {"create", 0, 1, Families::maybe, "--missing --folder", refuseToCreate},
+        {"rename", 1, 2, Families::none, "--original --folder", rename},
+        {"delete", 1, 1, Families::none, "--folder", hide},
+        {"hide", 1, 1, Families::none, "--folder", hide},
+        {"show", 1, 1, Families::none, "--folder", show},
+        {"add", 1, 1, Families::some, "--missing --folder", changing(addFamilies)},
+        {"remove", 1, 1, Families::some, "--folder", changing(removeFamilies)},
+        {"set", 1, 1, Families::some, "--missing --folder", changing(setFamilies)},
+        {"reset", 0, 0, Families::some, "--missing --folder", reset},
+    };
+    return runVerb("foundries", kHelp, verbs, words);
+}
+
+} // namespace lorva::cli

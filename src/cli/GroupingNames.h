@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/Result.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace lorva::cli {
+
+/// Equal for names that differ in nothing but case.
+QString withoutCase(const QString &name);
+
+/// A collection, style category or foundry, to be found by what somebody typed.
+struct GroupingName
+{
+    QString id;
+    QString name;
+};
+
+template <class Record>
+std::vector<GroupingName> groupingNames(const std::vector<Record> &records)
+{
+    std::vector<GroupingName> names;
+    names.reserve(records.size());
+    for (const Record &record : records)
+        names.push_back({record.id, record.name});
+    return names;
+}
+
+/// The place of the one that is meant: by its name, else by its id, else by its name in another
+/// case. Fails with notFound for none, and with invalidValue for several, whose ids the error
+/// lists. `noun`: "collection".
+Result<size_t> findGrouping(const std::vector<GroupingName> &groupings, const QString &typed,
+                            const QString &noun);
+
+} // namespace lorva::cli

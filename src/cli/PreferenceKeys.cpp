@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "cli/PreferenceKeys.h"
+
+#include "model/records/RecordsJson.h"
+#include "platform/PreferenceStore.h"
+
+namespace lorva::cli {
+
+namespace {
+
+QString counted(qsizetype count)
+{
+    return count == 1 ? QStringLiteral("1 entry") : QStringLiteral("%1 entries").arg(count);
+}
+
+template <class T>
+Result<QString> describeJson(const PreferenceValue &value)
+{
+    const Result<T> decoded = decodeJson<T>(std::get<QByteArray>(value));
+    if (!decoded)
+        return tl::unexpected(decoded.error());
+    if constexpr (requires { decoded->size(); })
+        return counted(qsizetype(decoded->size()));
+    else
+        return QStringLiteral("readable");
+}
+
+template <class T>
+Result<QString> describeCount(const PreferenceValue &value)
+{
+    return counted(std::get<T>(value).size());
+}
+
+Result<QString> describeText(const PreferenceValue &value)
+{
+    return std::get<QString>(value);
+}
+
+Result<QString> describeBoolean(const PreferenceValue &value)
+{
+    return std::get<bool>(value) ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+/// What the store holds under the key, if it is of the kind that is expected there.
+std::optional<PreferenceValue> heldValue(const KnownPreference &known,
+                                         const PreferenceStore &preferences)
+{
+    const auto value = [](const auto &held) {
+        return held ? std::optional<PreferenceValue>(*held) : std::nullopt;
+    };
+    if (known.kind == "data")
+        return value(preferences.data(known.key));
+    if (known.kind == "stringArray")
+        return value(preferences.stringArray(known.key));
+    if (known.kind == "stringDictionary")
+        return value(preferences.stringDictionary(known.key));
+    if (known.kind == "boolean")
+        return value(preferences.boolean(known.key));
+    return value(preferences.string(known.key));
+}
+
+tl::unexpected<Error> otherKind(const KnownPreference &known)
+{
+    return failure(
+        ErrorKind::typeMismatch,
+        QStringLiteral("not a whole value of kind %1").arg(QString::fromLatin1(known.kind)));
+}
+
+} // namespace
+
+const std::vector<KnownPreference> &knownPreferences()
+{
+    using Texts = QHash<QString, QString>;
+    using Settings = std::map<QString, SourceDisplaySettings>;
+    static const std::vector<KnownPreference> kKnown{
+        {"vantrel.merid.collections", "data", true,
+         describeJson<std::vector<FontCollectionRecord>>},
+        {"vantrel.merid.styles", "data", true, describeJson<std::vector<FontStyleCategoryRecord>>},
+        {"vantrel.merid.displaySettings", "data", true, describeJson<Settings>},
+        {"vantrel.merid.dismissedFoundries", "stringArray", true, describeCount<QStringList>},
+        {"vantrel.merid.foundryOverrides", "stringDictionary", true, describeCount<Texts>},
+        {"vantrel.merid.foundryNameOverrides", "stringDictionary", true, describeCount<Texts>},
+        {"vantrel.merid.collapsedSidebarGroups", "stringArray", false, describeCount<QStringList>},
+        {"vantrel.merid.stylesClassified.v3", "boolean", false, describeBoolean},
+        {"vantrel.merid.stylesClassified.v2", "boolean", false, describeBoolean},
+        {"vantrel.merid.logo", "data", false, describeJson<LogoConfiguration>},
+        {"vantrel.merid.hasCompletedOnboarding", "boolean", false, describeBoolean},
+        {"vantrel.merid.hasSeenQuizIntro", "boolean", false, describeBoolean},
+        {"vantrel.merid.hideQuizPromoInSidebar", "boolean", false, describeBoolean},
+        {"vantrel.merid.windowFrame.LorvaMainWindow", "string", false, describeText},
+    };
+    return kKnown;
+}
+
+Result<QString> describeStored(const KnownPreference &known, const PreferenceRow &row)
+{
+    const std::optional<PreferenceValue> value = preferenceOfRow(row);
+    if (!value || row.kind != known.kind)
+        return otherKind(known);
+    return known.describe(*value);
+}
+
+Result<void> checkStored(const KnownPreference &known, const PreferenceStore &preferences)
+{
+    if (!preferences.contains(known.key))
+        return {};
+    const std::optional<PreferenceValue> value = heldValue(known, preferences);
+    if (!value)
+        return otherKind(known);
+    const Result<QString> described = known.describe(*value);
+    if (!described)
+        return tl::unexpected(described.error());
+    return {};
+}
+
+} // namespace lorva::cli

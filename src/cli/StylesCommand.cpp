@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/GroupingCommand.h"
+#include "model/stores/OrganizationChanges.h"
+
+#include <QSet>
+
+namespace lorva::cli {
+
+namespace {
+
+constexpr char kHelp[] =
+    "Usage: lorvactl styles [list [STYLE]] [--json]\n"
+    "       lorvactl styles create NAME [FAMILY]...\n"
+    "       lorvactl styles rename STYLE NAME\n"
+    "       lorvactl styles delete STYLE\n"
+    "       lorvactl styles add|remove|set STYLE FAMILY...\n"
+    "\n"
+    "Lists the style categories, one line each: the name, a tab, the number of families; or the\n"
+    "families of one, by name. Changes are seen at once by a window that is open.\n"
+    "\n"
+    "  create         a category of your own\n"
+    "  rename         only a category of your own, not one of those that every library has\n"
+    "  delete         likewise; its families are in no category then\n"
+    "  add            moves families there: a family is in one category at most\n"
+    "  remove         takes families out of it; they are in no category then\n"
+    "  set            makes these families its members; those that leave are in no category then\n"
+    "\n"
+    "STYLE is its name, whatever its case, or its id, which --json shows. FAMILY is the name of a\n"
+    "family of this machine or of a category; a lone - reads names from standard input, one per\n"
+    "line. A command is done whole or not at all.\n"
+    "\n"
+    "  --json         JSON instead of lines\n"
+    "  --missing      take names of families that this machine lacks, for when their fonts come\n"
+    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --help         show this help\n";
+
+std::vector<FontCollectionRecord> categories(const Organization &organization)
+{
+    std::vector<FontCollectionRecord> groupings;
+    for (const FontStyleCategoryRecord &category : organization.styleCategories)
+        groupings.push_back({category.id, category.name, category.familyNames});
+    return groupings;
+}
+
+Result<void> addToStyle(Organization &organization, const QString &id, const QStringList &families)
+{
+    return setStyle(organization, families, id);
+}
+
+Result<void> removeFromStyle(Organization &organization, const QString &,
+                             const QStringList &families)
+{
+    return setStyle(organization, families, std::nullopt);
+}
+
+Result<void> setMembers(Organization &organization, const QString &id, const QStringList &families)
+{
+    const QSet<QString> staying(families.cbegin(), families.cend());
+    QStringList leaving;
+    for (const FontStyleCategoryRecord &category : organization.styleCategories) {
+        if (category.id == id)
+            leaving = category.familyNames;
+    }
+    leaving.removeIf([&](const QString &name) { return staying.contains(name); });
+    const Result<void> left = setStyle(organization, leaving, std::nullopt);
+    return left ? setStyle(organization, families, id) : left;
+}
+
+} // namespace
+
+int runStylesCommand(std::span<const QByteArray> words)
+{
+    static const GroupingKind kKind{"styles",
+                                    QStringLiteral("style"),
+                                    categories,
+                                    createStyleCategory,
+                                    renameStyleCategory,
+                                    deleteStyleCategory,
+                                    addToStyle,
+                                    removeFromStyle,
+                                    setMembers};
+    return runGroupingCommand(kKind, kHelp, words);
+}
+
+} // namespace lorva::cli
