@@ -8,7 +8,7 @@
 
 namespace lorva {
 
-Q_LOGGING_CATEGORY(preferenceFileLog, "lorva.platform.preferences", QtWarningMsg)
+Q_LOGGING_CATEGORY(preferenceFileLog, "lorva.platform.preferences", QtCriticalMsg)
 
 namespace {
 

@@ -14,7 +14,7 @@
 
 namespace lorva {
 
-Q_LOGGING_CATEGORY(filesAsideLog, "lorva.platform.preferences", QtWarningMsg)
+Q_LOGGING_CATEGORY(filesAsideLog, "lorva.platform.preferences", QtCriticalMsg)
 
 namespace {
 

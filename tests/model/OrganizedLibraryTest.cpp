@@ -31,9 +31,8 @@ protected:
     /// A new process over the same home; its catalog is not loaded yet.
     void restart()
     {
-        library.model.reset();
-        library.preferences = std::make_unique<SqlitePreferenceStore>(home.child("Lorva"));
-        library.restart(home.child("Lorva"));
+        library.restart(home.child("Lorva"),
+                        std::make_unique<SqlitePreferenceStore>(home.child("Lorva")));
     }
 
     void add(const QString &family, const QString &maker = {}, const QString &otherName = {})
@@ -301,8 +300,8 @@ TEST_F(OrganizedLibrary, ChangesOfTwoProcessesMeet)
     const QString logos = model().createCollection(QStringLiteral("Logos")).value();
     ASSERT_TRUE(model().addFamilies(logos, {"A", "B"}));
     LibraryFixture other;
-    other.preferences = std::make_unique<SqlitePreferenceStore>(home.child("Lorva"));
-    other.restart(home.child("Other"));
+    other.restart(home.child("Other"),
+                  std::make_unique<SqlitePreferenceStore>(home.child("Lorva")));
     ASSERT_TRUE(other.load());
 
     ASSERT_TRUE(other.model->addFamilies(logos, {"C"}));
@@ -319,7 +318,6 @@ TEST_F(OrganizedLibrary, ChangesOfTwoProcessesMeet)
     model().undoStack().undo();
     model().undoStack().undo();
     EXPECT_EQ(model().collections().front().familyNames, (QStringList{"C"}));
-    other.model.reset();
 }
 
 TEST_F(OrganizedLibrary, DisplaySettingsBelongToTheirSource)

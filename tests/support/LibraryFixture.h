@@ -81,7 +81,6 @@ struct LibraryFixture
 {
     std::shared_ptr<FolderFonts> fonts = std::make_shared<FolderFonts>();
     std::shared_ptr<FixtureSystemFont> systemFont = std::make_shared<FixtureSystemFont>();
-    /// A case may put another in its place and start the model anew.
     std::unique_ptr<PreferenceStore> preferences = std::make_unique<MemoryPreferenceStore>();
     std::shared_ptr<std::vector<FilePath>> watchedFolders =
         std::make_shared<std::vector<FilePath>>();
@@ -95,10 +94,13 @@ struct LibraryFixture
         makeModel({fonts, systemFont}, nullptr);
     }
 
-    /// A new model, as of a new process, that keeps its caches in `folder`.
-    void restart(const FilePath &folder)
+    /// A new model, as of a new process, that keeps its caches in `folder`; over other preferences
+    /// if some are given.
+    void restart(const FilePath &folder, std::unique_ptr<PreferenceStore> otherPreferences = {})
     {
         model.reset();
+        if (otherPreferences)
+            preferences = std::move(otherPreferences);
         FontLibraryService::Dependencies dependencies{fonts, systemFont};
         dependencies.cacheFileURL = folder.child("parse-cache.json");
         makeModel(std::move(dependencies),

@@ -6,7 +6,7 @@
 
 namespace lorva {
 
-Q_LOGGING_CATEGORY(storesLog, "lorva.model.stores", QtWarningMsg)
+Q_LOGGING_CATEGORY(storesLog, "lorva.model.stores", QtCriticalMsg)
 
 void noteUnreadable(const QString &key, const Error &why)
 {
