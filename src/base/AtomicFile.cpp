@@ -148,6 +148,14 @@ FilePath withLinksFollowed(const FilePath &path)
     return real ? FilePath(QByteArray(real.get())) : path;
 }
 
+/// Taking the name of a device or a pipe would remove it from the system, and nobody would get the
+/// bytes.
+bool isTakenByNoFile(const FilePath &path)
+{
+    struct stat info;
+    return ::stat(path.c_str(), &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
+}
+
 /// Makes the new name last; not every file system can, and the bytes are safe in either case.
 void flushFolder(const FilePath &folder)
 {
@@ -175,6 +183,10 @@ int replace(const FilePath &target, QByteArrayView bytes, Naming naming)
 
 Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes)
 {
+    if (isTakenByNoFile(path))
+        return failure(
+            ErrorKind::notRegularFile,
+            QStringLiteral("cannot write %1: not a regular file").arg(path.displayText()));
     const FilePath target = withLinksFollowed(path);
     int code = replace(target, bytes, Naming::whenWritten);
     if (code != 0)

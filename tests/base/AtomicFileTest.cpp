@@ -96,6 +96,24 @@ TEST(AtomicFile, FailsOverAFolderAndLeavesNothingBehind)
     EXPECT_EQ(namesIn(folder), std::vector<std::string>{"target"});
 }
 
+TEST(AtomicFile, LeavesPipesAndDevicesInTheirPlace)
+{
+    const FilePath folder = makeCaseFolder();
+    const FilePath pipe = folder.child("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const FilePath link = folder.child("link");
+    ASSERT_EQ(::symlink("pipe", link.c_str()), 0);
+    for (const FilePath &path : {pipe, link}) {
+        const Result<void> result = writeFileAtomically(path, "x");
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().kind, ErrorKind::notRegularFile);
+    }
+    struct stat info;
+    ASSERT_EQ(::lstat(pipe.c_str(), &info), 0);
+    EXPECT_TRUE(S_ISFIFO(info.st_mode));
+    EXPECT_EQ(namesIn(folder).size(), 2U);
+}
+
 TEST(AtomicFile, FailsInAReadOnlyFolderAndKeepsTheOldFile)
 {
     const FilePath folder = makeCaseFolder();
