@@ -18,15 +18,17 @@ namespace {
 
 using Access = SqliteConnection::Access;
 
-/// Held while a damaged file is moved, so that two starting processes do not move each other's new
-/// one.
+/// Shared while a file is opened, exclusive while a damaged one is moved: a process that starts
+/// then must not make a new file whose log the mover takes for the damaged one's.
 class FolderLock
 {
 public:
-    FolderLock(const FilePath &folder, QDeadlineTimer deadline)
+    enum class Kind { shared = LOCK_SH, exclusive = LOCK_EX };
+
+    FolderLock(const FilePath &folder, Kind kind, QDeadlineTimer deadline)
         : m_descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
     {
-        while (m_descriptor >= 0 && ::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+        while (m_descriptor >= 0 && ::flock(m_descriptor, int(kind) | LOCK_NB) != 0) {
             m_isHeldByOther = errno == EWOULDBLOCK && deadline.hasExpired();
             // A file system without locks must do without.
             if (m_isHeldByOther || errno != EWOULDBLOCK)
@@ -71,7 +73,7 @@ Result<PreferenceDatabase> PreferenceDatabase::open(const FilePath &folder, QDea
 {
     const Result<void> made = makeFolders(folder);
     const FilePath file = folder.child(kFileName);
-    Result<PreferenceDatabase> database = openFile(file, Access::readWrite, deadline);
+    Result<PreferenceDatabase> database = openUnmoved(file, deadline);
     if (isDamaged(database))
         database = openDamaged(file, deadline);
     if (!database && isWorthReading(database.error()))
@@ -84,10 +86,20 @@ Result<PreferenceDatabase> PreferenceDatabase::open(const FilePath &folder, QDea
     return database;
 }
 
+Result<PreferenceDatabase> PreferenceDatabase::openUnmoved(const FilePath &file,
+                                                           QDeadlineTimer deadline)
+{
+    const FolderLock lock(file.parent(), FolderLock::Kind::shared, deadline);
+    if (lock.isHeldByOther())
+        return failure(ErrorKind::cancelled,
+                       QStringLiteral("another process is moving a damaged file"));
+    return openFile(file, Access::readWrite, deadline);
+}
+
 Result<PreferenceDatabase> PreferenceDatabase::openDamaged(const FilePath &file,
                                                            QDeadlineTimer deadline)
 {
-    const FolderLock lock(file.parent(), deadline);
+    const FolderLock lock(file.parent(), FolderLock::Kind::exclusive, deadline);
     // Another process may have mended it while this one waited for the lock.
     Result<PreferenceDatabase> database = openFile(file, Access::readWrite, deadline);
     if (isDamaged(database) && !lock.isHeldByOther() && movePreferencesAside(file))

@@ -53,6 +53,7 @@ private:
     static Result<PreferenceDatabase> openFile(const FilePath &file,
                                                SqliteConnection::Access access,
                                                QDeadlineTimer deadline);
+    static Result<PreferenceDatabase> openUnmoved(const FilePath &file, QDeadlineTimer deadline);
     static Result<PreferenceDatabase> openDamaged(const FilePath &file, QDeadlineTimer deadline);
     static Result<PreferenceDatabase> openForReading(const FilePath &file, const Error &why,
                                                      QDeadlineTimer deadline);

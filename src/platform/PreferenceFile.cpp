@@ -12,7 +12,11 @@ Q_LOGGING_CATEGORY(preferenceFileLog, "lorva.platform.preferences", QtCriticalMs
 
 namespace {
 
-constexpr std::chrono::seconds kPauseBetweenLooks{1};
+/// A little less than the second after which whoever watches the file looks again.
+constexpr std::chrono::milliseconds kPauseBetweenLooks{900};
+
+/// One that has passed: waits for nobody.
+constexpr QDeadlineTimer kNoWait;
 
 } // namespace
 
@@ -20,17 +24,16 @@ PreferenceFile::PreferenceFile(FilePath folder, std::chrono::milliseconds patien
     : m_folder(std::move(folder))
     , m_patience(patience)
 {
-    ensureWritable(deadlineFor(Wait::patiently));
+    ensureWritable(usualDeadline());
     static_cast<void>(takeChangesElsewhere()); // nobody has read anything yet
 }
 
 /// Where the last wait was in vain, the next ones would be: a window that reads twenty values must
 /// not wait twenty times.
-QDeadlineTimer PreferenceFile::deadlineFor(Wait wait) const
+QDeadlineTimer PreferenceFile::usualDeadline() const
 {
     const bool isLocked = failure() && failure()->kind == ErrorKind::cancelled;
-    return QDeadlineTimer(wait == Wait::patiently && !isLocked ? m_patience
-                                                               : std::chrono::milliseconds(0));
+    return isLocked ? kNoWait : QDeadlineTimer(m_patience);
 }
 
 bool PreferenceFile::ensureWritable(QDeadlineTimer deadline)
@@ -67,11 +70,12 @@ std::optional<PreferenceRow> PreferenceFile::read(const QString &key)
     if (!m_database)
         return m_known.value(key);
     if (!m_isInTransaction)
-        m_database->setDeadline(deadlineFor(Wait::patiently));
+        m_database->setDeadline(usualDeadline());
     Result<std::optional<PreferenceRow>> row = m_database->read(key);
     if (!row) {
         noteFailure(m_readFailure, row.error());
         m_hasTransactionFailed = m_isInTransaction;
+        m_missedKey = key;
         return m_known.value(key);
     }
     m_readFailure.reset();
@@ -82,7 +86,7 @@ std::optional<PreferenceRow> PreferenceFile::read(const QString &key)
 std::map<QString, PreferenceRow> PreferenceFile::readAll()
 {
     if (m_database) {
-        m_database->setDeadline(deadlineFor(Wait::patiently));
+        m_database->setDeadline(usualDeadline());
         Result<std::map<QString, PreferenceRow>> rows = m_database->readAll();
         if (rows)
             return *std::move(rows);
@@ -96,9 +100,8 @@ std::map<QString, PreferenceRow> PreferenceFile::readAll()
     return known;
 }
 
-bool PreferenceFile::begin(Wait wait)
+bool PreferenceFile::begin(QDeadlineTimer deadline)
 {
-    const QDeadlineTimer deadline = deadlineFor(wait);
     if (!ensureWritable(deadline))
         return false;
     m_database->setDeadline(deadline);
@@ -151,14 +154,26 @@ void PreferenceFile::closeIfDamaged()
     }
 }
 
+/// A lock that goes without a write leaves no other trace.
+bool PreferenceFile::readsMissedValue()
+{
+    if (!m_database || !m_missedKey)
+        return false;
+    const QString key = *std::exchange(m_missedKey, std::nullopt);
+    read(key);
+    return !m_missedKey;
+}
+
 bool PreferenceFile::takeChangesElsewhere()
 {
     const bool isUsable = m_database && !m_database->whyReadOnly() && !m_database->hasMoved();
     // Trying makes and removes files, of which whoever watches the folder is told: not every time.
-    if (!isUsable && m_nextLook.hasExpired())
-        ensureWritable(deadlineFor(Wait::notAtAll));
+    m_isLookPutOff = !isUsable && !m_nextLook.hasExpired();
+    if (!isUsable && !m_isLookPutOff)
+        ensureWritable(kNoWait);
+    m_isOther = readsMissedValue() || m_isOther;
     if (m_database) {
-        m_database->setDeadline(deadlineFor(Wait::notAtAll));
+        m_database->setDeadline(kNoWait);
         const QByteArray version = m_database->dataVersion().value_or(m_dataVersion);
         m_isOther = m_isOther || version != m_dataVersion;
         m_dataVersion = version;

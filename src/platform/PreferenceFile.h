@@ -17,9 +17,6 @@ namespace lorva {
 class PreferenceFile
 {
 public:
-    /// How long an operation may wait for the locks of others.
-    enum class Wait { patiently, notAtAll };
-
     using Values = QHash<QString, std::optional<PreferenceRow>>;
 
     /// Over `folder`/preferences.sqlite.
@@ -32,14 +29,21 @@ public:
     /// The last values known here when it cannot be read.
     std::map<QString, PreferenceRow> readAll();
 
+    /// Until when an operation that starts now may wait for the locks of others: as long as agreed,
+    /// or not at all where the last wait was in vain.
+    QDeadlineTimer usualDeadline() const;
+
     /// Starts a transaction on the file that the path names now. When false there is none.
-    bool begin(Wait wait);
+    bool begin(QDeadlineTimer deadline);
     void write(const QString &key, const std::optional<PreferenceRow> &row);
     /// Ends it. When false nothing since begin() was written.
     bool commit();
 
-    /// True once after another connection has written, or another file has taken the place.
+    /// True once after another connection has written, another file has taken the place, or what
+    /// could not be read can be read again.
     bool takeChangesElsewhere();
+    /// What was given may be wrong, as values could not be read, or a look was put off.
+    bool hasMissedValues() const { return !m_database || m_missedKey || m_isLookPutOff; }
 
     FilePath path() const { return m_folder.child(PreferenceDatabase::kFileName); }
     /// What is wrong now, with the path.
@@ -50,7 +54,7 @@ private:
     void take(PreferenceDatabase database);
     void closeIfDamaged();
     void noteFailure(std::optional<Error> &place, const Error &error) const;
-    QDeadlineTimer deadlineFor(Wait wait) const;
+    bool readsMissedValue();
 
     const FilePath m_folder;
     const std::chrono::milliseconds m_patience;
@@ -58,9 +62,12 @@ private:
     QByteArray m_dataVersion;
     /// Since it could not be opened: when looking at it is worth a try.
     QDeadlineTimer m_nextLook;
+    bool m_isLookPutOff = false;
     std::optional<Error> m_openFailure;
     std::optional<Error> m_readFailure;
     std::optional<Error> m_writeFailure;
+    /// The last one that could not be read, until a look finds that it can.
+    std::optional<QString> m_missedKey;
     Values m_known;
     Values m_uncommitted;
     bool m_isInTransaction = false;

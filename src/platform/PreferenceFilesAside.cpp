@@ -21,14 +21,22 @@ namespace {
 constexpr char kMark[] = ".damaged-";
 constexpr std::array kCompanions{"-wal", "-shm", "-journal"};
 
+bool isTaken(const QByteArray &name)
+{
+    struct stat info;
+    const auto isThere = [&](const char *suffix) {
+        return ::lstat(QByteArray(name + suffix).constData(), &info) == 0;
+    };
+    return isThere("") || std::ranges::any_of(kCompanions, isThere);
+}
+
 /// "preferences.sqlite.damaged-20260131-120000", with a number while the name is taken.
 FilePath freeNameFor(const FilePath &file)
 {
     const QByteArray date = QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss").toLatin1();
     const QByteArray base = file.bytes() + kMark + date;
     QByteArray name = base;
-    struct stat info;
-    for (int count = 2; ::lstat(name.constData(), &info) == 0; ++count)
+    for (int count = 2; isTaken(name); ++count)
         name = base + '-' + QByteArray::number(count);
     return FilePath(name);
 }
@@ -40,19 +48,27 @@ bool isAside(const QByteArray &name, const QByteArray &fileName)
                                 [&](const char *suffix) { return name.endsWith(suffix); });
 }
 
+void renameCompanions(const FilePath &from, const FilePath &to)
+{
+    for (const char *suffix : kCompanions)
+        std::rename(QByteArray(from.bytes() + suffix).constData(),
+                    QByteArray(to.bytes() + suffix).constData());
+}
+
 } // namespace
 
 bool movePreferencesAside(const FilePath &file)
 {
     const FilePath aside = freeNameFor(file);
-    if (std::rename(file.c_str(), aside.c_str()) != 0)
+    // The log belongs to the file; beside a new one it would be read as damage. So it goes before
+    // the name of the file is free for a new one.
+    renameCompanions(file, aside);
+    if (std::rename(file.c_str(), aside.c_str()) != 0) {
+        renameCompanions(aside, file);
         return false;
+    }
     qCWarning(filesAsideLog).noquote()
         << "the preferences could not be read; they were moved to" << aside.displayText();
-    // The log belongs to the file; beside a new one it would be read as damage.
-    for (const char *suffix : kCompanions)
-        std::rename(QByteArray(file.bytes() + suffix).constData(),
-                    QByteArray(aside.bytes() + suffix).constData());
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -31,7 +32,7 @@ struct PreferenceStoreStatus
         bool operator==(const Entry &) const = default;
     };
 
-    /// Nothing for a store in memory.
+    /// As PreferenceStore::file().
     std::optional<FilePath> file;
     /// Sorted by key. Those that end in ".unreadable" were kept when they were replaced.
     std::vector<Entry> entries;
@@ -77,22 +78,38 @@ public:
     ///
     /// When it cannot be written now, `change` has run on what is in memory, and runs again, over
     /// what the store holds by then, once that can be written. So it owns what it captures, and
-    /// what it writes depends on nothing but that and what it reads here. It may run twice before
-    /// this returns; the last run is the one that counts. A call inside another's `change` is part
-    /// of the outer one.
+    /// what it writes depends on nothing but that and what it reads here: while that is the same,
+    /// what it wrote is taken as it is. One that writes nothing does not wait. It may run twice
+    /// before this returns; the last run is the one that counts. A call inside another's `change`
+    /// is part of the outer one.
     virtual void inTransaction(std::function<void()> change) = 0;
 
     /// Tries to write what waits in memory, without waiting for anyone's lock. True when nothing
     /// waits any more.
     virtual bool writeWaitingChanges() = 0;
+    /// The same, for the last time: waits up to `patience` for the locks of others.
+    virtual bool writeLastChanges(std::chrono::milliseconds /*patience*/)
+    {
+        return writeWaitingChanges();
+    }
     /// True once after values have changed without a call of this object's setters: another process
-    /// wrote, or a change that had waited met other values than it was first made on.
+    /// wrote, a change that had waited met other values than it was first made on, or what could
+    /// not be read can be read again.
     virtual bool takeChangesElsewhere() = 0;
+    /// Values could not be read, so that absent or old ones were given, or the last look came too
+    /// soon after one in vain: takeChangesElsewhere() is to be asked again, though nothing may tell
+    /// when.
+    virtual bool hasMissedValues() const { return false; }
+    /// Where the values are kept; nothing for a store in memory.
+    virtual std::optional<FilePath> file() const { return std::nullopt; }
+    /// Reads every value.
     virtual PreferenceStoreStatus status() const = 0;
 
     /// Called after a change has begun to wait in memory, for whoever sees to it that
     /// writeWaitingChanges() is tried again.
     std::function<void()> onChangeWaits;
+    /// Called after a read while hasMissedValues() is true.
+    std::function<void()> onValuesMissed;
 };
 
 } // namespace lorva

@@ -14,10 +14,6 @@ namespace {
 
 using Change = std::function<void()>;
 using Values = PreferenceFile::Values;
-using Wait = PreferenceFile::Wait;
-
-/// More than these are not tried again with each new change, which would take longer and longer.
-constexpr size_t kMostTriedWithAChange = 32;
 
 void runAll(std::span<const Change> changes)
 {
@@ -39,15 +35,29 @@ struct SqlitePreferenceStore::Private
     std::vector<Change> waiting;
     /// What the waiting changes have made of the values; nothing for a key that they removed.
     Values overlay;
+    /// What the waiting changes have read in the file. As long as it holds the same, they would
+    /// make the same overlay.
+    Values basis;
+    /// They read different values of one key, so that no state of the file is their basis.
+    bool isBasisTorn = false;
     /// What the changes that run now have written so far.
     Values written;
+    /// The change that ran last wrote something.
+    bool hasWritten = false;
     Target target = Target::none;
     bool hasMetOthers = false;
 
     std::optional<PreferenceRow> read(const QString &key);
+    std::optional<PreferenceRow> readFile(const QString &key);
     void write(const QString &key, const std::optional<PreferenceRow> &row);
-    bool writeAll(size_t inMemory, Wait wait);
+
+    bool writeAll(size_t earlier);
+    void writeEarlier(size_t count);
+    void makeAgain(size_t count);
+    bool isBasisInFile();
     void runInMemory(const Change &change);
+    void dropLast();
+    void forget();
 };
 
 std::optional<PreferenceRow> SqlitePreferenceStore::Private::read(const QString &key)
@@ -59,48 +69,104 @@ std::optional<PreferenceRow> SqlitePreferenceStore::Private::read(const QString 
         if (const auto found = overlay.constFind(key); found != overlay.cend())
             return *found;
     }
-    return file.read(key);
+    return readFile(key);
+}
+
+std::optional<PreferenceRow> SqlitePreferenceStore::Private::readFile(const QString &key)
+{
+    std::optional<PreferenceRow> row = file.read(key);
+    if (target == Target::none)
+        return row;
+    const auto earlier = basis.constFind(key);
+    if (earlier == basis.cend())
+        basis.insert(key, row);
+    else
+        isBasisTorn = isBasisTorn || *earlier != row;
+    return row;
 }
 
 void SqlitePreferenceStore::Private::write(const QString &key,
                                            const std::optional<PreferenceRow> &row)
 {
+    hasWritten = true;
     written.insert(key, row);
     if (target == Target::file)
         file.write(key, row);
 }
 
-/// Makes all waiting changes in one transaction; the first `inMemory` of them are in the overlay.
-bool SqlitePreferenceStore::Private::writeAll(size_t inMemory, Wait wait)
+/// Ends the transaction that has begun with all waiting changes; the first `earlier` of them are in
+/// the overlay. When it fails, the overlay is what they came to now.
+bool SqlitePreferenceStore::Private::writeAll(size_t earlier)
 {
-    if (!file.begin(wait))
-        return false;
     target = Target::file;
-    const std::span<const Change> changes(waiting);
-    runAll(changes.first(inMemory));
-    const bool isAsBefore = written == overlay;
-    runAll(changes.subspan(inMemory));
+    writeEarlier(earlier);
+    hasWritten = false;
+    runAll(std::span<const Change>(waiting).subspan(earlier));
     target = Target::none;
-    written.clear();
+    overlay = std::exchange(written, {});
     if (!file.commit())
         return false;
-    hasMetOthers = hasMetOthers || !isAsBefore;
-    overlay.clear();
-    waiting.clear();
+    forget();
     return true;
+}
+
+/// A disk that is full shows at the end of a transaction only. So each new try must cost no more
+/// than the writing, however many changes wait and however long each takes.
+void SqlitePreferenceStore::Private::writeEarlier(size_t count)
+{
+    if (!isBasisInFile()) {
+        makeAgain(count);
+        return;
+    }
+    written = overlay;
+    for (auto each = overlay.cbegin(); each != overlay.cend(); ++each)
+        file.write(each.key(), *each);
+}
+
+void SqlitePreferenceStore::Private::makeAgain(size_t count)
+{
+    basis.clear();
+    isBasisTorn = false;
+    runAll(std::span<const Change>(waiting).first(count));
+    hasMetOthers = hasMetOthers || written != overlay;
+}
+
+bool SqlitePreferenceStore::Private::isBasisInFile()
+{
+    bool isSame = !isBasisTorn;
+    for (auto each = basis.cbegin(); isSame && each != basis.cend(); ++each)
+        isSame = file.read(each.key()) == *each;
+    return isSame;
 }
 
 void SqlitePreferenceStore::Private::runInMemory(const Change &change)
 {
     target = Target::memory;
+    hasWritten = false;
     change();
     target = Target::none;
     overlay.insert(std::exchange(written, {}));
 }
 
+/// What was refused is not to be made later, when nobody expects it any more.
+void SqlitePreferenceStore::Private::dropLast()
+{
+    waiting.pop_back();
+    if (waiting.empty())
+        forget();
+}
+
+void SqlitePreferenceStore::Private::forget()
+{
+    waiting.clear();
+    overlay.clear();
+    basis.clear();
+    isBasisTorn = false;
+}
+
 SqlitePreferenceStore::SqlitePreferenceStore(const FilePath &applicationSupport,
                                              std::chrono::milliseconds patience)
-    : d(new Private{PreferenceFile(applicationSupport, patience), {}, {}, {}})
+    : d(new Private{PreferenceFile(applicationSupport, patience), {}, {}, {}, {}, {}})
 {
 }
 
@@ -108,7 +174,10 @@ SqlitePreferenceStore::~SqlitePreferenceStore() = default;
 
 std::optional<PreferenceRow> SqlitePreferenceStore::row(const QString &key) const
 {
-    return d->read(key);
+    std::optional<PreferenceRow> row = d->read(key);
+    if (d->file.hasMissedValues() && onValuesMissed)
+        onValuesMissed();
+    return row;
 }
 
 void SqlitePreferenceStore::setRow(const QString &key, const std::optional<PreferenceRow> &row)
@@ -122,27 +191,45 @@ void SqlitePreferenceStore::inTransaction(Change change)
         change();
         return;
     }
-    const size_t inMemory = d->waiting.size();
+    const size_t earlier = d->waiting.size();
     d->waiting.push_back(std::move(change));
-    const Wait wait = inMemory == 0 ? Wait::patiently : Wait::notAtAll;
-    if (inMemory <= kMostTriedWithAChange && d->writeAll(inMemory, wait))
+    if (!d->file.begin(earlier == 0 ? d->file.usualDeadline() : QDeadlineTimer()))
+        d->runInMemory(d->waiting.back());
+    else if (d->writeAll(earlier))
         return;
-    d->runInMemory(d->waiting.back());
-    if (onChangeWaits)
+    if (!d->hasWritten)
+        d->dropLast();
+    else if (onChangeWaits)
         onChangeWaits();
 }
 
 bool SqlitePreferenceStore::writeWaitingChanges()
 {
+    return writeLastChanges({});
+}
+
+bool SqlitePreferenceStore::writeLastChanges(std::chrono::milliseconds patience)
+{
     if (d->waiting.empty())
         return true;
-    return d->target == Private::Target::none && d->writeAll(d->waiting.size(), Wait::notAtAll);
+    return d->target == Private::Target::none && d->file.begin(QDeadlineTimer(patience))
+        && d->writeAll(d->waiting.size());
 }
 
 bool SqlitePreferenceStore::takeChangesElsewhere()
 {
     const bool isFileOther = d->file.takeChangesElsewhere();
     return std::exchange(d->hasMetOthers, false) || isFileOther;
+}
+
+bool SqlitePreferenceStore::hasMissedValues() const
+{
+    return d->file.hasMissedValues();
+}
+
+std::optional<FilePath> SqlitePreferenceStore::file() const
+{
+    return d->file.path();
 }
 
 PreferenceStoreStatus SqlitePreferenceStore::status() const
@@ -156,7 +243,7 @@ PreferenceStoreStatus SqlitePreferenceStore::status() const
     PreferenceStoreStatus status;
     for (const auto &[key, row] : rows)
         status.entries.push_back(entryOf(key, row));
-    status.file = d->file.path();
+    status.file = file();
     status.movedAside = preferencesAside(d->file.path());
     status.failure = d->file.failure();
     status.waitingChanges = int(d->waiting.size());

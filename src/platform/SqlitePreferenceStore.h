@@ -17,8 +17,9 @@ class FilePath;
 /// gives the last value that this process knows. Every write is one immediate transaction of its
 /// own, or part of the one that inTransaction() opens.
 /// Failure: a file that is no database is moved aside with its date, and the defaults are used.
-/// What cannot be written waits in memory, in order, and is made again over whatever the file then
-/// holds. Thread: main. Several stores, of one process or many, may use one file.
+/// What cannot be written waits in memory, in order, and is made again if the file then holds other
+/// values than it was made on. Thread: main. Several stores, of one process or many, may use one
+/// file.
 class SqlitePreferenceStore final : public ValuePreferenceStore
 {
 public:
@@ -33,7 +34,10 @@ public:
 
     void inTransaction(std::function<void()> change) override;
     bool writeWaitingChanges() override;
+    bool writeLastChanges(std::chrono::milliseconds patience) override;
     bool takeChangesElsewhere() override;
+    bool hasMissedValues() const override;
+    std::optional<FilePath> file() const override;
     PreferenceStoreStatus status() const override;
 
 private:

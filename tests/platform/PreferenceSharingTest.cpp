@@ -1,20 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "platform/PreferenceWatcher.h"
 #include "platform/SqliteConnection.h"
 #include "platform/SqlitePreferenceStore.h"
 #include "support/AdverseSystem.h"
-#include "support/Waiting.h"
-
-#include <QFile>
-#include <QGuiApplication>
 
 #include <gmock/gmock.h>
 
 #include <csignal>
-#include <filesystem>
+#include <list>
 #include <random>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -44,10 +41,16 @@ public:
         EXPECT_EQ(::pipe(m_toParent) | ::pipe(m_toChild), 0);
         m_process = ::fork();
         ::close(m_process == 0 ? m_toParent[0] : m_toParent[1]);
+        ::close(m_process == 0 ? m_toChild[1] : m_toChild[0]);
         if (m_process != 0)
             return;
         work(*this);
         ::_exit(0);
+    }
+    ~OtherProcess()
+    {
+        ::close(m_toParent[0]);
+        ::close(m_toChild[1]);
     }
     OtherProcess(const OtherProcess &) = delete;
     OtherProcess &operator=(const OtherProcess &) = delete;
@@ -231,85 +234,127 @@ TEST_F(PreferenceSharing, aStoreThatWasLockedOutAtFirstOpensLater)
     EXPECT_TRUE(store.takeChangesElsewhere());
 }
 
-class PreferenceWatcherTest : public PreferenceSharing
+TEST_F(PreferenceSharing, aChangeThatWroteNothingDoesNotWait)
 {
-protected:
-    SqlitePreferenceStore &watch(const FilePath &folder)
-    {
-        m_own.emplace(folder, 0ms);
-        m_watcher.emplace(*m_own);
-        QObject::connect(&*m_watcher, &PreferenceWatcher::changedElsewhere,
-                         [this] { ++m_notices; });
-        return *m_own;
-    }
-
-    std::optional<SqlitePreferenceStore> m_own;
-    std::optional<PreferenceWatcher> m_watcher;
-    int m_notices = 0;
-};
-
-TEST_F(PreferenceWatcherTest, tellsOfOthersWritesOnlyAndOnce)
-{
-    SqlitePreferenceStore &own = watch(m_folder);
-    const auto other = std::make_unique<SqlitePreferenceStore>(m_folder);
-    own.setBoolean("own", true);
-    other->inTransaction([&other] {
-        for (int i = 0; i < 50; ++i)
-            other->setData(QString::number(i), QByteArray(10000, 'x'));
-    });
-    EXPECT_TRUE(test::waitUntil([this] { return m_notices > 0; }));
-    own.setBoolean("own", false);
-    other->setBoolean("other", true);
-    EXPECT_TRUE(test::waitUntil([this] { return m_notices > 1; }));
-    EXPECT_EQ(m_notices, 2);
-}
-
-TEST_F(PreferenceWatcherTest, followsFilesThatComeAndGo)
-{
-    SqlitePreferenceStore &own = watch(m_folder);
-    const QString file = QString::fromUtf8(m_folder.child("preferences.sqlite").bytes());
-    for (int round = 1; round <= 4; ++round) {
-        const QString other = file + QString::number(round);
-        const bool isReplaced = round % 2 == 0; // else it goes, and a new one is made
-        ASSERT_TRUE(!isReplaced || QFile::copy(file, other));
-        ASSERT_EQ(std::rename(qPrintable(isReplaced ? other : file),
-                              qPrintable(isReplaced ? file : other)),
-                  0);
-        ASSERT_TRUE(test::waitUntil([&] { return m_notices == 2 * round - 1; }));
-        SqlitePreferenceStore(m_folder).setString("key", QString::number(round));
-        ASSERT_TRUE(test::waitUntil([&] { return m_notices == 2 * round; }));
-        EXPECT_EQ(own.string("key"), QString::number(round));
-    }
-}
-
-TEST_F(PreferenceWatcherTest, writesWhatWaitsOnceTheLockIsFree)
-{
-    SqlitePreferenceStore &own = watch(m_folder);
+    SqlitePreferenceStore own(m_folder, 0ms);
+    int refused = 0;
+    const auto refuse = [&own, &refused] { refused += own.contains("absent") ? 100 : 1; };
     auto raw = openRaw();
     ASSERT_TRUE(raw && raw->run("BEGIN IMMEDIATE"));
+    own.inTransaction(refuse);
+    EXPECT_EQ(own.status().waitingChanges, 0);
     own.setString("key", "value");
+    own.inTransaction(refuse);
     EXPECT_EQ(own.status().waitingChanges, 1);
-    ASSERT_TRUE(raw->run("ROLLBACK")); // which no file notice tells
-    EXPECT_TRUE(test::waitUntil([&own] { return own.status().waitingChanges == 0; }));
+    ASSERT_TRUE(raw->run("ROLLBACK"));
+    EXPECT_TRUE(own.writeWaitingChanges());
+    EXPECT_EQ(refused, 2);
     EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "value");
-    EXPECT_EQ(m_notices, 0);
 }
 
-TEST_F(PreferenceWatcherTest, looksAndWritesWhenTheApplicationBecomesActive)
+TEST_F(PreferenceSharing, aChangeThatWaitedIsMadeAgainOnlyWhereTheOthersWroteWhatItRead)
 {
-    const FilePath unwatchable = m_folder.child("\xff");
-    SqlitePreferenceStore &own = watch(unwatchable);
-    SqlitePreferenceStore other(unwatchable);
+    for (const auto &[othersKey, expectedRuns] : {std::pair("unrelated", 1), {"words", 2}}) {
+        const QString key = QString::fromLatin1(othersKey);
+        SqlitePreferenceStore other(m_folder);
+        SqlitePreferenceStore own(m_folder, 0ms);
+        int runs = 0;
+        other.inTransaction([&] {
+            other.setStringArray(key, {"other"});
+            own.inTransaction([&] {
+                ++runs;
+                append(own, "own");
+            });
+        });
+        EXPECT_TRUE(own.writeWaitingChanges());
+        EXPECT_EQ(runs, expectedRuns) << othersKey;
+        EXPECT_EQ(other.stringArray(key)->front(), "other");
+        EXPECT_EQ(words(other).back(), "own");
+    }
+}
+
+/// The file ends as it was when the first change ran, but the second one saw something else.
+TEST_F(PreferenceSharing, whatWaitingChangesReadAtDifferentTimesIsReadAgain)
+{
+    SqlitePreferenceStore other(m_folder);
+    SqlitePreferenceStore own(m_folder, 0ms);
+    const auto copyTo = [&own](const QString &place) {
+        own.inTransaction([&own, place] { own.setStringArray(place, words(own)); });
+    };
+    append(other, "a");
     other.inTransaction([&] {
-        append(other, "other");
-        append(own, "own");
+        copyTo("first");
+        append(other, "b");
     });
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-    EXPECT_EQ(m_notices, 0);
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-    EXPECT_EQ(m_notices, 1);
-    EXPECT_EQ(words(other), (QStringList{"other", "own"}));
-    std::filesystem::remove_all(unwatchable.c_str()); // which Qt cannot
+    other.inTransaction([&] {
+        copyTo("second");
+        other.setStringArray("words", {"a"});
+    });
+    EXPECT_EQ(own.stringArray("second"), (QStringList{"a", "b"}));
+    EXPECT_TRUE(own.writeWaitingChanges());
+    EXPECT_EQ(other.stringArray("second"), QStringList("a"));
+    EXPECT_TRUE(own.takeChangesElsewhere());
+}
+
+TEST_F(PreferenceSharing, theLastTryWaitsThoughTheEarlierOnesWereInVain)
+{
+    const OtherProcess other([this](OtherProcess &self) {
+        SqlitePreferenceStore store(m_folder);
+        store.inTransaction([&] {
+            append(store, "other");
+            self.tell(1);
+            self.awaitGo();
+            store.setData("large", QByteArray(20000000, 'x')); // far longer than a try takes
+        });
+    });
+    ASSERT_TRUE(other.hear());
+    SqlitePreferenceStore own(m_folder, 0ms);
+    append(own, "own");
+    EXPECT_FALSE(own.writeLastChanges(1ms));
+    other.letGo();
+    EXPECT_TRUE(own.writeLastChanges(60s));
+    other.awaitEnd();
+    EXPECT_EQ(words(own), (QStringList{"other", "own"}));
+}
+
+TEST_F(PreferenceSharing, noNewFileIsMadeWhileADamagedOneIsMoved)
+{
+    const FilePath file = m_folder.child("preferences.sqlite");
+    const int mover = ::open(m_folder.c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(::flock(mover, LOCK_EX), 0);
+    SqlitePreferenceStore own(m_folder, 0ms);
+    own.setString("key", "value");
+    EXPECT_NE(::access(file.c_str(), F_OK), 0);
+    EXPECT_EQ(own.status().failure->kind, ErrorKind::cancelled);
+    ::close(mover);
+    EXPECT_TRUE(own.writeWaitingChanges());
+    EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "value");
+}
+
+TEST_F(PreferenceSharing, manyThatStartOnADamagedFileLoseNothing)
+{
+    for (int round = 0; round < 12; ++round) {
+        const FilePath folder = m_folder.child(QByteArray::number(round));
+        test::writeFile(folder, "preferences.sqlite", QByteArray(5000, 'x'));
+        std::list<OtherProcess> starters;
+        for (int i = 0; i < 6; ++i)
+            starters.emplace_back([&folder, i](OtherProcess &self) {
+                self.awaitGo();
+                SqlitePreferenceStore store(folder, 60s);
+                for (int key = 5 * i; key < 5 * i + 5; ++key)
+                    store.setBoolean(QString::number(key), true);
+                self.tell(store.writeLastChanges(60s));
+            });
+        for (const OtherProcess &starter : starters)
+            starter.letGo();
+        for (const OtherProcess &starter : starters) {
+            EXPECT_EQ(starter.hear(), 1);
+            starter.awaitEnd();
+        }
+        const PreferenceStoreStatus status = SqlitePreferenceStore(folder).status();
+        EXPECT_EQ(status.entries.size(), 30u);
+        EXPECT_EQ(status.movedAside.size(), 1u);
+    }
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "platform/SqlitePreferenceStore.h"
+
+#include "platform/PreferenceFilesAside.h"
 #include "platform/SqliteConnection.h"
 #include "support/AdverseSystem.h"
 
@@ -8,9 +10,11 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -134,6 +138,37 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"tableOfAnotherShape", otherDatabase}),
     [](const auto &damage) { return damage.param.what; });
 
+QByteArray namesMovedFrom(int notices)
+{
+    alignas(inotify_event) std::array<char, 4096> buffer;
+    const ssize_t size = ::read(notices, buffer.data(), buffer.size());
+    QByteArray names;
+    for (ssize_t at = 0; at < size;) {
+        const auto *const event = reinterpret_cast<const inotify_event *>(buffer.data() + at);
+        names.append(event->name).append(' ');
+        at += ssize_t(sizeof *event) + event->len;
+    }
+    return names;
+}
+
+/// Last the file itself, as a new one may stand there from then on.
+TEST_F(SqlitePreferenceStoreTest, theLogGoesAsideBeforeItsFileOrNotAtAll)
+{
+    const int notices = ::inotify_init();
+    const QByteArray log = writeFile(m_folder, "preferences.sqlite-wal", "log").fileName();
+    EXPECT_FALSE(movePreferencesAside(m_file));
+    EXPECT_EQ(test::readFile(m_folder.child(log)), "log");
+
+    writeFile(m_folder, "preferences.sqlite", "x");
+    ::inotify_add_watch(notices, m_folder.c_str(), IN_MOVED_FROM);
+    EXPECT_TRUE(movePreferencesAside(m_file));
+    EXPECT_EQ(namesMovedFrom(notices), "preferences.sqlite-wal preferences.sqlite ");
+    ::close(notices);
+    const std::vector<FilePath> aside = preferencesAside(m_file);
+    ASSERT_EQ(aside.size(), 1u);
+    EXPECT_EQ(test::readFile(FilePath(QByteArray(aside[0].bytes() + "-wal"))), "log");
+}
+
 TEST_F(SqlitePreferenceStoreTest, anEmptyFileIsANewDatabase)
 {
     writeFile(m_folder, "preferences.sqlite", "");
@@ -195,6 +230,7 @@ TEST_F(SqlitePreferenceStoreTest, onAFullDiskChangesWaitForSpace)
     store.setString("key", "old");
     store.setString("gone", "old");
     const QString large(100000, u'x');
+    int runs = 0;
     {
         const test::FullDisk full(0);
         store.inTransaction([&store, large] {
@@ -202,17 +238,20 @@ TEST_F(SqlitePreferenceStoreTest, onAFullDiskChangesWaitForSpace)
             store.remove("gone");
         });
         for (int i = 0; i < 100; ++i)
-            store.inTransaction([&store] {
+            store.inTransaction([&store, &runs] {
+                ++runs;
                 store.setString("key", QString(store.string("key").value_or("") % QChar(u'y')));
             });
         EXPECT_EQ(store.string("key"), QString(large % QString(100, u'y')));
         EXPECT_EQ(store.string("gone"), std::nullopt);
         EXPECT_FALSE(store.writeWaitingChanges());
+        store.inTransaction([&store] { EXPECT_FALSE(store.contains("gone")); });
         EXPECT_EQ(store.status().waitingChanges, 101);
         EXPECT_TRUE(store.status().failure);
     }
     EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), "old");
     EXPECT_TRUE(store.writeWaitingChanges());
+    EXPECT_EQ(runs, 100) << "each once, however often the writing was tried";
     EXPECT_FALSE(store.takeChangesElsewhere());
     EXPECT_EQ(SqlitePreferenceStore(m_folder).string("key"), QString(large % QString(100, u'y')));
     EXPECT_EQ(SqlitePreferenceStore(m_folder).string("gone"), std::nullopt);
