@@ -23,10 +23,9 @@ constexpr char kHelp[] =
     "  remove         takes families out of it\n"
     "  set            makes these families its members, in this order, and no others\n"
     "\n"
-    "COLLECTION is its name, whatever its case, or its id, which --json shows. FAMILY is the name\n"
-    "of a family of this machine or of a collection; a lone - reads names from standard input, "
-    "one\n"
-    "per line. A command is done whole or not at all.\n"
+    "COLLECTION is its id, which --json shows, or its name, in any case unless that fits several.\n"
+    "FAMILY is the name of a family of this machine or of a collection; a lone - reads names from\n"
+    "standard input, one per line. A command is done whole or not at all.\n"
     "\n"
     "  --json         JSON instead of lines\n"
     "  --missing      take names of families that this machine lacks, for when their fonts come\n"
@@ -42,10 +41,15 @@ std::vector<FontCollectionRecord> collections(const Organization &organization)
 
 int runCollectionsCommand(std::span<const QByteArray> words)
 {
-    static const GroupingKind kKind{"collections",    QStringLiteral("collection"),
-                                    collections,      createCollection,
-                                    renameCollection, deleteCollection,
-                                    addFamilies,      removeFamilies,
+    static const GroupingKind kKind{"collections",
+                                    QStringLiteral("collection"),
+                                    OrganizationPart::collections,
+                                    collections,
+                                    createCollection,
+                                    renameCollection,
+                                    deleteCollection,
+                                    addFamilies,
+                                    removeFamilies,
                                     setFamilies};
     return runGroupingCommand(kKind, kHelp, words);
 }

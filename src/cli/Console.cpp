@@ -90,9 +90,14 @@ int finish()
     return exitOk;
 }
 
-int fail(const QString &message)
+void warn(const QString &message)
 {
     std::fprintf(stderr, "lorvactl: %s\n", singleLine(message).toUtf8().constData());
+}
+
+int fail(const QString &message)
+{
+    warn(message);
     return exitFailed;
 }
 

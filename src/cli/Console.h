@@ -32,6 +32,9 @@ int fail(const QString &message);
 /// One line on standard error, with a pointer to the command's help.
 int failUsage(std::string_view command, const QString &message);
 
+/// One line on standard error about something that does not keep the command from its work.
+void warn(const QString &message);
+
 /// failUsage() for an error of that kind, else fail().
 int fail(std::string_view command, const Error &error);
 

@@ -6,6 +6,7 @@
 #include "catalog/CatalogCache.h"
 #include "catalog/PersistedCache.h"
 #include "cli/PreferenceKeys.h"
+#include "cli/Words.h"
 #include "model/records/RecordsJson.h"
 #include "platform/PreferenceFilesAside.h"
 
@@ -23,11 +24,6 @@ const QString kKeptMark = QStringLiteral(".unreadable");
 QString bytes(qint64 size)
 {
     return size == 1 ? QStringLiteral("1 byte") : QStringLiteral("%1 bytes").arg(size);
-}
-
-QString families(qsizetype count)
-{
-    return count == 1 ? QStringLiteral("1 family") : QStringLiteral("%1 families").arg(count);
 }
 
 void checkPreferenceFile(Examined &examined, Findings &findings)
@@ -97,22 +93,44 @@ void checkPreferenceEntries(Examined &examined, Findings &findings)
         findings.push_back(entryFinding(key, row));
 }
 
-/// Adds a finding for a cache file and gives what it holds, if it does.
+/// A cache file, and how it is written.
+struct CacheFile
+{
+    FilePath path;
+    /// "by the next scan".
+    QString whenReplaced;
+};
+
+/// The bytes of a cache file; adds a finding where there are none.
+std::optional<QByteArray> readCache(const CacheFile &file, Findings &findings)
+{
+    const QString about = file.path.displayText();
+    Result<QByteArray> json = readWholeFile(file.path, kMostCacheBytes);
+    if (json)
+        return *std::move(json);
+    if (json.error().kind == ErrorKind::notFound)
+        findings.push_back({State::well, about, QStringLiteral("not there yet")});
+    else
+        findings.push_back(
+            {State::wrong, about, QStringLiteral("cannot be read: ") + json.error().detail});
+    return std::nullopt;
+}
+
+/// Adds a finding for a cache file and gives what it holds, if it does. One that is damaged, or of
+/// another version, costs time and nothing else.
 template <class T, class Count>
-std::optional<T> examineCache(const FilePath &file, Result<T> (*decode)(QByteArray), Count count,
+std::optional<T> examineCache(const CacheFile &file, Result<T> (*decode)(QByteArray), Count count,
                               Findings &findings)
 {
-    const QString about = file.displayText();
-    Result<QByteArray> json = readWholeFile(file, kMostCacheBytes);
-    if (!json && json.error().kind == ErrorKind::notFound) {
-        findings.push_back({State::well, about, QStringLiteral("not there yet")});
+    const std::optional<QByteArray> json = readCache(file, findings);
+    if (!json)
         return std::nullopt;
-    }
-    Result<T> held = json ? decode(*json) : tl::unexpected(json.error());
+    const QString about = file.path.displayText();
+    Result<T> held = decode(*json);
     if (!held) {
-        findings.push_back(
-            {State::wrong, about,
-             QStringLiteral("of no use, and replaced by the next scan: ") + held.error().detail});
+        findings.push_back({State::note, about,
+                            QStringLiteral("of no use, and replaced %1: %2")
+                                .arg(file.whenReplaced, held.error().detail)});
         return std::nullopt;
     }
     findings.push_back(
@@ -126,7 +144,8 @@ void checkParseCache(Examined &examined, Findings &findings)
         return QStringLiteral("%1 font files, %2")
             .arg(QString::number(cache.files.size()), families(cache.identities.size()));
     };
-    examineCache(examined.folders.parseCache(), decodePersistedCache, count, findings);
+    examineCache({examined.folders.parseCache(), QStringLiteral("by the next scan")},
+                 decodePersistedCache, count, findings);
 }
 
 void checkCatalog(Examined &examined, Findings &findings)
@@ -134,8 +153,9 @@ void checkCatalog(Examined &examined, Findings &findings)
     const auto count = [](const CatalogSnapshot &snapshot) {
         return families(qsizetype(snapshot.families->size()));
     };
-    const auto snapshot =
-        examineCache(examined.folders.catalogSnapshot(), decodeSnapshot, count, findings);
+    const auto snapshot = examineCache({examined.folders.catalogSnapshot(),
+                                        QStringLiteral("when the window has next read the fonts")},
+                                       decodeSnapshot, count, findings);
     if (!snapshot)
         return;
     examined.catalogFamilies.emplace();
@@ -184,9 +204,13 @@ void checkMissingFamilies(Examined &examined, Findings &findings)
 }
 
 constexpr DoctorCheck kChecks[]{
-    checkPreferenceFile,    checkPreferencesWritable, checkPreferencesAside,
-    checkPreferenceEntries, checkParseCache,          checkCatalog,
-    checkMissingFamilies,
+    {"preferenceFile", checkPreferenceFile},
+    {"preferencesWritable", checkPreferencesWritable},
+    {"preferencesAside", checkPreferencesAside},
+    {"preference", checkPreferenceEntries},
+    {"parseCache", checkParseCache},
+    {"catalog", checkCatalog},
+    {"missingFamilies", checkMissingFamilies},
 };
 
 } // namespace

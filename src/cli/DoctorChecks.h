@@ -22,8 +22,13 @@ struct Examined
     std::optional<QSet<QString>> catalogFamilies;
 };
 
-/// Adds what it finds, in any state. Changes nothing on the machine.
-using DoctorCheck = void (*)(Examined &examined, Findings &findings);
+struct DoctorCheck
+{
+    /// For programs; stays the same from version to version.
+    std::string_view name;
+    /// Adds what it finds, in any state. Changes nothing on the machine.
+    void (*run)(Examined &examined, Findings &findings);
+};
 
 /// All there are, in the order in which they are run and shown. What comes to Lorva adds its own.
 std::span<const DoctorCheck> doctorChecks();

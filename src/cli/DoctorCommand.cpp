@@ -20,8 +20,9 @@ constexpr char kHelp[] = "Usage: lorvactl doctor [--json]\n"
                          "\"ok\", \"note\" or \"wrong\", a tab, the file or preference, a tab, "
                          "what there is to say. A note\n"
                          "is worth knowing, but nothing is out of order: preferences of another "
-                         "version, or damaged ones\n"
-                         "that were kept beside new ones.\n"
+                         "version, damaged ones\n"
+                         "that were kept beside new ones, a cache of no use that will be written "
+                         "anew.\n"
                          "\n"
                          "  --json         one JSON object instead\n"
                          "  --help         show this help\n"
@@ -59,6 +60,8 @@ void printJson(const Findings &findings, bool isWell)
     out.beginArray();
     for (const Finding &each : findings) {
         out.beginObject();
+        out.key("check");
+        out.utf8(QByteArrayView(each.check));
         out.key("state");
         out.utf8(QByteArrayView(stateName(each.state)));
         out.key("about");
@@ -72,13 +75,25 @@ void printJson(const Findings &findings, bool isWell)
     print(QByteArray(out.take() + '\n'));
 }
 
+Findings findingsOf(Examined &examined)
+{
+    Findings all;
+    for (const DoctorCheck &check : doctorChecks()) {
+        Findings found;
+        check.run(examined, found);
+        for (Finding &each : found) {
+            each.check = check.name;
+            all.push_back(std::move(each));
+        }
+    }
+    return all;
+}
+
 int run(bool isJson)
 {
     const PlatformFolders folders = xdgFolders();
     Examined examined{folders, lookAtPreferences(folders.applicationSupport), std::nullopt};
-    Findings findings;
-    for (const DoctorCheck check : doctorChecks())
-        check(examined, findings);
+    const Findings findings = findingsOf(examined);
     const bool isWell = std::none_of(findings.begin(), findings.end(), [](const Finding &each) {
         return each.state == Finding::State::wrong;
     });

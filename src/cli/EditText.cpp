@@ -2,28 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "cli/EditText.h"
 
+#include "cli/Words.h"
+#include "model/stores/DisplaySettingsStore.h"
+
 namespace lorva::cli {
 
 namespace {
-
-QString quoted(const QString &name)
-{
-    return QStringLiteral("\"%1\"").arg(name);
-}
-
-QString families(size_t count)
-{
-    return count == 1 ? QStringLiteral("1 family") : QStringLiteral("%1 families").arg(count);
-}
 
 /// "3 families joined, 1 family left"; empty for no change of members.
 QString memberText(const GroupingChange &change)
 {
     QStringList parts;
     if (!change.joined.empty())
-        parts.push_back(QStringLiteral("%1 joined").arg(families(change.joined.size())));
+        parts.push_back(QStringLiteral("%1 joined").arg(families(qsizetype(change.joined.size()))));
     if (!change.left.empty())
-        parts.push_back(QStringLiteral("%1 left").arg(families(change.left.size())));
+        parts.push_back(QStringLiteral("%1 left").arg(families(qsizetype(change.left.size()))));
     return parts.join(QStringLiteral(", "));
 }
 
@@ -43,7 +36,7 @@ QString groupingLine(const QString &noun, const GroupingChange &change, const QS
         return QStringLiteral("%1 %2 deleted").arg(noun, quoted(*change.nameBefore));
     if (!change.nameBefore && change.nameAfter)
         return QStringLiteral("%1 %2 created with %3")
-            .arg(noun, quoted(*change.nameAfter), families(change.joined.size()));
+            .arg(noun, quoted(*change.nameAfter), families(qsizetype(change.joined.size())));
     QStringList parts;
     if (change.nameBefore != change.nameAfter)
         parts.push_back(QStringLiteral("renamed from %1").arg(quoted(*change.nameBefore)));
@@ -89,6 +82,15 @@ QStringList editLines(const OrganizationEdit &edit, const Organization &after)
     for (const QString &id : edit.broughtBack)
         lines.push_back(QStringLiteral("foundry %1: shown again").arg(quoted(id)));
     return lines;
+}
+
+QString displaySettingsLine(const QString &key, const Organization &after)
+{
+    if (key == kSharedDisplaySettingsKey)
+        return QStringLiteral("display settings of all fonts: taken in");
+    const qsizetype idStart = displaySettingsKey(BrowserSource::collection({})).size();
+    return QStringLiteral("display settings of collection %1: taken in")
+        .arg(quoted(nameOf(after.collections, key.mid(idStart))));
 }
 
 } // namespace lorva::cli

@@ -10,4 +10,7 @@ namespace lorva::cli {
 /// `after` is what it leads to.
 QStringList editLines(const OrganizationEdit &edit, const Organization &after);
 
+/// That an import took in display settings under this key.
+QString displaySettingsLine(const QString &key, const Organization &after);
+
 } // namespace lorva::cli

@@ -15,10 +15,8 @@ namespace {
 constexpr char kHelp[] =
     "Usage: lorvactl export [-o FILE]\n"
     "\n"
-    "Writes collections, style categories, what you said about foundries, and display settings as\n"
-    "one JSON document, for another machine or for version control. Equal organisations give "
-    "equal\n"
-    "bytes.\n"
+    "Writes collections, styles, what you said about foundries, and display settings as one JSON\n"
+    "document, for another machine or for version control. Equal organisations give equal bytes.\n"
     "\n"
     "  -o FILE        the file to write, whole or not at all; standard output if not given\n"
     "  --help         show this help\n";
@@ -26,19 +24,25 @@ constexpr char kHelp[] =
 Result<void> run(const Arguments &arguments)
 {
     UserOrganization user;
-    Result<Organization> organization = user.load();
+    using Part = OrganizationPart;
+    Result<Organization> organization =
+        user.load({Part::collections, Part::styles, Part::foundries, Part::displaySettings});
     if (!organization)
         return tl::unexpected(organization.error());
-    const QByteArray json =
-        encodeOrganizationFile({*std::move(organization), user.displaySettings().all()});
+    const OrganizationFile contents{*std::move(organization), user.displaySettings().all(), {}};
+    if (const Result<void> checked = user.checkRead(); !checked)
+        return checked;
+    const Result<QByteArray> json = encodeOrganizationFile(contents);
+    if (!json)
+        return tl::unexpected(json.error());
     const std::optional<QByteArray> target = arguments.value("-o");
     if (!target) {
-        print(json);
+        print(*json);
         return {};
     }
     const FilePath file = FilePath::absolute(*target);
     const Result<void> checked = refuseFontFile(file);
-    return checked ? writeFileAtomically(file, json) : checked;
+    return checked ? writeFileAtomically(file, *json) : checked;
 }
 
 } // namespace

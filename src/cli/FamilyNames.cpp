@@ -3,9 +3,16 @@
 #include "cli/FamilyNames.h"
 
 #include "cli/Console.h"
-#include "cli/GroupingNames.h"
+#include "cli/Words.h"
+#include "model/stores/OrganizationNames.h"
 
 namespace lorva::cli {
+
+FamilyNames::FamilyNames(const QStringList &names, QString whole)
+    : m_whole(std::move(whole))
+{
+    add(names);
+}
 
 void FamilyNames::add(const QStringList &names)
 {
@@ -15,7 +22,7 @@ void FamilyNames::add(const QStringList &names)
         if (m_names.size() == before)
             continue;
         m_nameByPrintedForm.insert(singleLine(name), name);
-        m_namesByFoldedForm[withoutCase(name)].push_back(name);
+        m_namesByFoldedForm[comparableName(name)].push_back(name);
     }
 }
 
@@ -30,23 +37,28 @@ void FamilyNames::addMembers(const Organization &organization)
 
 Result<QString> FamilyNames::find(const QString &typed, Unknown unknown) const
 {
-    if (typed.isEmpty())
-        return failure(ErrorKind::invalidValue, QStringLiteral("a family has no empty name"));
     if (m_names.contains(typed))
         return typed;
     if (const auto printed = m_nameByPrintedForm.constFind(typed);
         printed != m_nameByPrintedForm.cend())
         return *printed;
-    const QStringList alike = m_namesByFoldedForm.value(withoutCase(typed));
+    const QStringList alike = m_namesByFoldedForm.value(comparableName(typed));
     if (alike.size() == 1)
         return alike.front();
     if (alike.size() > 1)
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("several families are called \"%1\": %2")
-                           .arg(typed, alike.join(QStringLiteral(", "))));
+                       QStringLiteral("several families are called %1: %2")
+                           .arg(quoted(typed), alike.join(QStringLiteral(", "))));
     if (unknown == Unknown::isKept)
         return typed;
-    return failure(ErrorKind::notFound, QStringLiteral("there is no family \"%1\"").arg(typed));
+    return tl::unexpected(unknownFamily(typed));
+}
+
+Error FamilyNames::unknownFamily(const QString &typed) const
+{
+    return {ErrorKind::notFound,
+            m_whole.isEmpty() ? QStringLiteral("there is no family %1").arg(quoted(typed))
+                              : QStringLiteral("%1 is not in %2").arg(quoted(typed), m_whole)};
 }
 
 Result<QStringList> FamilyNames::find(const QStringList &typed, Unknown unknown) const

@@ -15,7 +15,8 @@ namespace lorva::cli {
 class FamilyNames
 {
 public:
-    explicit FamilyNames(const QStringList &names = {}) { add(names); }
+    /// `whole`: what all of them belong to, for errors: "collection "Posters"".
+    explicit FamilyNames(const QStringList &names = {}, QString whole = {});
 
     void add(const QStringList &names);
     /// The members of all groupings, also those that this machine lacks.
@@ -30,6 +31,9 @@ public:
 private:
     Result<QString> find(const QString &typed, Unknown unknown) const;
 
+    Error unknownFamily(const QString &typed) const;
+
+    const QString m_whole;
     QSet<QString> m_names;
     QHash<QString, QString> m_nameByPrintedForm;
     QHash<QString, QStringList> m_namesByFoldedForm;

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <string_view>
 #include <vector>
 
 namespace lorva::cli {
@@ -22,6 +23,8 @@ struct Finding
     QString about;
     /// For people, one line.
     QString text;
+    /// For programs: DoctorCheck::name.
+    std::string_view check = {};
 };
 
 using Findings = std::vector<Finding>;

@@ -6,6 +6,7 @@
 #include "cli/GroupingNames.h"
 #include "cli/UserOrganization.h"
 #include "cli/Verbs.h"
+#include "cli/Words.h"
 #include "model/stores/OrganizationChanges.h"
 #include "organize/Foundries.h"
 
@@ -37,10 +38,9 @@ constexpr char kHelp[] =
     "                 foundry then\n"
     "  reset          lets the fonts of families say it again\n"
     "\n"
-    "FOUNDRY is its name, whatever its case, or its id, which --json shows. FAMILY is the name of "
-    "a\n"
-    "family of this machine or of one that you sorted; a lone - reads names from standard input,\n"
-    "one per line. A command is done whole or not at all.\n"
+    "FOUNDRY is its id, which --json shows, or its name, in any case unless that fits several.\n"
+    "FAMILY is the name of a family of this machine or of one that you sorted; a lone - reads\n"
+    "names from standard input, one per line. A command is done whole or not at all.\n"
     "\n"
     "  --json         JSON instead of lines\n"
     "  --missing      take names of families that this machine lacks, for when their fonts come\n"
@@ -91,10 +91,10 @@ std::vector<GroupingName> allFoundries(const FontsSay &fonts, const FoundryCorre
     return names;
 }
 
-Result<QString> foundryNamed(const std::vector<GroupingName> &foundries, const QString &typed)
+Result<GroupingName> wanted(const std::vector<GroupingName> &foundries, const QString &typed)
 {
     const Result<size_t> place = findGrouping(foundries, typed, kNoun);
-    return place ? Result<QString>(foundries[*place].id) : tl::unexpected(place.error());
+    return place ? Result<GroupingName>(foundries[*place]) : tl::unexpected(place.error());
 }
 
 Result<QStringList> knownFamilies(const FontsSay &fonts, const Organization &organization,
@@ -146,22 +146,24 @@ void dropFamilies(Organization &organization, const FontsSay &fonts, const QStri
     }
 }
 
-/// Reads the fonts, finds the foundry among all that can be named, and calls `change` with its id.
-using FoundryChange = Result<void> (*)(Organization &, const FontsSay &, const QString &foundryID,
+/// Reads the fonts, finds the foundry among all that can be named, and calls `change` with it.
+using FoundryChange = Result<void> (*)(Organization &, const FontsSay &, const GroupingName &,
                                        const VerbRequest &);
 Result<void> changeFoundry(const VerbRequest &request, FoundryChange change)
 {
     const FontsSay fonts = readFonts(request.folders);
     return UserOrganization().change([=](Organization &organization) -> Result<void> {
-        const Result<QString> id =
-            foundryNamed(allFoundries(fonts, organization.foundries), request.subjects.front());
-        return id ? change(organization, fonts, *id, request) : tl::unexpected(id.error());
+        const Result<GroupingName> foundry =
+            wanted(allFoundries(fonts, organization.foundries), request.subjects.front());
+        return foundry ? change(organization, fonts, *foundry, request)
+                       : tl::unexpected(foundry.error());
     });
 }
 
 Result<void> list(const VerbRequest &request)
 {
-    const Result<Organization> organization = UserOrganization().load();
+    const Result<Organization> organization =
+        UserOrganization().load({OrganizationPart::foundries});
     if (!organization)
         return tl::unexpected(organization.error());
     const CorrectedFoundries corrected =
@@ -192,9 +194,9 @@ Result<void> rename(const VerbRequest &request)
         return failure(ErrorKind::usage,
                        QStringLiteral("rename needs either a new name or --original"));
     return changeFoundry(request,
-                         [](Organization &organization, const FontsSay &, const QString &id,
-                            const VerbRequest &asked) {
-                             return renameFoundry(organization, id,
+                         [](Organization &organization, const FontsSay &,
+                            const GroupingName &foundry, const VerbRequest &asked) {
+                             return renameFoundry(organization, foundry.id,
                                                   asked.isOriginal
                                                       ? std::nullopt
                                                       : std::optional(asked.subjects.back()));
@@ -204,9 +206,9 @@ Result<void> rename(const VerbRequest &request)
 Result<void> hide(const VerbRequest &request)
 {
     return changeFoundry(request,
-                         [](Organization &organization, const FontsSay &, const QString &id,
-                            const VerbRequest &) -> Result<void> {
-                             dismissFoundry(organization, id);
+                         [](Organization &organization, const FontsSay &,
+                            const GroupingName &foundry, const VerbRequest &) -> Result<void> {
+                             dismissFoundry(organization, foundry.id);
                              return {};
                          });
 }
@@ -214,51 +216,50 @@ Result<void> hide(const VerbRequest &request)
 Result<void> show(const VerbRequest &request)
 {
     return changeFoundry(request,
-                         [](Organization &organization, const FontsSay &, const QString &id,
-                            const VerbRequest &) -> Result<void> {
-                             bringBackFoundry(organization, id);
+                         [](Organization &organization, const FontsSay &,
+                            const GroupingName &foundry, const VerbRequest &) -> Result<void> {
+                             bringBackFoundry(organization, foundry.id);
                              return {};
                          });
 }
 
-Result<void> addFamilies(Organization &organization, const FontsSay &fonts, const QString &id,
-                         const VerbRequest &request)
+Result<void> addFamilies(Organization &organization, const FontsSay &fonts,
+                         const GroupingName &foundry, const VerbRequest &request)
 {
-    if (fonts.familiesOf(id).isEmpty())
+    if (fonts.familiesOf(foundry.id).isEmpty())
         return failure(ErrorKind::notFound,
-                       QStringLiteral("no fonts of this machine are of the foundry \"%1\"")
-                           .arg(request.subjects.front()));
+                       QStringLiteral("no fonts of this machine are of the foundry %1")
+                           .arg(quoted(foundry.name)));
     const Result<QStringList> families = knownFamilies(fonts, organization, request);
     if (!families)
         return tl::unexpected(families.error());
-    moveFamilies(organization, fonts, id, *families);
+    moveFamilies(organization, fonts, foundry.id, *families);
     return {};
 }
 
-Result<void> removeFamilies(Organization &organization, const FontsSay &fonts, const QString &id,
-                            const VerbRequest &request)
+Result<void> removeFamilies(Organization &organization, const FontsSay &fonts,
+                            const GroupingName &foundry, const VerbRequest &request)
 {
-    const FamilyNames members(membersOf(fonts, organization, id));
+    const FamilyNames members(membersOf(fonts, organization, foundry.id),
+                              QString(kNoun % u' ' % quoted(foundry.name)));
     const auto families = members.find(request.families, FamilyNames::Unknown::fails);
     if (!families)
-        return failure(families.error().kind,
-                       QStringLiteral("foundry \"%1\": %2")
-                           .arg(request.subjects.front(), families.error().detail));
+        return tl::unexpected(families.error());
     setFoundry(organization, *families, QString());
     return {};
 }
 
-Result<void> setFamilies(Organization &organization, const FontsSay &fonts, const QString &id,
-                         const VerbRequest &request)
+Result<void> setFamilies(Organization &organization, const FontsSay &fonts,
+                         const GroupingName &foundry, const VerbRequest &request)
 {
-    const QStringList members = membersOf(fonts, organization, id);
-    if (const auto added = addFamilies(organization, fonts, id, request); !added)
+    const QStringList members = membersOf(fonts, organization, foundry.id);
+    if (const auto added = addFamilies(organization, fonts, foundry, request); !added)
         return added;
     const Result<QStringList> families = knownFamilies(fonts, organization, request);
     const QSet<QString> staying(families->cbegin(), families->cend());
     QStringList leaving = members;
     leaving.removeIf([&](const QString &name) { return staying.contains(name); });
-    dropFamilies(organization, fonts, id, leaving);
+    dropFamilies(organization, fonts, foundry.id, leaving);
     return {};
 }
 

@@ -7,7 +7,9 @@
 #include "cli/GroupingNames.h"
 #include "cli/UserOrganization.h"
 #include "cli/Verbs.h"
+#include "cli/Words.h"
 #include "model/stores/OrganizationChanges.h"
+#include "model/stores/OrganizationNames.h"
 
 namespace lorva::cli {
 
@@ -41,9 +43,23 @@ Result<QStringList> knownFamilies(FamilyNames names, const Organization &organiz
     return names.find(request.families, request.unknownFamilies);
 }
 
+/// `ownID`: of the one that is to be called so.
+Result<void> checkNameFree(const GroupingKind &kind, const Organization &organization,
+                           const QString &ownID, const QString &name)
+{
+    const QString comparable = comparableName(cleanedName(name));
+    for (const FontCollectionRecord &each : kind.groupings(organization)) {
+        if (each.id != ownID && comparableName(each.name) == comparable)
+            return failure(
+                ErrorKind::invalidValue,
+                QStringLiteral("there is a %1 %2 already").arg(kind.noun, quoted(each.name)));
+    }
+    return {};
+}
+
 Result<void> list(const GroupingKind &kind, const VerbRequest &request)
 {
-    const Result<Organization> organization = UserOrganization().load();
+    const Result<Organization> organization = UserOrganization().load({kind.part});
     if (!organization)
         return tl::unexpected(organization.error());
     if (request.subjects.isEmpty()) {
@@ -65,7 +81,9 @@ Result<void> create(const GroupingKind &kind, const VerbRequest &request)
         const Result<QStringList> families = knownFamilies(names, organization, request);
         if (!families)
             return tl::unexpected(families.error());
-        const Result<void> created = kind.create(organization, id, request.subjects.front());
+        Result<void> created = checkNameFree(kind, organization, id, request.subjects.front());
+        if (created)
+            created = kind.create(organization, id, request.subjects.front());
         return created ? kind.addFamilies(organization, id, *families) : created;
     });
 }
@@ -85,7 +103,9 @@ Result<void> rename(const GroupingKind &kind, const VerbRequest &request)
 {
     return changeGrouping(kind, request.subjects.front(),
                           [=](Organization &organization, const QString &id) {
-                              return kind.rename(organization, id, request.subjects.back());
+                              const QString &name = request.subjects.back();
+                              const auto isFree = checkNameFree(kind, organization, id, name);
+                              return isFree ? kind.rename(organization, id, name) : isFree;
                           });
 }
 
@@ -107,12 +127,11 @@ Result<void> removeFamilies(const GroupingKind &kind, const VerbRequest &request
         const auto grouping = wanted(kind, organization, request.subjects.front());
         if (!grouping)
             return tl::unexpected(grouping.error());
-        const Result<QStringList> families =
-            FamilyNames(grouping->familyNames).find(request.families, FamilyNames::Unknown::fails);
+        const FamilyNames members(grouping->familyNames,
+                                  QString(kind.noun % u' ' % quoted(grouping->name)));
+        const auto families = members.find(request.families, FamilyNames::Unknown::fails);
         if (!families)
-            return failure(families.error().kind,
-                           QStringLiteral("%1 \"%2\": %3")
-                               .arg(kind.noun, grouping->name, families.error().detail));
+            return tl::unexpected(families.error());
         return kind.removeFamilies(organization, grouping->id, *families);
     });
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "cli/PreferenceKeys.h"
 #include "model/records/Organization.h"
 
 #include <QByteArrayView>
@@ -18,6 +19,7 @@ struct GroupingKind
     std::string_view command;
     /// "collection".
     QString noun;
+    OrganizationPart part;
     /// All groupings, in their order; the record is the shape that both share.
     std::vector<FontCollectionRecord> (*groupings)(const Organization &);
     Result<void> (*create)(Organization &, const QString &id, const QString &name);

@@ -2,16 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "cli/GroupingNames.h"
 
+#include "cli/Console.h"
+#include "cli/Words.h"
+#include "model/stores/OrganizationChanges.h"
+#include "model/stores/OrganizationNames.h"
+
 #include <QStringList>
 
-#include <optional>
+#include <functional>
 
 namespace lorva::cli {
 
 namespace {
 
-template <class Fits>
-std::vector<size_t> placesWhere(const std::vector<GroupingName> &groupings, Fits fits)
+using Fits = std::function<bool(const GroupingName &)>;
+
+std::vector<size_t> placesWhere(const std::vector<GroupingName> &groupings, const Fits &fits)
 {
     std::vector<size_t> places;
     for (size_t place = 0; place < groupings.size(); ++place) {
@@ -29,32 +35,40 @@ QString idsOf(const std::vector<GroupingName> &groupings, const std::vector<size
     return ids.join(QStringLiteral(", "));
 }
 
-} // namespace
-
-QString withoutCase(const QString &name)
+/// The strictest first; whoever copies an id means that one.
+std::vector<Fits> waysToMean(const QString &typed)
 {
-    return name.normalized(QString::NormalizationForm_C).toCaseFolded();
+    const QString cleaned = cleanedName(typed);
+    const QString comparable = comparableName(cleaned);
+    return {
+        [=](const GroupingName &each) { return each.id == typed; },
+        [=](const GroupingName &each) { return each.name == typed; },
+        [=](const GroupingName &each) {
+            return singleLine(each.name) == typed || (!cleaned.isEmpty() && each.name == cleaned);
+        },
+        [=](const GroupingName &each) {
+            return comparableName(singleLine(each.name)) == comparableName(typed)
+                || (!cleaned.isEmpty() && comparableName(each.name) == comparable);
+        },
+    };
 }
+
+} // namespace
 
 Result<size_t> findGrouping(const std::vector<GroupingName> &groupings, const QString &typed,
                             const QString &noun)
 {
-    const QString folded = withoutCase(typed);
-    std::vector<size_t> found =
-        placesWhere(groupings, [&](const GroupingName &each) { return each.name == typed; });
-    if (found.empty())
-        found = placesWhere(groupings, [&](const GroupingName &each) { return each.id == typed; });
-    if (found.empty())
-        found = placesWhere(
-            groupings, [&](const GroupingName &each) { return withoutCase(each.name) == folded; });
-    if (found.empty())
-        return failure(ErrorKind::notFound,
-                       QStringLiteral("there is no %1 \"%2\"").arg(noun, typed));
-    if (found.size() > 1)
-        return failure(ErrorKind::invalidValue,
-                       QStringLiteral("there is more than one %1 \"%2\"; their ids: %3")
-                           .arg(noun, typed, idsOf(groupings, found)));
-    return found.front();
+    for (const Fits &fits : waysToMean(typed)) {
+        const std::vector<size_t> found = placesWhere(groupings, fits);
+        if (found.size() == 1)
+            return found.front();
+        if (found.size() > 1)
+            return failure(ErrorKind::invalidValue,
+                           QStringLiteral("there is more than one %1 %2; their ids: %3")
+                               .arg(noun, quoted(typed), idsOf(groupings, found)));
+    }
+    return failure(ErrorKind::notFound,
+                   QStringLiteral("there is no %1 %2").arg(noun, quoted(typed)));
 }
 
 } // namespace lorva::cli

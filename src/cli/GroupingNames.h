@@ -10,9 +10,6 @@
 
 namespace lorva::cli {
 
-/// Equal for names that differ in nothing but case.
-QString withoutCase(const QString &name);
-
 /// A collection, style category or foundry, to be found by what somebody typed.
 struct GroupingName
 {
@@ -30,9 +27,9 @@ std::vector<GroupingName> groupingNames(const std::vector<Record> &records)
     return names;
 }
 
-/// The place of the one that is meant: by its name, else by its id, else by its name in another
-/// case. Fails with notFound for none, and with invalidValue for several, whose ids the error
-/// lists. `noun`: "collection".
+/// The place of the one that is meant: by its id, else by its name, else by its name as lorvactl
+/// prints it or as it would be stored, else by its name in another case. Fails with notFound for
+/// none, and with invalidValue for several, whose ids the error lists. `noun`: "collection".
 Result<size_t> findGrouping(const std::vector<GroupingName> &groupings, const QString &typed,
                             const QString &noun);
 

@@ -13,8 +13,6 @@
 
 #include <QDateTime>
 
-#include <memory>
-
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,17 +23,16 @@ namespace {
 constexpr char kHelp[] =
     "Usage: lorvactl import FILE [--replace] [--dry-run]\n"
     "\n"
-    "Takes in what lorvactl export wrote; a lone - reads standard input. Collections and style\n"
-    "categories of the same id or name take the file's families in, others come anew, and what "
-    "the\n"
-    "file says about foundries and display settings wins; nothing is taken away. Families that "
-    "this\n"
-    "machine lacks stay members, for when their fonts come. Tells what changed, one line each. "
-    "Done\n"
-    "whole or not at all.\n"
+    "Takes in what lorvactl export wrote; a lone - reads standard input. Collections and styles "
+    "of\n"
+    "the same id or name take the file's families in, others come anew, and what the file says\n"
+    "about foundries and display settings wins; nothing is taken away. Families that this machine\n"
+    "lacks stay members, for when their fonts come. Tells what changed, one line each. Done whole\n"
+    "or not at all.\n"
     "\n"
     "  --replace      make collections, styles and foundries what the file says and nothing else;\n"
-    "                 what was there is first written to a file beside the preferences\n"
+    "                 what was there is first written to a file beside the preferences; the\n"
+    "                 window no longer sorts families into styles by itself\n"
     "  --dry-run      only tell what would change\n"
     "  --help         show this help\n";
 
@@ -45,15 +42,6 @@ struct Plan
 {
     OrganizationFile file;
     Mode mode = Mode::merge;
-};
-
-/// What an import did, or would do.
-struct Report
-{
-    Result<void> result;
-    QStringList lines;
-    /// What was there before; only where something was replaced.
-    std::optional<FilePath> backup;
 };
 
 Result<OrganizationFile> readFile(const QByteArray &word)
@@ -73,6 +61,22 @@ Result<OrganizationFile> readFile(const QByteArray &word)
     return file;
 }
 
+using SettingsBySource = std::map<QString, SourceDisplaySettings>;
+
+/// What an import comes to, in what is stored at that moment.
+struct Steps
+{
+    Organization before;
+    Organization after;
+    SettingsBySource settingsBefore;
+    /// Those that differ from what is stored.
+    SettingsBySource newSettings;
+    std::vector<UnreadablePart> unreadable;
+    /// Those of them that the import replaces.
+    std::vector<UnreadablePart> replaced;
+    QStringList lines;
+};
+
 Organization organizationAfter(const Plan &plan, const Organization &before)
 {
     if (plan.mode == Mode::replace)
@@ -82,30 +86,57 @@ Organization organizationAfter(const Plan &plan, const Organization &before)
     return after;
 }
 
-using SettingsBySource = std::map<QString, SourceDisplaySettings>;
-
-/// Those that differ from what is stored.
-SettingsBySource newSettings(const Plan &plan, const Organization &after,
-                             const SettingsBySource &stored)
+SettingsBySource newSettings(const Plan &plan, const Steps &steps)
 {
     SettingsBySource settings = plan.mode == Mode::replace
         ? plan.file.displaySettings
-        : mergedDisplaySettings(plan.file, after);
+        : mergedDisplaySettings(plan.file, steps.after);
     std::erase_if(settings, [&](const auto &entry) {
-        const auto found = stored.find(entry.first);
-        return found != stored.end() && found->second == entry.second;
+        const auto found = steps.settingsBefore.find(entry.first);
+        return found != steps.settingsBefore.end() && found->second == entry.second;
     });
     return settings;
 }
 
-QStringList reportLines(const OrganizationEdit &edit, const Organization &after,
-                        const SettingsBySource &settings)
+/// What the file says takes the place of what cannot be read, also where it says nothing.
+QStringList mendedLines(const std::vector<UnreadablePart> &parts)
 {
-    QStringList lines = editLines(edit, after);
-    for (const auto &entry : settings)
-        lines.push_back(QStringLiteral("display settings of \"%1\": taken in").arg(entry.first));
+    QStringList lines;
+    for (const UnreadablePart &each : parts)
+        lines.push_back(QStringLiteral("preference %1: made anew").arg(each.key));
     return lines;
 }
+
+Steps stepsOf(Plan plan, UserOrganization &user)
+{
+    Steps steps;
+    steps.unreadable = unreadableParts(user.preferences());
+    steps.before = user.organization().load();
+    adoptIDs(plan.file, steps.before);
+    steps.after = organizationAfter(plan, steps.before);
+    steps.settingsBefore = user.displaySettings().all();
+    steps.newSettings = newSettings(plan, steps);
+    const OrganizationEdit edit = difference(steps.before, steps.after);
+    steps.lines = editLines(edit, steps.after);
+    for (const auto &entry : steps.newSettings)
+        steps.lines.push_back(displaySettingsLine(entry.first, steps.after));
+    if (plan.mode == Mode::replace) {
+        steps.replaced = steps.unreadable;
+        steps.lines += mendedLines(steps.replaced);
+    } else {
+        steps.replaced = replacedParts(steps.unreadable, edit, !steps.newSettings.empty());
+    }
+    return steps;
+}
+
+/// What an import did, or would do.
+struct Report
+{
+    Result<void> result;
+    Steps steps;
+    /// What was there before; only where something was replaced.
+    std::optional<FilePath> backup;
+};
 
 FilePath freeBackupName()
 {
@@ -119,64 +150,106 @@ FilePath freeBackupName()
     return file;
 }
 
-Result<void> writeBackup(UserOrganization &user, const Organization &before, Report &report)
+Result<void> writeBackup(const Steps &steps, Report &report)
 {
     const FilePath file = freeBackupName();
-    const QByteArray json = encodeOrganizationFile({before, user.displaySettings().all()});
-    const Result<void> written = writeFileAtomically(file, json);
+    const Result<QByteArray> json =
+        encodeOrganizationFile({steps.before, steps.settingsBefore, {}});
+    if (!json)
+        return tl::unexpected(json.error());
+    const Result<void> written = writeFileAtomically(file, *json);
     if (written)
         report.backup = file;
     return written;
 }
 
+/// Makes the steps, in the transaction in which they were found.
+Result<void> take(const Steps &steps, UserOrganization &user)
+{
+    const auto outcome = user.organization().change([&](Organization &organization) {
+        organization = steps.after;
+        return Result<void>();
+    });
+    if (!outcome)
+        return tl::unexpected(outcome.error());
+    for (const auto &[key, value] : steps.newSettings)
+        user.displaySettings().set(value, key);
+    return {};
+}
+
+/// What a file that says everything does beyond its entries.
+void finishReplacing(UserOrganization &user)
+{
+    for (const UnreadablePart &each : unreadableParts(user.preferences())) {
+        // What the file says was shown there already, for want of anything that can be read.
+        user.preferences().keepUnreadable(each.key);
+        user.preferences().remove(each.key);
+    }
+    // Else the window, at its first start, would add to the styles what it makes of the names.
+    user.styles().setClassified();
+}
+
 /// Within a transaction: what is told is what is done.
 void importNow(UserOrganization &user, const Plan &plan, Report &report)
 {
-    const Organization before = user.organization().load();
-    const Organization after = organizationAfter(plan, before);
-    const OrganizationEdit edit = difference(before, after);
-    const SettingsBySource settings = newSettings(plan, after, user.displaySettings().all());
-    report.lines = reportLines(edit, after, settings);
+    report.steps = stepsOf(plan, user);
     // It runs once more, in memory, when it could not be written.
-    if (plan.mode == Mode::replace && !report.lines.isEmpty() && !report.backup)
-        report.result = writeBackup(user, before, report);
-    if (!report.result)
+    const bool wantsBackup = plan.mode == Mode::replace && !report.steps.lines.isEmpty();
+    if (wantsBackup && !report.backup)
+        report.result = writeBackup(report.steps, report);
+    if (report.result)
+        report.result = take(report.steps, user);
+    if (report.result && plan.mode == Mode::replace)
+        finishReplacing(user);
+}
+
+void warnOfReplaced(const Report &report, const PreferenceStore &preferences)
+{
+    for (const UnreadablePart &each : report.steps.replaced)
+        warn(textOfKept(each, preferences));
+    if (!report.backup || report.steps.unreadable.empty())
         return;
-    const auto outcome = user.organization().change([after](Organization &organization) {
-        organization = after;
-        return Result<void>();
-    });
-    if (!outcome) {
-        report.result = tl::unexpected(outcome.error());
-        return;
-    }
-    for (const auto &[key, value] : settings)
-        user.displaySettings().set(value, key);
+    QStringList keys;
+    for (const UnreadablePart &each : report.steps.unreadable)
+        keys.push_back(each.key);
+    warn(QStringLiteral("%1 lacks what could not be read: %2")
+             .arg(report.backup->displayText(), keys.join(QStringLiteral(", "))));
 }
 
 Report importFile(const Plan &plan)
 {
     UserOrganization user;
-    const auto report = std::make_shared<Report>();
-    user.preferences().inTransaction([&user, plan, report] { importNow(user, plan, *report); });
-    if (report->result)
-        report->result = user.checkWritten();
-    if (!report->result && report->backup)
-        ::unlink(report->backup->c_str());
-    return *report;
+    Report report;
+    report.result = user.checkRead();
+    if (!report.result)
+        return report;
+    // Runs again, if at all, before this returns: nothing here asks for what waits to be written.
+    user.preferences().inTransaction([&] { importNow(user, plan, report); });
+    if (report.result)
+        report.result = user.checkRead();
+    if (report.result)
+        report.result = user.checkWritten();
+    if (report.result)
+        warnOfReplaced(report, user.preferences());
+    else if (report.backup)
+        ::unlink(report.backup->c_str());
+    return report;
 }
 
 Report tryImport(const Plan &plan)
 {
     UserOrganization user;
-    const Result<Organization> before = user.load();
-    if (!before)
-        return {tl::unexpected(before.error()), {}, {}};
-    const Organization after = organizationAfter(plan, *before);
-    return {{},
-            reportLines(difference(*before, after), after,
-                        newSettings(plan, after, user.displaySettings().all())),
-            {}};
+    Report report;
+    report.result = user.checkRead();
+    if (!report.result)
+        return report;
+    report.steps = stepsOf(plan, user);
+    report.result = user.checkRead();
+    for (const UnreadablePart &each : report.steps.replaced) {
+        if (report.result)
+            warn(QStringLiteral("%1; what stands there would be kept").arg(textOf(each)));
+    }
+    return report;
 }
 
 Result<void> run(const Arguments &arguments)
@@ -188,9 +261,9 @@ Result<void> run(const Arguments &arguments)
     const Report report = arguments.has("--dry-run") ? tryImport(plan) : importFile(plan);
     if (!report.result)
         return report.result;
-    for (const QString &line : report.lines)
+    for (const QString &line : report.steps.lines)
         printText(QString(singleLine(line) + u'\n'));
-    if (report.lines.isEmpty())
+    if (report.steps.lines.isEmpty())
         print("nothing to change\n");
     if (report.backup)
         printText(QStringLiteral("what was there: %1\n").arg(singleLine(*report.backup)));

@@ -22,7 +22,7 @@ Result<QStringList> linesOfStandardInput()
         return tl::unexpected(bytes.error());
     const Result<QString> decoded = text("standard input", *bytes);
     if (!decoded)
-        return tl::unexpected(decoded.error());
+        return failure(ErrorKind::usage, QStringLiteral("standard input is not UTF-8 text"));
     QStringList lines = decoded->split(u'\n', Qt::SkipEmptyParts);
     for (QString &line : lines) {
         if (line.endsWith(u'\r'))
@@ -63,7 +63,11 @@ Result<QStringList> namedFamilies(std::span<const QByteArray> words)
     for (const QByteArray &word : words) {
         Result<QString> name = text("FAMILY", word);
         if (!name)
-            return tl::unexpected(name.error());
+            return failure(ErrorKind::usage,
+                           QStringLiteral("the name of a family must be UTF-8 text"));
+        if (name->isEmpty())
+            return failure(ErrorKind::usage,
+                           QStringLiteral("the name of a family cannot be empty"));
         names.push_back(*std::move(name));
     }
     return names;

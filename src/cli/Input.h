@@ -15,7 +15,7 @@ namespace lorva::cli {
 Result<QByteArray> readStandardInput(qint64 mostBytes);
 
 /// The families that the words name: the words themselves or, for a lone "-", the lines of standard
-/// input. Fails with usage for what is no UTF-8.
+/// input. Fails with usage for an empty word and for what is no UTF-8.
 Result<QStringList> namedFamilies(std::span<const QByteArray> words);
 
 } // namespace lorva::cli

@@ -73,22 +73,35 @@ const std::vector<KnownPreference> &knownPreferences()
 {
     using Texts = QHash<QString, QString>;
     using Settings = std::map<QString, SourceDisplaySettings>;
+    using Part = OrganizationPart;
     static const std::vector<KnownPreference> kKnown{
-        {"vantrel.merid.collections", "data", true,
-         describeJson<std::vector<FontCollectionRecord>>},
-        {"vantrel.merid.styles", "data", true, describeJson<std::vector<FontStyleCategoryRecord>>},
-        {"vantrel.merid.displaySettings", "data", true, describeJson<Settings>},
-        {"vantrel.merid.dismissedFoundries", "stringArray", true, describeCount<QStringList>},
-        {"vantrel.merid.foundryOverrides", "stringDictionary", true, describeCount<Texts>},
-        {"vantrel.merid.foundryNameOverrides", "stringDictionary", true, describeCount<Texts>},
-        {"vantrel.merid.collapsedSidebarGroups", "stringArray", false, describeCount<QStringList>},
-        {"vantrel.merid.stylesClassified.v3", "boolean", false, describeBoolean},
-        {"vantrel.merid.stylesClassified.v2", "boolean", false, describeBoolean},
-        {"vantrel.merid.logo", "data", false, describeJson<LogoConfiguration>},
-        {"vantrel.merid.hasCompletedOnboarding", "boolean", false, describeBoolean},
-        {"vantrel.merid.hasSeenQuizIntro", "boolean", false, describeBoolean},
-        {"vantrel.merid.hideQuizPromoInSidebar", "boolean", false, describeBoolean},
-        {"vantrel.merid.windowFrame.LorvaMainWindow", "string", false, describeText},
+        {"vantrel.merid.collections", "data", Part::collections,
+         describeJson<std::vector<FontCollectionRecord>>,
+         [](const OrganizationEdit &edit) { return !edit.collections.empty(); }},
+        {"vantrel.merid.styles", "data", Part::styles,
+         describeJson<std::vector<FontStyleCategoryRecord>>,
+         [](const OrganizationEdit &edit) { return !edit.styleCategories.empty(); }},
+        {"vantrel.merid.displaySettings", "data", Part::displaySettings, describeJson<Settings>},
+        {"vantrel.merid.dismissedFoundries", "stringArray", Part::foundries,
+         describeCount<QStringList>,
+         [](const OrganizationEdit &edit) {
+             return !edit.dismissed.isEmpty() || !edit.broughtBack.isEmpty();
+         }},
+        {"vantrel.merid.foundryOverrides", "stringDictionary", Part::foundries,
+         describeCount<Texts>,
+         [](const OrganizationEdit &edit) { return !edit.foundryOverrides.empty(); }},
+        {"vantrel.merid.foundryNameOverrides", "stringDictionary", Part::foundries,
+         describeCount<Texts>,
+         [](const OrganizationEdit &edit) { return !edit.foundryNames.empty(); }},
+        {"vantrel.merid.collapsedSidebarGroups", "stringArray", Part::none,
+         describeCount<QStringList>},
+        {"vantrel.merid.stylesClassified.v3", "boolean", Part::none, describeBoolean},
+        {"vantrel.merid.stylesClassified.v2", "boolean", Part::none, describeBoolean},
+        {"vantrel.merid.logo", "data", Part::none, describeJson<LogoConfiguration>},
+        {"vantrel.merid.hasCompletedOnboarding", "boolean", Part::none, describeBoolean},
+        {"vantrel.merid.hasSeenQuizIntro", "boolean", Part::none, describeBoolean},
+        {"vantrel.merid.hideQuizPromoInSidebar", "boolean", Part::none, describeBoolean},
+        {"vantrel.merid.windowFrame.LorvaMainWindow", "string", Part::none, describeText},
     };
     return kKnown;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "model/stores/OrganizationEdit.h"
 #include "platform/PreferenceValue.h"
 
 #include <vector>
@@ -13,16 +14,21 @@ class PreferenceStore;
 
 namespace lorva::cli {
 
+/// What one command shows or changes of what the user sorted.
+enum class OrganizationPart { none, collections, styles, foundries, displaySettings };
+
 /// A key under which this version keeps something.
 struct KnownPreference
 {
     QString key;
     /// The name of its kind: "data".
     QByteArray kind;
-    /// Holds a part of what the user sorted.
-    bool isOrganization = false;
+    /// What it holds of what the user sorted.
+    OrganizationPart part = OrganizationPart::none;
     /// What a value of that kind holds, for people: "3 entries". Fails when it does not decode.
     Result<QString> (*describe)(const PreferenceValue &value) = nullptr;
+    /// Whether the edit writes it; null where none does.
+    bool (*isChangedBy)(const OrganizationEdit &edit) = nullptr;
 };
 
 const std::vector<KnownPreference> &knownPreferences();

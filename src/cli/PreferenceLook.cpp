@@ -167,6 +167,18 @@ Result<void> checkAccess(const FilePath &path, int mode)
     return systemFailure(errno, "write", path);
 }
 
+/// The file itself, which may yet have to be made.
+Result<void> checkFile(const FilePath &file)
+{
+    struct stat info = {};
+    if (::stat(file.c_str(), &info) != 0)
+        return errno == ENOENT ? Result<void>() : systemFailure(errno, "look at", file);
+    if (!S_ISREG(info.st_mode))
+        return failure(ErrorKind::notRegularFile,
+                       QStringLiteral("%1 is no regular file").arg(file.displayText()));
+    return checkAccess(file, R_OK | W_OK);
+}
+
 FilePath nearestFolder(FilePath folder)
 {
     struct stat info = {};
@@ -204,9 +216,8 @@ Result<void> checkWritable(const FilePath &file)
 {
     const FilePath folder = nearestFolder(file.parent());
     Result<void> checked = checkAccess(folder, W_OK | X_OK);
-    struct stat info = {};
-    if (checked && ::stat(file.c_str(), &info) == 0)
-        checked = checkAccess(file, R_OK | W_OK);
+    if (checked)
+        checked = checkFile(file);
     if (checked)
         checked = checkSpace(folder);
     return checked ? checkUnlocked(file) : checked;

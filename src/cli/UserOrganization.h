@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/UnreadableParts.h"
 #include "model/stores/CollectionStore.h"
 #include "model/stores/DisplaySettingsStore.h"
 #include "model/stores/FoundryStore.h"
@@ -17,20 +18,28 @@ class UserOrganization
 public:
     UserOrganization();
 
-    /// Fails when the preferences, or a part of the organisation in them, cannot be read.
-    Result<Organization> load();
-    /// OrganizationStore::change() that also fails when the change could not be written.
+    /// For a command that shows these parts and no others: fails when the preferences, or one of
+    /// the parts in them, cannot be read.
+    Result<Organization> load(std::initializer_list<OrganizationPart> shown);
+    /// OrganizationStore::change() that also fails when the preferences cannot be read or the
+    /// change could not be written. Parts that cannot be read count as absent; a line on standard
+    /// error tells of each that is replaced.
     Result<void> change(std::function<Result<void>(Organization &)> change);
 
     PreferenceStore &preferences() { return m_preferences; }
     OrganizationStore &organization() { return m_organization; }
+    StyleStore &styles() { return m_styles; }
     DisplaySettingsStore &displaySettings() { return m_displaySettings; }
+    /// Fails when what has been read so far may be less than what is stored, or was stored until
+    /// now: trouble must not pass for an empty organisation.
+    Result<void> checkRead() const;
     /// Fails while a change waits in memory: it would end with this process.
     Result<void> checkWritten() const;
 
 private:
-    Result<void> checkReadable() const;
-
+    const FilePath m_file;
+    /// Damaged files that are not this command's doing.
+    const std::vector<FilePath> m_asideBefore;
     SqlitePreferenceStore m_preferences;
     CollectionStore m_collections;
     StyleStore m_styles;

@@ -69,6 +69,9 @@ Result<void> readWords(const Verb &verb, std::span<const QByteArray> words, Verb
     Result<QStringList> families = namedFamilies(words.subspan(subjects));
     if (!families)
         return tl::unexpected(families.error());
+    if (verb.families == Verb::Families::some && families->isEmpty())
+        return usage(QStringLiteral("%1 needs a family, and standard input names none")
+                         .arg(QLatin1String(verb.name)));
     request.families = *std::move(families);
     return {};
 }

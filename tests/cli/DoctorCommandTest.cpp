@@ -67,7 +67,9 @@ TEST_F(DoctorCommand, TellsWhatIsStored)
     const QJsonObject json = QJsonDocument::fromJson(lorvactl({"doctor", "--json"}).out).object();
     EXPECT_EQ(json["isWell"], true);
     EXPECT_EQ(json["findings"].toArray().size(), std::count(text.begin(), text.end(), '\n'));
-    EXPECT_EQ(json["findings"].toArray()[0].toObject()["state"], QStringLiteral("ok"));
+    const QJsonObject first = json["findings"].toArray()[0].toObject();
+    EXPECT_EQ(first["state"], QStringLiteral("ok"));
+    EXPECT_EQ(first["check"], QStringLiteral("preferenceFile"));
 }
 
 TEST_F(DoctorCommand, TellsWhatCannotBeRead)
@@ -110,17 +112,24 @@ TEST_F(DoctorCommand, LeavesADamagedFileWhereItIs)
         EXPECT_THAT(told(1), ContainsRegex("wrong\t[^\t]*preferences.sqlite\tcannot be read: "));
     }
     // The program itself moves it aside.
-    EXPECT_EQ(lorvactl({"collections"}).exitCode, 0);
+    EXPECT_EQ(lorvactl({"collections"}).exitCode, 1);
     EXPECT_THAT(told(0), ContainsRegex("note\t[^\t]*sqlite.damaged-[0-9-]+\tdamaged preferences"));
 }
 
-TEST_F(DoctorCommand, TellsOfDamagedCaches)
+TEST_F(DoctorCommand, TellsOfCachesOfNoUse)
 {
-    test::writeFile(folder, "parse-cache.json", "{\"version\":");
+    test::writeFile(folder, "parse-cache.json", R"({"version":9})");
     test::writeFile(folder, "catalog.json", R"({"families":[{}],"manufacturers":{}})");
-    const std::string text = told(1);
-    EXPECT_THAT(text, ContainsRegex("wrong\t[^\t]*parse-cache.json\tof no use"));
-    EXPECT_THAT(text, ContainsRegex("wrong\t[^\t]*catalog.json\tof no use[^\n]*families\\[0\\]"));
+    const std::string text = told(0);
+    EXPECT_THAT(text,
+                ContainsRegex("note\t[^\t]*parse-cache.json\tof no use, [^\n]*by the next scan: "));
+    EXPECT_THAT(
+        text,
+        ContainsRegex("note\t[^\t]*catalog.json\tof no use, [^\n]*window[^\n]*families\\[0\\]"));
+    const FilePath catalog = folder.child("catalog.json");
+    ::unlink(catalog.c_str());
+    ASSERT_EQ(::mkdir(catalog.c_str(), 0700), 0);
+    EXPECT_THAT(told(1), ContainsRegex("wrong\t[^\t]*catalog.json\tcannot be read: "));
 }
 
 TEST_F(DoctorCommand, TellsWhyNothingCanBeWritten)
@@ -139,6 +148,14 @@ TEST_F(DoctorCommand, TellsWhyNothingCanBeWritten)
         EXPECT_THAT(told(1), HasSubstr("changes cannot be written: cannot write"));
     }
     ::chmod(folder.c_str(), 0755);
+
+    ::rename(folder.c_str(), data.child("Sound").c_str());
+    ASSERT_EQ(::mkdir(folder.c_str(), 0700), 0);
+    ASSERT_EQ(::symlink("preferences.sqlite", preferences().c_str()), 0);
+    EXPECT_THAT(told(1), HasSubstr("changes cannot be written: cannot look at"));
+    ::unlink(preferences().c_str());
+    ASSERT_EQ(::mkdir(preferences().c_str(), 0700), 0);
+    EXPECT_THAT(told(1), HasSubstr("is no regular file"));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "model/records/StyleCategories.h"
+#include "model/stores/OrganizationFile.h"
 #include "OrganizationHome.h"
 
 #include <QDir>
@@ -55,10 +57,12 @@ TEST_F(ExportImport, MovesALibrary)
          "family \"Alpha\": of the foundry \"acme\"\n"
          "foundry \"klim\": called \"K\"\n"
          "foundry \"acme\": hidden\n"
-         "display settings of \"allFonts\": taken in\n"
-         "display settings of \"collection::p\": taken in\n"},
+         "display settings of all fonts: taken in\n"
+         "display settings of collection \"Posters\": taken in\n"},
         {{"collections", "list", "Posters"}, "Zeta\nNot here\n"},
         {{"import", path(file)}, "nothing to change\n"},
+        // Also what the file gives no id.
+        {{"import", "--replace", path(file)}, "nothing to change\n"},
     });
     const QByteArray first = exported();
     const FilePath moved = TestHome::instance().root().child("moved.json");
@@ -114,6 +118,9 @@ TEST_F(ExportImport, ReplacesAndKeepsWhatWasThere)
           "foundry \"klim\": shown again\n"})
         EXPECT_THAT(replaced.out.toStdString(), HasSubstr(line));
     expect({{{"collections"}, "By hand\t1\nPosters\t2\n"}});
+    EXPECT_THAT(lorvactl({"doctor"}).out.toStdString(),
+                HasSubstr("stylesClassified.v3\tboolean, 1 byte: true"))
+        << "the window must not sort families into styles on top of that";
 
     ASSERT_EQ(backups().size(), 1);
     const FilePath backup = folder.child(backups().front().toUtf8());
@@ -124,12 +131,56 @@ TEST_F(ExportImport, ReplacesAndKeepsWhatWasThere)
     EXPECT_EQ(backups().size(), 2) << "one of the same second gets another name";
 }
 
+TEST_F(ExportImport, MendsWhatCannotBeRead)
+{
+    const std::pair<const char *, PreferenceRow> unreadable[]{
+        {"vantrel.merid.collections", {"data", "{"}},
+        {"vantrel.merid.styles", {"boolean", "1"}},
+        {"vantrel.merid.displaySettings", {"data", "[]"}},
+        {"vantrel.merid.dismissedFoundries", {"stringArray", "[1]"}},
+        {"vantrel.merid.foundryOverrides", {"stringDictionary", "{"}},
+        {"vantrel.merid.foundryNameOverrides", {"data", "{}"}},
+    };
+    for (const auto &[key, row] : unreadable)
+        store(key, row);
+    // Wants nothing but what shows already.
+    const Result<QByteArray> empty =
+        encodeOrganizationFile({{{}, defaultStyleCategories(), {}}, {}, {}});
+    ASSERT_TRUE(empty);
+    const QString wanted = path(test::writeFile(data, "empty.json", *empty));
+
+    EXPECT_EQ(lorvactl({"import", wanted}).out, "nothing to change\n");
+    EXPECT_EQ(lorvactl({"collections"}).exitCode, 1);
+    const Outcome planned = lorvactl({"import", "--replace", "--dry-run", wanted});
+    const Outcome done = lorvactl({"import", "--replace", wanted});
+    EXPECT_EQ(done.exitCode, 0);
+    EXPECT_THAT(done.out.toStdString(), testing::StartsWith(planned.out.toStdString()));
+    EXPECT_EQ(planned.error.count('\n'), 6);
+    EXPECT_EQ(done.error.count('\n'), 7);
+    EXPECT_THAT(done.error.toStdString(), HasSubstr(".json lacks what could not be read: vantrel"));
+    EXPECT_EQ(exported(), *empty);
+    const std::string told = lorvactl({"doctor"}).out.toStdString();
+    for (const auto &[key, row] : unreadable) {
+        EXPECT_THAT(planned.out.toStdString(), HasSubstr(std::string(key) + ": made anew\n"));
+        const std::string kept = std::string(key) + ".unreadable";
+        EXPECT_THAT(done.error.toStdString(), HasSubstr("is kept as " + kept + '\n'));
+        EXPECT_THAT(told, HasSubstr("note\t" + kept + '\t' + row.kind.toStdString() + ", "));
+    }
+
+    store("vantrel.merid.collections", PreferenceRow{"data", "later damage"});
+    const Outcome merged = lorvactl({"import", path(file)});
+    EXPECT_EQ(merged.exitCode, 0);
+    EXPECT_EQ(merged.error.count('\n'), 1) << "only of what it replaces";
+    EXPECT_THAT(merged.error.toStdString(), HasSubstr("merid.collections.unreadable.2\n"));
+    EXPECT_THAT(merged.out.toStdString(), HasSubstr("\"Posters\" created"));
+}
+
 TEST_F(ExportImport, ChangesNothingWhenItFails)
 {
     expect({{{"collections", "create", "Mine"}, ""}});
     const auto before = files();
     const FilePath large = test::writeFile(data, "large.json", kFile);
-    ASSERT_EQ(::truncate(large.c_str(), (64 << 20) + 1), 0);
+    ASSERT_EQ(::truncate(large.c_str(), OrganizationFile::kMostBytes + 1), 0);
     ASSERT_EQ(::mkfifo(data.child("fifo").c_str(), 0600), 0);
     test::writeFile(data, "later.json", R"({"format":"lorva-organization","version":9})");
     test::writeFile(data, "cut.json", QByteArray(kFile).chopped(3));
@@ -148,8 +199,8 @@ TEST_F(ExportImport, ChangesNothingWhenItFails)
         {{"export", "-o", "/nowhere/x.json"}, "/nowhere", 1},
     });
     test::expectFailure(shell("lorvactl import - < /dev/null"), 1, "standard input: ");
-    test::expectFailure(shell(QStringLiteral("cat '%1' '%1' | lorvactl import -").arg(path(large))),
-                        1, "bytes");
+    test::expectFailure(shell(QStringLiteral("cat '%1' | lorvactl import -").arg(path(large))), 1,
+                        "bytes");
     EXPECT_EQ(files(), before);
 
     ::chmod(folder.c_str(), 0555);

@@ -54,11 +54,13 @@ TEST_F(OrganizationCommands, ChangeNothingWhenAnythingIsWrong)
     expect({
         {{"collections", "add", "One", "Beta", "Nobody"}, "no family \"Nobody\"", 1},
         {{"collections", "create", "Two", "Nobody"}, "no family \"Nobody\"", 1},
-        {{"collections", "create", "ONE"}, "One", 1},
+        {{"collections", "create", "ONE"}, "there is a collection \"One\" already", 1},
         {{"collections", "create", " \u202e\n"}, "name", 1},
         {{"collections", "add", "One", "dELTA"}, "Delta, delta", 1},
-        {{"collections", "add", "One", ""}, "empty", 1},
-        {{"collections", "remove", "One", "Alpha", "Beta"}, "collection \"One\"", 1},
+        {{"collections", "add", "One", ""}, "empty", 2},
+        {{"collections", "remove", "One", "Alpha", "Beta"},
+         "\"Beta\" is not in collection \"One\"",
+         1},
         {{"collections", "delete", "Three"}, "no collection \"Three\"", 1},
         {{"collections", "list", "Three"}, "no collection \"Three\"", 1},
         {{"collections", "add", "One", "Beta", "--folder", "/nowhere"}, "/nowhere", 1},
@@ -68,16 +70,19 @@ TEST_F(OrganizationCommands, ChangeNothingWhenAnythingIsWrong)
         {{"collections", "drop", "One"}, "unknown verb drop", 2},
         {{"collections", "delete", "One", "--json"}, "takes no --json", 2},
         {{"collections", "delete", ""}, "empty name", 2},
-        {{"styles", "rename", "serif", "X"}, "", 1},
-        {{"styles", "delete", "Sans-Serif"}, "", 1},
-        {{"styles", "remove", "serif", "Alpha"}, "style \"Serif\"", 1},
+        {{"styles", "rename", "serif", "X"}, "style \"Serif\", which cannot", 1},
+        {{"styles", "delete", "Sans-Serif"}, "style \"Sans-Serif\", which cannot", 1},
+        {{"styles", "create", "mono"}, "there is a style \"Mono\" already", 1},
+        {{"styles", "remove", "serif", "Alpha"}, "\"Alpha\" is not in style \"Serif\"", 1},
         {{"foundries", "create", "New"}, "comes from the fonts", 1},
         {{"foundries", "rename", "Klim"}, "--original", 2},
         {{"foundries", "add", "Nobody", "Alpha"}, "no foundry \"Nobody\"", 1},
-        {{"foundries", "remove", "Klim", "Zeta"}, "foundry \"Klim\"", 1},
+        {{"foundries", "remove", "klim", "Zeta"}, "\"Zeta\" is not in foundry \"Klim\"", 1},
         {{"search"}, "one text", 2},
     });
     test::expectFailure(shell("lorvactl collections delete \"$(printf 'a\\377')\""), 2, "UTF-8");
+    test::expectFailure(shell("printf 'a\\377' | lorvactl collections add One -"), 2, "UTF-8");
+    test::expectFailure(shell("true | lorvactl collections set One -"), 2, "names none");
     EXPECT_EQ(files(), before);
 }
 
@@ -86,12 +91,16 @@ TEST_F(OrganizationCommands, AskForTheIdWhereNamesAreTheSame)
     store("vantrel.merid.collections",
           PreferenceRow{"data", R"([{"id":"a","name":"X","familyNames":["Alpha"]},
                        {"id":"b","name":"X","familyNames":[]},
-                       {"id":"c","name":"x","familyNames":["Beta"]}])"});
+                       {"id":"c","name":"x","familyNames":["Beta"]},
+                       {"id":"d","name":"a","familyNames":[]},
+                       {"id":"e","name":"Back\\slash","familyNames":["Zeta"]}])"});
     expect({
         {{"collections", "delete", "X"}, "a, b", 1},
         {{"collections", "list", "x"}, "Beta\n"},
         {{"collections", "delete", "a"}, ""},
-        {{"collections", "list"}, "X\t0\nx\t1\n"},
+        {{"collections", "list", "back\\\\SLASH"}, "Zeta\n"},
+        {{"collections", "list", " Back\\slash\n"}, "Zeta\n"},
+        {{"collections", "list"}, "a\t0\nBack\\\\slash\t1\nX\t0\nx\t1\n"},
     });
 }
 
@@ -202,6 +211,11 @@ TEST_F(OrganizationCommands, FailWhereTheyCannotWrite)
         const test::AsOrdinaryUser user;
         expect({{{"collections"}, "preferences.sqlite", 1}});
     }
+    ::chmod(folder.c_str(), 0000);
+    {
+        const test::AsOrdinaryUser user;
+        expect({{{"collections"}, "preferences.sqlite", 1}, {{"export"}, "preferences.sqlite", 1}});
+    }
     ::chmod(folder.c_str(), 0755);
     ::chmod(folder.child("preferences.sqlite").c_str(), 0644);
     expect({{{"collections"}, "Kept\t0\n"}});
@@ -218,15 +232,51 @@ TEST_F(OrganizationCommands, FailWhereTheyCannotWrite)
         {{{"collections", "create", "In time"}, ""}, {{"collections"}, "In time\t0\nKept\t0\n"}});
 }
 
+TEST_F(OrganizationCommands, TakeNoTroubleForAnEmptyOrganisation)
+{
+    const QByteArray preferences = folder.child("preferences.sqlite").bytes();
+    const auto expectTrouble = [&](const char *trouble) {
+        SCOPED_TRACE(trouble);
+        for (const QStringList &command :
+             {QStringList{"collections"}, {"collections", "delete", "One"}, {"export"}})
+            test::expectFailure(lorvactl(command), 1, "preferences.sqlite");
+    };
+    test::writeFile(data, "Lorva", "");
+    expectTrouble("a file in the place of the folder");
+    ::unlink(folder.c_str());
+    ASSERT_EQ(::mkdir(folder.c_str(), 0700), 0);
+    ASSERT_EQ(::symlink("preferences.sqlite", preferences.constData()), 0);
+    expectTrouble("a link to itself");
+    ::unlink(preferences.constData());
+    ASSERT_EQ(::mkdir(preferences.constData(), 0700), 0);
+    expectTrouble("a folder");
+    ::rmdir(preferences.constData());
+
+    for (const QStringList &command : {QStringList{"collections", "create", "One"}, {"export"}}) {
+        test::writeFile(folder, "preferences.sqlite", "damaged, and long enough to be looked at");
+        test::expectFailure(lorvactl(command), 1, "could not be read and was moved to");
+        expect({{{"collections"}, ""}});
+    }
+}
+
 TEST_F(OrganizationCommands, SayWhatCannotBeReadAndKeepIt)
 {
     for (const PreferenceRow &row :
          {PreferenceRow{"data", "{\"damaged"}, PreferenceRow{"boolean", "1"}}) {
         store("vantrel.merid.collections", row);
         expect({{{"collections"}, "vantrel.merid.collections", 1},
-                {{"export"}, "vantrel.merid.collections", 1}});
+                {{"export"}, "vantrel.merid.collections", 1},
+                {{"styles", "list", "serif"}, ""},
+                {{"styles", "add", "serif", "Alpha"}, ""},
+                {{"styles", "remove", "serif", "Alpha"}, ""}});
     }
-    expect({{{"collections", "create", "Fresh"}, ""}, {{"collections"}, "Fresh\t0\n"}});
+    const Outcome created = lorvactl({"collections", "create", "Fresh"});
+    EXPECT_EQ(created.exitCode, 0);
+    EXPECT_EQ(created.error,
+              "lorvactl: the preference vantrel.merid.collections cannot be read (not a whole "
+              "value of kind data); what stood there is kept as "
+              "vantrel.merid.collections.unreadable\n");
+    expect({{{"collections"}, "Fresh\t0\n"}});
     EXPECT_THAT(lorvactl({"doctor"}).out.toStdString(),
                 HasSubstr("note\tvantrel.merid.collections.unreadable\tboolean, 1 byte"));
 }

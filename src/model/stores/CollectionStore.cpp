@@ -18,18 +18,24 @@ CollectionStore::CollectionStore(PreferenceStore &defaults, QString collectionsK
 
 std::vector<FontCollectionRecord> CollectionStore::load() const
 {
-    std::vector<FontCollectionRecord> collections =
-        storedGroupings<FontCollectionRecord>(m_defaults, m_collectionsKey)
-            .value_or(std::vector<FontCollectionRecord>());
-    sortByName(collections);
+    return stored().value_or(std::vector<FontCollectionRecord>());
+}
+
+std::optional<std::vector<FontCollectionRecord>> CollectionStore::stored() const
+{
+    auto collections = storedGroupings<FontCollectionRecord>(m_defaults, m_collectionsKey);
+    if (collections) {
+        makeNamesUsable(*collections);
+        sortByName(*collections);
+    }
     return collections;
 }
 
-void CollectionStore::save(const std::vector<FontCollectionRecord> &collections)
+void CollectionStore::save(const std::vector<FontCollectionRecord> &collections,
+                           StoredState present)
 {
-    m_defaults.inTransaction([&defaults = m_defaults, key = m_collectionsKey, collections] {
-        storeJson(defaults, key, collections);
-    });
+    m_defaults.inTransaction([&defaults = m_defaults, key = m_collectionsKey, collections,
+                              present] { storeJson(defaults, key, collections, present); });
 }
 
 void sortByName(std::vector<FontCollectionRecord> &collections)

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "model/records/GroupingRecords.h"
+#include "model/stores/StoredState.h"
 
+#include <optional>
 #include <vector>
 
 namespace lorva {
@@ -19,11 +21,14 @@ public:
     explicit CollectionStore(PreferenceStore &defaults,
                              QString collectionsKey = QStringLiteral("vantrel.merid.collections"));
 
-    /// Sorted by name as the user's language sorts, ignoring case; none when what is stored does
-    /// not decode.
+    /// Sorted by name as the user's language sorts, ignoring case, and all with a name that shows;
+    /// none when what is stored does not decode.
     std::vector<FontCollectionRecord> load() const;
+    /// As load(), but nothing when nothing is stored or that does not decode.
+    std::optional<std::vector<FontCollectionRecord>> stored() const;
     /// Replaces all. What does not decode is kept first (PreferenceStore::keepUnreadable()).
-    void save(const std::vector<FontCollectionRecord> &collections);
+    void save(const std::vector<FontCollectionRecord> &collections,
+              StoredState present = StoredState::unknown);
 
 private:
     PreferenceStore &m_defaults;

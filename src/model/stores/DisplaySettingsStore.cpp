@@ -11,21 +11,47 @@ namespace {
 
 using SettingsByKey = std::map<QString, SourceDisplaySettings>;
 
-SettingsByKey storedSettings(const PreferenceStore &defaults, const QString &storeKey)
+/// Says whether it has changed anything.
+using Change = std::function<bool(SettingsByKey &)>;
+
+/// Gives all settings as they are then.
+SettingsByKey changeStored(PreferenceStore &defaults, const QString &storeKey, Change change)
 {
-    return storedJson<SettingsByKey>(defaults, storeKey).value_or(SettingsByKey());
+    const auto after = std::make_shared<SettingsByKey>();
+    // A later run has nobody to tell, and does not hold the logos for long.
+    const std::weak_ptr<SettingsByKey> told = after;
+    defaults.inTransaction([&defaults, storeKey, change = std::move(change), told] {
+        std::optional<SettingsByKey> stored = storedJson<SettingsByKey>(defaults, storeKey);
+        const StoredState present = storedState(stored.has_value());
+        SettingsByKey settings = std::move(stored).value_or(SettingsByKey());
+        if (change(settings))
+            storeJson(defaults, storeKey, settings, present);
+        if (const auto out = told.lock())
+            *out = std::move(settings);
+    });
+    return std::move(*after);
 }
 
-void changeStored(PreferenceStore &defaults, const QString &storeKey,
-                  const std::function<void(SettingsByKey &)> &change)
+bool setEntry(SettingsByKey &stored, const QString &sourceKey,
+              const SourceDisplaySettings &settings)
 {
-    defaults.inTransaction([&defaults, storeKey, change] {
-        const SettingsByKey before = storedSettings(defaults, storeKey);
-        SettingsByKey after = before;
-        change(after);
-        if (after != before)
-            storeJson(defaults, storeKey, after);
-    });
+    const auto [entry, isNew] = stored.try_emplace(sourceKey, settings);
+    if (isNew || entry->second == settings)
+        return isNew;
+    entry->second = settings;
+    return true;
+}
+
+/// A change of nothing adds no entry.
+bool updateEntry(SettingsByKey &stored, const QString &sourceKey,
+                 const std::function<void(SourceDisplaySettings &)> &change)
+{
+    const auto found = stored.find(sourceKey);
+    const SourceDisplaySettings before =
+        found == stored.end() ? SourceDisplaySettings() : found->second;
+    SourceDisplaySettings after = before;
+    change(after);
+    return after != before && setEntry(stored, sourceKey, after);
 }
 
 } // namespace
@@ -52,28 +78,23 @@ std::optional<SourceDisplaySettings> DisplaySettingsStore::settings(const QStrin
 
 std::map<QString, SourceDisplaySettings> DisplaySettingsStore::all() const
 {
-    return storedSettings(m_defaults, m_storeKey);
+    return storedJson<SettingsByKey>(m_defaults, m_storeKey).value_or(SettingsByKey());
 }
 
 void DisplaySettingsStore::set(const SourceDisplaySettings &settings, const QString &sourceKey)
 {
-    changeStored(m_defaults, m_storeKey,
-                 [settings, sourceKey](SettingsByKey &stored) { stored[sourceKey] = settings; });
+    changeStored(m_defaults, m_storeKey, [settings, sourceKey](SettingsByKey &stored) {
+        return setEntry(stored, sourceKey, settings);
+    });
 }
 
-void DisplaySettingsStore::update(const QString &sourceKey,
-                                  std::function<void(SourceDisplaySettings &)> change)
+SettingsByKey DisplaySettingsStore::update(const QString &sourceKey,
+                                           std::function<void(SourceDisplaySettings &)> change)
 {
-    changeStored(m_defaults, m_storeKey,
-                 [sourceKey, change = std::move(change)](SettingsByKey &stored) {
-                     const auto found = stored.find(sourceKey);
-                     const SourceDisplaySettings before =
-                         found == stored.end() ? SourceDisplaySettings() : found->second;
-                     SourceDisplaySettings after = before;
-                     change(after);
-                     if (after != before)
-                         stored[sourceKey] = std::move(after);
-                 });
+    return changeStored(m_defaults, m_storeKey,
+                        [sourceKey, change = std::move(change)](SettingsByKey &stored) {
+                            return updateEntry(stored, sourceKey, change);
+                        });
 }
 
 } // namespace lorva

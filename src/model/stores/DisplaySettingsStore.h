@@ -31,9 +31,11 @@ public:
     std::optional<SourceDisplaySettings> settings(const QString &sourceKey) const;
     std::map<QString, SourceDisplaySettings> all() const;
     void set(const SourceDisplaySettings &settings, const QString &sourceKey);
-    /// Changes the entry as it is stored now, empty if there is none, in one transaction. `change`
-    /// may run again later, so it owns what it captures.
-    void update(const QString &sourceKey, std::function<void(SourceDisplaySettings &)> change);
+    /// Changes the entry as it is stored now, empty if there is none, in one transaction, and gives
+    /// all entries as they are then: with large logos another read takes its time. `change` may run
+    /// again later, so it owns what it captures.
+    std::map<QString, SourceDisplaySettings> update(
+        const QString &sourceKey, std::function<void(SourceDisplaySettings &)> change);
 
 private:
     PreferenceStore &m_defaults;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/stores/FoundryStore.h"
 
+#include "model/stores/OrganizationChanges.h"
 #include "platform/PreferenceStore.h"
 
 namespace lorva {
@@ -10,48 +11,54 @@ namespace {
 
 using Dictionary = QHash<QString, QString>;
 
-QSet<QString> storedSet(const PreferenceStore &defaults, const QString &key)
+QSet<QString> usableSet(const std::optional<QStringList> &stored)
 {
-    const QStringList stored = defaults.stringArray(key).value_or(QStringList());
-    QSet<QString> out(stored.begin(), stored.end());
+    const QStringList members = stored.value_or(QStringList());
+    QSet<QString> out(members.begin(), members.end());
     out.remove(QString());
     return out;
 }
 
-/// Sorted, so that equal sets are stored alike.
-void storeSet(PreferenceStore &defaults, const QString &key, const QSet<QString> &value)
+Dictionary usableDictionary(const std::optional<Dictionary> &stored)
 {
-    if (!defaults.stringArray(key))
+    Dictionary out = stored.value_or(Dictionary());
+    out.remove(QString());
+    return out;
+}
+
+/// Names as a person could have typed them: what is shown can be exported and imported.
+Dictionary usableNames(const std::optional<Dictionary> &stored)
+{
+    Dictionary out = usableDictionary(stored);
+    for (QString &name : out)
+        name = cleanedName(name);
+    out.removeIf([](const auto &entry) { return entry.value().isEmpty(); });
+    return out;
+}
+
+/// Sorted, so that equal sets are stored alike.
+void replaceSet(PreferenceStore &defaults, const QString &key, const QSet<QString> &value)
+{
+    const std::optional<QStringList> stored = defaults.stringArray(key);
+    if (usableSet(stored) == value)
+        return;
+    if (!stored)
         defaults.keepUnreadable(key);
     QStringList sorted(value.begin(), value.end());
     sorted.sort();
     defaults.setStringArray(key, sorted);
 }
 
-Dictionary storedDictionary(const PreferenceStore &defaults, const QString &key)
+/// `usable` gives what counts of what is stored; when that is `value`, nothing is written.
+void replaceDictionary(PreferenceStore &defaults, const QString &key, const Dictionary &value,
+                       Dictionary (*usable)(const std::optional<Dictionary> &))
 {
-    Dictionary out = defaults.stringDictionary(key).value_or(Dictionary());
-    out.remove(QString());
-    return out;
-}
-
-void storeDictionary(PreferenceStore &defaults, const QString &key, const Dictionary &value)
-{
-    if (!defaults.stringDictionary(key))
+    const std::optional<Dictionary> stored = defaults.stringDictionary(key);
+    if (usable(stored) == value)
+        return;
+    if (!stored)
         defaults.keepUnreadable(key);
     defaults.setStringDictionary(key, value);
-}
-
-void replaceSet(PreferenceStore &defaults, const QString &key, const QSet<QString> &value)
-{
-    if (storedSet(defaults, key) != value)
-        storeSet(defaults, key, value);
-}
-
-void replaceDictionary(PreferenceStore &defaults, const QString &key, const Dictionary &value)
-{
-    if (storedDictionary(defaults, key) != value)
-        storeDictionary(defaults, key, value);
 }
 
 void setMember(PreferenceStore &defaults, const QString &key, const QString &member, bool isMember)
@@ -59,14 +66,12 @@ void setMember(PreferenceStore &defaults, const QString &key, const QString &mem
     if (member.isEmpty())
         return;
     defaults.inTransaction([&defaults, key, member, isMember] {
-        QSet<QString> set = storedSet(defaults, key);
-        if (set.contains(member) == isMember)
-            return;
+        QSet<QString> set = usableSet(defaults.stringArray(key));
         if (isMember)
             set.insert(member);
         else
             set.remove(member);
-        storeSet(defaults, key, set);
+        replaceSet(defaults, key, set);
     });
 }
 
@@ -76,12 +81,12 @@ void setEntry(PreferenceStore &defaults, const QString &key, const QString &name
     if (name.isEmpty())
         return;
     defaults.inTransaction([&defaults, key, name, value] {
-        Dictionary dictionary = storedDictionary(defaults, key);
+        Dictionary dictionary = usableDictionary(defaults.stringDictionary(key));
         if (value)
             dictionary.insert(name, *value);
         else
             dictionary.remove(name);
-        replaceDictionary(defaults, key, dictionary);
+        replaceDictionary(defaults, key, dictionary, usableDictionary);
     });
 }
 
@@ -100,7 +105,7 @@ FoundryStore::FoundryStore(PreferenceStore &defaults, QString dismissedKey,
 
 QSet<QString> FoundryStore::dismissed() const
 {
-    return storedSet(m_defaults, m_dismissedKey);
+    return usableSet(m_defaults.stringArray(m_dismissedKey));
 }
 
 void FoundryStore::setDismissed(const QString &foundryID, bool isDismissed)
@@ -110,7 +115,7 @@ void FoundryStore::setDismissed(const QString &foundryID, bool isDismissed)
 
 QSet<QString> FoundryStore::collapsedGroups() const
 {
-    return storedSet(m_defaults, m_collapsedGroupsKey);
+    return usableSet(m_defaults.stringArray(m_collapsedGroupsKey));
 }
 
 void FoundryStore::setCollapsed(const QString &group, bool isCollapsed)
@@ -120,7 +125,7 @@ void FoundryStore::setCollapsed(const QString &group, bool isCollapsed)
 
 QHash<QString, QString> FoundryStore::overrides() const
 {
-    return storedDictionary(m_defaults, m_overridesKey);
+    return usableDictionary(m_defaults.stringDictionary(m_overridesKey));
 }
 
 void FoundryStore::setOverride(const QString &familyName, const std::optional<QString> &foundryID)
@@ -130,12 +135,12 @@ void FoundryStore::setOverride(const QString &familyName, const std::optional<QS
 
 QHash<QString, QString> FoundryStore::nameOverrides() const
 {
-    return storedDictionary(m_defaults, m_nameOverridesKey);
+    return usableNames(m_defaults.stringDictionary(m_nameOverridesKey));
 }
 
 void FoundryStore::setNameOverride(const QString &foundryID, const std::optional<QString> &name)
 {
-    if (!name || !name->isEmpty())
+    if (!name || !cleanedName(*name).isEmpty())
         setEntry(m_defaults, m_nameOverridesKey, foundryID, name);
 }
 
@@ -147,8 +152,10 @@ FoundryCorrections FoundryStore::corrections() const
 void FoundryStore::save(const FoundryCorrections &corrections)
 {
     m_defaults.inTransaction([store = *this, corrections] {
-        replaceDictionary(store.m_defaults, store.m_overridesKey, corrections.overrides);
-        replaceDictionary(store.m_defaults, store.m_nameOverridesKey, corrections.names);
+        replaceDictionary(store.m_defaults, store.m_overridesKey, corrections.overrides,
+                          usableDictionary);
+        replaceDictionary(store.m_defaults, store.m_nameOverridesKey, corrections.names,
+                          usableNames);
         replaceSet(store.m_defaults, store.m_dismissedKey, corrections.dismissed);
     });
 }

@@ -35,7 +35,7 @@ public:
     QHash<QString, QString> overrides() const;
     /// Nothing removes the family's override.
     void setOverride(const QString &familyName, const std::optional<QString> &foundryID);
-    /// Name to show, by foundry id.
+    /// Name to show, by foundry id; without those of which nothing shows.
     QHash<QString, QString> nameOverrides() const;
     /// Nothing removes the foundry's name.
     void setNameOverride(const QString &foundryID, const std::optional<QString> &name);

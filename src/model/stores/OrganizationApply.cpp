@@ -4,6 +4,7 @@
 #include "model/stores/OrganizationEdit.h"
 
 #include "model/records/StyleCategories.h"
+#include "model/stores/TakenNames.h"
 
 #include <algorithm>
 
@@ -125,10 +126,46 @@ std::vector<const GroupingChange *> applyChanges(const std::vector<GroupingChang
     return done;
 }
 
+bool hasFixedName(const FontCollectionRecord &)
+{
+    return false;
+}
+
+bool hasFixedName(const FontStyleCategoryRecord &category)
+{
+    return isDefaultStyleCategory(category.id);
+}
+
+/// What was created or renamed gets another name where others have its name by now. Those that
+/// trade names do not count for each other.
+template <class Grouping>
+void freeNames(const std::vector<const GroupingChange *> &done, std::vector<Grouping> &groupings)
+{
+    QSet<QString> named;
+    for (const GroupingChange *const change : done) {
+        if (isRenaming(*change))
+            named.insert(change->id);
+    }
+    TakenNames taken;
+    std::vector<Grouping *> renamed;
+    for (Grouping &each : groupings) {
+        if (named.contains(each.id) && !hasFixedName(each))
+            renamed.push_back(&each);
+        else if (!named.isEmpty())
+            taken.insert(each.name);
+    }
+    for (Grouping *const each : renamed) {
+        if (taken.contains(each->name))
+            each->name = taken.freeName(each->name);
+        taken.insert(each->name);
+    }
+}
+
 void applyToCollections(const std::vector<GroupingChange> &changes,
                         std::vector<FontCollectionRecord> &collections)
 {
     const auto done = applyChanges(changes, collections);
+    freeNames(done, collections);
     if (std::any_of(done.begin(), done.end(), [](const auto *each) { return isRenaming(*each); }))
         sortByName(collections);
 }
@@ -163,6 +200,7 @@ void applyToCategories(const std::vector<GroupingChange> &changes,
             sortedOnes.insert(category.id);
     }
     const auto done = applyChanges(changes, categories);
+    freeNames(done, categories);
     leaveOthers(done, categories);
     for (FontStyleCategoryRecord &category : categories) {
         if (sortedOnes.contains(category.id))

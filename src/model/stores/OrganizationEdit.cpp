@@ -114,16 +114,18 @@ std::vector<EntryChange> entryChanges(const Dictionary &before, const Dictionary
 {
     if (before.isSharedWith(after))
         return {};
-    const QStringList keys = before.keys() + after.keys();
-    QStringList sorted(keys);
-    sorted.sort();
-    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
     std::vector<EntryChange> out;
-    for (const QString &key : std::as_const(sorted)) {
-        EntryChange change{key, entry(before, key), entry(after, key)};
-        if (change.before != change.after)
-            out.push_back(std::move(change));
+    for (auto each = before.cbegin(); each != before.cend(); ++each) {
+        std::optional<QString> now = entry(after, each.key());
+        if (now != *each)
+            out.push_back({each.key(), *each, std::move(now)});
     }
+    for (auto each = after.cbegin(); each != after.cend(); ++each) {
+        if (!before.contains(each.key()))
+            out.push_back({each.key(), {}, *each});
+    }
+    std::sort(out.begin(), out.end(),
+              [](const auto &left, const auto &right) { return left.key < right.key; });
     return out;
 }
 

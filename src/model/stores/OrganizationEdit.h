@@ -55,9 +55,10 @@ struct OrganizationEdit
 OrganizationEdit difference(const Organization &before, const Organization &after);
 
 /// Does to `organization` what the edit says, where that is still possible: members that have gone
-/// already, groupings that exist already are passed over. A family that joins a style category
-/// leaves the one it is in. The order of collections and of categories is kept as described at
-/// Organization.
+/// already, groupings that exist already are passed over. A grouping that is created or renamed to
+/// a name that another one has meanwhile gets a free one ("Posters 2"). A family that joins a style
+/// category leaves the one it is in. The order of collections and of categories is kept as
+/// described at Organization.
 void apply(const OrganizationEdit &edit, Organization &organization);
 
 } // namespace lorva

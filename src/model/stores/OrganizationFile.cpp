@@ -5,6 +5,7 @@
 #include "base/Json.h"
 #include "model/records/RecordsJson.h"
 #include "model/records/StyleCategories.h"
+#include "model/stores/DisplaySettingsStore.h"
 #include "model/stores/OrganizationChanges.h"
 
 #include <algorithm>
@@ -107,13 +108,23 @@ void jsonFields(Fields &fields, Record &document)
 
 // --- Writing ---
 
+/// Other programs, and earlier versions, may have stored names that nobody could have typed.
+QString repairedName(const QString &name, const QString &id)
+{
+    for (const QString &each : {name, id}) {
+        if (QString cleaned = cleanedName(each); !cleaned.isEmpty())
+            return cleaned;
+    }
+    return QStringLiteral("Untitled");
+}
+
 template <class Record>
 std::vector<GroupingRow> rowsOf(const std::vector<Record> &records)
 {
     std::vector<GroupingRow> rows;
     rows.reserve(records.size());
     for (const Record &record : records)
-        rows.push_back({record.id, {record.name}, record.familyNames});
+        rows.push_back({record.id, {repairedName(record.name, record.id)}, record.familyNames});
     return rows;
 }
 
@@ -123,8 +134,11 @@ FoundryRows rowsOf(const FoundryCorrections &corrections)
     for (auto entry = corrections.overrides.cbegin(); entry != corrections.overrides.cend();
          ++entry)
         rows.overrides.emplace(entry.key(), entry.value());
-    for (auto entry = corrections.names.cbegin(); entry != corrections.names.cend(); ++entry)
-        rows.names.emplace(entry.key(), CleanName{entry.value()});
+    for (auto entry = corrections.names.cbegin(); entry != corrections.names.cend(); ++entry) {
+        // A foundry whose name shows nothing is shown under its own.
+        if (QString cleaned = cleanedName(entry.value()); !cleaned.isEmpty())
+            rows.names.emplace(entry.key(), CleanName{std::move(cleaned)});
+    }
     rows.dismissed = corrections.dismissed.values();
     rows.dismissed.sort();
     return rows;
@@ -198,19 +212,22 @@ private:
 
 // --- Reading ---
 
-QString usableID(const GroupingRow &row)
+QString usableID(const GroupingRow &row, QSet<QString> &newIDs)
 {
     const QString id = row.id.value_or(QString());
-    return id.isEmpty() || id == kRetiredCategoryID ? newGroupingID() : id;
+    if (!id.isEmpty() && id != kRetiredCategoryID)
+        return id;
+    return *newIDs.insert(newGroupingID());
 }
 
+/// Adds the ids that it makes to `newIDs`.
 template <class Record>
-std::vector<Record> recordsOf(const std::vector<GroupingRow> &rows)
+std::vector<Record> recordsOf(const std::vector<GroupingRow> &rows, QSet<QString> &newIDs)
 {
     std::vector<Record> records;
     records.reserve(rows.size());
     for (const GroupingRow &row : rows)
-        records.push_back({usableID(row), row.name.text, row.familyNames});
+        records.push_back({usableID(row, newIDs), row.name.text, row.familyNames});
     return records;
 }
 
@@ -232,6 +249,48 @@ FoundryCorrections correctionsOf(const FoundryRows &rows)
     return corrections;
 }
 
+bool isColor(const QString &text)
+{
+    const auto isHexDigit = [](QChar c) {
+        const char16_t lower = c.toLower().unicode();
+        return (c >= u'0' && c <= u'9') || (lower >= u'a' && lower <= u'f');
+    };
+    return text.size() == 7 && text.startsWith(u'#')
+        && std::all_of(text.cbegin() + 1, text.cend(), isHexDigit);
+}
+
+bool isDisplaySettingsKey(const QString &key)
+{
+    static const QString kPrefix = displaySettingsKey(BrowserSource::collection({}));
+    return key == kSharedDisplaySettingsKey
+        || (key.startsWith(kPrefix) && key.size() > kPrefix.size());
+}
+
+void dropOtherThanColors(SourceDisplaySettings &settings)
+{
+    for (std::optional<QString> *color :
+         {&settings.customForegroundColorHex, &settings.customBackgroundColorHex,
+          &settings.imageForegroundColorHex}) {
+        if (*color && !isColor(**color))
+            color->reset();
+    }
+}
+
+/// Without what makes no sense; nothing where nothing else was said.
+std::map<QString, SourceDisplaySettings> usable(
+    const std::map<QString, SourceDisplaySettings> &displaySettings)
+{
+    std::map<QString, SourceDisplaySettings> out;
+    for (const auto &[key, settings] : displaySettings) {
+        SourceDisplaySettings kept = settings;
+        dropOtherThanColors(kept);
+        const bool saysNothing = kept != settings && kept == SourceDisplaySettings();
+        if (isDisplaySettingsKey(key) && !saysNothing)
+            out.emplace(key, std::move(kept));
+    }
+    return out;
+}
+
 Result<void> checkHeader(const QByteArray &json)
 {
     const Result<Header> header = decodeJson<Header>(json);
@@ -251,7 +310,7 @@ Result<void> checkHeader(const QByteArray &json)
 
 } // namespace
 
-QByteArray encodeOrganizationFile(const OrganizationFile &file)
+Result<QByteArray> encodeOrganizationFile(const OrganizationFile &file, qint64 mostBytes)
 {
     Document document{{kFormat, OrganizationFile::kVersion},
                       rowsOf(file.organization.collections),
@@ -259,20 +318,31 @@ QByteArray encodeOrganizationFile(const OrganizationFile &file)
                       rowsOf(file.organization.foundries),
                       file.displaySettings};
     putInNeutralOrder(document);
-    return Indenter().indented(encodeJson(document)) + '\n';
+    QByteArray json = Indenter().indented(encodeJson(document)) + '\n';
+    if (json.size() <= mostBytes)
+        return json;
+    return failure(ErrorKind::tooLarge,
+                   QStringLiteral("the organisation takes %1 bytes as a file, and no more than %2 "
+                                  "can be imported; the logos in display settings may be too many")
+                       .arg(json.size())
+                       .arg(mostBytes));
 }
 
 Result<OrganizationFile> decodeOrganizationFile(QByteArray json)
 {
+    // Some editors put a byte order mark before the text.
+    if (json.startsWith("\xEF\xBB\xBF"))
+        json.remove(0, 3);
     // First, because a later version's form is not ours to judge.
     if (const Result<void> checked = checkHeader(json); !checked)
         return tl::unexpected(checked.error());
     Result<Document> document = decodeJson<Document>(std::move(json));
     if (!document)
         return failure(ErrorKind::malformed, document.error().detail);
-    OrganizationFile file{{{}, defaultStyleCategories(), {}}, std::move(document->displaySettings)};
-    merge({recordsOf<FontCollectionRecord>(document->collections),
-           recordsOf<FontStyleCategoryRecord>(document->styleCategories),
+    OrganizationFile file{
+        {{}, defaultStyleCategories(), {}}, usable(document->displaySettings), {}};
+    merge({recordsOf<FontCollectionRecord>(document->collections, file.newIDs),
+           recordsOf<FontStyleCategoryRecord>(document->styleCategories, file.newIDs),
            correctionsOf(document->foundries)},
           file.organization);
     return file;

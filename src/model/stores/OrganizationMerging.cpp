@@ -1,24 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "base/Folding.h"
+#include "model/records/StyleCategories.h"
 #include "model/stores/CollectionStore.h"
 #include "model/stores/DisplaySettingsStore.h"
 #include "model/stores/OrganizationFile.h"
+#include "model/stores/OrganizationNames.h"
 
 #include <QSet>
 
-#include <algorithm>
 #include <optional>
 
 namespace lorva {
 
 namespace {
-
-/// Equal for names that nobody would tell apart.
-QString nameKey(const QString &name)
-{
-    return name.normalized(QString::NormalizationForm_C).toCaseFolded();
-}
 
 /// The groupings of a list by id and by name.
 class GroupingIndex
@@ -33,8 +27,9 @@ public:
 
     void add(const QString &id, const QString &name, size_t place)
     {
-        m_placeByID.insert(id, place);
-        const QString key = nameKey(name);
+        if (!id.isEmpty())
+            m_placeByID.insert(id, place);
+        const QString key = comparableName(name);
         if (!m_placeByName.contains(key))
             m_placeByName.insert(key, place);
     }
@@ -43,7 +38,7 @@ public:
     {
         if (const auto found = m_placeByID.constFind(id); found != m_placeByID.cend())
             return *found;
-        if (const auto found = m_placeByName.constFind(nameKey(name));
+        if (const auto found = m_placeByName.constFind(comparableName(name));
             found != m_placeByName.cend())
             return *found;
         return std::nullopt;
@@ -93,19 +88,6 @@ void mergeCollections(const std::vector<FontCollectionRecord> &imported,
     sortByName(collections);
 }
 
-void sortFamilies(QStringList &names)
-{
-    const NameCollator collator;
-    std::vector<std::pair<QByteArray, QString>> keyed;
-    keyed.reserve(size_t(names.size()));
-    for (const QString &name : std::as_const(names))
-        keyed.emplace_back(collator.sortKey(name), name);
-    std::sort(keyed.begin(), keyed.end());
-    names.clear();
-    for (auto &[key, name] : keyed)
-        names.push_back(std::move(name));
-}
-
 /// Each family ends in one category: the last that names it.
 void mergeStyleCategories(const std::vector<FontStyleCategoryRecord> &imported,
                           std::vector<FontStyleCategoryRecord> &categories)
@@ -123,10 +105,36 @@ void mergeStyleCategories(const std::vector<FontStyleCategoryRecord> &imported,
             categories[entry.value()].familyNames.push_back(entry.key());
     }
     for (FontStyleCategoryRecord &category : categories)
-        sortFamilies(category.familyNames);
+        sortFamilyNames(category.familyNames);
+}
+
+template <class Record>
+void adoptIDs(std::vector<Record> &records, const QSet<QString> &newIDs,
+              const std::vector<Record> &present)
+{
+    QSet<QString> taken;
+    for (const Record &each : records)
+        taken.insert(each.id);
+    const GroupingIndex index(present);
+    for (Record &each : records) {
+        const auto place = newIDs.contains(each.id) ? index.find({}, each.name) : std::nullopt;
+        const QString id = place ? present[*place].id : QString();
+        if (id.isEmpty() || taken.contains(id))
+            continue;
+        taken.insert(id);
+        each.id = id;
+    }
 }
 
 } // namespace
+
+void adoptIDs(OrganizationFile &file, const Organization &present)
+{
+    adoptIDs(file.organization.collections, file.newIDs, present.collections);
+    adoptIDs(file.organization.styleCategories, file.newIDs, present.styleCategories);
+    // In the order that equal organisations have, whatever the ids of two of one name are.
+    sortByName(file.organization.collections);
+}
 
 void merge(const Organization &imported, Organization &organization)
 {

@@ -114,18 +114,4 @@ QString newGroupingID()
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
-QString freeCollectionName(const Organization &organization, const QString &base)
-{
-    QSet<QString> taken;
-    for (const FontCollectionRecord &each : organization.collections)
-        taken.insert(comparableName(each.name));
-
-    QString name = cleanedName(base);
-    for (int number = 2; taken.contains(comparableName(name)); ++number) {
-        const QString suffix = u' ' + QString::number(number);
-        name = cutBetweenCharacters(cleanedName(base), kLongestName - suffix.size()) + suffix;
-    }
-    return name;
-}
-
 } // namespace lorva

@@ -35,8 +35,11 @@ public:
     };
 
     /// Reads the organisation, lets `change` change it, and writes the parts that differ, in one
-    /// transaction. When `change` fails nothing is written, and its error is the result. It may run
-    /// again later (PreferenceStore::inTransaction()), so it owns what it captures.
+    /// transaction. When `change` fails nothing is written, and its error is the result.
+    ///
+    /// `change` may run twice before this returns, but not later: what cannot be written now is
+    /// made again as the edit that the caller got, in what others have made of the organisation by
+    /// then (apply()). What the user saw done is not refused, nor what was refused done.
     Result<Outcome> change(std::function<Result<void>(Organization &)> change);
 
 private:

@@ -3,7 +3,11 @@
 #pragma once
 
 #include "model/records/RecordsJson.h"
+#include "model/stores/OrganizationChanges.h"
 #include "model/stores/StoredValue.h"
+#include "model/stores/TakenNames.h"
+
+#include <QCoreApplication>
 
 namespace lorva {
 
@@ -29,6 +33,23 @@ std::vector<Grouping> joinedByID(std::vector<Grouping> groupings)
         each.familyNames.removeDuplicates();
     }
     return out;
+}
+
+/// Names become such as a person could have typed: what is shown can be exported and imported.
+template <class Grouping>
+void makeNamesUsable(std::vector<Grouping> &groupings)
+{
+    TakenNames taken;
+    for (Grouping &each : groupings) {
+        each.name = cleanedName(each.name);
+        taken.insert(each.name);
+    }
+    for (Grouping &each : groupings) {
+        if (!each.name.isEmpty())
+            continue;
+        each.name = taken.freeName(QCoreApplication::translate("StoredGroupings", "Untitled"));
+        taken.insert(each.name);
+    }
 }
 
 /// The collections or style categories under `key`, in the stored order; nothing when they are

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Json.h"
+#include "model/stores/StoredState.h"
 #include "platform/PreferenceStore.h"
 
 namespace lorva {
@@ -15,10 +16,10 @@ void noteUnreadable(const QString &key, const Error &why);
 template <class T>
 std::optional<T> storedJson(const PreferenceStore &defaults, const QString &key)
 {
-    const std::optional<QByteArray> json = defaults.data(key);
+    std::optional<QByteArray> json = defaults.data(key);
     if (!json)
         return std::nullopt;
-    Result<T> value = decodeJson<T>(*json);
+    Result<T> value = decodeJson<T>(*std::move(json));
     if (value)
         return *std::move(value);
     noteUnreadable(key, value.error());
@@ -26,14 +27,19 @@ std::optional<T> storedJson(const PreferenceStore &defaults, const QString &key)
 }
 
 /// Keeps `value` as JSON under `key`. What is there and cannot be read is put aside first; what is
-/// the same already is not written. The caller has opened a transaction.
+/// the same already is not written. The caller has opened a transaction. One that says what is
+/// there spares large values another read.
 template <class T>
-void storeJson(PreferenceStore &defaults, const QString &key, const T &value)
+void storeJson(PreferenceStore &defaults, const QString &key, const T &value,
+               StoredState present = StoredState::unknown)
 {
     const QByteArray json = encodeJson(value);
-    if (defaults.data(key) == json)
-        return;
-    if (!storedJson<T>(defaults, key))
+    if (present == StoredState::unknown) {
+        if (defaults.data(key) == json)
+            return;
+        present = storedState(storedJson<T>(defaults, key).has_value());
+    }
+    if (present == StoredState::unreadable)
         defaults.keepUnreadable(key);
     defaults.setData(key, json);
 }

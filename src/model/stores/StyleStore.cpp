@@ -50,6 +50,14 @@ void relabelSans(UpToDate &out)
     out.isChanged = true;
 }
 
+/// A default one that others left without a name keeps its own.
+void take(const FontStyleCategoryRecord &stored, FontStyleCategoryRecord &category)
+{
+    category.familyNames = stored.familyNames;
+    if (!cleanedName(stored.name).isEmpty())
+        category.name = stored.name;
+}
+
 /// The default ones first, those that are missing empty; then the user's own as they stood.
 void putInOrder(UpToDate &out)
 {
@@ -59,7 +67,7 @@ void putInOrder(UpToDate &out)
         if (stored == out.categories.end())
             out.isChanged = true;
         else
-            each = *stored;
+            take(*stored, each);
     }
     for (FontStyleCategoryRecord &each : out.categories) {
         if (!isDefaultStyleCategory(each.id))
@@ -77,6 +85,7 @@ std::optional<UpToDate> storedUpToDate(const PreferenceStore &defaults, const QS
     replaceRounded(out);
     relabelSans(out);
     putInOrder(out);
+    makeNamesUsable(out.categories);
     return out;
 }
 
@@ -91,15 +100,21 @@ StyleStore::StyleStore(PreferenceStore &defaults, QString stylesKey, QString cla
 {
 }
 
-std::vector<FontStyleCategoryRecord> StyleStore::load()
+Categories StyleStore::load()
 {
-    const std::optional<UpToDate> present = storedUpToDate(m_defaults, m_stylesKey);
-    if (!present)
-        return defaultStyleCategories();
-    if (!present->isChanged)
-        return present->categories;
+    std::optional<Categories> categories = stored();
+    return categories ? *std::move(categories) : defaultStyleCategories();
+}
 
-    const auto categories = std::make_shared<Categories>(present->categories);
+std::optional<Categories> StyleStore::stored()
+{
+    std::optional<UpToDate> present = storedUpToDate(m_defaults, m_stylesKey);
+    if (!present)
+        return std::nullopt;
+    if (!present->isChanged)
+        return std::move(present->categories);
+
+    const auto categories = std::make_shared<Categories>(std::move(present->categories));
     m_defaults.inTransaction(
         [&defaults = m_defaults, key = m_stylesKey, flag = m_classifiedKey, categories] {
             // Another process may have been here since.
@@ -109,16 +124,16 @@ std::vector<FontStyleCategoryRecord> StyleStore::load()
             if (stored->wantsClassification)
                 defaults.remove(flag);
             if (stored->isChanged)
-                storeJson(defaults, key, stored->categories);
+                storeJson(defaults, key, stored->categories, StoredState::readable);
             *categories = stored->categories;
         });
     return *categories;
 }
 
-void StyleStore::save(const std::vector<FontStyleCategoryRecord> &categories)
+void StyleStore::save(const Categories &categories, StoredState present)
 {
-    m_defaults.inTransaction([&defaults = m_defaults, key = m_stylesKey, categories] {
-        storeJson(defaults, key, categories);
+    m_defaults.inTransaction([&defaults = m_defaults, key = m_stylesKey, categories, present] {
+        storeJson(defaults, key, categories, present);
     });
 }
 

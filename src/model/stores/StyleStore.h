@@ -3,7 +3,9 @@
 #pragma once
 
 #include "model/records/GroupingRecords.h"
+#include "model/stores/StoredState.h"
 
+#include <optional>
 #include <vector>
 
 namespace lorva {
@@ -23,11 +25,15 @@ public:
         QString legacyClassifiedV2Key = QStringLiteral("vantrel.merid.stylesClassified.v2"));
 
     /// The default categories in their order, with what is stored of them, then the user's own in
-    /// the stored order. What earlier versions stored is brought up to date, and written. The
-    /// defaults, and nothing is written, when nothing is stored or that does not decode.
+    /// the stored order, and all with a name that shows. What earlier versions stored is brought up
+    /// to date, and written. The defaults, and nothing is written, when nothing is stored or that
+    /// does not decode.
     std::vector<FontStyleCategoryRecord> load();
+    /// As load(), but nothing when nothing is stored or that does not decode.
+    std::optional<std::vector<FontStyleCategoryRecord>> stored();
     /// Replaces all. What does not decode is kept first (PreferenceStore::keepUnreadable()).
-    void save(const std::vector<FontStyleCategoryRecord> &categories);
+    void save(const std::vector<FontStyleCategoryRecord> &categories,
+              StoredState present = StoredState::unknown);
 
     /// Families have been sorted by their names; it is done once.
     bool isClassified() const;

@@ -318,53 +318,92 @@ TEST_P(UndoAfterOthers, takesBackNoMoreThanItsOwn)
 
 #define CHANGE(call) [](Organization &o) { static_cast<void>(call); }
 
-INSTANTIATE_TEST_SUITE_P(
-    Changes, UndoAfterOthers,
-    testing::Values(
-        Undoing{"deletedAndAnotherMade", CHANGE(deleteCollection(o, "1")),
-                CHANGE(createCollection(o, "9", "Another")),
-                CHANGE(createCollection(o, "9", "Another"))},
-        Undoing{"deletedAndMadeAgain", CHANGE(deleteCollection(o, "1")),
-                [](Organization &o) {
-                    o.collections.push_back({"1", "Theirs", {"Lato"}});
-                },
-                [](Organization &o) {
-                    o.collections[1] = {"1", "Theirs", {"Lato"}};
-                }},
-        Undoing{"addedAndOneRemoved", CHANGE(addFamilies(o, "1", QStringList({"A", "B"}))),
-                CHANGE(removeFamilies(o, "1", {"A"})), [](Organization &) {}},
-        Undoing{"addedAndOthersAdded", CHANGE(addFamilies(o, "1", {"A"})),
-                CHANGE(addFamilies(o, "1", {"B"})), CHANGE(addFamilies(o, "1", {"B"}))},
-        Undoing{"addedAndCollectionDeleted", CHANGE(addFamilies(o, "1", {"A"})),
-                CHANGE(deleteCollection(o, "1")), CHANGE(deleteCollection(o, "1"))},
-        Undoing{"removedAndAddedAgain", CHANGE(removeFamilies(o, "1", {"Inter"})),
-                CHANGE(addFamilies(o, "1", {"Inter"})),
-                CHANGE(setFamilies(o, "1", QStringList({"Amiri", "Lato", "Inter"})))},
-        Undoing{"reorderedAndOneRemoved",
-                CHANGE(setFamilies(o, "1", QStringList({"Lato", "Amiri", "Inter"}))),
-                CHANGE(removeFamilies(o, "1", {"Amiri"})),
-                CHANGE(removeFamilies(o, "1", {"Amiri"}))},
-        Undoing{"createdAndFilled", CHANGE(createCollection(o, "9", "New")),
-                CHANGE(addFamilies(o, "9", {"A"})), [](Organization &) {}},
-        Undoing{"renamedAndFilled", CHANGE(renameCollection(o, "1", "Alpha")),
-                CHANGE(addFamilies(o, "1", {"A"})), CHANGE(addFamilies(o, "1", {"A"}))},
-        Undoing{"renamedAndDeleted", CHANGE(renameCollection(o, "1", "Alpha")),
-                CHANGE(deleteCollection(o, "1")), CHANGE(deleteCollection(o, "1"))},
-        Undoing{"styledAndMovedElsewhere", CHANGE(setStyle(o, {"Georgia"}, "mono")),
-                CHANGE(setStyle(o, {"Georgia"}, "u")), [](Organization &) {}},
-        Undoing{"styledAndOthersStyled", CHANGE(setStyle(o, {"Zilla"}, "mono")),
-                CHANGE(setStyle(o, QStringList({"B", "C", "Zz"}), "serif")),
-                CHANGE(setStyle(o, QStringList({"B", "C", "Zz"}), "serif"))},
-        Undoing{"styledAndItsOldCategoryDeleted", CHANGE(setStyle(o, {"Inter"}, "mono")),
-                CHANGE(deleteStyleCategory(o, "u")), CHANGE(deleteStyleCategory(o, "u"))},
-        Undoing{"categoryDeletedAndItsFamilyStyled", CHANGE(deleteStyleCategory(o, "u")),
-                CHANGE(setStyle(o, {"Inter"}, "sans")), [](Organization &) {}},
-        Undoing{"overriddenAndOthersOverridden", CHANGE(setFoundry(o, {"Inter"}, "klim")),
-                CHANGE(setFoundry(o, QStringList({"Inter", "Lato"}), "dinamo")),
-                CHANGE(setFoundry(o, {"Lato"}, "dinamo"))},
-        Undoing{"dismissedAndAnotherDismissed", CHANGE(dismissFoundry(o, "klim")),
-                CHANGE(dismissFoundry(o, "dinamo")), CHANGE(dismissFoundry(o, "dinamo"))}),
-    [](const auto &undoing) { return undoing.param.what; });
+INSTANTIATE_TEST_SUITE_P(Changes, UndoAfterOthers,
+                         testing::Values(
+                             Undoing{"deletedAndAnotherMade", CHANGE(deleteCollection(o, "1")),
+                                     CHANGE(createCollection(o, "9", "Another")),
+                                     CHANGE(createCollection(o, "9", "Another"))},
+                             Undoing{"deletedAndMadeAgain", CHANGE(deleteCollection(o, "1")),
+                                     [](Organization &o) {
+                                         o.collections.push_back({"1", "Theirs", {"Lato"}});
+                                     },
+                                     [](Organization &o) {
+                                         o.collections[1] = {"1", "Theirs", {"Lato"}};
+                                     }},
+                             Undoing{"addedAndOneRemoved",
+                                     CHANGE(addFamilies(o, "1", QStringList({"A", "B"}))),
+                                     CHANGE(removeFamilies(o, "1", {"A"})), [](Organization &) {}},
+                             Undoing{"addedAndOthersAdded", CHANGE(addFamilies(o, "1", {"A"})),
+                                     CHANGE(addFamilies(o, "1", {"B"})),
+                                     CHANGE(addFamilies(o, "1", {"B"}))},
+                             Undoing{"addedAndCollectionDeleted",
+                                     CHANGE(addFamilies(o, "1", {"A"})),
+                                     CHANGE(deleteCollection(o, "1")),
+                                     CHANGE(deleteCollection(o, "1"))},
+                             Undoing{"removedAndAddedAgain",
+                                     CHANGE(removeFamilies(o, "1", {"Inter"})),
+                                     CHANGE(addFamilies(o, "1", {"Inter"})),
+                                     CHANGE(setFamilies(o, "1",
+                                                        QStringList({"Amiri", "Lato", "Inter"})))},
+                             Undoing{"reorderedAndOneRemoved",
+                                     CHANGE(setFamilies(o, "1",
+                                                        QStringList({"Lato", "Amiri", "Inter"}))),
+                                     CHANGE(removeFamilies(o, "1", {"Amiri"})),
+                                     CHANGE(removeFamilies(o, "1", {"Amiri"}))},
+                             Undoing{"createdAndFilled", CHANGE(createCollection(o, "9", "New")),
+                                     CHANGE(addFamilies(o, "9", {"A"})), [](Organization &) {}},
+                             Undoing{"renamedAndFilled", CHANGE(renameCollection(o, "1", "Alpha")),
+                                     CHANGE(addFamilies(o, "1", {"A"})),
+                                     CHANGE(addFamilies(o, "1", {"A"}))},
+                             Undoing{"deletedAndItsNameTaken", CHANGE(deleteCollection(o, "1")),
+                                     CHANGE(createCollection(o, "9", "posters")),
+                                     [](Organization &o) {
+                                         o.collections[1].name = "Posters 2";
+                                         o.collections.insert(o.collections.begin() + 1,
+                                                              {"9", "posters", {}});
+                                     }},
+                             Undoing{"renamedAndItsNameTaken",
+                                     CHANGE(renameCollection(o, "1", "Alpha")),
+                                     CHANGE(createCollection(o, "9", "Posters")),
+                                     [](Organization &o) {
+                                         o.collections[1].name = "Posters 2";
+                                         o.collections.insert(o.collections.begin() + 1,
+                                                              {"9", "Posters", {}});
+                                     }},
+                             Undoing{"categoryDeletedAndItsNameTaken",
+                                     CHANGE(deleteStyleCategory(o, "u")),
+                                     CHANGE(renameStyleCategory(o, "v", "mine")),
+                                     [](Organization &o) {
+                                         o.styleCategories[6].name = "Mine 2";
+                                         o.styleCategories[7].name = "mine";
+                                     }},
+                             Undoing{"renamedAndDeleted", CHANGE(renameCollection(o, "1", "Alpha")),
+                                     CHANGE(deleteCollection(o, "1")),
+                                     CHANGE(deleteCollection(o, "1"))},
+                             Undoing{"styledAndMovedElsewhere",
+                                     CHANGE(setStyle(o, {"Georgia"}, "mono")),
+                                     CHANGE(setStyle(o, {"Georgia"}, "u")), [](Organization &) {}},
+                             Undoing{"styledAndOthersStyled",
+                                     CHANGE(setStyle(o, {"Zilla"}, "mono")),
+                                     CHANGE(setStyle(o, QStringList({"B", "C", "Zz"}), "serif")),
+                                     CHANGE(setStyle(o, QStringList({"B", "C", "Zz"}), "serif"))},
+                             Undoing{"styledAndItsOldCategoryDeleted",
+                                     CHANGE(setStyle(o, {"Inter"}, "mono")),
+                                     CHANGE(deleteStyleCategory(o, "u")),
+                                     CHANGE(deleteStyleCategory(o, "u"))},
+                             Undoing{"categoryDeletedAndItsFamilyStyled",
+                                     CHANGE(deleteStyleCategory(o, "u")),
+                                     CHANGE(setStyle(o, {"Inter"}, "sans")), [](Organization &) {}},
+                             Undoing{
+                                 "overriddenAndOthersOverridden",
+                                 CHANGE(setFoundry(o, {"Inter"}, "klim")),
+                                 CHANGE(setFoundry(o, QStringList({"Inter", "Lato"}), "dinamo")),
+                                 CHANGE(setFoundry(o, {"Lato"}, "dinamo"))},
+                             Undoing{"dismissedAndAnotherDismissed",
+                                     CHANGE(dismissFoundry(o, "klim")),
+                                     CHANGE(dismissFoundry(o, "dinamo")),
+                                     CHANGE(dismissFoundry(o, "dinamo"))}),
+                         [](const auto &undoing) { return undoing.param.what; });
 
 TEST(OrganizationEdit, aFamilyOfTwoCategoriesGoesBackToBoth)
 {

@@ -45,14 +45,26 @@ OrganizationFile decoded(const QByteArray &json)
     return file.value_or(OrganizationFile());
 }
 
+QByteArray encoded(const OrganizationFile &file)
+{
+    const Result<QByteArray> json = encodeOrganizationFile(file);
+    EXPECT_TRUE(json);
+    return json.value_or(QByteArray());
+}
+
 TEST(OrganizationFile, ComesBackAsItWas)
 {
-    OrganizationFile file{sample(), {}};
+    OrganizationFile file{sample(), {}, {}};
     file.displaySettings["collection::c1"].sampleText = "x\ny";
     file.displaySettings["allFonts"].logoImageData = QByteArray("\0\xff", 2);
-    const QByteArray json = encodeOrganizationFile(file);
+    const QByteArray json = encoded(file);
     EXPECT_EQ(decoded(json), file);
-    EXPECT_EQ(encodeOrganizationFile(decoded(json)), json);
+    EXPECT_EQ(decoded("\xEF\xBB\xBF" + json), file) << "behind a byte order mark";
+    EXPECT_EQ(encoded(decoded(json)), json);
+    EXPECT_TRUE(encodeOrganizationFile(file, json.size()));
+    const Result<QByteArray> large = encodeOrganizationFile(file, json.size() - 1);
+    ASSERT_FALSE(large);
+    EXPECT_EQ(large.error().kind, ErrorKind::tooLarge);
     EXPECT_THAT(json.toStdString(), HasSubstr("\n      \"familyNames\": [\n        \"Zeta\",\n"));
     EXPECT_THAT(json.toStdString(), HasSubstr("\n      \"familyNames\": []\n"));
     EXPECT_TRUE(json.endsWith("\n}\n"));
@@ -63,19 +75,19 @@ TEST(OrganizationFile, IsTheSameWhateverTheOrderInMemory)
     Organization other = sample();
     std::swap(other.collections[0], other.collections[2]);
     other.styleCategories[0].familyNames = {"Beta", "Zeta", "alpha"};
-    EXPECT_EQ(encodeOrganizationFile({other, {}}), encodeOrganizationFile({sample(), {}}));
+    EXPECT_EQ(encoded({other, {}, {}}), encoded({sample(), {}, {}}));
 }
 
 TEST(OrganizationFile, HoldsTenThousandFamilies)
 {
-    OrganizationFile file{sample(), {}};
+    OrganizationFile file{sample(), {}, {}};
     for (int i = 0; i < 10000; ++i) {
         const QString name = QStringLiteral("Family %1").arg(i, 5, 10, QChar(u'0'));
         file.organization.collections[1].familyNames.push_back(name);
         file.organization.styleCategories[2].familyNames.push_back(name);
         file.organization.foundries.overrides.insert(name, QStringLiteral("klim"));
     }
-    const QByteArray json = encodeOrganizationFile(file);
+    const QByteArray json = encoded(file);
     EXPECT_LT(json.size(), OrganizationFile::kMostBytes / 32);
     EXPECT_EQ(decoded(json), file);
 }
@@ -149,11 +161,52 @@ TEST(OrganizationFile, CleansWhatPeopleWrote)
     EXPECT_EQ(categories[7].familyNames, QStringList{"C"});
     EXPECT_NE(categories[7].id, "rounded") << "earlier versions' category is emptied on loading";
 
+    const auto settings = decoded(document("displaySettings", R"({
+            "allFonts":{"customForegroundColorHex":"#12aBcF","customBackgroundColorHex":"red"},
+            "collection::a":{"imageForegroundColorHex":"#12345g"},
+            "collection::":{"sampleText":"x"},"elsewhere":{"sampleText":"x"}})"))
+                              .displaySettings;
+    SourceDisplaySettings kept;
+    kept.customForegroundColorHex = "#12aBcF";
+    EXPECT_EQ(settings, (std::map<QString, SourceDisplaySettings>{{"allFonts", kept}}));
+
     const FoundryCorrections foundries =
         decoded(document("foundries", R"({"overrides":{"":"x","A":""},"names":{"":"x"},
                                           "dismissed":["","b","b"]})"))
             .organization.foundries;
     EXPECT_EQ(foundries, (FoundryCorrections{{{"A", ""}}, {}, {"b"}}));
+}
+
+TEST(OrganizationFile, CanBeReadWhateverWasStored)
+{
+    const Organization stored{{{"a", " Two\nlines\u202e", {}}, {"b", "\u200b", {}}, {" ", "", {}}},
+                              {{"serif", "Serif", {}}, {"own", "\n", {"X"}}},
+                              {{}, {{"klim", "\u202e"}, {"acme", " A\n"}}, {}}};
+    const Organization read = decoded(encoded({stored, {}, {}})).organization;
+    ASSERT_EQ(read.collections.size(), 3u);
+    EXPECT_EQ(read.collections[0], (FontCollectionRecord{"b", "b", {}}));
+    EXPECT_EQ(read.collections[1], (FontCollectionRecord{"a", "Two lines", {}}));
+    EXPECT_EQ(read.collections[2], (FontCollectionRecord{" ", "Untitled", {}}));
+    EXPECT_EQ(read.styleCategories.back(), (FontStyleCategoryRecord{"own", "own", {"X"}}));
+    EXPECT_EQ(read.foundries.names, (QHash<QString, QString>{{"acme", "A"}}));
+}
+
+TEST(OrganizationFile, GivesNewOnesTheIdsOfTheirNames)
+{
+    OrganizationFile file = decoded(document("collections", R"([
+            {"name":"POSTERS","familyNames":[]},{"name":"Fresh","familyNames":[]},
+            {"name":"Zines","familyNames":[]},{"id":"c3","name":"Taken","familyNames":[]},
+            {"id":"x","name":"Äpfel","familyNames":[]}])"));
+    const Organization present = sample();
+    adoptIDs(file, present);
+    QHash<QString, QString> ids;
+    for (const FontCollectionRecord &each : file.organization.collections)
+        ids.insert(each.name, each.id);
+    EXPECT_EQ(ids["POSTERS"], "c2");
+    EXPECT_EQ(ids["Taken"], "c3");
+    EXPECT_EQ(ids["Äpfel"], "x") << "the id that the file gives counts";
+    EXPECT_EQ(ids["Fresh"].size(), 36);
+    EXPECT_EQ(ids["Zines"].size(), 36) << "another one in the file has its id";
 }
 
 TEST(OrganizationFile, MergesByIdThenByName)
@@ -163,6 +216,7 @@ TEST(OrganizationFile, MergesByIdThenByName)
         {{{"c1", "New name", {"Alpha", "New"}}, {"x", "POSTERS", {"P"}}, {"y", "Añejo", {"Q"}}},
          {{"own-1", "Blackletter", {"Zeta"}}, {"z", "serif", {"New"}}},
          {{{"Alpha", "acme"}}, {{"klim", "K"}, {"n", "N"}}, {"new"}}},
+        {},
         {}};
     imported.displaySettings["collection::x"].browserPointSize = 7;
     imported.displaySettings["collection::y"].browserPointSize = 8;

@@ -207,5 +207,34 @@ TEST(OrganizationOnALockedStore, changesAreMadeAgainWithoutTheStoresThatMadeThem
     EXPECT_TRUE(DisplaySettingsStore(preferences).settings("allFonts") == settings);
 }
 
+TEST(OrganizationOnALockedStore, whatTheUserSawIsMadeAgainAndNotTheCommand)
+{
+    LockedStore preferences;
+    {
+        Stores stores(preferences);
+        const QStringList families{"Inter", "Lato"};
+        ASSERT_TRUE(stores.change([](auto &o) { return createCollection(o, "1", "Posters"); }));
+        ASSERT_TRUE(stores.change([=](auto &o) { return addFamilies(o, "1", families); }));
+        ASSERT_TRUE(stores.change([](auto &o) { return createStyleCategory(o, "u", "Comic"); }));
+        EXPECT_FALSE(stores.change([](auto &o) { return createCollection(o, "2", "POSTERS"); }));
+        EXPECT_FALSE(stores.change([](auto &o) { return renameCollection(o, "3", "Books"); }));
+        ASSERT_TRUE(stores.change([](auto &o) { return removeFamilies(o, "1", {"Amiri"}); }));
+    }
+    preferences.release([](PreferenceStore &store) {
+        CollectionStore(store).save({{"3", "posters", {"Amiri"}}});
+        std::vector<FontStyleCategoryRecord> categories = defaultStyleCategories();
+        categories.push_back({"v", "COMIC", {}});
+        StyleStore(store).save(categories);
+    });
+    Stores stores(preferences);
+    const std::vector<FontCollectionRecord> expected{{"3", "posters", {"Amiri"}},
+                                                     {"1", "Posters 2", {"Inter", "Lato"}}};
+    const Organization organization = stores.organization.load();
+    EXPECT_TRUE(organization.collections == expected);
+    ASSERT_EQ(organization.styleCategories.size(), 8u);
+    EXPECT_EQ(organization.styleCategories[6].name, "Comic 2");
+    EXPECT_EQ(organization.styleCategories[7].name, "COMIC");
+}
+
 } // namespace
 } // namespace lorva

@@ -234,6 +234,27 @@ TEST(CollectionStore, loadsInTheOrderOfNamesAndLeavesTheStoredOrder)
     EXPECT_EQ(store.data(kCollectionsKey), stored);
 }
 
+TEST(PreferenceKeys, namesThatNobodyCouldHaveTypedAreShownMended)
+{
+    MemoryPreferenceStore store;
+    CollectionStore(store).save(
+        {{"1", " \n", {"A"}}, {"2", "untitled", {}}, {"3", " Two\nlines ", {}}, {"4", "", {}}});
+    std::vector<FontStyleCategoryRecord> categories = defaultStyleCategories();
+    categories[0].name = " ";
+    categories.insert(categories.end(), {{"u", "", {}}, {"v", "\n", {}}});
+    StyleStore(store).save(categories);
+    FoundryStore foundries(store);
+    foundries.save({{}, {{"klim", " Klim\t"}, {"rsms", "\u200B"}}, {}});
+    const std::optional<QByteArray> stored = store.data(kCollectionsKey);
+
+    EXPECT_EQ(textOf(CollectionStore(store).load()),
+              "3=Two lines 2=untitled 1=Untitled 2:A 4=Untitled 3");
+    EXPECT_EQ(textOf(StyleStore(store).load()),
+              "serif sans display mono script decorative u=Untitled v=Untitled 2");
+    EXPECT_EQ(foundries.nameOverrides(), (QHash<QString, QString>{{"klim", "Klim"}}));
+    EXPECT_EQ(store.data(kCollectionsKey), stored) << "loading alone writes nothing";
+}
+
 TEST(DisplaySettingsStore, collectionsHaveTheirOwnAndAllElseShares)
 {
     EXPECT_EQ(displaySettingsKey(BrowserSource::collection("7")), "collection::7");
@@ -251,12 +272,14 @@ TEST(DisplaySettingsStore, changesOneEntryAndNothingElse)
     poster.browserPointSize = 36;
     settings.set(poster, "collection::1");
     settings.set(kWithText, "allFonts");
-    settings.update("collection::1", [](auto &entry) { entry.browserPointSize = 48; });
-    settings.update("collection::2", [](auto &entry) { entry.sampleText.reset(); });
-
     poster.browserPointSize = 48;
     const std::map<QString, SourceDisplaySettings> expected{{"allFonts", kWithText},
                                                             {"collection::1", poster}};
+    EXPECT_TRUE(settings.update("collection::1", [](auto &entry) { entry.browserPointSize = 48; })
+                == expected);
+    EXPECT_TRUE(settings.update("collection::2", [](auto &entry) { entry.sampleText.reset(); })
+                == expected);
+
     EXPECT_TRUE(settings.all() == expected) << "an empty change adds nothing";
     EXPECT_TRUE(settings.settings("collection::1") == poster);
     EXPECT_EQ(settings.settings("collection::2"), std::nullopt);
