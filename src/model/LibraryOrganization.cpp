@@ -35,6 +35,16 @@ QHash<QString, QString> idByFamily(const Records &records)
 
 } // namespace
 
+ShownFoundries shownFoundries(const LibraryIndex &index, const FoundryCorrections &corrections)
+{
+    FoundryCorrections here = corrections;
+    here.overrides.removeIf(
+        [&](const auto &entry) { return !index.placeByFamily.contains(entry.key()); });
+    ShownFoundries shown{corrections, correctedFoundries(index.derivedFoundries, here), {}};
+    shown.idByFamily = idByFamily(shown.foundries.shown);
+    return shown;
+}
+
 LibraryOrganization::LibraryOrganization(OrganizationStore &store, StyleStore &styles)
     : m_store(store)
     , m_styles(styles)
@@ -54,7 +64,7 @@ const QStringList *LibraryOrganization::styleMembers(const QString &id) const
 
 const QStringList *LibraryOrganization::foundryMembers(const QString &id) const
 {
-    return membersOf(m_foundries.shown, id);
+    return membersOf(m_foundries.foundries.shown, id);
 }
 
 const QSet<QString> &LibraryOrganization::collectionMemberSet(const QString &id) const
@@ -67,45 +77,43 @@ const QSet<QString> &LibraryOrganization::collectionMemberSet(const QString &id)
         id, members ? QSet<QString>(members->begin(), members->end()) : QSet<QString>());
 }
 
-Result<OrganizationEdit> LibraryOrganization::change(Change change)
+Result<LibraryOrganization::Outcome> LibraryOrganization::change(Change change)
 {
     Result<OrganizationStore::Outcome> outcome = m_store.change(std::move(change));
     if (!outcome)
         return tl::unexpected(std::move(outcome).error());
-    show(std::move(outcome->after));
-    return std::move(outcome->edit);
+    const bool isOther = show(std::move(outcome->after));
+    return Outcome{std::move(outcome->edit), isOther};
 }
 
 bool LibraryOrganization::reload()
 {
-    Organization stored = m_store.load();
-    if (stored == m_organization)
-        return false;
-    show(std::move(stored));
-    return true;
+    return show(m_store.load());
 }
 
-void LibraryOrganization::show(Organization organization)
+/// True when it is other than what was shown.
+bool LibraryOrganization::show(Organization organization)
 {
     const Organization before = std::exchange(m_organization, std::move(organization));
-    if (before.collections != m_organization.collections)
+    const bool hasOtherCollections = before.collections != m_organization.collections;
+    const bool hasOtherStyles = before.styleCategories != m_organization.styleCategories;
+    const bool hasOtherFoundries = before.foundries != m_organization.foundries;
+    if (hasOtherCollections)
         m_cachedCollectionMemberSets.clear();
-    if (before.styleCategories != m_organization.styleCategories)
+    if (hasOtherStyles)
         m_styleIDByFamily = idByFamily(m_organization.styleCategories);
-    if (before.foundries != m_organization.foundries)
-        correctFoundries();
+    if (hasOtherFoundries && m_index)
+        m_foundries = shownFoundries(*m_index, m_organization.foundries);
+    return hasOtherCollections || hasOtherStyles || hasOtherFoundries;
 }
 
-void LibraryOrganization::setDerivedFoundries(std::vector<FoundryCollectionRecord> derived)
+void LibraryOrganization::setIndex(std::shared_ptr<const LibraryIndex> index,
+                                   ShownFoundries foundries)
 {
-    m_derivedFoundries = std::move(derived);
-    correctFoundries();
-}
-
-void LibraryOrganization::correctFoundries()
-{
-    m_foundries = correctedFoundries(m_derivedFoundries, m_organization.foundries);
-    m_foundryIDByFamily = idByFamily(m_foundries.shown);
+    m_index = std::move(index);
+    m_foundries = foundries.corrections == m_organization.foundries
+        ? std::move(foundries)
+        : shownFoundries(*m_index, m_organization.foundries);
 }
 
 std::optional<LibraryOrganization::Unclassified> LibraryOrganization::unclassified() const
@@ -115,24 +123,21 @@ std::optional<LibraryOrganization::Unclassified> LibraryOrganization::unclassifi
     return Unclassified{m_organization.styleCategories, m_styles.wasClassifiedByV2()};
 }
 
-bool LibraryOrganization::finishClassification(
+void LibraryOrganization::finishClassification(
     const Unclassified &from, std::vector<FontStyleCategoryRecord> classified,
     std::function<std::vector<FontStyleCategoryRecord>(const Unclassified &)> again)
 {
-    auto isDone = std::make_shared<bool>(false);
     // A copy of the store: the change may be made again when this object has gone.
     const auto classify = [styles = m_styles, from, classified = std::move(classified),
-                           again = std::move(again), isDone](Organization &organization) mutable {
-        *isDone = !styles.isClassified();
-        if (!*isDone)
-            return Result<void>();
+                           again = std::move(again)](Organization &organization) {
         const Unclassified now{organization.styleCategories, styles.wasClassifiedByV2()};
-        organization.styleCategories = now == from ? classified : again(now);
-        styles.setClassified();
+        if (!styles.isClassified())
+            organization.styleCategories = now == from ? classified : again(now);
         return Result<void>();
     };
     static_cast<void>(change(classify));
-    return *isDone;
+    // Last: a process that ends in between only leaves it to be done once more.
+    m_styles.setClassified();
 }
 
 } // namespace lorva

@@ -38,7 +38,6 @@ LorvaAppModel::LorvaAppModel(Dependencies dependencies, QObject *parent)
     , m_organizationStore(m_preferences, m_collectionStore, m_styleStore, m_foundryStore)
     , m_catalog(std::make_shared<ReadyCatalog>())
     , m_organization(m_organizationStore, m_styleStore)
-    , m_collapsedGroups(m_foundryStore.collapsedGroups())
     , m_display(m_displaySettingsStore, m_selectedSource)
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.model"));
@@ -50,6 +49,7 @@ LorvaAppModel::LorvaAppModel(Dependencies dependencies, QObject *parent)
     m_catalogReconcileTask.setInterval(kReconcileDelay);
     connect(&m_catalogReconcileTask, &QTimer::timeout, this, &LorvaAppModel::loadCatalog);
 
+    readSidebar();
     LogoStore(m_preferences).migrate(m_displaySettingsStore);
     m_display.reload();
     auto *watcher = new PreferenceWatcher(m_preferences, this);
@@ -59,7 +59,11 @@ LorvaAppModel::LorvaAppModel(Dependencies dependencies, QObject *parent)
                                          [this](const void *) { activationMayHaveChanged(); });
 }
 
-LorvaAppModel::~LorvaAppModel() = default;
+LorvaAppModel::~LorvaAppModel()
+{
+    // It tells its listeners when it goes, and they would ask what has gone by then.
+    m_undoStack.blockSignals(true);
+}
 
 void LorvaAppModel::changed()
 {
@@ -87,7 +91,9 @@ void LorvaAppModel::validateSelection()
         m_selectedSource = BrowserSource::allFonts();
         m_display.select(m_selectedSource);
     }
-    if (!m_selectedFamilyName)
+    const bool isActivity =
+        kind == BrowserSource::Kind::active || kind == BrowserSource::Kind::inactive;
+    if (!m_selectedFamilyName || (isActivity && !m_activations))
         return;
     const FontFamilySubset visible = visibleFamilies();
     const bool isVisible = std::any_of(visible.begin(), visible.end(), [&](const auto &family) {

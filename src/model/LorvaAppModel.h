@@ -117,6 +117,7 @@ public:
 
     const DisplayValues &display() const { return m_display.values(); }
     /// Values that the program was started with: they win over stored ones and are not stored.
+    /// Sizes and weights are clamped as by the setters.
     void setDisplayForThisRun(const SourceDisplaySettings &settings);
     double browserPointSize() const { return display().browserPointSize; }
     /// Clamped to kMinimumPointSize … kMaximumPointSize; values that are no numbers are refused.
@@ -217,7 +218,7 @@ public:
     void toggleGroupCollapsed(const QString &group);
     bool hasSeenQuizIntro() const;
     void setHasSeenQuizIntro();
-    bool hidesQuizPromoInSidebar() const;
+    bool hidesQuizPromoInSidebar() const { return m_hidesQuizPromoInSidebar; }
     void hideQuizPromoInSidebar();
 
     qint64 catalogGeneration() const { return m_catalogGeneration; }
@@ -239,8 +240,12 @@ private:
 
     void validateSelection();
     void updateDisplay(std::function<void(SourceDisplaySettings &)> change);
+    bool flag(const QString &key) const;
+    void setFlag(const QString &key);
     Result<void> changeOrganization(const QString &commandName, LibraryOrganization::Change change);
+    OrganizationEdit applyEdit(const OrganizationEdit &edit);
     void membershipChanged();
+    void readSidebar();
     void takeChangesElsewhere();
     void changed();
 
@@ -268,6 +273,8 @@ private:
     /// The snapshot file holds m_catalog, or is being made to.
     bool m_snapshotIsCurrent = false;
     bool m_isLoading = false;
+    /// Its result is installed, but for which families are switched on.
+    bool m_loadAwaitsActivations = false;
     QString m_loadingText;
     qint64 m_loadGeneration = 0;
     qint64 m_catalogGeneration = 0;
@@ -280,6 +287,7 @@ private:
     QUndoStack m_undoStack;
     QHash<QString, QString> m_superFamilyMap;
     QSet<QString> m_collapsedGroups;
+    bool m_hidesQuizPromoInSidebar = false;
     VisibleFamilies m_visibleFamilies;
 
     BrowserSource m_selectedSource;

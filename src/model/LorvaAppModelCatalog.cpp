@@ -20,6 +20,7 @@ void LorvaAppModel::loadCatalog()
 {
     m_catalogReconcileTask.stop();
     m_isLoading = true;
+    m_loadAwaitsActivations = false;
     m_loadingText.clear();
     const qint64 generation = ++m_loadGeneration;
     changed();
@@ -61,12 +62,15 @@ void LorvaAppModel::indexSnapshot()
     struct Worked
     {
         std::shared_ptr<const LibraryIndex> index;
+        ShownFoundries foundries;
         std::shared_ptr<const FamilyActivations> activations;
     };
-    const auto work = [catalog = m_catalog,
-                       state = m_installationService->state()](const std::stop_token &) {
+    const auto work = [catalog = m_catalog, state = m_installationService->state(),
+                       corrections =
+                           m_organization.organization().foundries](const std::stop_token &) {
         lowerThisThreadsPriority();
-        return Worked{makeLibraryIndex(catalog->snapshot),
+        std::shared_ptr<const LibraryIndex> index = makeLibraryIndex(catalog->snapshot);
+        return Worked{index, shownFoundries(*index, corrections),
                       activationsOf(catalog->snapshot.families, *state)};
     };
     runThen(m_quietPool, this, work, [this, generation = m_catalogGeneration](Worked worked) {
@@ -74,8 +78,7 @@ void LorvaAppModel::indexSnapshot()
             return;
         m_index = std::move(worked.index);
         m_activations = std::move(worked.activations);
-        m_organization.setDerivedFoundries(m_index->derivedFoundries);
-        m_visibleFamilies.forget();
+        m_organization.setIndex(m_index, std::move(worked.foundries));
         ++m_activationGeneration;
         membershipChanged();
     });
@@ -103,6 +106,7 @@ void LorvaAppModel::applyCatalog(FontCatalogResult result)
 {
     m_installationService->setWatchedFontURLs(result.watchedFontURLs);
     const CatalogCircumstances circumstances{m_catalog, m_index, m_installationService->state(),
+                                             m_organization.organization().foundries,
                                              m_organization.unclassified()};
     auto work = [result = std::move(result), circumstances,
                  service = m_fontLibraryService.get()](const std::stop_token &) mutable {
@@ -121,16 +125,18 @@ void LorvaAppModel::finishLoad(const Catalog &catalog)
     installCatalog(catalog);
     m_snapshotIsCurrent = isSaved;
     finishClassification(catalog);
-    m_organization.setDerivedFoundries(m_index->derivedFoundries);
+    m_organization.setIndex(m_index, catalog->foundries);
     ++m_membershipGeneration;
     m_installationService->reconcile(
         allFamilies(),
         [model = QPointer(this), state = catalog->activationState, generation = m_loadGeneration] {
             if (!model || generation != model->m_loadGeneration)
                 return;
-            if (model->m_installationService->state() != state)
+            model->m_loadAwaitsActivations = model->m_installationService->state() != state;
+            if (model->m_loadAwaitsActivations)
                 model->refreshActivations();
-            model->endLoad();
+            else
+                model->endLoad();
         });
 }
 
@@ -231,6 +237,10 @@ void LorvaAppModel::refreshActivations()
                     return;
                 m_activations = std::move(activations);
                 ++m_activationGeneration;
+                if (std::exchange(m_loadAwaitsActivations, false)) {
+                    endLoad();
+                    return;
+                }
                 validateSelection();
                 changed();
             });

@@ -21,21 +21,31 @@ const QString kHideQuizPromoKey = QStringLiteral("vantrel.merid.hideQuizPromoInS
 Result<void> LorvaAppModel::changeOrganization(const QString &commandName,
                                                LibraryOrganization::Change change)
 {
-    Result<OrganizationEdit> edit = m_organization.change(std::move(change));
-    if (!edit)
-        return tl::unexpected(std::move(edit).error());
-    if (edit->isEmpty())
+    const Result<LibraryOrganization::Outcome> outcome = m_organization.change(std::move(change));
+    if (!outcome)
+        return tl::unexpected(outcome.error());
+    if (!outcome->isOther)
         return {};
-    const auto applyAgain = [this](const OrganizationEdit &again) {
-        static_cast<void>(m_organization.change([again](Organization &organization) {
-            apply(again, organization);
-            return Result<void>();
-        }));
-        membershipChanged();
-    };
-    m_undoStack.push(new OrganizationCommand(commandName, *std::move(edit), applyAgain));
+    // Whoever hears of the new command sees what it did.
+    ++m_membershipGeneration;
+    if (!outcome->edit.isEmpty())
+        m_undoStack.push(new OrganizationCommand(
+            commandName, outcome->edit,
+            [this](const OrganizationEdit &edit) { return applyEdit(edit); }));
     membershipChanged();
     return {};
+}
+
+/// It cannot fail: what is not possible any more is passed over.
+OrganizationEdit LorvaAppModel::applyEdit(const OrganizationEdit &edit)
+{
+    const Result<LibraryOrganization::Outcome> outcome =
+        m_organization.change([edit](Organization &organization) {
+            apply(edit, organization);
+            return Result<void>();
+        });
+    membershipChanged();
+    return outcome ? outcome->edit : OrganizationEdit();
 }
 
 void LorvaAppModel::membershipChanged()
@@ -47,13 +57,13 @@ void LorvaAppModel::membershipChanged()
 
 void LorvaAppModel::takeChangesElsewhere()
 {
-    const bool isSortedAnew = m_organization.reload();
-    const QSet<QString> collapsed = m_foundryStore.collapsedGroups();
-    const bool isFoldedAnew = std::exchange(m_collapsedGroups, collapsed) != collapsed;
-    const bool looksNew = m_display.reload();
-    if (isSortedAnew)
+    const auto sidebar = [this] { return std::pair(m_collapsedGroups, m_hidesQuizPromoInSidebar); };
+    const auto sidebarBefore = sidebar();
+    readSidebar();
+    const bool isDisplayOther = m_display.reload();
+    if (m_organization.reload())
         membershipChanged();
-    else if (isFoldedAnew || looksNew)
+    else if (isDisplayOther || sidebar() != sidebarBefore)
         changed();
 }
 
@@ -175,31 +185,50 @@ Result<void> LorvaAppModel::bringBackFoundry(const QString &id)
 void LorvaAppModel::toggleGroupCollapsed(const QString &group)
 {
     m_foundryStore.setCollapsed(group, !m_collapsedGroups.contains(group));
-    m_collapsedGroups = m_foundryStore.collapsedGroups();
+    readSidebar();
     changed();
+}
+
+bool LorvaAppModel::flag(const QString &key) const
+{
+    return m_preferences.boolean(key).value_or(false);
+}
+
+void LorvaAppModel::setFlag(const QString &key)
+{
+    m_preferences.inTransaction([&preferences = m_preferences, key] {
+        if (!preferences.boolean(key))
+            preferences.keepUnreadable(key);
+        preferences.setBoolean(key, true);
+    });
 }
 
 bool LorvaAppModel::hasSeenQuizIntro() const
 {
-    return m_preferences.boolean(kHasSeenQuizIntroKey).value_or(false);
+    return flag(kHasSeenQuizIntroKey);
 }
 
 void LorvaAppModel::setHasSeenQuizIntro()
 {
-    m_preferences.setBoolean(kHasSeenQuizIntroKey, true);
-}
-
-bool LorvaAppModel::hidesQuizPromoInSidebar() const
-{
-    return m_preferences.boolean(kHideQuizPromoKey).value_or(false);
+    if (hasSeenQuizIntro())
+        return;
+    setFlag(kHasSeenQuizIntroKey);
+    changed();
 }
 
 void LorvaAppModel::hideQuizPromoInSidebar()
 {
-    if (hidesQuizPromoInSidebar())
+    if (m_hidesQuizPromoInSidebar)
         return;
-    m_preferences.setBoolean(kHideQuizPromoKey, true);
+    setFlag(kHideQuizPromoKey);
+    m_hidesQuizPromoInSidebar = true;
     changed();
+}
+
+void LorvaAppModel::readSidebar()
+{
+    m_collapsedGroups = m_foundryStore.collapsedGroups();
+    m_hidesQuizPromoInSidebar = flag(kHideQuizPromoKey);
 }
 
 } // namespace lorva

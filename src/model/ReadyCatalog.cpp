@@ -56,6 +56,7 @@ Catalog makeReady(FontCatalogResult result, const CatalogCircumstances &circumst
     ready->index = ready->isAsBefore && circumstances.presentIndex
         ? circumstances.presentIndex
         : makeLibraryIndex(ready->snapshot);
+    ready->foundries = shownFoundries(*ready->index, circumstances.foundryCorrections);
     ready->activationState = circumstances.activationState;
     ready->activations = activationsOf(ready->snapshot.families, *ready->activationState);
     // A library that could not be found must not count as one that was sorted.

@@ -24,6 +24,7 @@ struct ReadyCatalog
     bool isAsBefore = false;
     /// Null while they are being worked out.
     std::shared_ptr<const LibraryIndex> index;
+    ShownFoundries foundries;
     std::shared_ptr<const FamilyActivations> activations;
     /// What the activations were worked out from.
     std::shared_ptr<const ActivationState> activationState;
@@ -42,6 +43,7 @@ struct CatalogCircumstances
     /// Its index, if that is known.
     std::shared_ptr<const LibraryIndex> presentIndex;
     std::shared_ptr<const ActivationState> activationState;
+    FoundryCorrections foundryCorrections;
     std::optional<LibraryOrganization::Unclassified> unclassified;
 };
 

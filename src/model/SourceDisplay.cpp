@@ -76,22 +76,33 @@ void take(DisplayValues &values, const SourceDisplaySettings &given)
     take(values.imageForegroundColorHex, settings.imageForegroundColorHex);
 }
 
-template <class Value>
-void forgetChanged(std::optional<Value> &forThisRun, const std::optional<Value> &before,
-                   const std::optional<Value> &after)
+template <class Call>
+void forEachField(const Call &call)
 {
-    if (after != before)
-        forThisRun.reset();
+    using Settings = SourceDisplaySettings;
+    call(&Settings::colorMode);
+    call(&Settings::customForegroundColorHex);
+    call(&Settings::customBackgroundColorHex);
+    call(&Settings::logoImageData);
+    call(&Settings::logoSizeRatio);
+    call(&Settings::logoSpacing);
+    call(&Settings::logoVisible);
+    call(&Settings::browserPointSize);
+    call(&Settings::browserFontWeight);
+    call(&Settings::sampleText);
+    call(&Settings::backgroundImageID);
+    call(&Settings::backgroundImageUserFilename);
+    call(&Settings::imageForegroundColorHex);
 }
 
-/// What the user has changed is no longer what the program was started with.
-void forgetChanged(SourceDisplaySettings &forThisRun, const SourceDisplaySettings &before,
-                   const SourceDisplaySettings &after)
+/// The settings but for those fields that `changed` has.
+SourceDisplaySettings without(const SourceDisplaySettings &changed, SourceDisplaySettings settings)
 {
-    forgetChanged(forThisRun.colorMode, before.colorMode, after.colorMode);
-    forgetChanged(forThisRun.browserPointSize, before.browserPointSize, after.browserPointSize);
-    forgetChanged(forThisRun.browserFontWeight, before.browserFontWeight, after.browserFontWeight);
-    forgetChanged(forThisRun.sampleText, before.sampleText, after.sampleText);
+    forEachField([&](auto field) {
+        if (changed.*field)
+            (settings.*field).reset();
+    });
+    return settings;
 }
 
 } // namespace
@@ -107,6 +118,7 @@ std::optional<QString> colorHex(const QString &text)
 SourceDisplay::SourceDisplay(DisplaySettingsStore &store, const BrowserSource &source)
     : m_store(store)
     , m_key(displaySettingsKey(source))
+    , m_stored(store.all())
 {
     resolve();
 }
@@ -122,34 +134,44 @@ bool SourceDisplay::select(const BrowserSource &source)
 
 bool SourceDisplay::reload()
 {
+    m_stored = m_store.all();
     return resolve();
 }
 
 void SourceDisplay::setForThisRun(const SourceDisplaySettings &settings)
 {
     m_forThisRun = settings;
+    if (settings.browserPointSize)
+        m_forThisRun.browserPointSize =
+            std::clamp(*settings.browserPointSize, kMinimumPointSize, kMaximumPointSize);
+    if (settings.browserFontWeight)
+        m_forThisRun.browserFontWeight =
+            std::clamp(*settings.browserFontWeight, qint64(kMinimumWeight), qint64(kMaximumWeight));
+    m_changedInThisRun.clear();
     resolve();
 }
 
 void SourceDisplay::update(std::function<void(SourceDisplaySettings &)> change)
 {
-    // The change says by what it does which of the start's values it takes the place of.
-    SourceDisplaySettings after;
-    change(after);
-    forgetChanged(m_forThisRun, {}, after);
-    m_store.update(m_key, std::move(change));
+    // Made on nothing, the change says which of the start's values it takes the place of.
+    change(m_changedInThisRun[m_key]);
+    m_stored = m_store.update(m_key, std::move(change));
     resolve();
 }
 
 bool SourceDisplay::resolve()
 {
-    const std::map<QString, SourceDisplaySettings> stored = m_store.all();
     DisplayValues values;
     for (const QString &key : {kSharedDisplaySettingsKey, m_key}) {
-        if (const auto found = stored.find(key); found != stored.end())
+        if (const auto found = m_stored.find(key); found != m_stored.end())
             take(values, found->second);
     }
-    take(values, m_forThisRun);
+    SourceDisplaySettings forThisRun = m_forThisRun;
+    for (const QString &key : {kSharedDisplaySettingsKey, m_key}) {
+        if (const auto found = m_changedInThisRun.find(key); found != m_changedInThisRun.end())
+            forThisRun = without(found->second, std::move(forThisRun));
+    }
+    take(values, forThisRun);
     return std::exchange(m_values, values) != values;
 }
 

@@ -6,6 +6,7 @@
 #include "model/records/DisplayRecords.h"
 
 #include <functional>
+#include <map>
 
 namespace lorva {
 
@@ -75,7 +76,11 @@ private:
 
     DisplaySettingsStore &m_store;
     QString m_key;
+    /// As last read or written: with logos in it, reading takes its time.
+    std::map<QString, SourceDisplaySettings> m_stored;
     SourceDisplaySettings m_forThisRun;
+    /// What the user has set since, by source key: there m_forThisRun does not count any more.
+    std::map<QString, SourceDisplaySettings> m_changedInThisRun;
     DisplayValues m_values;
 };
 

@@ -115,10 +115,4 @@ const FontFamilySubset &VisibleFamilies::base(const SearchBaseStamp &stamp,
     return m_base;
 }
 
-void VisibleFamilies::forget()
-{
-    m_baseStamp.reset();
-    m_visibleFamiliesStamp.reset();
-}
-
 } // namespace lorva

@@ -53,8 +53,6 @@ class VisibleFamilies
 {
 public:
     FontFamilySubset answer(const VisibleFamiliesStamp &stamp, const LibraryView &library);
-    /// The library knows more than it did under the same generations.
-    void forget();
 
 private:
     const FontFamilySubset &base(const SearchBaseStamp &stamp, const LibraryView &library);

@@ -320,6 +320,96 @@ TEST_F(OrganizedLibrary, ChangesOfTwoProcessesMeet)
     EXPECT_EQ(model().collections().front().familyNames, (QStringList{"C"}));
 }
 
+TEST_F(OrganizedLibrary, WhatOthersAddBetweenUndoAndRedoStays)
+{
+    ASSERT_TRUE(library.load());
+    const QString logos = model().createCollection(QStringLiteral("Logos")).value();
+    ASSERT_TRUE(model().deleteCollection(logos));
+    QUndoStack &undo = model().undoStack();
+    SqlitePreferenceStore others(home.child("Lorva"));
+    CollectionStore collections(others);
+    const auto addElsewhere = [&](const QString &family) {
+        std::vector<FontCollectionRecord> all = collections.load();
+        all.front().familyNames.append(family);
+        collections.save(all);
+    };
+    undo.undo();
+    addElsewhere(QStringLiteral("C"));
+    undo.redo();
+    EXPECT_TRUE(model().collections().empty());
+    undo.undo();
+    EXPECT_TRUE(model().isMember(QStringLiteral("C"), logos));
+    undo.undo();
+    undo.redo();
+    EXPECT_TRUE(model().isMember(QStringLiteral("C"), logos));
+}
+
+TEST_F(OrganizedLibrary, WhatOthersDidIsShownByAChangeThatDoesNothing)
+{
+    library.addFamilies(QStringLiteral("F"), 2);
+    ASSERT_TRUE(library.load());
+    const QString id = model().createCollection(QStringLiteral("Logos")).value();
+    EXPECT_THAT(visible(BrowserSource::collection(id)), IsEmpty());
+    SqlitePreferenceStore others(home.child("Lorva"));
+    CollectionStore(others).save({{id, QStringLiteral("Logos"), {"F 001"}}});
+    model().undoStack().clear();
+    ASSERT_TRUE(model().addFamilies(id, {"F 001"}));
+    EXPECT_EQ(library.visibleNames(), (QStringList{"F 001"}));
+    EXPECT_EQ(model().undoStack().count(), 0);
+}
+
+TEST_F(OrganizedLibrary, OtherProcessesChangeTheSidebarAndTheDisplay)
+{
+    SqlitePreferenceStore others(home.child("Lorva"));
+    FoundryStore(others).setCollapsed(QStringLiteral("styles"), true);
+    others.setBoolean(QStringLiteral("vantrel.merid.hideQuizPromoInSidebar"), true);
+    SourceDisplaySettings settings;
+    settings.browserPointSize = 50;
+    settings.browserFontWeight = -3;
+    settings.customForegroundColorHex = QStringLiteral("red");
+    DisplaySettingsStore(others).set(settings, kSharedDisplaySettingsKey);
+    EXPECT_TRUE(test::waitUntil([&] {
+        return model().collapsedGroups().contains(QStringLiteral("styles"))
+            && model().hidesQuizPromoInSidebar() && model().browserPointSize() == 50;
+    }));
+    EXPECT_EQ(model().browserFontWeight(), 400) << "what makes no sense counts as absent";
+    EXPECT_EQ(model().customForegroundColorHex(), QStringLiteral("#FFFFFF"));
+}
+
+TEST_F(OrganizedLibrary, IsSortedAnewOnlyWhereThatIsDue)
+{
+    add(QStringLiteral("Plain Sans"));
+    add(QStringLiteral("Fira Mono"));
+    add(QStringLiteral("Heiti"));
+    const QString sorted = QStringLiteral("vantrel.merid.stylesClassified.v3");
+    const auto sansAfterLoad = [&] {
+        EXPECT_TRUE(library.load());
+        return visible(BrowserSource::style(QStringLiteral("sans")));
+    };
+    library.preferences->setBoolean(QStringLiteral("vantrel.merid.stylesClassified.v2"), true);
+    EXPECT_EQ(sansAfterLoad(), (QStringList{"Heiti"})) << "an earlier version knew Latin names";
+
+    // Another process sorts, or the user does, while the worker is at it.
+    library.preferences->remove(sorted);
+    library.fonts->hold();
+    model().loadCatalog();
+    ASSERT_TRUE(model().setStyle({"Plain Sans"}, QStringLiteral("display")));
+    library.fonts->letGo();
+    ASSERT_TRUE(test::waitUntil([&] { return !model().isLoading(); }));
+    EXPECT_EQ(model().styleIDByFamily().value(QStringLiteral("Plain Sans")), "display");
+    EXPECT_EQ(library.preferences->boolean(sorted), true);
+}
+
+TEST_F(OrganizedLibrary, TheLogoOfEarlierVersionsMovesIntoTheDisplaySettings)
+{
+    library.preferences->setData(QStringLiteral("vantrel.merid.logo"),
+                                 R"({"imageData":"AAEC","sizeRatio":1.5,"spacing":0.5})");
+    library.restart(home.child("Lorva"));
+    EXPECT_EQ(model().display().logoImageData, QByteArray("\0\1\2", 3));
+    EXPECT_EQ(model().display().logoSizeRatio, 0.15);
+    EXPECT_EQ(model().display().logoSpacing, 0.5);
+}
+
 TEST_F(OrganizedLibrary, DisplaySettingsBelongToTheirSource)
 {
     ASSERT_TRUE(library.load());
@@ -357,9 +447,19 @@ TEST_F(OrganizedLibrary, WhatTheProgramIsStartedWithIsNotRemembered)
     start.browserPointSize = 72;
     start.sampleText = QStringLiteral("Start");
     model().setDisplayForThisRun(start);
+    start.browserFontWeight = 5000;
+    model().setDisplayForThisRun(start);
+    EXPECT_EQ(model().browserFontWeight(), 900);
     EXPECT_EQ(model().browserPointSize(), 72);
     model().setSampleText(QStringLiteral("Typed"));
     EXPECT_EQ(model().sampleText(), QStringLiteral("Typed"));
+    const QString id = model().createCollection(QStringLiteral("C")).value();
+    model().select(BrowserSource::collection(id));
+    model().setPointSize(50);
+    model().select(BrowserSource::allFonts());
+    EXPECT_EQ(model().browserPointSize(), 72) << "only the collection was changed";
+    model().select(BrowserSource::collection(id));
+    EXPECT_EQ(model().browserPointSize(), 50);
     restart();
     EXPECT_EQ(model().browserPointSize(), 36);
     EXPECT_EQ(model().sampleText(), QStringLiteral("Typed"));
@@ -370,14 +470,20 @@ TEST_F(OrganizedLibrary, RequestsForAScanThatComeTogetherMakeOne)
     ASSERT_TRUE(library.load());
     int loads = 0;
     bool wasLoading = false;
-    model().onChange = [&] { loads += model().isLoading() && !std::exchange(wasLoading, true); };
-    library.addFamily(QStringLiteral("New"));
+    model().onChange = [&] {
+        loads += model().isLoading() && !wasLoading;
+        wasLoading = model().isLoading();
+    };
     model().requestCatalogReconcile();
-    NotificationCentre::shared().post(ActivationProvider::changeNotification());
-    model().requestCatalogReconcile();
-    EXPECT_FALSE(model().isLoading());
-    ASSERT_TRUE(test::waitUntil([&] { return model().family(QStringLiteral("New")); }));
-    ASSERT_TRUE(test::waitUntil([&] { return !model().isLoading(); }));
+    QTimer second;
+    second.setSingleShot(true);
+    QObject::connect(&second, &QTimer::timeout, &model(), &LorvaAppModel::requestCatalogReconcile);
+    second.start(LorvaAppModel::kReconcileDelay / 2);
+    // Longer than a scan of its own would need after either request.
+    QTimer end;
+    end.setSingleShot(true);
+    end.start(LorvaAppModel::kReconcileDelay * 2);
+    ASSERT_TRUE(test::waitUntil([&] { return !end.isActive() && !model().isLoading(); }));
     EXPECT_EQ(loads, 1);
 }
 

@@ -84,6 +84,10 @@ struct LibraryFixture
     std::unique_ptr<PreferenceStore> preferences = std::make_unique<MemoryPreferenceStore>();
     std::shared_ptr<std::vector<FilePath>> watchedFolders =
         std::make_shared<std::vector<FilePath>>();
+    /// Asked for each new model.
+    std::function<std::unique_ptr<ActivationProvider>()> makeActivation = [] {
+        return std::make_unique<CatalogActivation>(PlatformFolders());
+    };
     std::unique_ptr<LorvaAppModel> model;
 
     LibraryFixture()
@@ -111,9 +115,9 @@ struct LibraryFixture
                    std::unique_ptr<CatalogCache> catalogCache)
     {
         model = std::make_unique<LorvaAppModel>(LorvaAppModel::Dependencies{
-            std::make_unique<FontLibraryService>(std::move(dependencies)),
-            std::make_unique<CatalogActivation>(PlatformFolders()), *preferences,
-            std::make_unique<ListedFolders>(watchedFolders), std::move(catalogCache)});
+            std::make_unique<FontLibraryService>(std::move(dependencies)), makeActivation(),
+            *preferences, std::make_unique<ListedFolders>(watchedFolders),
+            std::move(catalogCache)});
     }
 
     FilePath addFamily(const QString &name, const std::u32string &characters = U"Aa 123")

@@ -268,6 +268,43 @@ TEST_F(BrowserJourney, AListThatGetsShorterWhileScrolledToItsEndShowsItsOwnCards
     }
 }
 
+TEST_F(BrowserJourney, SaysWhoseFamiliesItShowsAndWhyThereAreNone)
+{
+    start(3);
+    LorvaAppModel &model = *library.model;
+    const QString logos = model.createCollection(QStringLiteral("Logos")).value();
+    ASSERT_TRUE(model.addFamilies(logos, {"Face 001", "Elsewhere"}));
+    const QString empty = model.createCollection(QStringLiteral("Empty")).value();
+    const struct
+    {
+        BrowserSource source;
+        const char *query;
+        const char *title;
+        int cards;
+        const char *emptyTitle;
+    } rows[]{
+        {BrowserSource::collection(logos), "", "Logos", 1, ""},
+        {BrowserSource::collection(logos), "face", "Logos", 1, ""},
+        {BrowserSource::collection(logos), "000", "Logos", 0, "No Results"},
+        {BrowserSource::collection(empty), "", "Empty", 0, "No Fonts Here"},
+        {BrowserSource::style(QStringLiteral("sans")), "", "Sans-Serif", 0, "No Fonts Here"},
+        {BrowserSource::inactive(), "", "Inactive", 0, "No Inactive Fonts"},
+        {BrowserSource::allFonts(), "  ", "All Fonts", 3, ""},
+    };
+    const auto *reason = find<BrowserEmptyStateView>("BrowserEmptyStateView");
+    for (const auto &row : rows) {
+        model.select(row.source);
+        model.setSearchQuery(QString::fromLatin1(row.query));
+        renderNow();
+        EXPECT_EQ(root->browserState().title, QString::fromLatin1(row.title));
+        EXPECT_EQ(view().items().size(), row.cards) << row.title;
+        EXPECT_EQ(reason->isVisible(), row.cards == 0);
+        if (row.cards == 0) {
+            EXPECT_EQ(reason->title(), QString::fromLatin1(row.emptyTitle));
+        }
+    }
+}
+
 TEST(BrowserEmptyState, OffersToWatchAFolderOnlyWhereThatHelps)
 {
     BrowserEmptyStateView view(nullptr);
