@@ -31,6 +31,15 @@ SETTLED_STARTS = 1
 SAMPLE_TEXT = "Aa 123"
 SAMPLE_SIZE_PX = 48
 SAMPLE_FONTS = 60
+# What the main thread does at a person's hand, and a worker at a load: benchmark, row, bar in ms.
+MODEL_BARS = (
+    ("searchKeyPress", "key press of a search", 5),
+    ("switchSource", "switch to another source", 5),
+    ("answerQuizCard", "one family into a style category, with its write", 10),
+    ("addToCollection", "one family into a collection, with its write", 10),
+    ("moveToFoundry", "one family to another foundry, with its write", 10),
+    ("foundriesAndSearchTexts", "foundries and search texts, on a worker", 100),
+)
 README_MARKS = ("<!-- bench:begin -->", "<!-- bench:end -->")
 FC_FORMAT = "%{family}|%{style}|%{postscriptname}|%{weight}|%{slant}\n"
 NO_FONTS = '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>'
@@ -332,6 +341,7 @@ class Bench:
             again = [results[f"{name}/real"]["ms"] for name in ("scanWithNothingChanged", "walkAndStat")]
             caches = [results[name] for name in ("readParseCache", "readSnapshot")]
             cold = results["scanWithoutCache/generated"]
+            model = [(key, what, results[key]["ms"], bar) for key, what, bar in MODEL_BARS]
         except KeyError as missing:
             raise Failed(f"no benchmark is called {missing}") from None
         self.add("scan_unchanged", f"scan of {LARGE_LIBRARY:,} files with nothing changed", again[0],
@@ -344,6 +354,8 @@ class Bench:
         self.add("records", "100,000 faces read from JSON", records[0], "`QJsonDocument`", records[1],
                  "100 ms")
         self.add("records_rapidjson", "the same", records[0], "RapidJSON", records[2], "100 ms")
+        for key, what, ms_each, bar in model:
+            self.add_against_bar(key, f"{MANY_FAMILIES:,} families: {what}", ms_each, bar)
         self.notes.append(
             f"Of {cold['faces']:,.0f} generated faces a scan with no cache adds {cold['peak_mb']:.0f} MB at "
             f"its highest, reading the parse cache {caches[0]['peak_mb']:.0f} MB and the snapshot "
