@@ -112,10 +112,11 @@ void LorvaAppModel::applyCatalog(FontCatalogResult result)
                  service = m_fontLibraryService.get()](const std::stop_token &) mutable {
         return makeReady(std::move(result), circumstances, *service);
     };
-    runThen(m_pool, this, std::move(work), [this, generation = m_loadGeneration](Catalog catalog) {
-        if (generation == m_loadGeneration)
-            finishLoad(catalog);
-    });
+    runThen(m_pool, this, std::move(work),
+            [this, generation = m_loadGeneration](const Catalog &catalog) {
+                if (generation == m_loadGeneration)
+                    finishLoad(catalog);
+            });
 }
 
 void LorvaAppModel::finishLoad(const Catalog &catalog)

@@ -31,8 +31,7 @@ Places placesOfNames(const QStringList &names, const LibraryView &library)
         }
     }
     std::ranges::sort(places);
-    const auto repeated = std::ranges::unique(places);
-    places.erase(repeated.begin(), repeated.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
 }
 

@@ -179,9 +179,11 @@ TEST(OrganizationFile, CleansWhatPeopleWrote)
 
 TEST(OrganizationFile, CanBeReadWhateverWasStored)
 {
-    const Organization stored{{{"a", " Two\nlines\u202e", {}}, {"b", "\u200b", {}}, {" ", "", {}}},
-                              {{"serif", "Serif", {}}, {"own", "\n", {"X"}}},
-                              {{}, {{"klim", "\u202e"}, {"acme", " A\n"}}, {}}};
+    const QString turnsText{QChar(0x202e)};
+    const Organization stored{
+        {{"a", " Two\nlines" + turnsText, {}}, {"b", "\u200b", {}}, {" ", "", {}}},
+        {{"serif", "Serif", {}}, {"own", "\n", {"X"}}},
+        {{}, {{"klim", turnsText}, {"acme", " A\n"}}, {}}};
     const Organization read = decoded(encoded({stored, {}, {}})).organization;
     ASSERT_EQ(read.collections.size(), 3u);
     EXPECT_EQ(read.collections[0], (FontCollectionRecord{"b", "b", {}}));
