@@ -29,6 +29,13 @@ struct PlatformFolders
     FilePath registeredLinks() const { return userFonts.child(kRegisteredLinksFolderName); }
     /// What scans learned from font files.
     FilePath parseCache() const { return applicationSupport.child("parse-cache.json"); }
+    /// Held while fonts are switched on or off.
+    FilePath activationLock() const { return applicationSupport.child("activation.lock"); }
+    /// What the run under way is about to do, for whoever finds that it never ended.
+    FilePath activationJournal() const
+    {
+        return applicationSupport.child("activation-journal.json");
+    }
     /// The catalog that the window shows until its scan has ended.
     FilePath catalogSnapshot() const { return applicationSupport.child("catalog.json"); }
 };

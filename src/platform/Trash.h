@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/FilePath.h"
+#include "base/Result.h"
+
+namespace lorva {
+
+/// The place where the desktop puts what the user throws away. Thread: any.
+class Trash
+{
+public:
+    virtual ~Trash() = default;
+    /// Moves the entry `file` itself there, also when it is a link. Fails with unsupported when its
+    /// volume has no Trash and none can be made (nothing is copied to another volume's), with
+    /// notFound, permissionDenied or ioFailure; the file then is where it was.
+    virtual Result<void> moveToTrash(const FilePath &file) = 0;
+};
+
+} // namespace lorva

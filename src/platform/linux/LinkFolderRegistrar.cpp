@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinkFolderRegistrar.h"
+
+#include "base/WholeFile.h"
+#include "platform/linux/LinkFolder.h"
+
+#include <QCoreApplication>
+
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace lorva {
+
+namespace {
+
+QString cannotRegister(const QString &reason)
+{
+    return QCoreApplication::translate("LinkFolderRegistrar", "The font cannot be registered: %1")
+        .arg(reason);
+}
+
+QString cannotUnregister(const QString &reason)
+{
+    return QCoreApplication::translate("LinkFolderRegistrar",
+                                       "The registration cannot be withdrawn: %1")
+        .arg(reason);
+}
+
+FontManagerError alreadyRegistered(const FilePath &file)
+{
+    return {FontManagerError::kAlreadyRegistered,
+            QCoreApplication::translate("LinkFolderRegistrar", "The font is registered already"),
+            {file}};
+}
+
+FontManagerError notRegistered(const FilePath &file)
+{
+    return {FontManagerError::kNotRegistered,
+            QCoreApplication::translate("LinkFolderRegistrar", "The font is not registered"),
+            {file}};
+}
+
+QString systemText(int code)
+{
+    return QString::fromLocal8Bit(std::generic_category().message(code).c_str());
+}
+
+/// Nothing for a file that a link can lead to.
+std::optional<FontManagerError> refusalOf(const FilePath &file)
+{
+    if (file.bytes().startsWith('/') && !file.bytes().contains('\0'))
+        return std::nullopt;
+    return FontManagerError{
+        FontManagerError::kCannotRegister,
+        cannotRegister(QCoreApplication::translate("LinkFolderRegistrar", "not an absolute path")),
+        {file}};
+}
+
+std::optional<FontManagerError> makeLink(const LinkFolder &folder, const FilePath &file)
+{
+    if (std::optional<FontManagerError> refusal = refusalOf(file))
+        return refusal;
+    const LinkFolder::Outcome made = folder.makeLink(file);
+    switch (made.kind) {
+    case LinkFolder::Outcome::done:
+        return std::nullopt;
+    case LinkFolder::Outcome::nothingToDo:
+        return alreadyRegistered(file);
+    case LinkFolder::Outcome::nameTaken:
+        return FontManagerError{
+            FontManagerError::kCannotRegister,
+            cannotRegister(QCoreApplication::translate("LinkFolderRegistrar",
+                                                       "something else has the name of its link")),
+            {file}};
+    case LinkFolder::Outcome::failed:
+        break;
+    }
+    return FontManagerError{
+        FontManagerError::kCannotRegister, cannotRegister(systemText(made.code)), {file}};
+}
+
+/// What has changed is on the disk afterwards; `files` are whose registration that is.
+std::optional<FontManagerError> finish(const LinkFolder &folder, std::vector<FilePath> files)
+{
+    folder.stamp();
+    const int code = folder.flush();
+    if (code == 0)
+        return std::nullopt;
+    return FontManagerError{FontManagerError::kCannotRegister, cannotRegister(systemText(code)),
+                            std::move(files)};
+}
+
+/// One pass over an open folder, and one wait for the disk.
+std::vector<FontManagerError> makeLinks(const FilePath &path, const std::vector<FilePath> &files)
+{
+    if (files.empty())
+        return {};
+    if (const Result<void> made = makeFolders(path); !made)
+        return {{FontManagerError::kCannotRegister, cannotRegister(made.error().detail), files}};
+    const LinkFolder folder(path);
+    if (folder.openCode() != 0)
+        return {{FontManagerError::kCannotRegister, cannotRegister(systemText(folder.openCode())),
+                 files}};
+    std::vector<FontManagerError> errors;
+    std::vector<FilePath> changed;
+    for (const FilePath &file : files) {
+        if (std::optional<FontManagerError> error = makeLink(folder, file))
+            errors.push_back(*std::move(error));
+        else
+            changed.push_back(file);
+    }
+    if (changed.empty())
+        return errors;
+    if (std::optional<FontManagerError> error = finish(folder, std::move(changed)))
+        errors.push_back(*std::move(error));
+    return errors;
+}
+
+} // namespace
+
+LinkFolderRegistrar::LinkFolderRegistrar(FilePath linkFolder)
+    : m_linkFolder(std::move(linkFolder))
+{
+}
+
+std::optional<FontManagerError> LinkFolderRegistrar::registerFont(const FilePath &file,
+                                                                  RegistrationScope scope)
+{
+    if (scope == RegistrationScope::process) {
+        const std::lock_guard lock(m_mutex);
+        if (m_processFonts.contains(file))
+            return alreadyRegistered(file);
+        m_processFonts.insert(file);
+        return std::nullopt;
+    }
+    std::vector<FontManagerError> errors = makeLinks(m_linkFolder, {file});
+    return errors.empty() ? std::nullopt : std::optional(std::move(errors.front()));
+}
+
+std::optional<FontManagerError> LinkFolderRegistrar::unregisterFont(const FilePath &file,
+                                                                    RegistrationScope scope)
+{
+    if (scope == RegistrationScope::process) {
+        const std::lock_guard lock(m_mutex);
+        return m_processFonts.remove(file) ? std::nullopt : std::optional(notRegistered(file));
+    }
+    const LinkFolder folder(m_linkFolder);
+    if (folder.openCode() == ENOENT || folder.openCode() == ENOTDIR)
+        return notRegistered(file);
+    const LinkFolder::Outcome removed = folder.removeLink(file);
+    if (removed.kind == LinkFolder::Outcome::failed)
+        return FontManagerError{
+            FontManagerError::kCannotRegister, cannotUnregister(systemText(removed.code)), {file}};
+    if (removed.kind != LinkFolder::Outcome::done)
+        return notRegistered(file);
+    return finish(folder, {file});
+}
+
+void LinkFolderRegistrar::registerFonts(const std::vector<FilePath> &files,
+                                        const Progress &progress)
+{
+    std::vector<FontManagerError> errors = makeLinks(m_linkFolder, files);
+    std::erase_if(errors, [](const FontManagerError &error) {
+        return error.code == FontManagerError::kAlreadyRegistered;
+    });
+    progress(errors, true);
+}
+
+std::vector<FilePath> LinkFolderRegistrar::registeredFonts() const
+{
+    return LinkFolder(m_linkFolder).targets();
+}
+
+void LinkFolderRegistrar::announceChanges()
+{
+    const LinkFolder folder(m_linkFolder);
+    if (folder.openCode() == 0)
+        folder.stamp();
+}
+
+QByteArray LinkFolderRegistrar::linkName(const FilePath &file)
+{
+    return LinkFolder::linkName(file);
+}
+
+} // namespace lorva
