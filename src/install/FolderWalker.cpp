@@ -29,19 +29,6 @@ namespace {
 
 constexpr int kOpenFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
-/// Neither looked at nor descended into.
-bool isSkippedFolderName(const QByteArray &name)
-{
-    static constexpr std::array<QByteArrayView, 5> kPackageExtensions{"app", "bundle", "framework",
-                                                                      "plugin", "pkg"};
-    if (name == kRegisteredLinksFolderName)
-        return true;
-    if (!name.contains('.'))
-        return false;
-    const QByteArray extension = FilePath(name).lowerCaseExtension();
-    return std::ranges::count(kPackageExtensions, QByteArrayView(extension)) > 0;
-}
-
 struct CloseFolder
 {
     void operator()(DIR *folder) const { ::closedir(folder); }
@@ -86,9 +73,21 @@ FolderWalker::FolderWalker(std::stop_token stop)
 {
 }
 
+bool FolderWalker::isSkipped(const QByteArray &folderName)
+{
+    static constexpr std::array<QByteArrayView, 5> kPackageExtensions{"app", "bundle", "framework",
+                                                                      "plugin", "pkg"};
+    if (folderName == kRegisteredLinksFolderName)
+        return true;
+    if (!folderName.contains('.'))
+        return false;
+    const QByteArray extension = FilePath(folderName).lowerCaseExtension();
+    return std::ranges::count(kPackageExtensions, QByteArrayView(extension)) > 0;
+}
+
 void FolderWalker::walk(const FilePath &folder)
 {
-    if (isSkippedFolderName(folder.fileName()))
+    if (isSkipped(folder.fileName()))
         return;
     const int descriptor = ::open(folder.c_str(), kOpenFlags);
     if (descriptor < 0)
@@ -101,6 +100,7 @@ void FolderWalker::walkOpened(int descriptor, const QByteArray &path, int depth)
 {
     if (depth >= kMaxDepth || !isFirstVisit(descriptor))
         return;
+    m_folders.emplace_back(path);
     for (const Entry &entry : readEntries(descriptor)) {
         if (m_stop.stop_requested())
             return;
@@ -128,7 +128,7 @@ std::vector<FolderWalker::Entry> FolderWalker::readEntries(int descriptor) const
         const bool isLink = own == DT_LNK;
         const unsigned char type = isLink ? targetType(descriptor, found->d_name) : own;
         Entry entry{found->d_name, type == DT_DIR, isLink};
-        if (entry.isFolder ? !isSkippedFolderName(entry.name)
+        if (entry.isFolder ? !isSkipped(entry.name)
                            : type == DT_REG && isFontFileName(FilePath(entry.name)))
             entries.push_back(std::move(entry));
     }

@@ -38,6 +38,11 @@ public:
     /// In the order of the walks.
     const std::vector<File> &files() const { return m_files; }
     std::vector<File> takeFiles() { return std::exchange(m_files, {}); }
+    /// The real folders that were looked into, each once, in the order of the walks.
+    const std::vector<FilePath> &folders() const { return m_folders; }
+
+    /// True for a folder of this name inside another that no walk looks into.
+    static bool isSkipped(const QByteArray &folderName);
 
 private:
     struct Entry;
@@ -49,6 +54,7 @@ private:
 
     const std::stop_token m_stop;
     std::vector<File> m_files;
+    std::vector<FilePath> m_folders;
     /// Device and inode of every folder seen.
     std::set<std::pair<quint64, quint64>> m_visited;
 };

@@ -3,6 +3,8 @@
 #include "install/WatchedFontRegistrar.h"
 
 #include "install/FolderWalker.h"
+#include "install/FontFolderWalk.h"
+#include "platform/FontRegistrar.h"
 
 #include <algorithm>
 
@@ -58,6 +60,16 @@ std::vector<FilePath> WatchedFontRegistrar::fontFiles(const std::vector<FilePath
     for (FolderWalker::File &file : found)
         files.push_back(std::move(file.path));
     return files;
+}
+
+void WatchedFontRegistrar::unregisterFonts(const std::vector<FilePath> &folders,
+                                           FontRegistrar &registrar,
+                                           const std::stop_token &stop) const
+{
+    for (const FilePath &folder : folders) {
+        for (const FilePath &file : fontFilesInFolder(folder, stop))
+            static_cast<void>(registrar.unregisterFont(file, RegistrationScope::process));
+    }
 }
 
 } // namespace lorva

@@ -9,6 +9,8 @@
 
 namespace lorva {
 
+class FontRegistrar;
+
 /// What the fonts of watched folders need from the system. Stateless.
 ///
 /// Thread: any; a call may take long on a slow volume, so never the main thread.
@@ -20,6 +22,11 @@ public:
     /// once; a link to a file gives way to the file itself.
     std::vector<FilePath> fontFiles(const std::vector<FilePath> &folders,
                                     std::stop_token stop = {}) const;
+
+    /// Withdraws the font files of `folders` from this process, and returns when every one is done;
+    /// what cannot be withdrawn is left as it is. Registrations for the whole system stay.
+    void unregisterFonts(const std::vector<FilePath> &folders, FontRegistrar &registrar,
+                         const std::stop_token &stop = {}) const;
 };
 
 } // namespace lorva

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "install/InstallationOutcome.h"
+#include "platform/FontRegistrar.h"
+
+#include <mutex>
+
+namespace lorva {
+
+/// Gathers what the font manager reports about many files, in several calls and from threads of its
+/// own. Thread: any.
+class FailureBox
+{
+public:
+    /// Files each error under every path that it is about; one that is about none is kept as
+    /// unattributed.
+    void add(const std::vector<FontManagerError> &errors);
+    BatchRegistration take();
+
+private:
+    std::mutex m_lock;
+    InstallationFailures m_failures;
+    std::optional<InstallationError> m_unattributed;
+};
+
+/// An error of the font manager as the user hears of it.
+InstallationError installationError(const FontManagerError &error);
+
+/// Registers all files in one go, in the user scope. Thread: any, not the main one.
+BatchRegistration registerAll(const std::vector<FilePath> &files, FontRegistrar &registrar);
+
+} // namespace lorva

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/FilePath.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace lorva {
+
+/// Why a file could not be switched on or off.
+struct InstallationError
+{
+    /// Whose `code` it is.
+    QString domain;
+    int code = 0;
+    /// One line for people, without a final full stop.
+    QString description;
+
+    /// The domain of this program's own errors.
+    static QString ownDomain() { return QStringLiteral("FontInstallation"); }
+    /// The domain of the font manager's errors (FontManagerError::code).
+    static QString fontManagerDomain() { return QStringLiteral("FontManager"); }
+
+    /// Codes of ownDomain().
+    enum Code { otherFailure = 1, fileNotFound = 2, isNotSafe = 3, isBusy = 4 };
+
+    bool operator==(const InstallationError &) const = default;
+};
+
+using InstallationFailures = std::map<FilePath, InstallationError>;
+
+/// What became of one run.
+struct InstallationOutcome
+{
+    /// By the path of the file that was handed in.
+    InstallationFailures failures;
+    /// The families that took part: those that were not in flight already.
+    QStringList families;
+    /// The files that were copied, registered or withdrawn.
+    std::vector<FilePath> filesDone;
+    /// Files that already had a namesake in the Fonts folder: left alone, no failure.
+    std::vector<FilePath> filesSkipped;
+};
+
+/// What became of registering many files at once.
+struct BatchRegistration
+{
+    InstallationFailures failures;
+    /// An error that named no file.
+    std::optional<InstallationError> unattributed;
+};
+
+} // namespace lorva

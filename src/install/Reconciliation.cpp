@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "install/Reconciliation.h"
+
+#include "install/FailureBox.h"
+#include "install/InstallationJournal.h"
+#include "platform/FileTransfer.h"
+#include "platform/FontRegistrar.h"
+
+#include <cerrno>
+#include <set>
+
+#include <sys/stat.h>
+
+namespace lorva {
+
+namespace {
+
+using Changes = FontInstallationStore::Changes;
+using Contents = ActivationBooks::Contents;
+
+/// A file that cannot be looked at, on a volume that does not answer, has not gone.
+bool hasGone(const FilePath &file)
+{
+    struct stat info;
+    return ::stat(file.c_str(), &info) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+bool hasEntryGone(const FilePath &entry)
+{
+    struct stat info;
+    return ::lstat(entry.c_str(), &info) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+void lookAtRegistrations(const Contents &books, const std::vector<FilePath> &linked,
+                         DiskFindings &found)
+{
+    const std::set<FilePath> links(linked.begin(), linked.end());
+    std::vector<FilePath> known(books.registeredURLs.begin(), books.registeredURLs.end());
+    std::sort(known.begin(), known.end());
+    for (const FilePath &file : known) {
+        if (hasGone(file))
+            found.goneFiles.push_back(file);
+        else if (!links.contains(file))
+            found.lostRegistrations.push_back(file);
+    }
+    for (const FilePath &file : linked) {
+        if (!books.registeredURLs.contains(file))
+            (hasGone(file) ? found.brokenRegistrations : found.unknownRegistrations)
+                .push_back(file);
+    }
+}
+
+/// A Fonts folder that is away takes no copy with it.
+void lookAtCopies(const Contents &books, DiskFindings &found)
+{
+    std::set<FilePath> gone;
+    for (auto each = books.origins.cbegin(); each != books.origins.cend(); ++each) {
+        if (hasEntryGone(each.key()) && !hasGone(each.key().parent()))
+            gone.insert(each.key());
+    }
+    found.goneCopies.assign(gone.begin(), gone.end());
+}
+
+void endRegistrations(const std::vector<FilePath> &files, FontRegistrar &registrar)
+{
+    for (const FilePath &file : files)
+        registrar.unregisterFont(file, RegistrationScope::user);
+}
+
+void mendRegistrations(const DiskFindings &found, const InstallationJournal &journal,
+                       FontRegistrar &registrar, Changes &changes)
+{
+    endRegistrations(found.goneFiles, registrar);
+    endRegistrations(found.brokenRegistrations, registrar);
+    for (const FilePath &file : found.goneFiles)
+        changes.registeredURLs[file] = false;
+    for (const FilePath &file : found.unknownRegistrations)
+        changes.registeredURLs[file] = true;
+    std::vector<FilePath> lost;
+    for (const FilePath &file : found.lostRegistrations) {
+        // The run that withdrew it did not come to write it down.
+        if (journal.withdrawn.contains(file))
+            changes.registeredURLs[file] = false;
+        else
+            lost.push_back(file);
+    }
+    if (!lost.empty())
+        registerAll(lost, registrar);
+    if (!found.goneFiles.empty() || !found.brokenRegistrations.empty())
+        registrar.announceChanges();
+}
+
+void mendOrigins(const DiskFindings &found, const InstallationJournal &journal,
+                 const Contents &books, Changes &changes)
+{
+    for (const FilePath &copy : found.goneCopies)
+        changes.origins[copy] = std::nullopt;
+    for (const auto &[copy, source] : journal.copies) {
+        if (!books.origins.contains(copy) && haveEqualBytes(copy, source))
+            changes.origins[copy] = source;
+    }
+}
+
+/// The books as they will be.
+std::shared_ptr<const ActivationBooks> booksAfter(const Changes &changes, const Contents &before)
+{
+    Contents after = before;
+    for (const auto &[file, isRegistered] : changes.registeredURLs) {
+        if (isRegistered)
+            after.registeredURLs.insert(file);
+        else
+            after.registeredURLs.remove(file);
+    }
+    after.fontsFolder = listFontsFolder(before.folders.userFonts);
+    return std::make_shared<ActivationBooks>(std::move(after));
+}
+
+void mendMethods(const FontFamilyList &families, const ActivationBooks &books, Changes &changes)
+{
+    const std::map<QString, InstallMethod> &known = books.contents().methods;
+    for (const FontFamilyRecord &family : *families) {
+        const std::optional<FamilyActivationState> state = books.activationState(family);
+        const std::optional<InstallMethod> method = state ? state->method : std::nullopt;
+        const auto found = known.find(family.familyName);
+        const auto stored = found == known.end() ? std::nullopt : std::optional(found->second);
+        if (stored != method)
+            changes.methods[family.familyName] = method;
+    }
+}
+
+} // namespace
+
+DiskFindings lookAtDisk(const InstallationTools &tools)
+{
+    DiskFindings found;
+    lookAtRegistrations(tools.books->contents(), tools.registrar->registeredFonts(), found);
+    lookAtCopies(tools.books->contents(), found);
+    return found;
+}
+
+Changes reconciled(const FontFamilyList &families, const InstallationTools &tools)
+{
+    const Contents &books = tools.books->contents();
+    removeUnfinishedCopies(books.folders.userFonts);
+    const auto journal = InstallationJournal::read(books.folders.activationJournal());
+    const DiskFindings found = lookAtDisk(tools);
+    Changes changes;
+    mendRegistrations(found, journal, *tools.registrar, changes);
+    mendOrigins(found, journal, books, changes);
+    mendMethods(families, *booksAfter(changes, books), changes);
+    return changes;
+}
+
+} // namespace lorva
