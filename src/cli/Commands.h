@@ -20,6 +20,10 @@ int runStylesCommand(std::span<const QByteArray> words);
 int runFoundriesCommand(std::span<const QByteArray> words);
 int runExportCommand(std::span<const QByteArray> words);
 int runImportCommand(std::span<const QByteArray> words);
+int runActivateCommand(std::span<const QByteArray> words);
+int runDeactivateCommand(std::span<const QByteArray> words);
+int runStatusCommand(std::span<const QByteArray> words);
+int runFoldersCommand(std::span<const QByteArray> words);
 int runDoctorCommand(std::span<const QByteArray> words);
 
 } // namespace lorva::cli

@@ -5,6 +5,7 @@
 #include "base/WholeFile.h"
 #include "catalog/CatalogCache.h"
 #include "catalog/PersistedCache.h"
+#include "cli/ActivationChecks.h"
 #include "cli/PreferenceKeys.h"
 #include "cli/Words.h"
 #include "model/records/RecordsJson.h"
@@ -211,6 +212,9 @@ constexpr DoctorCheck kChecks[]{
     {"parseCache", checkParseCache},
     {"catalog", checkCatalog},
     {"missingFamilies", checkMissingFamilies},
+    {"activation", checkActivation},
+    {"sandbox", checkSandbox},
+    {"watchedFolders", checkWatchedFolders},
 };
 
 } // namespace

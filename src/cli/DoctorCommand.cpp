@@ -13,21 +13,20 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] = "Usage: lorvactl doctor [--json]\n"
-                         "\n"
-                         "Tells how the preferences and the caches fare, and changes nothing. One "
-                         "line for each finding:\n"
-                         "\"ok\", \"note\" or \"wrong\", a tab, the file or preference, a tab, "
-                         "what there is to say. A note\n"
-                         "is worth knowing, but nothing is out of order: preferences of another "
-                         "version, damaged ones\n"
-                         "that were kept beside new ones, a cache of no use that will be written "
-                         "anew.\n"
-                         "\n"
-                         "  --json         one JSON object instead\n"
-                         "  --help         show this help\n"
-                         "\n"
-                         "Exit status: 0 all is well, 1 something is wrong.\n";
+constexpr char kHelp[] =
+    "Usage: lorvactl doctor [--json]\n"
+    "\n"
+    "Tells how preferences, caches, active fonts and watched folders fare, and changes nothing.\n"
+    "One line for each finding: \"ok\", \"note\" or \"wrong\", a tab, the file or preference, a "
+    "tab,\n"
+    "what there is to say. A note is worth knowing, but nothing is out of order: preferences of\n"
+    "another version, damaged ones that were kept beside new ones, a cache of no use that will be\n"
+    "written anew, books that the next activation brings into line with the disk.\n"
+    "\n"
+    "  --json         one JSON object instead\n"
+    "  --help         show this help\n"
+    "\n"
+    "Exit status: 0 all is well, 1 something is wrong.\n";
 
 std::string_view stateName(Finding::State state)
 {

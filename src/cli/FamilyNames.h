@@ -22,6 +22,8 @@ public:
     /// The members of all groupings, also those that this machine lacks.
     void addMembers(const Organization &organization);
 
+    bool contains(const QString &name) const { return m_names.contains(name); }
+
     enum class Unknown { fails, isKept };
     /// The families meant: each by its name, by its name as lorvactl prints it, or by its name in
     /// another case if that fits one only. Fails at the first that is not to be found; with

@@ -4,6 +4,7 @@
 #include "cli/FamilyListing.h"
 #include "cli/GroupingListing.h"
 #include "cli/GroupingNames.h"
+#include "cli/Library.h"
 #include "cli/UserOrganization.h"
 #include "cli/Verbs.h"
 #include "cli/Words.h"
@@ -44,7 +45,7 @@ constexpr char kHelp[] =
     "\n"
     "  --json         JSON instead of lines\n"
     "  --missing      take names of families that this machine lacks, for when their fonts come\n"
-    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
     "  --help         show this help\n";
 
 const QString kNoun = QStringLiteral("foundry");
@@ -67,7 +68,8 @@ struct FontsSay
 
 FontsSay readFonts(const std::vector<FilePath> &folders)
 {
-    const FontCatalogResult result = scanLibrary(folders);
+    const FontCatalogResult result =
+        scanLibrary(withWatchedFolders(folders, LookupTrouble::isToldElsewhere));
     FontsSay fonts{deriveFoundries(result.manufacturers, kFewestFamiliesOfFoundry), {}};
     for (const FontFamilyRecord &family : result.families)
         fonts.families.push_back(family.familyName);

@@ -5,6 +5,7 @@
 #include "cli/FamilyListing.h"
 #include "cli/GroupingListing.h"
 #include "cli/GroupingNames.h"
+#include "cli/Library.h"
 #include "cli/UserOrganization.h"
 #include "cli/Verbs.h"
 #include "cli/Words.h"
@@ -30,7 +31,8 @@ Result<FontCollectionRecord> wanted(const GroupingKind &kind, const Organization
 FamilyNames namesOfMachine(const std::vector<FilePath> &folders)
 {
     QStringList names;
-    for (const FontFamilyRecord &family : scanLibrary(folders).families)
+    for (const FontFamilyRecord &family :
+         scanLibrary(withWatchedFolders(folders, LookupTrouble::isToldElsewhere)).families)
         names.push_back(family.familyName);
     return FamilyNames(names);
 }

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Library.h"
 
+#include "base/Json.h"
 #include "base/SystemError.h"
+#include "cli/PreferenceLook.h"
+#include "install/WatchedFolderStore.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/XdgFolders.h"
 
@@ -21,6 +24,23 @@ tl::unexpected<Error> folderFailure(int code, const FilePath &folder)
         return failure(ErrorKind::notFound,
                        QStringLiteral("there is no folder ") + folder.displayText());
     return systemFailure(code, "read", folder);
+}
+
+/// Looks without opening the preferences: a command that lists fonts makes, mends and locks
+/// nothing.
+Result<std::vector<WatchedFolder>> storedFolders()
+{
+    const PreferenceLook look = lookAtPreferences(xdgFolders().applicationSupport);
+    if (!look.rows)
+        return tl::unexpected(look.rows.error());
+    const auto row = look.rows->find(WatchedFolderStore::defaultKey());
+    if (row == look.rows->end())
+        return {};
+    const std::optional<PreferenceValue> value = preferenceOfRow(row->second);
+    const QByteArray *const json = value ? std::get_if<QByteArray>(&*value) : nullptr;
+    if (!json)
+        return failure(ErrorKind::typeMismatch, QStringLiteral("they are no data"));
+    return decodeJson<std::vector<WatchedFolder>>(*json);
 }
 
 } // namespace
@@ -43,6 +63,21 @@ Result<std::vector<FilePath>> givenFolders(const Arguments &arguments)
             return folderFailure(errno, folder);
         folders.push_back(folder);
     }
+    return folders;
+}
+
+std::vector<FilePath> withWatchedFolders(std::vector<FilePath> given, LookupTrouble trouble)
+{
+    const Result<std::vector<WatchedFolder>> stored = storedFolders();
+    if (!stored && trouble == LookupTrouble::isTold)
+        warn(QStringLiteral("the watched folders cannot be read (%1); they are left out")
+                 .arg(stored.error().detail));
+    std::vector<FilePath> folders;
+    for (const WatchedFolder &each : stored.value_or(std::vector<WatchedFolder>())) {
+        if (FilePath folder = folderURL(each); !folder.isEmpty())
+            folders.push_back(std::move(folder));
+    }
+    folders.insert(folders.end(), given.begin(), given.end());
     return folders;
 }
 

@@ -14,6 +14,12 @@ namespace lorva::cli {
 /// read, and with usage for an empty name.
 Result<std::vector<FilePath>> givenFolders(const Arguments &arguments);
 
+/// The user's watched folders, and then `given`. Watched folders that cannot be looked up are left
+/// out with a line on standard error, or without one for commands that say so themselves.
+enum class LookupTrouble { isTold, isToldElsewhere };
+std::vector<FilePath> withWatchedFolders(std::vector<FilePath> given,
+                                         LookupTrouble trouble = LookupTrouble::isTold);
+
 /// A loader over this machine's fonts and this user's parse cache.
 enum class CacheUse { readOnly, readAndSave };
 FontCatalogLoader::Dependencies machineFonts(CacheUse cacheUse);

@@ -20,7 +20,7 @@ constexpr char kHelp[] =
     "  --json         one JSON array of families instead\n"
     "  --script NAME  only families that can set latin, japanese, korean, simplifiedChinese or\n"
     "                 traditionalChinese\n"
-    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
     "  --help         show this help\n";
 
 /// The script of `--script`, whatever its case; nothing without the option.
@@ -71,7 +71,7 @@ int runListCommand(std::span<const QByteArray> words)
     const Result<std::vector<FilePath>> folders = givenFolders(*arguments);
     if (!folders)
         return fail("list", folders.error());
-    FontCatalogResult result = scanLibrary(*folders);
+    FontCatalogResult result = scanLibrary(withWatchedFolders(*folders));
     if (*script)
         keepOnly(**script, result.families);
     sortByName(result.families);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PreferenceKeys.h"
 
+#include "install/WatchedFolder.h"
 #include "model/records/RecordsJson.h"
 #include "platform/PreferenceStore.h"
 
@@ -40,6 +41,15 @@ Result<QString> describeText(const PreferenceValue &value)
 Result<QString> describeBoolean(const PreferenceValue &value)
 {
     return std::get<bool>(value) ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+/// Whatever else stands there counts as no choice.
+Result<QString> describeMethod(const PreferenceValue &value)
+{
+    const QString &name = std::get<QString>(value);
+    if (installMethodFromName(name))
+        return name;
+    return failure(ErrorKind::invalidValue, QStringLiteral("neither copy nor register"));
 }
 
 /// What the store holds under the key, if it is of the kind that is expected there.
@@ -93,6 +103,14 @@ const std::vector<KnownPreference> &knownPreferences()
         {"vantrel.merid.foundryNameOverrides", "stringDictionary", Part::foundries,
          describeCount<Texts>,
          [](const OrganizationEdit &edit) { return !edit.foundryNames.empty(); }},
+        {"vantrel.merid.fontInstallations", "data", Part::activation,
+         describeJson<std::map<QString, QString>>},
+        {"vantrel.merid.lorvaRegisteredURLs", "stringArray", Part::activation,
+         describeCount<QStringList>},
+        {"vantrel.merid.fontOrigins", "stringDictionary", Part::activation, describeCount<Texts>},
+        {"vantrel.merid.defaultInstallMethod", "string", Part::activation, describeMethod},
+        {"vantrel.merid.watchedFolders", "data", Part::watchedFolders,
+         describeJson<std::vector<WatchedFolder>>},
         {"vantrel.merid.collapsedSidebarGroups", "stringArray", Part::none,
          describeCount<QStringList>},
         {"vantrel.merid.stylesClassified.v3", "boolean", Part::none, describeBoolean},

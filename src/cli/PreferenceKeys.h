@@ -14,8 +14,16 @@ class PreferenceStore;
 
 namespace lorva::cli {
 
-/// What one command shows or changes of what the user sorted.
-enum class OrganizationPart { none, collections, styles, foundries, displaySettings };
+/// What one command shows or changes of what the user sorted, or switched on.
+enum class OrganizationPart {
+    none,
+    collections,
+    styles,
+    foundries,
+    displaySettings,
+    activation,
+    watchedFolders,
+};
 
 /// A key under which this version keeps something.
 struct KnownPreference

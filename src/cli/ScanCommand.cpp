@@ -20,7 +20,7 @@ constexpr char kHelp[] =
     "learned for the next one, and tells what it did and how long each step took.\n"
     "\n"
     "  --json         one JSON object instead\n"
-    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
     "  --help         show this help\n";
 
 using Clock = std::chrono::steady_clock;
@@ -156,7 +156,7 @@ int runScanCommand(std::span<const QByteArray> words)
     const Result<std::vector<FilePath>> folders = givenFolders(*arguments);
     if (!folders)
         return fail("scan", folders.error());
-    return run(*folders, arguments->has("--json"));
+    return run(withWatchedFolders(*folders), arguments->has("--json"));
 }
 
 } // namespace lorva::cli

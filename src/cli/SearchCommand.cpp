@@ -20,7 +20,7 @@ constexpr char kHelp[] =
     "width, Hiragana for Katakana. One line each: the name, a tab, the styles.\n"
     "\n"
     "  --json         one JSON array of families instead\n"
-    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
     "  --help         show this help\n";
 
 Result<void> run(const Arguments &arguments)
@@ -31,7 +31,7 @@ Result<void> run(const Arguments &arguments)
     const Result<std::vector<FilePath>> folders = givenFolders(arguments);
     if (!folders)
         return tl::unexpected(folders.error());
-    FontCatalogResult result = scanLibrary(*folders);
+    FontCatalogResult result = scanLibrary(withWatchedFolders(*folders));
     const SearchQuery query(*typed);
     std::erase_if(result.families, [&](const FontFamilyRecord &family) {
         return !query.matches(searchTextOf(family, result.manufacturers.value(family.familyName)));

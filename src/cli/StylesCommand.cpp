@@ -36,7 +36,7 @@ constexpr char kHelp[] =
     "\n"
     "  --json         JSON instead of lines\n"
     "  --missing      take names of families that this machine lacks, for when their fonts come\n"
-    "  --folder DIR   take in the fonts below DIR too; may be given more than once\n"
+    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
     "  --help         show this help\n";
 
 std::vector<FontCollectionRecord> categories(const Organization &organization)

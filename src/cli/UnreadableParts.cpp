@@ -37,14 +37,22 @@ QString lastKeptKey(const QString &key, const PreferenceStore &preferences)
 
 std::vector<UnreadablePart> unreadableParts(const PreferenceStore &preferences)
 {
-    std::vector<UnreadablePart> parts;
+    using Part = OrganizationPart;
+    return unreadableParts(
+        preferences, {Part::collections, Part::styles, Part::foundries, Part::displaySettings});
+}
+
+std::vector<UnreadablePart> unreadableParts(const PreferenceStore &preferences,
+                                            std::initializer_list<OrganizationPart> parts)
+{
+    std::vector<UnreadablePart> unreadable;
     for (const KnownPreference &known : knownPreferences()) {
-        if (known.part == OrganizationPart::none)
+        if (std::find(parts.begin(), parts.end(), known.part) == parts.end())
             continue;
         if (const Result<void> checked = checkStored(known, preferences); !checked)
-            parts.push_back({known.key, known.part, checked.error().detail});
+            unreadable.push_back({known.key, known.part, checked.error().detail});
     }
-    return parts;
+    return unreadable;
 }
 
 std::vector<UnreadablePart> replacedParts(const std::vector<UnreadablePart> &parts,

@@ -6,7 +6,7 @@
 
 namespace lorva::cli {
 
-/// A part of the organisation that is stored, but not in a form that can be read: it counts as
+/// Something that is stored, but not in a form that can be read: it counts as
 /// absent, and what stands there is kept aside when it is replaced.
 struct UnreadablePart
 {
@@ -15,7 +15,10 @@ struct UnreadablePart
     QString reason;
 };
 
+/// Those of what the user sorted.
 std::vector<UnreadablePart> unreadableParts(const PreferenceStore &preferences);
+std::vector<UnreadablePart> unreadableParts(const PreferenceStore &preferences,
+                                            std::initializer_list<OrganizationPart> parts);
 
 /// Those that a change replaces: `edit`, and display settings if it holds some.
 std::vector<UnreadablePart> replacedParts(const std::vector<UnreadablePart> &parts,

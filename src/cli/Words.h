@@ -20,4 +20,10 @@ inline QString families(qsizetype count)
     return count == 1 ? QStringLiteral("1 family") : QStringLiteral("%1 families").arg(count);
 }
 
+/// "1 font file", "2 font files".
+inline QString fontFiles(qsizetype count)
+{
+    return count == 1 ? QStringLiteral("1 font file") : QStringLiteral("%1 font files").arg(count);
+}
+
 } // namespace lorva::cli

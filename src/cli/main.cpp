@@ -25,7 +25,13 @@ constexpr char kHelp[] = "Usage: lorvactl COMMAND [OPTION]...\n"
                          "  foundries    list and correct the foundries\n"
                          "  export       write all of that to a file\n"
                          "  import       take it in from such a file\n"
-                         "  doctor       tell how preferences and caches fare\n"
+                         "\n"
+                         "  activate     make fonts available to every program\n"
+                         "  deactivate   withdraw them again\n"
+                         "  status       tell what is active, and how\n"
+                         "  folders      list, add and remove watched folders\n"
+                         "\n"
+                         "  doctor       tell how preferences, caches and activation fare\n"
                          "\n"
                          "  --help       show this help; also after a command\n"
                          "  --version    show the version\n"
@@ -49,6 +55,10 @@ constexpr Command kCommands[]{
     {"foundries", lorva::cli::runFoundriesCommand},
     {"export", lorva::cli::runExportCommand},
     {"import", lorva::cli::runImportCommand},
+    {"activate", lorva::cli::runActivateCommand},
+    {"deactivate", lorva::cli::runDeactivateCommand},
+    {"status", lorva::cli::runStatusCommand},
+    {"folders", lorva::cli::runFoldersCommand},
     {"doctor", lorva::cli::runDoctorCommand},
 };
 

@@ -17,8 +17,9 @@ class PreferenceStore;
 class WatchedFolderStore
 {
 public:
-    explicit WatchedFolderStore(PreferenceStore &defaults,
-                                QString key = QStringLiteral("vantrel.merid.watchedFolders"));
+    static QString defaultKey() { return QStringLiteral("vantrel.merid.watchedFolders"); }
+
+    explicit WatchedFolderStore(PreferenceStore &defaults, QString key = defaultKey());
 
     /// Empty when nothing is stored or that does not decode.
     std::vector<WatchedFolder> load() const;
