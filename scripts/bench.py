@@ -39,6 +39,8 @@ MODEL_BARS = (
     ("addToCollection", "one family into a collection, with its write", 10),
     ("moveToFoundry", "one family to another foundry, with its write", 10),
     ("foundriesAndSearchTexts", "foundries and search texts, on a worker", 100),
+    ("classifyLibrary/watched", "what is switched on, of watched fonts, on a worker", 200),
+    ("classifyLibrary/others", "the same of fonts that are not watched", 200),
 )
 README_MARKS = ("<!-- bench:begin -->", "<!-- bench:end -->")
 FC_FORMAT = "%{family}|%{style}|%{postscriptname}|%{weight}|%{slant}\n"
@@ -328,7 +330,7 @@ class Bench:
                 if "real_time" in result:
                     result["ms"] = result["real_time"] * scale
                     # "lorva::scan/generated/real_time" is known as "scan/generated".
-                    results[re.match(r"(?:.*::)?([^/]+(?:/(?:real|generated)\b)?)", result["name"])[1]] = result
+                    results[re.match(r"(?:.*::)?([^/]+(?:/(?:real|generated|watched|others)\b)?)", result["name"])[1]] = result
         self.figures["programs"] = results
         return results
 
@@ -342,6 +344,8 @@ class Bench:
             caches = [results[name] for name in ("readParseCache", "readSnapshot")]
             cold = results["scanWithoutCache/generated"]
             model = [(key, what, results[key]["ms"], bar) for key, what, bar in MODEL_BARS]
+            walk, find, register, copy = [results[key]["ms"] for key in (
+                "walkFolder", "findFiles", "registerThousand", "copyThousand")]
         except KeyError as missing:
             raise Failed(f"no benchmark is called {missing}") from None
         self.add("scan_unchanged", f"scan of {LARGE_LIBRARY:,} files with nothing changed", again[0],
@@ -356,6 +360,10 @@ class Bench:
         self.add("records_rapidjson", "the same", records[0], "RapidJSON", records[2], "100 ms")
         for key, what, ms_each, bar in model:
             self.add_against_bar(key, f"{MANY_FAMILIES:,} families: {what}", ms_each, bar)
+        self.add("walk_folder", "walk of a watched folder of 20,000 files", walk,
+                 "`find DIR -type f`", find, "1.5 ×")
+        self.add("register", "1,000 files registered until `fc-list` sees them", register,
+                 "`cp` and `fc-list`", copy, "500 ms")
         self.notes.append(
             f"Of {cold['faces']:,.0f} generated faces a scan with no cache adds {cold['peak_mb']:.0f} MB at "
             f"its highest, reading the parse cache {caches[0]['peak_mb']:.0f} MB and the snapshot "
