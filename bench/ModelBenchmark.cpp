@@ -6,8 +6,10 @@
 // in a collection. The bars for 10,000 families: 5 ms for a key press of a search or a switch of
 // sources, 10 ms for a change with its write, 100 ms for foundries and search texts on a worker.
 #include "catalog/FontCatalogLoader.h"
-#include "model/CatalogActivation.h"
+#include "install/FontInstallationService.h"
 #include "model/LorvaAppModel.h"
+#include "platform/linux/DesktopTrash.h"
+#include "platform/linux/LinkFolderRegistrar.h"
 #include "platform/SqlitePreferenceStore.h"
 
 #include <QCoreApplication>
@@ -36,13 +38,25 @@ struct User
         : preferences(FilePath::fromText(home.path()))
         , model({std::make_unique<FontLibraryService>(FontLibraryService::Dependencies{
                      std::make_shared<NoAvailableFonts>(), std::make_shared<NoStandIn>()}),
-                 std::make_unique<CatalogActivation>(PlatformFolders()), preferences,
+                 makeActivation(), preferences,
                  std::make_unique<GivenFolders>(std::vector{library})})
     {
         model.loadCatalog();
         while (model.isLoading())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         sortEverything();
+    }
+
+    std::unique_ptr<ActivationProvider> makeActivation()
+    {
+        PlatformFolders folders;
+        folders.applicationSupport = FilePath::fromText(home.path());
+        folders.userFonts = folders.applicationSupport.child("fonts");
+        FontInstallationService::Dependencies dependencies{
+            folders, std::make_shared<LinkFolderRegistrar>(folders.registeredLinks()),
+            std::make_shared<DesktopTrash>()};
+        return std::make_unique<FontInstallationService>(
+            std::make_unique<FontInstallationStore>(preferences), std::move(dependencies));
     }
 
     void sortEverything()

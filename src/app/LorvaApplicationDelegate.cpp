@@ -6,10 +6,13 @@
 #include "base/AtomicFile.h"
 #include "base/Trace.h"
 #include "catalog/CatalogCache.h"
-#include "model/CatalogActivation.h"
+#include "install/FontInstallationService.h"
 #include "model/stores/WindowGeometry.h"
+#include "platform/linux/DesktopTrash.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/FontconfigSystemFont.h"
+#include "platform/linux/InotifyFolderWatcher.h"
+#include "platform/linux/LinkFolderRegistrar.h"
 #include "platform/linux/XdgFolders.h"
 #include "platform/MemoryPreferenceStore.h"
 #include "platform/SqlitePreferenceStore.h"
@@ -44,6 +47,12 @@ std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
     return std::make_unique<SqlitePreferenceStore>(folders.applicationSupport);
 }
 
+/// Nobody waits for news in a picture.
+std::unique_ptr<FolderWatcher> makeFolderWatcher(const LaunchOptions &options)
+{
+    return options.screenshot ? nullptr : std::make_unique<InotifyFolderWatcher>();
+}
+
 std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
                                          const PlatformFolders &folders,
                                          PreferenceStore &preferences,
@@ -55,10 +64,16 @@ std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
     dependencies.cacheFileURL = folders.parseCache();
     // A picture leaves the user's files as they are.
     dependencies.savesCache = !options.screenshot;
+    const auto registrar = std::make_shared<LinkFolderRegistrar>(folders.registeredLinks());
+    FontInstallationService::Dependencies installation{folders, registrar,
+                                                       std::make_shared<DesktopTrash>()};
+    installation.reconcilesBooks = !options.screenshot;
     auto model = std::make_unique<LorvaAppModel>(LorvaAppModel::Dependencies{
         std::make_unique<FontLibraryService>(std::move(dependencies)),
-        std::make_unique<CatalogActivation>(folders), preferences,
-        std::make_unique<GivenFolders>(options.folders), std::move(catalogCache)});
+        std::make_unique<FontInstallationService>(
+            std::make_unique<FontInstallationStore>(preferences), std::move(installation)),
+        preferences, std::make_unique<GivenFolders>(options.folders), std::move(catalogCache),
+        folders, makeFolderWatcher(options), registrar});
     model->setViewMode(options.viewMode.value_or(model->viewMode()));
     SourceDisplaySettings display;
     display.colorMode = options.colorMode;
@@ -110,7 +125,7 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
     connect(qApp, &QGuiApplication::applicationStateChanged, m_model.get(),
             [this](Qt::ApplicationState state) {
                 if (state == Qt::ApplicationActive)
-                    m_model->reconcileActivation();
+                    m_model->becomeActive();
             });
 }
 

@@ -55,14 +55,13 @@ WatchedFolder makeRecord(const FilePath &path)
     return {QUuid::createUuid().toString(QUuid::WithoutBraces), {}, path};
 }
 
-/// One record for each different folder that is there.
+/// One record for each different folder.
 Folders recordsFor(const std::vector<FilePath> &folders)
 {
     Folders records;
     for (const FilePath &folder : folders) {
-        const Result<FilePath> path = resolvedFolder(folder);
-        if (path && path->isUtf8() && !holds(records, *path))
-            records.push_back(makeRecord(*path));
+        if (folder.isUtf8() && !holds(records, folder))
+            records.push_back(makeRecord(folder));
     }
     return records;
 }
@@ -91,7 +90,7 @@ void WatchedFolderStore::save(const std::vector<WatchedFolder> &folders)
 
 std::vector<WatchedFolder> WatchedFolderStore::add(const std::vector<FilePath> &resolvedFolders)
 {
-    // The transaction may run again later: the disk is asked, and ids are made, only once.
+    // The transaction may run again later: ids are made only once.
     const Folders wanted = recordsFor(resolvedFolders);
     if (wanted.empty())
         return {};

@@ -27,10 +27,9 @@ public:
     /// a path is no UTF-8, is not written.
     void save(const std::vector<WatchedFolder> &folders);
 
-    /// Adds those of `folders` that are not in the stored list, also by another path to the same
-    /// folder, in one transaction; gives the records added. Links are resolved: reads the disk, so
-    /// a caller with an eye on hanging volumes resolves first (resolvedFolder()). Folders whose
-    /// path is no UTF-8, or that are not there, are left out.
+    /// Adds those folders that are not in the stored list yet, in one transaction, and gives the
+    /// records added. The paths have their links resolved (resolvedFolder()): the disk is not
+    /// looked at here. Folders whose path is no UTF-8 are left out.
     std::vector<WatchedFolder> add(const std::vector<FilePath> &resolvedFolders);
     /// Gives the record that has gone; nothing when there was none of that id.
     std::optional<WatchedFolder> remove(const QString &id);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "catalog/CatalogCache.h"
-#include "model/ActivationProvider.h"
+#include "install/ActivationProvider.h"
 #include "model/records/GroupingRecords.h"
 
 #include <QHash>

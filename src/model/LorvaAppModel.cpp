@@ -4,6 +4,7 @@
 #include "model/LorvaAppModel.h"
 
 #include "base/NotificationCentre.h"
+#include "model/LibraryWatcher.h"
 #include "model/stores/LogoStore.h"
 #include "platform/PreferenceWatcher.h"
 
@@ -28,14 +29,16 @@ LorvaAppModel::LorvaAppModel(Dependencies dependencies, QObject *parent)
     : QObject(parent)
     , m_fontLibraryService(std::move(dependencies.fontLibraryService))
     , m_installationService(std::move(dependencies.installationService))
-    , m_watchedFolders(std::move(dependencies.watchedFolders))
+    , m_givenFolders(std::move(dependencies.watchedFolders))
     , m_catalogCache(std::move(dependencies.catalogCache))
+    , m_fontRegistrar(std::move(dependencies.fontRegistrar))
     , m_preferences(dependencies.preferences)
     , m_collectionStore(m_preferences)
     , m_styleStore(m_preferences)
     , m_displaySettingsStore(m_preferences)
     , m_foundryStore(m_preferences)
     , m_organizationStore(m_preferences, m_collectionStore, m_styleStore, m_foundryStore)
+    , m_watchedFolderStore(m_preferences)
     , m_catalog(std::make_shared<ReadyCatalog>())
     , m_organization(m_organizationStore, m_styleStore)
     , m_display(m_displaySettingsStore, m_selectedSource)
@@ -44,12 +47,20 @@ LorvaAppModel::LorvaAppModel(Dependencies dependencies, QObject *parent)
     m_pool.setMaxThreadCount(1);
     m_quietPool.setObjectName(QStringLiteral("vantrel.lorva.model-quiet"));
     m_quietPool.setMaxThreadCount(1);
+    m_folderPool.setObjectName(QStringLiteral("vantrel.lorva.model-folders"));
     m_undoStack.setUndoLimit(kUndoLimit);
     m_catalogReconcileTask.setSingleShot(true);
     m_catalogReconcileTask.setInterval(kReconcileDelay);
-    connect(&m_catalogReconcileTask, &QTimer::timeout, this, &LorvaAppModel::loadCatalog);
+    connect(&m_catalogReconcileTask, &QTimer::timeout, this, &LorvaAppModel::reconcileCatalog);
+    if (dependencies.folderWatcher) {
+        m_libraryWatcher = std::make_unique<LibraryWatcher>(std::move(dependencies.folderWatcher),
+                                                            std::move(dependencies.folders));
+        connect(m_libraryWatcher.get(), &LibraryWatcher::libraryChanged, this,
+                &LorvaAppModel::requestCatalogReconcile);
+    }
 
     readSidebar();
+    readWatchedFolders();
     LogoStore(m_preferences).migrate(m_displaySettingsStore);
     m_display.reload();
     auto *watcher = new PreferenceWatcher(m_preferences, this);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "install/WatchedFolderStore.h"
 #include "model/LibraryOrganization.h"
 #include "model/ReadyCatalog.h"
 #include "model/records/BrowserSource.h"
@@ -14,6 +15,8 @@
 #include "model/stores/StyleStore.h"
 #include "model/VisibleFamilies.h"
 #include "model/WatchedFolderProvider.h"
+#include "platform/FolderWatcher.h"
+#include "platform/PlatformFolders.h"
 
 #include <QObject>
 #include <QThreadPool>
@@ -22,10 +25,23 @@
 
 #include <chrono>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 
 namespace lorva {
+
+class FontRegistrar;
+class LibraryWatcher;
+
+/// What became of adding watched folders.
+struct AddedFolders
+{
+    /// Those that were not in the list already.
+    std::vector<WatchedFolder> records;
+    /// By the path that was handed in.
+    std::map<FilePath, Error> failures;
+};
 
 /// The one object that holds the library and what the user chose about it.
 ///
@@ -33,9 +49,11 @@ namespace lorva {
 /// and is told by onChange and changeNotification(). What other processes change in the stores is
 /// noticed and shown likewise.
 ///
-/// Owns: the library service, the activation provider, the watched folders and the snapshot cache
-/// it is given, and the stores. Views hold it without owning it. Thread: main. Generations only
-/// grow while the process lives.
+/// What changes in the library's folders is noticed, and asks for a new scan.
+///
+/// Owns: the library service, the activation provider, the watched folders, the folder watcher and
+/// the snapshot cache it is given, and the stores. Views hold it without owning it. Thread: main.
+/// Generations only grow while the process lives.
 class LorvaAppModel final : public QObject
 {
     Q_OBJECT
@@ -53,10 +71,16 @@ public:
         std::unique_ptr<ActivationProvider> installationService;
         /// Outlives the model.
         PreferenceStore &preferences;
-        /// Null: there are none.
+        /// Folders besides the user's own; null: there are none.
         std::unique_ptr<WatchedFolderProvider> watchedFolders = nullptr;
         /// Null: no library is remembered from start to start.
         std::unique_ptr<CatalogCache> catalogCache = nullptr;
+        /// Where fonts lie besides the watched folders.
+        PlatformFolders folders = {};
+        /// Null: changes in folders are not noticed.
+        std::unique_ptr<FolderWatcher> folderWatcher = nullptr;
+        /// From which the fonts of a removed folder are withdrawn; null: nothing was registered.
+        std::shared_ptr<FontRegistrar> fontRegistrar = nullptr;
     };
 
     explicit LorvaAppModel(Dependencies dependencies, QObject *parent = nullptr);
@@ -74,6 +98,9 @@ public:
     void loadCatalog();
     /// loadCatalog() when nobody has asked for kReconcileDelay: for what may come in bursts.
     void requestCatalogReconcile();
+    /// The user is back: looks anew which families are switched on, and at the library's folders
+    /// where changes may have gone unnoticed. Returns at once.
+    void becomeActive();
     /// Looks anew which families are switched on, as a load does at its end; does nothing while one
     /// runs. Returns at once.
     void reconcileActivation();
@@ -92,7 +119,20 @@ public:
     const FontFamilyRecord *family(const QString &name) const;
     /// Families that belong together under another name. Nothing fills it.
     const QHash<QString, QString> &superFamilyMap() const { return m_superFamilyMap; }
+    /// As it was found last; nothing while that is being worked out, and for a family that the user
+    /// cannot switch.
     std::optional<FontFamilyActivation> activation(const FontFamilyRecord &family) const;
+
+    // The watched folders
+
+    /// In the user's order. A folder that is away stays.
+    const std::vector<WatchedFolder> &watchedFolders() const { return m_watchedFolders; }
+    /// Adds folders, by whatever path, that are not in the list yet, and scans. Folders are looked
+    /// at on a worker; `done` is called when the list is written and the scan has begun.
+    void addWatchedFolders(std::vector<FilePath> folders, std::function<void(AddedFolders)> done);
+    /// Takes the folder out of the list and its fonts out of this process, and scans. Fails with
+    /// notFound.
+    Result<void> removeWatchedFolder(const QString &id);
 
     // What is shown
 
@@ -232,6 +272,11 @@ private:
     void applyCatalog(FontCatalogResult result);
     void finishLoad(const Catalog &catalog);
     void endLoad();
+    void reconcileCatalog();
+    bool readWatchedFolders();
+    std::vector<FilePath> foldersToScan() const;
+    AddedFolders addResolved(const std::vector<FilePath> &order,
+                             const std::map<FilePath, Result<FilePath>> &resolved);
     void installCatalog(Catalog catalog);
     void finishClassification(const Catalog &catalog);
     void saveSnapshot();
@@ -251,17 +296,23 @@ private:
 
     std::unique_ptr<FontLibraryService> m_fontLibraryService;
     std::unique_ptr<ActivationProvider> m_installationService;
-    std::unique_ptr<WatchedFolderProvider> m_watchedFolders;
+    std::unique_ptr<WatchedFolderProvider> m_givenFolders;
     std::unique_ptr<CatalogCache> m_catalogCache;
+    const std::shared_ptr<FontRegistrar> m_fontRegistrar;
+    /// Null: changes in folders are not noticed.
+    std::unique_ptr<LibraryWatcher> m_libraryWatcher;
     PreferenceStore &m_preferences;
     CollectionStore m_collectionStore;
     StyleStore m_styleStore;
     DisplaySettingsStore m_displaySettingsStore;
     FoundryStore m_foundryStore;
     OrganizationStore m_organizationStore;
+    WatchedFolderStore m_watchedFolderStore;
     QThreadPool m_pool;
     /// For what nobody waits for.
     QThreadPool m_quietPool;
+    /// For looks at folders that may hang.
+    QThreadPool m_folderPool;
 
     /// Never null.
     Catalog m_catalog;
@@ -275,6 +326,9 @@ private:
     bool m_isLoading = false;
     /// Its result is installed, but for which families are switched on.
     bool m_loadAwaitsActivations = false;
+    /// Something has changed that it may not have seen.
+    bool m_loadIsOutdated = false;
+    std::chrono::system_clock::time_point m_scanBegan{};
     QString m_loadingText;
     qint64 m_loadGeneration = 0;
     qint64 m_catalogGeneration = 0;
@@ -283,6 +337,7 @@ private:
     qint64 m_activationRun = 0;
     QTimer m_catalogReconcileTask;
 
+    std::vector<WatchedFolder> m_watchedFolders;
     LibraryOrganization m_organization;
     QUndoStack m_undoStack;
     QHash<QString, QString> m_superFamilyMap;

@@ -7,6 +7,7 @@
 
 #include "base/RunThen.h"
 #include "base/Trace.h"
+#include "model/LibraryWatcher.h"
 #include "platform/FreeMemory.h"
 #include "platform/ThreadPriority.h"
 
@@ -19,10 +20,12 @@ namespace lorva {
 void LorvaAppModel::loadCatalog()
 {
     m_catalogReconcileTask.stop();
+    m_loadIsOutdated = false;
     m_isLoading = true;
     m_loadAwaitsActivations = false;
     m_loadingText.clear();
     const qint64 generation = ++m_loadGeneration;
+    m_installationService->setWatchedFolders(foldersToScan());
     changed();
     if (m_catalogCache && !std::exchange(m_snapshotWasRead, true))
         showSnapshot(generation);
@@ -35,11 +38,19 @@ void LorvaAppModel::requestCatalogReconcile()
     m_catalogReconcileTask.start();
 }
 
+/// A load that runs is let end: folders in which something changes all the time would never show.
+void LorvaAppModel::reconcileCatalog()
+{
+    m_loadIsOutdated = m_isLoading;
+    if (m_isLoading)
+        return;
+    readWatchedFolders();
+    loadCatalog();
+}
+
 /// The scan waits for that: on two cores it would only delay the first picture.
 void LorvaAppModel::showSnapshot(qint64 generation)
 {
-    if (m_watchedFolders)
-        m_installationService->setWatchedFolders(m_watchedFolders->resolvedFolders());
     const auto read = [cache = m_catalogCache.get(), service = m_fontLibraryService.get()](
                           const std::stop_token &) { return readSnapshot(*cache, *service); };
     runThen(m_pool, this, read, [this, generation](Catalog catalog) {
@@ -86,8 +97,9 @@ void LorvaAppModel::indexSnapshot()
 
 void LorvaAppModel::scan(qint64 generation)
 {
+    m_scanBegan = std::chrono::system_clock::now();
     m_fontLibraryService->loadCatalog(
-        m_watchedFolders ? m_watchedFolders->resolvedFolders() : std::vector<FilePath>(),
+        foldersToScan(),
         [this, generation](const FontScanPhase &phase) {
             if (generation != m_loadGeneration)
                 return;
@@ -149,6 +161,10 @@ void LorvaAppModel::endLoad()
     traceMoment("catalog applied");
     changed();
     saveSnapshot();
+    if (m_libraryWatcher)
+        m_libraryWatcher->watch(foldersToScan(), m_scanBegan);
+    if (std::exchange(m_loadIsOutdated, false))
+        requestCatalogReconcile();
 }
 
 void LorvaAppModel::installCatalog(Catalog catalog)
@@ -201,7 +217,18 @@ const FontFamilyRecord *LorvaAppModel::family(const QString &name) const
 
 std::optional<FontFamilyActivation> LorvaAppModel::activation(const FontFamilyRecord &family) const
 {
-    return m_installationService->state()->activation(family);
+    // Not asked of the service: it may have to look at the disk.
+    if (!m_index || !m_activations)
+        return std::nullopt;
+    const std::optional<quint32> place = m_index->place(family.familyName);
+    return place ? (*m_activations)[*place] : std::nullopt;
+}
+
+void LorvaAppModel::becomeActive()
+{
+    reconcileActivation();
+    if (m_libraryWatcher && !m_isLoading && !m_libraryWatcher->isComplete())
+        requestCatalogReconcile();
 }
 
 void LorvaAppModel::reconcileActivation()
@@ -217,7 +244,7 @@ void LorvaAppModel::reconcileActivation()
 
 void LorvaAppModel::activationMayHaveChanged()
 {
-    // Cards show it at once; the sources Active and Inactive follow from a worker.
+    // A worker finds which they are now; cards and sources follow.
     ++m_activationGeneration;
     changed();
     refreshActivations();

@@ -57,13 +57,17 @@ void LorvaAppModel::membershipChanged()
 
 void LorvaAppModel::takeChangesElsewhere()
 {
+    m_installationService->takeChangesElsewhere();
+    const bool areFoldersOther = readWatchedFolders();
+    if (areFoldersOther)
+        requestCatalogReconcile();
     const auto sidebar = [this] { return std::pair(m_collapsedGroups, m_hidesQuizPromoInSidebar); };
     const auto sidebarBefore = sidebar();
     readSidebar();
     const bool isDisplayOther = m_display.reload();
     if (m_organization.reload())
         membershipChanged();
-    else if (isDisplayOther || sidebar() != sidebarBefore)
+    else if (areFoldersOther || isDisplayOther || sidebar() != sidebarBefore)
         changed();
 }
 

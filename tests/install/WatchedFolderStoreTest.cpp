@@ -67,6 +67,17 @@ TEST(WatchedFolderStore, TakesDamagedListsForEmptyAndKeepsThem)
     }
 }
 
+/// Those that there are, as a caller finds them.
+std::vector<FilePath> resolved(const std::vector<FilePath> &folders)
+{
+    std::vector<FilePath> out;
+    for (const FilePath &folder : folders) {
+        if (const Result<FilePath> path = resolvedFolder(folder))
+            out.push_back(*path);
+    }
+    return out;
+}
+
 TEST(WatchedFolderStore, AddsEachFolderThatIsThereOnce)
 {
     const FilePath root = test::makeCaseFolder();
@@ -81,11 +92,12 @@ TEST(WatchedFolderStore, AddsEachFolderThatIsThereOnce)
 
     ReplayingPreferences preferences;
     WatchedFolderStore store(preferences);
-    const auto added = store.add({link, one, root.child("gone"), file, bytes});
+    const auto added = store.add(resolved({link, one, root.child("gone"), file, bytes}));
     EXPECT_THAT(pathsOf(added), ElementsAre(one));
     EXPECT_FALSE(QUuid::fromString(added.at(0).id).isNull());
     EXPECT_EQ(added.at(0).bookmark, QByteArray());
-    EXPECT_THAT(pathsOf(store.add({FilePath(two.bytes() + "/../one/"), two})), ElementsAre(two));
+    EXPECT_THAT(pathsOf(store.add(resolved({FilePath(two.bytes() + "/../one/"), two}))),
+                ElementsAre(two));
     EXPECT_THAT(pathsOf(store.load()), ElementsAre(one, two));
     EXPECT_EQ(resolvedFolder(root.child("gone")).error().kind, ErrorKind::notFound);
     EXPECT_EQ(resolvedFolder(file).error().kind, ErrorKind::notRegularFile);

@@ -17,18 +17,6 @@ namespace {
 using test::LibraryFixture;
 using ::testing::ElementsAre;
 
-FontFamilyRecord familyWith(const std::vector<const char *> &files)
-{
-    FontFamilyRecord family{QStringLiteral("F"), {}, {}, {}, {}};
-    for (const char *file : files) {
-        FontStyleRecord style;
-        if (file)
-            style.fileURL = FilePath(QByteArray(file));
-        family.styles.push_back(style);
-    }
-    return family;
-}
-
 TEST(LorvaAppModel, ShowsALoadedCatalogSortedAsPeopleSort)
 {
     LibraryFixture library;
@@ -132,28 +120,6 @@ TEST(LorvaAppModel, PointSizesStayWithinReason)
         library.model->setPointSize(row.wanted);
         EXPECT_EQ(library.model->browserPointSize(), row.kept) << row.wanted;
     }
-}
-
-TEST(CatalogActivation, TellsWhatTheSystemOffersFromWhatIsOnlyWatched)
-{
-    PlatformFolders folders;
-    folders.userFonts = FilePath("/home/u/.local/share/fonts");
-    folders.allUsersFonts = FilePath("/usr/local/share/fonts");
-    folders.systemFonts = {FilePath("/usr/share/fonts")};
-    CatalogActivation activation(folders);
-    activation.setWatchedFontURLs({FilePath("/w/a.ttf"), FilePath("/usr/share/fonts/x.ttf")});
-
-    const auto inactive = FontFamilyActivation::inactive();
-    const auto active = FontFamilyActivation::active(std::nullopt, false);
-    const auto mixed = FontFamilyActivation::active(std::nullopt, true);
-    EXPECT_EQ(activation.state()->activation(familyWith({"/w/a.ttf"})), inactive);
-    EXPECT_EQ(activation.state()->activation(familyWith({"/usr/share/fonts/x.ttf"})), active)
-        << "watching a system folder switches nothing off";
-    EXPECT_EQ(activation.state()->activation(familyWith({"/opt/y.ttf"})), active);
-    EXPECT_EQ(activation.state()->activation(familyWith({"/opt/y.ttf", "/w/a.ttf"})), mixed);
-    EXPECT_EQ(activation.state()->activation(familyWith({nullptr, "/w/a.ttf"})), inactive);
-    EXPECT_EQ(activation.state()->activation(familyWith({nullptr})), std::nullopt);
-    EXPECT_EQ(activation.state()->activation(familyWith({})), std::nullopt);
 }
 
 } // namespace

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "model/CatalogActivation.h"
+#include "install/FontInstallationService.h"
 #include "model/LorvaAppModel.h"
+#include "platform/linux/DesktopTrash.h"
+#include "platform/linux/LinkFolderRegistrar.h"
 #include "platform/MemoryPreferenceStore.h"
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
@@ -31,7 +33,9 @@ public:
                                     std::stop_token stop) const override
     {
         std::unique_lock lock(m_mutex);
+        m_isAsked = true;
         m_changed.wait(lock, std::move(stop), [this] { return !m_isHeld; });
+        m_isAsked = false;
         return m_published;
     }
     /// Scans wait from now on, until letGo().
@@ -39,6 +43,12 @@ public:
     {
         const std::lock_guard lock(m_mutex);
         m_isHeld = true;
+    }
+    /// A scan waits; it has been through the watched folders.
+    bool isAsked() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_isAsked;
     }
     void letGo()
     {
@@ -51,6 +61,7 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable_any m_changed;
     bool m_isHeld = false;
+    mutable bool m_isAsked = false;
     std::vector<FilePath> m_published;
 };
 
@@ -80,14 +91,21 @@ private:
 struct LibraryFixture
 {
     std::shared_ptr<FolderFonts> fonts = std::make_shared<FolderFonts>();
+    /// The system's fonts instead of those, for new models; may be null.
+    std::shared_ptr<AvailableFonts> otherFonts;
     std::shared_ptr<FixtureSystemFont> systemFont = std::make_shared<FixtureSystemFont>();
     std::unique_ptr<PreferenceStore> preferences = std::make_unique<MemoryPreferenceStore>();
     std::shared_ptr<std::vector<FilePath>> watchedFolders =
         std::make_shared<std::vector<FilePath>>();
-    /// Asked for each new model.
-    std::function<std::unique_ptr<ActivationProvider>()> makeActivation = [] {
-        return std::make_unique<CatalogActivation>(PlatformFolders());
-    };
+    PlatformFolders folders = fixtureFolders();
+    std::shared_ptr<FontRegistrar> registrar =
+        std::make_shared<LinkFolderRegistrar>(folders.registeredLinks());
+    /// Asked for each new model; null: the real service.
+    std::function<std::unique_ptr<ActivationProvider>()> makeActivation;
+    /// The service of the present model, unless makeActivation makes another one.
+    FontInstallationService *installation = nullptr;
+    /// Asked for each new model; null: folders are not watched.
+    std::function<std::unique_ptr<FolderWatcher>()> makeWatcher;
     std::unique_ptr<LorvaAppModel> model;
 
     LibraryFixture()
@@ -105,7 +123,8 @@ struct LibraryFixture
         model.reset();
         if (otherPreferences)
             preferences = std::move(otherPreferences);
-        FontLibraryService::Dependencies dependencies{fonts, systemFont};
+        folders.applicationSupport = folder;
+        FontLibraryService::Dependencies dependencies{otherFonts ? otherFonts : fonts, systemFont};
         dependencies.cacheFileURL = folder.child("parse-cache.json");
         makeModel(std::move(dependencies),
                   std::make_unique<CatalogCache>(folder.child("catalog.json")));
@@ -115,9 +134,31 @@ struct LibraryFixture
                    std::unique_ptr<CatalogCache> catalogCache)
     {
         model = std::make_unique<LorvaAppModel>(LorvaAppModel::Dependencies{
-            std::make_unique<FontLibraryService>(std::move(dependencies)), makeActivation(),
-            *preferences, std::make_unique<ListedFolders>(watchedFolders),
-            std::move(catalogCache)});
+            std::make_unique<FontLibraryService>(std::move(dependencies)),
+            makeActivation ? makeActivation() : makeInstallation(), *preferences,
+            std::make_unique<ListedFolders>(watchedFolders), std::move(catalogCache), folders,
+            makeWatcher ? makeWatcher() : nullptr, registrar});
+    }
+
+    std::unique_ptr<ActivationProvider> makeInstallation()
+    {
+        auto made = std::make_unique<FontInstallationService>(
+            std::make_unique<FontInstallationStore>(*preferences),
+            FontInstallationService::Dependencies{folders, registrar,
+                                                  std::make_shared<DesktopTrash>()});
+        installation = made.get();
+        return made;
+    }
+
+    /// The built fonts are the system's.
+    static PlatformFolders fixtureFolders()
+    {
+        const TestHome &home = TestHome::instance();
+        return {home.home(),
+                home.userFonts(),
+                home.root().child("all-users"),
+                {home.root().child("library"), home.systemFonts()},
+                home.root().child("support")};
     }
 
     FilePath addFamily(const QString &name, const std::u32string &characters = U"Aa 123")

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+// The user's watched folders. Only workers look at the disk: a volume that does not answer would
+// stop the window.
+
+#include "model/LorvaAppModel.h"
+
+#include "base/RunThen.h"
+#include "install/WatchedFontRegistrar.h"
+#include "platform/FontRegistrar.h"
+
+#include <algorithm>
+
+namespace lorva {
+
+/// True if it is another list than before.
+bool LorvaAppModel::readWatchedFolders()
+{
+    std::vector<WatchedFolder> stored = m_watchedFolderStore.load();
+    return std::exchange(m_watchedFolders, stored) != stored;
+}
+
+/// The stored ones, then those of this run, each once.
+std::vector<FilePath> LorvaAppModel::foldersToScan() const
+{
+    std::vector<FilePath> folders;
+    const auto take = [&](FilePath folder) {
+        if (!folder.bytes().isEmpty() && !std::ranges::count(folders, folder))
+            folders.push_back(std::move(folder));
+    };
+    for (const WatchedFolder &folder : m_watchedFolders)
+        take(folderURL(folder));
+    if (m_givenFolders)
+        std::ranges::for_each(m_givenFolders->resolvedFolders(), take);
+    return folders;
+}
+
+void LorvaAppModel::addWatchedFolders(std::vector<FilePath> folders,
+                                      std::function<void(AddedFolders)> done)
+{
+    using Resolved = std::map<FilePath, Result<FilePath>>;
+    const auto resolve = [folders = std::move(folders)](const std::stop_token &) {
+        Resolved resolved;
+        for (const FilePath &folder : folders)
+            resolved.emplace(folder, resolvedFolder(folder));
+        return std::pair(folders, std::move(resolved));
+    };
+    runThen(
+        m_folderPool, this, resolve,
+        [this, done = std::move(done)](const std::pair<std::vector<FilePath>, Resolved> &found) {
+            AddedFolders added = addResolved(found.first, found.second);
+            // Also for folders that were in the list: whoever adds them wants to see them.
+            if (added.failures.size() < found.second.size())
+                loadCatalog();
+            if (done)
+                done(std::move(added));
+        });
+}
+
+AddedFolders LorvaAppModel::addResolved(const std::vector<FilePath> &order,
+                                        const std::map<FilePath, Result<FilePath>> &resolved)
+{
+    AddedFolders added;
+    std::vector<FilePath> wanted;
+    for (const FilePath &folder : order) {
+        const Result<FilePath> &path = resolved.at(folder);
+        if (!path)
+            added.failures.emplace(folder, path.error());
+        else if (!path->isUtf8())
+            added.failures.emplace(
+                folder,
+                Error{ErrorKind::invalidValue,
+                      QStringLiteral("%1 is no UTF-8 text and cannot be kept in the preferences")
+                          .arg(path->displayText())});
+        else
+            wanted.push_back(*path);
+    }
+    added.records = m_watchedFolderStore.add(wanted);
+    readWatchedFolders();
+    return added;
+}
+
+Result<void> LorvaAppModel::removeWatchedFolder(const QString &id)
+{
+    const std::optional<WatchedFolder> removed = m_watchedFolderStore.remove(id);
+    readWatchedFolders();
+    if (!removed)
+        return failure(ErrorKind::notFound,
+                       QStringLiteral("there is no watched folder with the id %1").arg(id));
+    if (m_fontRegistrar) {
+        const auto withdraw = [folder = folderURL(*removed),
+                               registrar = m_fontRegistrar](const std::stop_token &stop) {
+            WatchedFontRegistrar().unregisterFonts({folder}, *registrar, stop);
+            return true;
+        };
+        runThen(m_folderPool, this, withdraw, [](bool) {});
+    }
+    loadCatalog();
+    return {};
+}
+
+} // namespace lorva
