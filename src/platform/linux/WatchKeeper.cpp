@@ -142,9 +142,9 @@ void WatchKeeper::place(const FilePath &folder)
 /// What came or went before the reader knew whom the watch is for, nobody will tell.
 bool WatchKeeper::isSettled(const FilePath &folder, const WatchBook::Place &place)
 {
-    if (place.path == folder)
-        return addWatch(folder) == place.watch;
-    return addWatch(nextTowards(place.path, folder)) < 0;
+    if (addWatch(place.path) != place.watch)
+        return false;
+    return place.path == folder || addWatch(nextTowards(place.path, folder)) < 0;
 }
 
 WatchBook::Place WatchKeeper::nearestPlace(const FilePath &folder)
