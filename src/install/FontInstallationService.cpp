@@ -65,14 +65,6 @@ InstallationResult failed(const std::vector<FilePath> &files, const Error &why)
     return result;
 }
 
-/// Families whose method is not known yet get none: reconcile finds it.
-void noteMethod(const QStringList &families, std::optional<InstallMethod> method,
-                InstallationResult &result)
-{
-    for (const QString &family : families)
-        result.changes.methods[family] = method;
-}
-
 } // namespace
 
 FontInstallationService::FontInstallationService(std::unique_ptr<FontInstallationStore> store,
@@ -228,10 +220,19 @@ QStringList FontInstallationService::takeOff(std::vector<FontFamilyRecord> &fami
     return names;
 }
 
-void FontInstallationService::run(const QStringList &names, const std::vector<FilePath> &files,
-                                  Job job, Done done)
+void FontInstallationService::run(std::vector<FontFamilyRecord> families,
+                                  std::optional<InstallMethod> method, Work work, Done done)
 {
+    const QStringList names = takeOff(families);
+    const std::vector<FilePath> files = filesOf(families);
+    Job job;
     job.patience = kPatience;
+    job.work = [files, names, method, work = std::move(work)](const InstallationTools &tools) {
+        InstallationResult result = work(files, tools);
+        for (const QString &name : names)
+            result.changes.methods[name] = method;
+        return result;
+    };
     job.workWithoutLock = [files](const Error &why) { return failed(files, why); };
     job.end = [this, names, done = std::move(done)](InstallationOutcome outcome, bool) {
         for (const QString &name : names)
@@ -246,42 +247,23 @@ void FontInstallationService::run(const QStringList &names, const std::vector<Fi
 
 void FontInstallationService::activateByCopying(std::vector<FontFamilyRecord> families, Done done)
 {
-    const QStringList names = takeOff(families);
-    const std::vector<FilePath> files = filesOf(families);
-    Job job;
-    job.work = [files, names](const InstallationTools &tools) {
-        InstallationResult result = copyToFontsFolder(files, tools);
-        noteMethod(names, InstallMethod::copy, result);
-        return result;
-    };
-    run(names, files, std::move(job), std::move(done));
+    run(std::move(families), InstallMethod::copy, copyToFontsFolder, std::move(done));
 }
 
 void FontInstallationService::activateInPlace(std::vector<FontFamilyRecord> families, Done done)
 {
-    const QStringList names = takeOff(families);
-    const std::vector<FilePath> files = filesOf(families);
-    Job job;
-    job.work = [files, names](const InstallationTools &tools) {
-        InstallationResult result = registerInPlace(files, tools);
-        noteMethod(names, InstallMethod::registerInPlace, result);
-        return result;
-    };
-    run(names, files, std::move(job), std::move(done));
+    run(std::move(families), InstallMethod::registerInPlace, lorva::registerInPlace,
+        std::move(done));
 }
 
 void FontInstallationService::deactivate(std::vector<FontFamilyRecord> families,
                                          std::optional<FilePath> destination, Done done)
 {
-    const QStringList names = takeOff(families);
-    const std::vector<FilePath> files = filesOf(families);
-    Job job;
-    job.work = [files, names, destination](const InstallationTools &tools) {
-        InstallationResult result = withdraw(files, destination, tools);
-        noteMethod(names, std::nullopt, result);
-        return result;
+    const auto work = [destination = std::move(destination)](const std::vector<FilePath> &files,
+                                                             const InstallationTools &tools) {
+        return withdraw(files, destination, tools);
     };
-    run(names, files, std::move(job), std::move(done));
+    run(std::move(families), std::nullopt, work, std::move(done));
 }
 
 void FontInstallationService::batchRegister(std::vector<FilePath> files,

@@ -16,6 +16,8 @@ namespace lorva {
 
 class FontRegistrar;
 class RunLock;
+struct InstallationResult;
+struct InstallationTools;
 class Trash;
 
 /// Switches fonts on for the whole system and off again, and knows which are.
@@ -82,6 +84,9 @@ public:
     void takeChangesElsewhere() override;
 
 private:
+    /// Does something to files on a worker.
+    using Work = std::function<InstallationResult(const std::vector<FilePath> &files,
+                                                  const InstallationTools &tools)>;
     struct Job;
     /// What a worker hands back.
     struct Ended;
@@ -90,7 +95,8 @@ private:
     void beginNext();
     void work(Job job, Result<std::shared_ptr<RunLock>> lock);
     void finish(const Job &job, Ended ended, bool hasLock);
-    void run(const QStringList &names, const std::vector<FilePath> &files, Job job, Done done);
+    void run(std::vector<FontFamilyRecord> families, std::optional<InstallMethod> method, Work work,
+             Done done);
     QStringList takeOff(std::vector<FontFamilyRecord> &families);
     void setBooks(FontsFolderListing fontsFolder);
     ActivationBooks::Contents contents(FontsFolderListing fontsFolder) const;
