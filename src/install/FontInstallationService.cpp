@@ -266,7 +266,7 @@ void FontInstallationService::deactivate(std::vector<FontFamilyRecord> families,
     run(std::move(families), std::nullopt, work, std::move(done));
 }
 
-void FontInstallationService::batchRegister(std::vector<FilePath> files,
+void FontInstallationService::batchRegister(const std::vector<FilePath> &files,
                                             std::function<void(BatchRegistration)> done)
 {
     const auto batch = std::make_shared<BatchRegistration>();

@@ -74,7 +74,8 @@ public:
     void deactivate(std::vector<FontFamilyRecord> families, std::optional<FilePath> destination,
                     Done done);
     /// Registers all at once, without books, for whoever keeps them.
-    void batchRegister(std::vector<FilePath> files, std::function<void(BatchRegistration)> done);
+    void batchRegister(const std::vector<FilePath> &files,
+                       std::function<void(BatchRegistration)> done);
 
     /// Brings books and disk into line: drops registrations whose file has gone, makes those again
     /// that were lost, finishes the books of a run whose process died, and lets the methods say

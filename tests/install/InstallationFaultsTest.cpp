@@ -33,8 +33,8 @@ constexpr int kFiles = 3;
 class Machine
 {
 public:
-    explicit Machine(const FilePath &folder)
-        : root(folder)
+    explicit Machine(FilePath folder)
+        : root(std::move(folder))
         , folders(test::foldersBelow(root))
     {
         ::setenv("XDG_DATA_HOME", folders.applicationSupport.parent().c_str(), 1);
