@@ -19,6 +19,7 @@
 #include <cerrno>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace lorva::cli {
 
@@ -72,13 +73,35 @@ Result<QStringList> membersOf(const std::vector<QString> &collections, UserOrgan
     return members;
 }
 
+bool isFileHere(const QString &name)
+{
+    struct stat info;
+    return ::stat(name.toUtf8().constData(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
+Result<QStringList> typedFamilies(const QStringList &typed, const FamilyNames &known)
+{
+    QStringList found;
+    for (const QString &word : typed) {
+        Result<QStringList> family = known.find(QStringList(word), FamilyNames::Unknown::fails);
+        if (family) {
+            found += *family;
+            continue;
+        }
+        if (family.error().kind == ErrorKind::notFound && isFileHere(word))
+            family.error().detail += QStringLiteral("; the file of that name is ./%1").arg(word);
+        return family;
+    }
+    return found;
+}
+
 /// The request's families, those of its collections, or all.
 Result<QStringList> wantedFamilies(const ActivationRequest &request, const FamilyNames &known,
                                    const QStringList &all, UserOrganization &user)
 {
     if (request.isEmpty())
         return all;
-    Result<QStringList> wanted = known.find(request.families, FamilyNames::Unknown::fails);
+    Result<QStringList> wanted = typedFamilies(request.families, known);
     if (!wanted)
         return wanted;
     const Result<QStringList> members = membersOf(request.collections, user);
@@ -117,7 +140,9 @@ std::optional<QString> whyUnusable(const FilePath &file)
         return errno == ENOENT ? QStringLiteral("File not found")
                                : systemFailure(errno, "read", file).value().detail;
     if (S_ISDIR(info.st_mode))
-        return QStringLiteral("this is a folder; --folder takes in the fonts below it");
+        return QStringLiteral("this is a folder; name the font files in it");
+    if (::access(file.c_str(), R_OK) != 0)
+        return systemFailure(errno, "read", file).value().detail;
     return std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace lorva::cli {
@@ -41,6 +42,16 @@ bool breaksLine(char32_t c)
 bool writeError = false;
 
 } // namespace
+
+void keepStandardStreamsOpen()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // Opened the wrong way round, so that using it still fails.
+        const int wrongWay = stream == STDIN_FILENO ? O_WRONLY : O_RDONLY;
+        if (::fcntl(stream, F_GETFD) < 0 && ::open("/dev/null", wrongWay) < 0)
+            return;
+    }
+}
 
 QString singleLine(const QString &text)
 {

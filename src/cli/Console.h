@@ -15,6 +15,10 @@ namespace lorva::cli {
 /// What a command ends with.
 enum ExitCode { exitOk = 0, exitFailed = 1, exitUsage = 2 };
 
+/// Opens what the shell has closed ("lorvactl list >&-"): else a preference or font file might be
+/// given the number of standard output, and the output with it.
+void keepStandardStreamsOpen();
+
 /// Text fit for one line of a terminal: control characters, line separators and marks that turn the
 /// direction of what follows become escapes (\n, \t, \u{202e}); a backslash is doubled.
 QString singleLine(const QString &text);

@@ -1,9 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "cli/ActivationReport.h"
+#include "base/SystemError.h"
 #include "cli/Commands.h"
-#include "cli/Console.h"
-#include "cli/UserActivation.h"
+#include "cli/SwitchingCommand.h"
+#include "install/FolderEntries.h"
+#include "install/FontPlaces.h"
+
+#include <cerrno>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace lorva::cli {
 
@@ -34,162 +40,171 @@ constexpr char kHelp[] =
 
 using Class = FileActivationClass;
 
-Result<std::optional<FilePath>> givenDestination(const Arguments &arguments)
+/// The folder itself with links resolved, or the one that it is to be made in, however far up.
+FilePath existingFolder(FilePath folder)
+{
+    std::optional<FilePath> real = realPath(folder);
+    while (!real) {
+        folder = folder.parent();
+        real = realPath(folder);
+    }
+    return *std::move(real);
+}
+
+/// Said before anything is switched off, and by a dry run too.
+Result<void> checkDestination(const FilePath &destination, const PlatformFolders &folders)
+{
+    const FilePath existing = existingFolder(destination);
+    struct stat info;
+    if (::stat(existing.c_str(), &info) == 0 && !S_ISDIR(info.st_mode))
+        return failure(ErrorKind::invalidValue,
+                       QString(existing.displayText() % QStringLiteral(" is no folder")));
+    const FontPlaces places(folders);
+    // What is to be made in a folder that exists may be a Fonts folder as well.
+    for (const FilePath &folder : {existing, destination}) {
+        if (places.placeOf(folder.child("font")) != FontPlace::elsewhere)
+            return failure(ErrorKind::invalidValue,
+                           QStringLiteral("%1 lies in a Fonts folder, where fonts are active")
+                               .arg(destination.displayText()));
+    }
+    if (::access(existing.c_str(), W_OK | X_OK) != 0)
+        return systemFailure(errno, "write into", existing);
+    return {};
+}
+
+Result<std::optional<FilePath>> givenDestination(const Arguments &arguments,
+                                                 const PlatformFolders &folders)
 {
     const std::optional<QByteArray> word = arguments.value("--to");
     if (!word)
         return std::nullopt;
     if (word->isEmpty())
         return failure(ErrorKind::usage, QStringLiteral("--to needs the name of a folder"));
-    return FilePath::absolute(*word);
+    const FilePath destination = FilePath::absolute(*word);
+    if (const Result<void> checked = checkDestination(destination, folders); !checked)
+        return tl::unexpected(checked.error());
+    return destination;
 }
 
-bool isSwitchable(Class meaning)
+bool takesPart(const std::optional<FamilyActivationState> &state)
 {
-    return meaning == Class::copied || meaning == Class::registered;
+    return state && state->method;
 }
 
-/// The entry that would be removed may be the only copy there is. One that must not be removed
-/// fails in the run, with its own reason.
-bool mayBeOnlyCopy(const FilePath &file, const ActivationBooks &books)
+/// The entry that would be removed, if it may be the only copy there is. One that must not be
+/// removed fails in the run, with its own reason.
+std::optional<FilePath> onlyCopy(const FilePath &file, const ActivationBooks &books)
 {
     if (books.classify(file) != Class::copied)
-        return false;
+        return std::nullopt;
     const Result<FilePath> entry = books.fontsFolderEntry(file);
-    return entry && !books.contents().origins.contains(*entry);
+    const bool mayBeOnlyOne = entry && !books.contents().origins.contains(*entry);
+    return mayBeOnlyOne ? std::optional(*entry) : std::nullopt;
 }
 
-/// The families that take part, each with its styles whose files are to be switched off.
-std::vector<FontFamilyRecord> chosenFamilies(const ActivationSubjects &found,
-                                             const ActivationBooks &books, bool hasDestination,
-                                             FileReasons &failures)
+class DeactivateCommand final : public SwitchingCommand
 {
-    const QString reason =
-        QStringLiteral("Lorva didn't install it, so the original is not known; --to DIR moves it");
-    const auto isLeftAlone = [&](const FontStyleRecord &style) {
-        if (!style.fileURL || !isSwitchable(books.classify(*style.fileURL)))
-            return true;
-        if (hasDestination || !mayBeOnlyCopy(*style.fileURL, books))
-            return false;
-        failures.emplace(*style.fileURL, reason);
-        return true;
-    };
-    std::vector<FontFamilyRecord> chosen;
-    for (const ActivationSubject &each : found.subjects) {
-        const auto state = books.activationState(each.family);
-        if (!state || !state->method)
-            continue;
-        FontFamilyRecord family = each.family;
-        std::erase_if(family.styles, isLeftAlone);
-        if (!family.styles.empty())
-            chosen.push_back(std::move(family));
+public:
+    DeactivateCommand()
+        : SwitchingCommand("deactivate", kHelp, "--to")
+    {
     }
-    return chosen;
-}
 
-/// What becomes of each file, said before the books change.
-ActivationReport planned(const std::vector<FilePath> &files, const ActivationBooks &books,
-                         bool hasDestination)
-{
-    const QString removed = hasDestination ? QStringLiteral("moved") : QStringLiteral("trashed");
-    ActivationReport plan;
-    for (const FilePath &file : files) {
-        const bool isCopy = books.classify(file) == Class::copied;
-        const Result<FilePath> entry = isCopy ? books.fontsFolderEntry(file) : file;
-        if (entry)
-            plan.files.push_back({file, isCopy ? removed : QStringLiteral("withdrawn")});
-        else
-            plan.failures.emplace(file, entry.error().detail);
+protected:
+    Result<void> readOption(const Arguments &arguments, UserActivation &activation) override
+    {
+        Result<std::optional<FilePath>> given = givenDestination(arguments, activation.folders());
+        if (!given)
+            return tl::unexpected(given.error());
+        m_destination = *std::move(given);
+        return {};
     }
-    return plan;
-}
 
-void keepOnly(const std::vector<FilePath> &done, ActivationReport &plan)
-{
-    const QSet<FilePath> kept(done.begin(), done.end());
-    std::erase_if(plan.files,
-                  [&](const ActivationReport::File &each) { return !kept.contains(each.fileURL); });
-}
-
-QString nothingToDo(const QStringList &asked)
-{
-    return asked.size() == 1
-        ? QStringLiteral("No user-controllable active fonts in %1.").arg(asked.front())
-        : QStringLiteral("No user-controllable active fonts in the selection.");
-}
-
-/// Chooses, acts and prints.
-int deactivate(const ActivationSubjects &found, const ActivationRequest &request,
-               const std::optional<FilePath> &destination, UserActivation &activation)
-{
-    const std::shared_ptr<const ActivationBooks> books = activation.service().books();
-    FileReasons failures = found.unusableFiles;
-    std::vector<FontFamilyRecord> families =
-        chosenFamilies(found, *books, destination.has_value(), failures);
-    const std::vector<FilePath> files = filesOf(families);
-    ActivationReport report = planned(files, *books, destination.has_value());
-    report.isDryRun = request.isDryRun;
-    report.families = namesOf(families);
-    report.alsoFamilies = familiesSharing(files, report.families, found.catalog);
-    if (!request.isDryRun && !files.empty()) {
-        const auto outcome = activation.run([&](FontInstallationService::Done done) {
-            activation.service().deactivate(std::move(families), destination, std::move(done));
+    Families choose(const ActivationSubjects &found, const ActivationBooks &books,
+                    FileReasons &failures) const override
+    {
+        const QString reason = QStringLiteral(
+            "Lorva didn't install it, so the original is not known; --to DIR moves it");
+        return chosenFamilies(found, books, takesPart, [&](const FilePath &file) {
+            const Class meaning = books.classify(file);
+            if (meaning != Class::copied && meaning != Class::registered)
+                return false;
+            const std::optional<FilePath> only =
+                m_destination ? std::nullopt : onlyCopy(file, books);
+            if (only)
+                failures.emplace(*only, reason);
+            return !only;
         });
-        keepOnly(outcome.filesDone, report);
-        report.failures.clear();
+    }
+
+    void plan(const std::vector<FilePath> &files, const ActivationBooks &books,
+              ActivationReport &report) const override
+    {
+        addFates(files, fatesOf(files, books, report.failures), report);
+    }
+
+    void act(Families families, UserActivation &activation, ActivationReport &report) const override
+    {
+        FileReasons toldByTheRun;
+        const Fates fates = fatesOf(filesOf(families), *activation.service().books(), toldByTheRun);
+        const auto outcome = activation.run([&](FontInstallationService::Done done) {
+            activation.service().deactivate(std::move(families), m_destination, std::move(done));
+        });
+        addFates(outcome.filesDone, fates, report);
         addFailures(outcome.failures, report);
     }
-    report.failures.merge(failures);
-    return printReport(report, request.isJson, nothingToDo(found.names()));
-}
 
-Result<int> run(const Arguments &arguments)
-{
-    using Part = OrganizationPart;
-    const Result<ActivationRequest> request = activationRequest(arguments);
-    if (!request)
-        return tl::unexpected(request.error());
-    if (request->isEmpty())
-        return failure(ErrorKind::usage,
-                       QStringLiteral("deactivate needs a family, a file or --collection"));
-    const auto destination = givenDestination(arguments);
-    if (!destination)
-        return tl::unexpected(destination.error());
-    UserActivation activation(purposeOf(*request));
-    if (const auto checked = activation.checkChanged({Part::activation, Part::watchedFolders});
-        !checked)
-        return tl::unexpected(checked.error());
-    activation.reconcile();
-    const Result<ActivationSubjects> found = findSubjects(*request, activation);
-    if (!found)
-        return tl::unexpected(found.error());
-    const int code = deactivate(*found, *request, *destination, activation);
-    if (const Result<void> written = activation.finishWriting(); !written)
-        return tl::unexpected(written.error());
-    return code;
-}
+    QString nothingToDo(const QStringList &asked) const override
+    {
+        return asked.size() == 1
+            ? QStringLiteral("No user-controllable active fonts in %1.").arg(asked.front())
+            : QStringLiteral("No user-controllable active fonts in the selection.");
+    }
+
+private:
+    /// What goes for the sake of each file, and where: of an original its copy.
+    using Fates = std::map<FilePath, ActivationReport::File>;
+
+    Fates fatesOf(const std::vector<FilePath> &files, const ActivationBooks &books,
+                  FileReasons &failures) const
+    {
+        const QString removed = m_destination ? QStringLiteral("moved") : QStringLiteral("trashed");
+        Fates fates;
+        for (const FilePath &file : files) {
+            const bool isCopy = books.classify(file) == Class::copied;
+            const Result<FilePath> entry = isCopy ? books.fontsFolderEntry(file) : file;
+            if (entry)
+                fates.emplace(
+                    file,
+                    ActivationReport::File{*entry, isCopy ? removed : QStringLiteral("withdrawn")});
+            else
+                failures.emplace(file, entry.error().detail);
+        }
+        return fates;
+    }
+
+    /// A copy once, also when it was given together with its original.
+    static void addFates(const std::vector<FilePath> &files, const Fates &fates,
+                         ActivationReport &report)
+    {
+        QSet<FilePath> told;
+        for (const FilePath &file : files) {
+            const auto fate = fates.find(file);
+            if (fate == fates.end() || told.contains(fate->second.fileURL))
+                continue;
+            told.insert(fate->second.fileURL);
+            report.files.push_back(fate->second);
+        }
+    }
+
+    std::optional<FilePath> m_destination;
+};
 
 } // namespace
 
 int runDeactivateCommand(std::span<const QByteArray> words)
 {
-    using Value = OptionSpec::Value;
-    const Result<Arguments> arguments = Arguments::parse(words,
-                                                         {{"--help", Value::none},
-                                                          {"-h", Value::none},
-                                                          {"--json", Value::none},
-                                                          {"--dry-run", Value::none},
-                                                          {"--to"},
-                                                          {"--collection"},
-                                                          {"--folder"}});
-    if (!arguments)
-        return failUsage("deactivate", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
-    const Result<int> code = run(*arguments);
-    return code ? *code : fail("deactivate", code.error());
+    return DeactivateCommand().run(words);
 }
 
 } // namespace lorva::cli

@@ -14,14 +14,14 @@ namespace {
 constexpr char kHelp[] =
     "Usage: lorvactl status [OPTION]... [FAMILY|FILE]...\n"
     "\n"
-    "Tells what is available to every program, one line for each family: the name, a tab, \"active "
-    "\n"
-    "(copied)\", \"active (registered)\", \"active (system)\", \"partly active\" or \"inactive\". "
-    "Of families\n"
-    "that are named it tells of the files too, each on a line that begins with a tab: what it is\n"
-    "(copied, registered, inactive, system), a tab, the file; of copies then a tab, and where "
-    "they\n"
-    "came from. A word with a slash is a file; its families are then judged by that file alone.\n"
+    "Tells what is available to every program, one line for each family: the name, a tab,\n"
+    "\"active (copied)\", \"active (registered)\", \"active (system)\", \"partly active\" or\n"
+    "\"inactive\". Of families that are named it tells of the files too, each on a line that "
+    "begins\n"
+    "with a tab: what it is (copied, registered, inactive, system), a tab, the file; of copies "
+    "then\n"
+    "a tab, and where they came from; of originals that were copied a tab, and what is active for\n"
+    "them. A word with a slash is a file; its families are then judged by that file alone.\n"
     "\n"
     "  --collection NAME  the families of this collection; may be given more than once\n"
     "  --folder DIR       take in the fonts below DIR too; may be given more than once\n"
@@ -66,16 +66,22 @@ std::optional<FilePath> originOf(const FilePath &file, const ActivationBooks &bo
     return origin == origins.cend() ? std::nullopt : std::optional(*origin);
 }
 
+/// Of a copy where it came from, of an original where its copy is.
+QString originWords(const FilePath &file, const ActivationBooks &books)
+{
+    if (const Result<FilePath> entry = books.fontsFolderEntry(file); entry && *entry != file)
+        return QStringLiteral("as ") % singleLine(*entry);
+    const std::optional<FilePath> origin = originOf(file, books);
+    return origin ? QString(QStringLiteral("from ") % singleLine(*origin))
+                  : QStringLiteral("origin unknown");
+}
+
 void printFile(const FilePath &file, const ActivationBooks &books)
 {
     const FileActivationClass meaning = books.classify(file);
     QString line = u'\t' % classWord(meaning) % u'\t' % singleLine(file);
-    if (meaning == FileActivationClass::copied) {
-        const std::optional<FilePath> origin = originOf(file, books);
-        line += u'\t'
-            % (origin ? QString(QStringLiteral("from ") % singleLine(*origin))
-                      : QStringLiteral("origin unknown"));
-    }
+    if (meaning == FileActivationClass::copied)
+        line += u'\t' % originWords(file, books);
     printText(QString(line % u'\n'));
 }
 

@@ -67,6 +67,7 @@ constexpr Command kCommands[]{
 int main(int argc, char **argv)
 {
     using namespace lorva::cli;
+    keepStandardStreamsOpen();
     std::setlocale(LC_ALL, "");
     std::setlocale(LC_NUMERIC, "C");
     // A command says itself what failed, in one line. QT_LOGGING_RULES still brings the log back.

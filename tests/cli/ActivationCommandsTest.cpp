@@ -3,17 +3,15 @@
 #include "ActivationHome.h"
 #include "platform/PreferenceDatabase.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace lorva {
 namespace {
 
+using test::expect;
 using test::expectFailure;
 using test::lorvactl;
 using test::Outcome;
 using test::path;
+using test::TestHome;
 using testing::HasSubstr;
 
 class ActivationCommands : public test::ActivationHome
@@ -107,8 +105,7 @@ TEST_F(ActivationCommands, TellOfFamiliesThatShareAFile)
                                  FontBuilder("Two").postScriptName("Two-Regular").build()}));
     EXPECT_EQ(done({"activate", "One", "--method", "copy"}), line("copied", both) + "also\tTwo\n");
     EXPECT_TRUE(isListed("Two"));
-    const QJsonObject json =
-        QJsonDocument::fromJson(lorvactl({"deactivate", "Two", "--json"}).out).object();
+    const QJsonObject json = test::json({"deactivate", "Two"}).object();
     EXPECT_EQ(json["families"].toArray(), QJsonArray{"Two"});
     EXPECT_EQ(json["alsoFamilies"].toArray(), QJsonArray{"One"});
     EXPECT_EQ(json["files"].toArray()[0].toObject()["outcome"], "trashed");
@@ -136,6 +133,63 @@ TEST_F(ActivationCommands, KeepOnlyCopies)
     EXPECT_FALSE(isListed("Own"));
     EXPECT_EQ(test::readFile(to.child("Own-Regular.ttf")), "another");
     EXPECT_EQ(test::readFile(to.child("Own-Regular 2.ttf")), bytes);
+}
+
+TEST_F(ActivationCommands, RefuseDestinationsBeforeAnythingIsSwitched)
+{
+    const FilePath alpha = addFont(library, "Alpha");
+    done({"activate", "Alpha", "--method", "register"});
+    const FilePath link = root.child("link");
+    ASSERT_EQ(::symlink(fonts.c_str(), link.c_str()), 0);
+    const auto before = everything();
+    const std::pair<FilePath, const char *> refused[]{
+        {fonts, "lies in a Fonts folder"},
+        {link.child("new").child("er"), "link/new/er lies in a Fonts folder"},
+        {TestHome::instance().home().child(".fonts"), "lies in a Fonts folder"},
+        {alpha.child("new"), "Alpha-Regular.ttf is no folder"},
+    };
+    for (const auto &[folder, words] : refused) {
+        for (const QStringList &more : {QStringList(), {"--dry-run"}}) {
+            expectFailure(lorvactl(QStringList{"deactivate", "Alpha", "--to", path(folder)} + more),
+                          1, words);
+        }
+    }
+    EXPECT_EQ(everything(), before);
+}
+
+TEST_F(ActivationCommands, TakeNoFileOfTheirOwnForAClosedOutput)
+{
+    addFont(library, "Alpha");
+    expectFailure(test::shell("lorvactl activate Alpha --method register >&-"), 1,
+                  "cannot write the output: Bad file");
+    EXPECT_TRUE(isListed("Alpha"));
+}
+
+TEST_F(ActivationCommands, SayWhatTheUserMayNotDo)
+{
+    const FilePath alpha = addFont(library, "Alpha");
+    ::chmod(alpha.c_str(), 0);
+    for (const FilePath &folder : {TestHome::instance().home(), root, library})
+        ::chmod(folder.c_str(), 0755);
+    const FilePath empty = makeFolder("empty");
+    ::chmod(empty.c_str(), 0777);
+    qputenv("XDG_DATA_HOME", empty.bytes());
+    const test::AsOrdinaryUser user;
+    expect({
+        {{"status", path(alpha)}, "Alpha-Regular.ttf: cannot read", 1},
+        {{"deactivate", "Sys", "--to", path(library.child("new"))}, "cannot write into", 1},
+    });
+}
+
+TEST_F(ActivationCommands, TellOfTheCopyWhenItsOriginalIsGiven)
+{
+    const FilePath alpha = addFont(library, "Alpha");
+    const FilePath copy = fonts.child("Alpha-Regular.ttf");
+    done({"activate", path(alpha), "--method", "copy"});
+    EXPECT_THAT(done({"status", path(alpha)}), HasSubstr("\tas " + path(copy).toStdString()));
+    EXPECT_EQ(done({"deactivate", path(alpha), "--dry-run"}), line("would be trashed", copy));
+    EXPECT_EQ(done({"deactivate", path(alpha), path(copy)}), line("trashed", copy));
+    EXPECT_TRUE(exists(alpha));
 }
 
 TEST_F(ActivationCommands, NeverTakeANamesakeForTheFont)
@@ -221,23 +275,20 @@ TEST_F(ActivationCommands, StatusTellsFamiliesAndFiles)
               "Copied\tactive (copied)\n" + copyLine.substr(0, copyLine.size() - 1) + "\tfrom "
                   + copied.bytes().toStdString() + "\nOwn\tactive (copied)\n\tcopied\t"
                   + own.bytes().toStdString() + "\torigin unknown\n");
-    // By its source, too.
-    EXPECT_THAT(done({"status", path(copied)}), HasSubstr("\tfrom "));
     expectFailure(lorvactl({"status", path(library.child("gone.ttf"))}), 1, "File not found");
 
-    const QJsonArray json = QJsonDocument::fromJson(lorvactl({"status", "--json"}).out).array();
-    ASSERT_EQ(json.size(), 5);
-    const QJsonObject first = json[0].toObject();
-    EXPECT_EQ(first["method"], "copy");
-    const QJsonObject file = first["files"].toArray()[0].toObject();
+    const QJsonArray json = test::json({"status"}).array();
+    QStringList told;
+    for (const QJsonValue &each : json)
+        told.push_back(QStringLiteral("%1 %2 %3")
+                           .arg(each["method"].toString("-"))
+                           .arg(each["isActive"].toBool())
+                           .arg(each["isPartlyInactive"].toBool()));
+    EXPECT_EQ(told, (QStringList{"copy 1 0", "register 1 1", "- 0 0", "copy 1 0", "system 1 0"}));
+    EXPECT_EQ(json[1]["files"].toArray().size(), 2);
+    const QJsonValue file = json[0]["files"][0];
     EXPECT_EQ(file["class"], "copied");
     EXPECT_EQ(file["originURL"], QString::fromUtf8(copied.toUrl()));
-    EXPECT_EQ(json[1].toObject()["method"], "register");
-    EXPECT_EQ(json[1].toObject()["isPartlyInactive"], true);
-    EXPECT_EQ(json[1].toObject()["files"].toArray().size(), 2);
-    EXPECT_EQ(json[2].toObject()["isActive"], false);
-    EXPECT_TRUE(json[2].toObject()["method"].isNull());
-    EXPECT_EQ(json[4].toObject()["method"], "system");
 }
 
 TEST_F(ActivationCommands, MendWhatAKilledRunHasLeft)
@@ -253,25 +304,21 @@ TEST_F(ActivationCommands, MendWhatAKilledRunHasLeft)
 
 TEST_F(ActivationCommands, RefuseWhatTheyDoNotUnderstand)
 {
-    struct Case
-    {
-        QStringList arguments;
-        int exitCode;
-        const char *words;
-    };
-    for (const Case &each : {
-             Case{{"activate"}, 2, "needs a family, a file or --collection"},
-             {{"deactivate"}, 2, "needs a family, a file or --collection"},
-             {{"activate", "Sys", "--method", "link"}, 2, "--method takes copy or register"},
-             {{"activate", ""}, 2, "cannot be empty"},
-             {{"deactivate", "Sys", "--to", ""}, 2, "--to needs the name of a folder"},
-             {{"activate", "Sys", "--collection=", "--method=copy"}, 2, "no empty name"},
-             {{"activate", "Nope", "--method=copy"}, 1, "there is no family \"Nope\""},
-             {{"deactivate", "--collection", "Nope"}, 1, "there is no collection \"Nope\""},
-             {{"status", "Nope"}, 1, "there is no family \"Nope\""},
-             {{"status", "--folder", "/nowhere"}, 1, "there is no folder /nowhere"},
-         })
-        expectFailure(lorvactl(each.arguments), each.exitCode, each.words);
+    const FilePath here = addFont(TestHome::instance().home(), "Here");
+    expect({
+        {{"activate"}, "needs a family, a file or --collection", 2},
+        {{"deactivate"}, "needs a family, a file or --collection", 2},
+        {{"activate", "Sys", "--method", "link"}, "--method takes copy or register", 2},
+        {{"activate", ""}, "cannot be empty", 2},
+        {{"deactivate", "Sys", "--to", ""}, "--to needs the name of a folder", 2},
+        {{"activate", "Sys", "--collection=", "--method=copy"}, "no empty name", 2},
+        {{"activate", "Nope", "--method=copy"}, "there is no family \"Nope\"\n", 1},
+        {{"deactivate", "Here-Regular.ttf"}, "; the file of that name is ./Here-Regular.ttf", 1},
+        {{"deactivate", "--collection", "Nope"}, "there is no collection \"Nope\"", 1},
+        {{"status", "Nope"}, "there is no family \"Nope\"", 1},
+        {{"status", "--folder", "/nowhere"}, "there is no folder /nowhere", 1},
+    });
+    ::unlink(here.c_str());
     EXPECT_EQ(test::shell("lorvactl activate - --method=copy </dev/null").exitCode, 2);
 
     store("vantrel.merid.fontOrigins", {"stringDictionary", "["});

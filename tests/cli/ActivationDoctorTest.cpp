@@ -6,8 +6,6 @@
 namespace lorva {
 namespace {
 
-using test::lorvactl;
-using test::Outcome;
 using test::path;
 using testing::HasSubstr;
 using testing::Not;
@@ -15,14 +13,9 @@ using testing::Not;
 class ActivationDoctor : public test::ActivationHome
 {
 protected:
-    /// Runs it and checks that nothing has changed.
     std::string told(int exitCode) const
     {
-        const auto before = everything();
-        const Outcome outcome = lorvactl({"doctor"});
-        EXPECT_EQ(outcome.exitCode, exitCode) << outcome.out.constData();
-        EXPECT_EQ(everything(), before);
-        return outcome.out.toStdString();
+        return test::toldByDoctor(exitCode, [this] { return everything(); });
     }
     FilePath link() const
     {

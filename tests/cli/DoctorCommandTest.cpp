@@ -4,15 +4,10 @@
 #include "OrganizationHome.h"
 #include "platform/SqlitePreferenceStore.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace lorva {
 namespace {
 
 using test::lorvactl;
-using test::Outcome;
 using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
@@ -20,15 +15,9 @@ using testing::Not;
 class DoctorCommand : public test::OrganizationHome
 {
 protected:
-    /// Runs it and checks that nothing has changed.
     std::string told(int exitCode) const
     {
-        const auto before = files();
-        const Outcome outcome = lorvactl({"doctor"});
-        EXPECT_EQ(outcome.exitCode, exitCode) << outcome.out.constData();
-        EXPECT_EQ(outcome.error, "");
-        EXPECT_EQ(files(), before);
-        return outcome.out.toStdString();
+        return test::toldByDoctor(exitCode, [this] { return files(); });
     }
     FilePath preferences() const { return folder.child("preferences.sqlite"); }
 };
@@ -64,7 +53,7 @@ TEST_F(DoctorCommand, TellsWhatIsStored)
           "ok\t[^\t]*/catalog.json\t[0-9]+ bytes, 1 family\n",
           "note\torganisation\t2 of the 3 families"})
         EXPECT_THAT(text, ContainsRegex(line));
-    const QJsonObject json = QJsonDocument::fromJson(lorvactl({"doctor", "--json"}).out).object();
+    const QJsonObject json = test::json({"doctor"}).object();
     EXPECT_EQ(json["isWell"], true);
     EXPECT_EQ(json["findings"].toArray().size(), std::count(text.begin(), text.end(), '\n'));
     const QJsonObject first = json["findings"].toArray()[0].toObject();
@@ -92,8 +81,9 @@ TEST_F(DoctorCommand, TellsWhatCannotBeRead)
     };
     for (const Case &each : cases) {
         store(each.key, each.row);
-        EXPECT_THAT(told(1), HasSubstr(std::string("wrong\t") + each.key + '\t')) << each.key;
-        EXPECT_THAT(told(1), HasSubstr(each.words)) << each.key;
+        EXPECT_THAT(told(1),
+                    testing::AllOf(HasSubstr(std::string("wrong\t") + each.key + '\t'),
+                                   HasSubstr(each.words)));
         store(each.key, std::nullopt);
     }
     store("vantrel.merid.styles.unreadable.2", PreferenceRow{"later kind", "?"});

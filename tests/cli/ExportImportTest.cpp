@@ -9,6 +9,7 @@
 namespace lorva {
 namespace {
 
+using test::expect;
 using test::lorvactl;
 using test::Outcome;
 using test::path;

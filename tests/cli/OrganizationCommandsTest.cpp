@@ -8,6 +8,8 @@
 namespace lorva {
 namespace {
 
+using test::expect;
+using test::Expected;
 using test::lorvactl;
 using test::Outcome;
 using test::path;
@@ -197,36 +199,27 @@ TEST_F(OrganizationCommands, LoseNothingWhenManyRunAtOnce)
 TEST_F(OrganizationCommands, FailWhereTheyCannotWrite)
 {
     expect({{{"collections", "create", "Kept"}, ""}});
-    ::chmod(folder.child("preferences.sqlite").c_str(), 0444);
-    ::chmod(folder.c_str(), 0555);
-    {
-        const test::AsOrdinaryUser user;
-        expect({
-            {{"collections", "create", "Lost"}, "preferences.sqlite", 1},
-            {{"collections"}, "Kept\t0\n"},
-        });
-    }
-    ::chmod(folder.child("preferences.sqlite").c_str(), 0000);
-    {
-        const test::AsOrdinaryUser user;
-        expect({{{"collections"}, "preferences.sqlite", 1}});
-    }
-    ::chmod(folder.c_str(), 0000);
-    {
-        const test::AsOrdinaryUser user;
-        expect({{{"collections"}, "preferences.sqlite", 1}, {{"export"}, "preferences.sqlite", 1}});
-    }
-    ::chmod(folder.c_str(), 0755);
-    ::chmod(folder.child("preferences.sqlite").c_str(), 0644);
-    expect({{{"collections"}, "Kept\t0\n"}});
+    const FilePath file = folder.child("preferences.sqlite");
+    const Expected kept{{"collections"}, "Kept\t0\n"};
+    const Expected unreadable{{"collections"}, "preferences.sqlite", 1};
+    const auto expectFor = [&](mode_t folderMode, mode_t fileMode, const Expected &listed) {
+        ::chmod(file.c_str(), fileMode);
+        ::chmod(folder.c_str(), folderMode);
+        {
+            const test::AsOrdinaryUser user;
+            expect({{{"collections", "create", "Lost"}, "preferences.sqlite", 1}, listed});
+        }
+        ::chmod(folder.c_str(), 0755);
+        ::chmod(file.c_str(), 0644);
+        expect({kept});
+    };
+    expectFor(0555, 0444, kept);
+    expectFor(0555, 0000, unreadable);
+    expectFor(0000, 0000, unreadable);
 
-    auto other = SqliteConnection::open(folder.child("preferences.sqlite"),
-                                        SqliteConnection::Access::readWrite);
+    auto other = SqliteConnection::open(file, SqliteConnection::Access::readWrite);
     ASSERT_TRUE(other && other->run("BEGIN IMMEDIATE"));
-    expect({
-        {{"collections", "create", "Late"}, "preferences.sqlite", 1},
-        {{"collections"}, "Kept\t0\n"},
-    });
+    expect({{{"collections", "create", "Late"}, "preferences.sqlite", 1}, kept});
     ASSERT_TRUE(other->run("ROLLBACK"));
     expect(
         {{{"collections", "create", "In time"}, ""}, {{"collections"}, "In time\t0\nKept\t0\n"}});

@@ -13,15 +13,6 @@
 
 namespace lorva::test {
 
-/// What one run of lorvactl must give.
-struct Expected
-{
-    QStringList arguments;
-    /// All of the output; for a failure a part of the error.
-    const char *words = "";
-    int exitCode = 0;
-};
-
 /// A home of the case's own with six families of two foundries and no preferences yet.
 class OrganizationHome : public testing::Test
 {
@@ -57,21 +48,6 @@ protected:
         data = TestHome::instance().makeFolder(data.fileName() + "-2");
         folder = data.child("Lorva");
         qputenv("XDG_DATA_HOME", data.bytes());
-    }
-
-    static void expect(std::initializer_list<Expected> runs)
-    {
-        for (const Expected &run : runs) {
-            const Outcome outcome = lorvactl(run.arguments);
-            SCOPED_TRACE(run.arguments.join(u' ').toStdString());
-            if (run.exitCode != 0) {
-                expectFailure(outcome, run.exitCode, run.words);
-                continue;
-            }
-            EXPECT_EQ(outcome.exitCode, 0);
-            EXPECT_EQ(outcome.error, "");
-            EXPECT_EQ(outcome.out, run.words);
-        }
     }
 
     /// Nothing removes the key.

@@ -3,10 +3,6 @@
 #include "LorvactlSupport.h"
 #include "support/FontBuilder.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -42,12 +38,7 @@ protected:
     {
         return TestHome::instance().home().child(".local/share/Lorva/parse-cache.json");
     }
-    QJsonObject scan() const
-    {
-        const test::Outcome outcome = lorvactl({"scan", "--json", "--folder", path(folder)});
-        EXPECT_EQ(outcome.exitCode, 0) << outcome.error.constData();
-        return QJsonDocument::fromJson(outcome.out).object();
-    }
+    QJsonObject scan() const { return test::json({"scan", "--folder", path(folder)}).object(); }
 
     FilePath folder;
 };
@@ -147,10 +138,8 @@ TEST_F(ScanCommand, InfoTellsWhatAFamilyServes)
     EXPECT_THAT(text,
                 ContainsRegex("\nFamily Bar\n +Scripts: +latin, japanese\n"
                               " +Primary script: +japanese\n +Other name: +バー\n"));
-    const QJsonObject family = QJsonDocument::fromJson(lorvactl({"info", "--json", file}).out)
-                                   .object()["families"]
-                                   .toArray()[0]
-                                   .toObject();
+    const QJsonObject family =
+        test::json({"info", file}).object()["families"].toArray()[0].toObject();
     EXPECT_EQ(family["familyName"], QStringLiteral("Bar"));
     EXPECT_EQ(family["primaryScript"], QStringLiteral("japanese"));
     EXPECT_EQ(family["scripts"].toArray(), (QJsonArray{"latin", "japanese"}));
