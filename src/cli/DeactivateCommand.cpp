@@ -3,11 +3,10 @@
 #include "base/SystemError.h"
 #include "cli/Commands.h"
 #include "cli/SwitchingCommand.h"
-#include "install/FolderEntries.h"
-#include "install/FontPlaces.h"
 
 #include <cerrno>
 
+#include "install/InstallationRuns.h"
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,38 +39,6 @@ constexpr char kHelp[] =
 
 using Class = FileActivationClass;
 
-/// The folder itself with links resolved, or the one that it is to be made in, however far up.
-FilePath existingFolder(FilePath folder)
-{
-    std::optional<FilePath> real = realPath(folder);
-    while (!real) {
-        folder = folder.parent();
-        real = realPath(folder);
-    }
-    return *std::move(real);
-}
-
-/// Said before anything is switched off, and by a dry run too.
-Result<void> checkDestination(const FilePath &destination, const PlatformFolders &folders)
-{
-    const FilePath existing = existingFolder(destination);
-    struct stat info;
-    if (::stat(existing.c_str(), &info) == 0 && !S_ISDIR(info.st_mode))
-        return failure(ErrorKind::invalidValue,
-                       QString(existing.displayText() % QStringLiteral(" is no folder")));
-    const FontPlaces places(folders);
-    // What is to be made in a folder that exists may be a Fonts folder as well.
-    for (const FilePath &folder : {existing, destination}) {
-        if (places.placeOf(folder.child("font")) != FontPlace::elsewhere)
-            return failure(ErrorKind::invalidValue,
-                           QStringLiteral("%1 lies in a Fonts folder, where fonts are active")
-                               .arg(destination.displayText()));
-    }
-    if (::access(existing.c_str(), W_OK | X_OK) != 0)
-        return systemFailure(errno, "write into", existing);
-    return {};
-}
-
 Result<std::optional<FilePath>> givenDestination(const Arguments &arguments,
                                                  const PlatformFolders &folders)
 {
@@ -98,7 +65,7 @@ std::optional<FilePath> onlyCopy(const FilePath &file, const ActivationBooks &bo
     if (books.classify(file) != Class::copied)
         return std::nullopt;
     const Result<FilePath> entry = books.fontsFolderEntry(file);
-    const bool mayBeOnlyOne = entry && !books.contents().origins.contains(*entry);
+    const bool mayBeOnlyOne = entry && !books.isOriginKnown(*entry);
     return mayBeOnlyOne ? std::optional(*entry) : std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 
 #include "install/FontPlaces.h"
 #include "install/FontsFolderEntries.h"
+#include "platform/FileTransfer.h"
 
 #include <algorithm>
 #include <array>
@@ -94,7 +95,7 @@ FileActivationClass ActivationBooks::Private::classifyOthers(const FilePath &fil
         || places.placeOf(target) == FontPlace::fontsFolder
         || contents.fontsFolder.basenames.contains(target.fileName()))
         return FileActivationClass::copied;
-    if (contents.registeredURLs.contains(target))
+    if (contents.registeredURLs.contains(target) || contents.registeredURLs.contains(file))
         return FileActivationClass::registered;
     if (isWatched(target))
         return FileActivationClass::watchedInactive;
@@ -184,13 +185,20 @@ Result<FilePath> ActivationBooks::fontsFolderEntry(const FilePath &copiedFile) c
     return FontsFolderEntries(d->contents, d->places).entryOf(d->withoutOwnLink(copiedFile));
 }
 
+bool ActivationBooks::isOriginKnown(const FilePath &entry) const
+{
+    // Somebody may have put another font under the name of the copy, or removed the source.
+    const auto origin = d->contents.origins.constFind(entry);
+    return origin != d->contents.origins.cend() && haveEqualBytes(entry, *origin);
+}
+
 bool ActivationBooks::areAllOriginsKnown(const std::vector<FontStyleRecord> &styles) const
 {
     const auto isKnown = [&](const FilePath &file) {
         if (d->classify(file) != FileActivationClass::copied)
             return true;
         const Result<FilePath> entry = fontsFolderEntry(file);
-        return !entry || d->contents.origins.contains(*entry);
+        return !entry || isOriginKnown(*entry);
     };
     return std::ranges::all_of(filesOf(styles), isKnown);
 }

@@ -23,7 +23,13 @@ struct FontsFolderListing
 };
 
 /// Thread: any; reads the disk.
-FontsFolderListing listFontsFolder(const FilePath &userFonts);
+enum class FontLinks {
+    areResolved,
+    /// For the main thread: what they lead to may hang.
+    areLeftOut
+};
+FontsFolderListing listFontsFolder(const FilePath &userFonts,
+                                   FontLinks links = FontLinks::areResolved);
 
 /// A family's state: by which method it is active (nothing: through the system only), and whether
 /// some of its files are not.
@@ -75,7 +81,12 @@ public:
     /// never on the main thread.
     Result<FilePath> fontsFolderEntry(const FilePath &copiedFile) const;
 
-    /// Every entry of a Fonts folder that de-activating these styles would remove has a recorded
+    /// The entry of a Fonts folder is a copy of a file that still lies where it was copied from:
+    /// the books name it, and it holds the same bytes. So throwing the entry away loses nothing.
+    /// Reads both files.
+    bool isOriginKnown(const FilePath &entry) const;
+
+    /// Every entry of a Fonts folder that de-activating these styles would remove has a known
     /// origin. True when there is none. Reads as fontsFolderEntry().
     bool areAllOriginsKnown(const std::vector<FontStyleRecord> &styles) const;
 

@@ -38,4 +38,14 @@ BatchRegistration registerAll(const std::vector<FilePath> &files, FontRegistrar 
     return box.take();
 }
 
+BatchRegistration unregisterAll(const std::vector<FilePath> &files, FontRegistrar &registrar)
+{
+    FailureBox box;
+    registrar.unregisterFonts(files, [&box](const std::vector<FontManagerError> &errors, bool) {
+        box.add(errors);
+        return true;
+    });
+    return box.take();
+}
+
 } // namespace lorva

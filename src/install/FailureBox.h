@@ -28,7 +28,9 @@ private:
 /// An error of the font manager as the user hears of it.
 InstallationError installationError(const FontManagerError &error);
 
-/// Registers all files in one go, in the user scope. Thread: any, not the main one.
+/// Registers all files in one go, in the user scope, or withdraws that. Thread: any, not the main
+/// one.
 BatchRegistration registerAll(const std::vector<FilePath> &files, FontRegistrar &registrar);
+BatchRegistration unregisterAll(const std::vector<FilePath> &files, FontRegistrar &registrar);
 
 } // namespace lorva

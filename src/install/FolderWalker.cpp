@@ -87,7 +87,8 @@ bool FolderWalker::isSkipped(const QByteArray &folderName)
 
 void FolderWalker::walk(const FilePath &folder)
 {
-    if (isSkipped(folder.fileName()))
+    // A folder that somebody chose is looked into whatever its name.
+    if (folder.fileName() == kRegisteredLinksFolderName)
         return;
     const int descriptor = ::open(folder.c_str(), kOpenFlags);
     if (descriptor < 0)

@@ -75,7 +75,7 @@ FontInstallationService::FontInstallationService(std::unique_ptr<FontInstallatio
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.installation"));
     m_pool.setMaxThreadCount(1);
-    setBooks(listFontsFolder(m_dependencies.folders.userFonts));
+    setBooks(listFontsFolder(m_dependencies.folders.userFonts, FontLinks::areLeftOut));
 }
 
 FontInstallationService::~FontInstallationService() = default;
@@ -157,8 +157,8 @@ void FontInstallationService::beginNext()
         return;
     }
     const auto takeLock = [file = m_dependencies.folders.activationLock(),
-                           patience = *job.patience](const std::stop_token &) {
-        return RunLock::take(file, patience).map([](RunLock lock) {
+                           patience = *job.patience](const std::stop_token &stop) {
+        return RunLock::take(file, patience, stop).map([](RunLock lock) {
             return std::make_shared<RunLock>(std::move(lock));
         });
     };
@@ -180,26 +180,36 @@ void FontInstallationService::work(Job job, Result<std::shared_ptr<RunLock>> loc
         const InstallationTools tools{dependencies.folders, dependencies.registrar,
                                       dependencies.trash,
                                       std::make_shared<ActivationBooks>(std::move(books)), stop};
+        // A run whose process died may have left work for the books; this one's plan comes next.
+        FontInstallationStore::Changes left =
+            lock && *lock ? unfinishedChanges(tools) : FontInstallationStore::Changes();
         InstallationResult result = lock ? run(tools) : otherwise(lock.error());
+        result.changes.registeredURLs.merge(left.registeredURLs);
+        result.changes.origins.merge(left.origins);
         return Ended{std::move(result), listFontsFolder(fonts)};
     };
     runThen(m_pool, this, atWork, [this, job = std::move(job), lock](Ended ended) mutable {
-        const bool hasLock = lock && *lock;
-        finish(job, std::move(ended), hasLock);
+        const bool isOther = finish(ended, lock && *lock);
         lock = nullptr;
+        // Whoever is told may open a dialog for long, or destroy the service.
+        const auto end = std::move(job.end);
+        InstallationOutcome outcome = std::move(ended.result.outcome);
         beginNext();
+        end(std::move(outcome), isOther);
     });
 }
 
-void FontInstallationService::finish(const Job &job, Ended ended, bool hasLock)
+/// True when the books are others than before.
+bool FontInstallationService::finish(Ended &ended, bool hasLock)
 {
     m_store->change(ended.result.changes);
+    ended.result.outcome.areBooksWritten = m_store->isWritten();
     // A change that waits for its file could still be lost.
-    if (hasLock && m_store->isWritten())
+    if (hasLock && ended.result.outcome.areBooksWritten)
         InstallationJournal::remove(m_dependencies.folders.activationJournal());
     const std::shared_ptr<const ActivationBooks> before = m_books;
     setBooks(std::move(ended.fontsFolder));
-    job.end(std::move(ended.result.outcome), m_books != before);
+    return m_books != before;
 }
 
 // --- Runs ---

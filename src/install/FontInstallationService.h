@@ -25,7 +25,8 @@ class Trash;
 /// Activation copies files into the user's Fonts folder or registers them where they lie;
 /// de-activation moves the copies to the Trash or to a folder, and withdraws registrations. No font
 /// file is ever replaced or deleted. One run at a time per home, also across processes; a file that
-/// fails does not stop the others. The books are written before a run's `done` is called; what a
+/// fails does not stop the others. The books are written before a run's `done` is called
+/// (InstallationOutcome::areBooksWritten says when the preferences could not take them yet); what a
 /// process that dies in between leaves undone in the books, reconcile() mends.
 ///
 /// Owns: a thread for the runs. Thread: main; every operation returns at once, and its `done` is
@@ -95,7 +96,7 @@ private:
     void enqueue(Job job);
     void beginNext();
     void work(Job job, Result<std::shared_ptr<RunLock>> lock);
-    void finish(const Job &job, Ended ended, bool hasLock);
+    bool finish(Ended &ended, bool hasLock);
     void run(std::vector<FontFamilyRecord> families, std::optional<InstallMethod> method, Work work,
              Done done);
     QStringList takeOff(std::vector<FontFamilyRecord> &families);

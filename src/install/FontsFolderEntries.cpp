@@ -32,14 +32,16 @@ bool isFileOrLink(const FilePath &path)
 
 } // namespace
 
-FontsFolderListing listFontsFolder(const FilePath &userFonts)
+FontsFolderListing listFontsFolder(const FilePath &userFonts, FontLinks links)
 {
     FontsFolderListing listing;
     const FilePath folder = realPath(userFonts).value_or(userFonts);
     for (const FolderEntry &entry : fontsIn(folder)) {
         const FilePath path = folder.child(entry.name);
-        listing.files.insert(entry.mayBeLink ? realPath(path).value_or(path) : path);
         listing.basenames.insert(entry.name);
+        if (entry.mayBeLink && links == FontLinks::areLeftOut)
+            continue;
+        listing.files.insert(entry.mayBeLink ? realPath(path).value_or(path) : path);
     }
     return listing;
 }

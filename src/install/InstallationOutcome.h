@@ -46,6 +46,9 @@ struct InstallationOutcome
     std::vector<FilePath> filesDone;
     /// Files that already had a namesake in the Fonts folder: left alone, no failure.
     std::vector<FilePath> filesSkipped;
+    /// The books are on the disk. False while the preferences are locked or cannot be written: they
+    /// then wait in memory, and the journal tells the next process.
+    bool areBooksWritten = true;
 };
 
 /// What became of registering many files at once.

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "install/InstallationRuns.h"
 
+#include "base/SystemError.h"
 #include "base/WholeFile.h"
 #include "install/FailureBox.h"
 #include "install/FolderEntries.h"
+#include "install/FontPlaces.h"
 #include "install/InstallationJournal.h"
 #include "platform/FileTransfer.h"
 #include "platform/FolderEntries.h"
@@ -18,6 +20,7 @@
 #include <set>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 Q_LOGGING_CATEGORY(installationRunsLog, "lorva.install.runs", QtCriticalMsg)
 
@@ -47,6 +50,12 @@ bool isMissing(const FilePath &file)
 {
     struct stat info;
     return ::stat(file.c_str(), &info) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+bool isNoFile(const FilePath &path)
+{
+    struct stat info;
+    return ::stat(path.c_str(), &info) == 0 && !S_ISREG(info.st_mode);
 }
 
 bool isTaken(const FilePath &name)
@@ -185,13 +194,20 @@ InstallationJournal journalOf(const WithdrawalPlan &plan)
 
 void unregister(const WithdrawalPlan &plan, FontRegistrar &registrar, InstallationResult &result)
 {
+    if (plan.registrations.empty())
+        return;
+    std::vector<FilePath> paths;
+    for (const auto &[file, path] : plan.registrations)
+        paths.push_back(path);
+    const BatchRegistration batch = unregisterAll(paths, registrar);
     for (const auto &[file, path] : plan.registrations) {
-        const auto error = registrar.unregisterFont(path, RegistrationScope::user);
-        if (error && error->code != FontManagerError::kNotRegistered) {
-            result.outcome.failures.insert_or_assign(file, installationError(*error));
-            continue;
-        }
-        result.changes.registeredURLs[path] = false;
+        const auto failed = batch.failures.find(path);
+        if (failed != batch.failures.end())
+            result.outcome.failures.insert_or_assign(file, failed->second);
+        else if (batch.unattributed)
+            result.outcome.failures.insert_or_assign(file, *batch.unattributed);
+        else
+            result.changes.registeredURLs[path] = false;
     }
 }
 
@@ -199,17 +215,11 @@ void unregister(const WithdrawalPlan &plan, FontRegistrar &registrar, Installati
 tl::expected<FilePath, InstallationError> usableDestination(const FilePath &destination,
                                                             const PlatformFolders &folders)
 {
+    if (const Result<void> checked = checkDestination(destination, folders); !checked)
+        return tl::unexpected(ownError(checked.error()));
     if (const Result<void> made = makeFolders(destination); !made)
         return tl::unexpected(ownError(made.error()));
-    const FilePath resolved = realPath(destination).value_or(destination);
-    for (const FilePath &fonts : {folders.userFonts, folders.allUsersFonts}) {
-        if (resolved.isInside(realPath(fonts).value_or(fonts)))
-            return tl::unexpected(
-                ownError(InstallationError::otherFailure,
-                         QStringLiteral("%1 is a Fonts folder, where fonts are active")
-                             .arg(destination.displayText())));
-    }
-    return resolved;
+    return realPath(destination).value_or(destination);
 }
 
 Result<void> moveUnderFreeName(const FilePath &entry, const FilePath &folder)
@@ -266,7 +276,38 @@ std::vector<FilePath> filesDone(const std::vector<FilePath> &files, const Withdr
     return done;
 }
 
+/// The folder itself with links resolved, or the one that it is to be made in, however far up.
+FilePath existingFolder(FilePath folder)
+{
+    std::optional<FilePath> real = realPath(folder);
+    while (!real) {
+        folder = folder.parent();
+        real = realPath(folder);
+    }
+    return *std::move(real);
+}
+
 } // namespace
+
+Result<void> checkDestination(const FilePath &destination, const PlatformFolders &folders)
+{
+    const FilePath existing = existingFolder(destination);
+    struct stat info;
+    if (::stat(existing.c_str(), &info) == 0 && !S_ISDIR(info.st_mode))
+        return failure(ErrorKind::invalidValue,
+                       QString(existing.displayText() % QStringLiteral(" is no folder")));
+    const FontPlaces places(folders);
+    // What is to be made in a folder that exists may be a Fonts folder as well.
+    for (const FilePath &folder : {existing, destination}) {
+        if (places.placeOf(folder.child("font")) != FontPlace::elsewhere)
+            return failure(ErrorKind::invalidValue,
+                           QStringLiteral("%1 lies in a Fonts folder, where fonts are active")
+                               .arg(destination.displayText()));
+    }
+    if (::access(existing.c_str(), W_OK | X_OK) != 0)
+        return systemFailure(errno, "write into", existing);
+    return {};
+}
 
 QByteArray freeNameCandidate(const QByteArray &fileName, int number)
 {
@@ -304,6 +345,11 @@ InstallationResult registerInPlace(const std::vector<FilePath> &files,
             result.outcome.failures.emplace(file, *why);
         else if (isMissing(file))
             result.outcome.failures.emplace(file, fileNotFound());
+        else if (isNoFile(file))
+            result.outcome.failures.emplace(
+                file,
+                ownError(InstallationError::otherFailure,
+                         QStringLiteral("%1 is not a regular file").arg(file.displayText())));
         else
             present.push_back(file);
     }

@@ -60,6 +60,11 @@ InstallationResult withdraw(const std::vector<FilePath> &files,
                             const std::optional<FilePath> &destination,
                             const InstallationTools &tools);
 
+/// Nothing is wrong with `destination` as a folder for copies that are switched off: it, or the one
+/// that it is to be made in, is a folder that can be written to, and no fonts are active there.
+/// Makes nothing. Fails with invalidValue or as the system does.
+Result<void> checkDestination(const FilePath &destination, const PlatformFolders &folders);
+
 /// The entry's name for the `number`th try, from 1 on: "font.otf", "font 2.otf", cut to the length
 /// that names may have.
 QByteArray freeNameCandidate(const QByteArray &fileName, int number);

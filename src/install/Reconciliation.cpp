@@ -7,6 +7,7 @@
 #include "platform/FileTransfer.h"
 #include "platform/FontRegistrar.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <set>
 
@@ -23,7 +24,9 @@ using Contents = ActivationBooks::Contents;
 bool hasGone(const FilePath &file)
 {
     struct stat info;
-    return ::stat(file.c_str(), &info) != 0 && (errno == ENOENT || errno == ENOTDIR);
+    if (::stat(file.c_str(), &info) == 0)
+        return !S_ISREG(info.st_mode);
+    return errno == ENOENT || errno == ENOTDIR;
 }
 
 bool hasEntryGone(const FilePath &entry)
@@ -51,28 +54,29 @@ void lookAtRegistrations(const Contents &books, const std::vector<FilePath> &lin
     }
 }
 
-/// A Fonts folder that is away takes no copy with it.
+/// A Fonts folder whose volume is away takes no copy with it: where there is nothing at all, a
+/// mount point shows.
 void lookAtCopies(const Contents &books, DiskFindings &found)
 {
+    if (books.fontsFolder.basenames.isEmpty())
+        return;
     std::set<FilePath> gone;
     for (auto each = books.origins.cbegin(); each != books.origins.cend(); ++each) {
-        if (hasEntryGone(each.key()) && !hasGone(each.key().parent()))
+        if (hasEntryGone(each.key()))
             gone.insert(each.key());
     }
     found.goneCopies.assign(gone.begin(), gone.end());
 }
 
-void endRegistrations(const std::vector<FilePath> &files, FontRegistrar &registrar)
-{
-    for (const FilePath &file : files)
-        registrar.unregisterFont(file, RegistrationScope::user);
-}
-
 void mendRegistrations(const DiskFindings &found, const InstallationJournal &journal,
                        FontRegistrar &registrar, Changes &changes)
 {
-    endRegistrations(found.goneFiles, registrar);
-    endRegistrations(found.brokenRegistrations, registrar);
+    std::vector<FilePath> ended = found.goneFiles;
+    ended.insert(ended.end(), found.brokenRegistrations.begin(), found.brokenRegistrations.end());
+    if (!ended.empty()) {
+        unregisterAll(ended, registrar);
+        registrar.announceChanges();
+    }
     for (const FilePath &file : found.goneFiles)
         changes.registeredURLs[file] = false;
     for (const FilePath &file : found.unknownRegistrations)
@@ -87,15 +91,10 @@ void mendRegistrations(const DiskFindings &found, const InstallationJournal &jou
     }
     if (!lost.empty())
         registerAll(lost, registrar);
-    if (!found.goneFiles.empty() || !found.brokenRegistrations.empty())
-        registrar.announceChanges();
 }
 
-void mendOrigins(const DiskFindings &found, const InstallationJournal &journal,
-                 const Contents &books, Changes &changes)
+void takeCopies(const InstallationJournal &journal, const Contents &books, Changes &changes)
 {
-    for (const FilePath &copy : found.goneCopies)
-        changes.origins[copy] = std::nullopt;
     for (const auto &[copy, source] : journal.copies) {
         if (!books.origins.contains(copy) && haveEqualBytes(copy, source))
             changes.origins[copy] = source;
@@ -139,6 +138,22 @@ DiskFindings lookAtDisk(const InstallationTools &tools)
     return found;
 }
 
+Changes unfinishedChanges(const InstallationTools &tools)
+{
+    const Contents &books = tools.books->contents();
+    const auto journal = InstallationJournal::read(books.folders.activationJournal());
+    Changes changes;
+    takeCopies(journal, books, changes);
+    if (journal.withdrawn.empty())
+        return changes;
+    const std::vector<FilePath> linked = tools.registrar->registeredFonts();
+    for (const FilePath &file : journal.withdrawn) {
+        if (!std::binary_search(linked.begin(), linked.end(), file))
+            changes.registeredURLs[file] = false;
+    }
+    return changes;
+}
+
 Changes reconciled(const FontFamilyList &families, const InstallationTools &tools)
 {
     const Contents &books = tools.books->contents();
@@ -147,7 +162,9 @@ Changes reconciled(const FontFamilyList &families, const InstallationTools &tool
     const DiskFindings found = lookAtDisk(tools);
     Changes changes;
     mendRegistrations(found, journal, *tools.registrar, changes);
-    mendOrigins(found, journal, books, changes);
+    for (const FilePath &copy : found.goneCopies)
+        changes.origins[copy] = std::nullopt;
+    takeCopies(journal, books, changes);
     mendMethods(families, *booksAfter(changes, books), changes);
     return changes;
 }

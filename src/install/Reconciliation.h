@@ -17,6 +17,10 @@ namespace lorva {
 FontInstallationStore::Changes reconciled(const FontFamilyList &families,
                                           const InstallationTools &tools);
 
+/// What the books lack of a run whose process died before they were written, by its journal. The
+/// caller holds the run lock. Thread: any but the main one.
+FontInstallationStore::Changes unfinishedChanges(const InstallationTools &tools);
+
 /// What of reconciled() changes files, without changing any: for whoever wants to know.
 struct DiskFindings
 {

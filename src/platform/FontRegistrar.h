@@ -55,6 +55,10 @@ public:
     /// error. Returns after the last call of `progress`.
     virtual void registerFonts(const std::vector<FilePath> &files, const Progress &progress) = 0;
 
+    /// Withdraws all registrations of the user scope in one go. Files that are not registered are
+    /// no error. Otherwise as registerFonts().
+    virtual void unregisterFonts(const std::vector<FilePath> &files, const Progress &progress) = 0;
+
     /// The files that are registered in the user scope, sorted; also those that have gone since.
     virtual std::vector<FilePath> registeredFonts() const = 0;
     /// Lets every program look anew at what is registered.

@@ -79,7 +79,8 @@ RunLock::~RunLock()
         ::close(m_descriptor);
 }
 
-Result<RunLock> RunLock::take(const FilePath &file, std::chrono::milliseconds patience)
+Result<RunLock> RunLock::take(const FilePath &file, std::chrono::milliseconds patience,
+                              const std::stop_token &stop)
 {
     if (Result<void> made = makeFolders(file.parent()); !made)
         return tl::unexpected(std::move(made).error());
@@ -91,13 +92,12 @@ Result<RunLock> RunLock::take(const FilePath &file, std::chrono::milliseconds pa
         const Attempt attempt = tryLock(opened.number(), file);
         if (attempt == Attempt::got)
             return RunLock(opened.release());
-        if (deadline.hasExpired())
+        if (deadline.hasExpired() || stop.stop_requested())
             return failure(
                 ErrorKind::cancelled,
                 QStringLiteral("cannot lock %1: another process holds it").arg(file.displayText()));
-        if (attempt == Attempt::held)
-            std::this_thread::sleep_for(
-                std::min(kPause, std::chrono::milliseconds(deadline.remainingTime() + 1)));
+        std::this_thread::sleep_for(
+            std::min(kPause, std::chrono::milliseconds(deadline.remainingTime() + 1)));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "base/Result.h"
 
 #include <chrono>
+#include <stop_token>
 
 namespace lorva {
 
@@ -17,8 +18,10 @@ class RunLock
 {
 public:
     /// Makes the file, with its folders, if it is missing. Waits up to `patience` for other
-    /// holders. Fails with cancelled when they keep it, else as opening the file does.
-    static Result<RunLock> take(const FilePath &file, std::chrono::milliseconds patience);
+    /// holders, or until `stop` is requested. Fails with cancelled when they keep it, else as
+    /// opening the file does.
+    static Result<RunLock> take(const FilePath &file, std::chrono::milliseconds patience,
+                                const std::stop_token &stop = {});
 
     RunLock(RunLock &&other) noexcept;
     RunLock &operator=(RunLock &&other) noexcept;

@@ -58,6 +58,7 @@ TEST_F(ActivationDoctor, ComparesBooksAndDisk)
 
     const FilePath copy = fonts.child("Beta-Regular.ttf");
     ::unlink(copy.c_str());
+    test::writeFile(fonts, "other.txt", "the Fonts folder is there");
     EXPECT_THAT(told(0), HasSubstr(path(copy).toStdString() + "\ta copy that has gone"));
 }
 

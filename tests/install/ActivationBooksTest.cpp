@@ -192,7 +192,7 @@ TEST_P(ActivationBooksTest, RemovesOnlyWhatIsKnownToBeTheFont)
     const FilePath user = contents.folders.userFonts;
     contents.origins = {{user.child("known.otf"), path("w/known.otf")},
                         {user.child("strange.otf"), path("data/strange.otf")},
-                        {user.child("same.otf"), path("data/same.otf")}};
+                        {user.child("same.otf"), path("w/same.otf")}};
     list();
     const ActivationBooks books(contents);
     const struct
@@ -210,7 +210,7 @@ TEST_P(ActivationBooksTest, RemovesOnlyWhatIsKnownToBeTheFont)
         {"data/to-deep.otf", "sub/deep.otf", false},
         {"w/same.otf", "same.otf", true},
         {"user/same.otf", "same.otf", true},
-        {"w/known.otf", "known.otf", true},
+        {"w/known.otf", "known.otf", false},
         {"w/strange.otf", nullptr, true},
         {"w/folder.otf", nullptr, true},
         {"w/link.otf", nullptr, true},

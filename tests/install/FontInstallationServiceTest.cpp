@@ -168,14 +168,82 @@ TEST_F(Installation, EachFileFailsForItself)
     writeFile(watched, "\xff.ttf", font("Bytes"));
     const FontFamilyRecord family = familyOf("Alpha", {gone, a, pipe, noText, b});
 
-    const InstallationOutcome registered = process.registerInPlace({familyOf("X", {gone, noText})});
-    EXPECT_THAT(failedFiles(registered), UnorderedElementsAre(gone, noText));
+    const InstallationOutcome registered =
+        process.registerInPlace({familyOf("X", {gone, noText, pipe, watched})});
+    EXPECT_THAT(failedFiles(registered), UnorderedElementsAre(gone, noText, pipe, watched));
     const InstallationOutcome copied = process.copy({family});
     EXPECT_THAT(failedFiles(copied), UnorderedElementsAre(gone, pipe, noText));
     EXPECT_THAT(copied.filesDone, ElementsAre(a, b));
     EXPECT_EQ(copied.failures.at(gone),
               (InstallationError{"FontInstallation", 2, "File not found"}));
     EXPECT_THAT(listedByFontconfig(), ElementsAre("Alpha-Bold", "Alpha-Regular"));
+}
+
+TEST_F(Installation, AnOriginIsKnownWhileItsBytesAreThere)
+{
+    process.copy({alpha});
+    const QByteArray others = font("Other");
+    writeFile(folders.userFonts, "A.ttf", others);
+    EXPECT_FALSE(process.service.books()->areAllOriginsKnown(alpha.styles)) << "somebody else's";
+    writeFile(folders.userFonts, "A.ttf", readFile(a));
+    EXPECT_TRUE(process.service.books()->areAllOriginsKnown(alpha.styles));
+    ASSERT_EQ(::unlink(b.c_str()), 0);
+    EXPECT_FALSE(process.service.books()->areAllOriginsKnown(alpha.styles)) << "the last copy";
+}
+
+TEST_F(Installation, WhatADeadRunLeftIsNotLostInTheNextOne)
+{
+    process.registerInPlace({familyOf("Alpha", {b})});
+    InstallationJournal journal;
+    journal.copies.emplace(inFonts("A.ttf"), a);
+    journal.withdrawn.insert(b);
+    ASSERT_TRUE(journal.add(folders.activationJournal()));
+    writeFile(folders.userFonts, "A.ttf", readFile(a));
+    process.registrar->unregisterFont(b, RegistrationScope::user);
+
+    process.copy({familyOf("Gamma", {writeFile(watched, "C.ttf", font("Gamma"))})});
+    EXPECT_EQ(process.store().origins().value(inFonts("A.ttf")), a);
+    EXPECT_TRUE(process.store().registeredURLs().isEmpty());
+    ASSERT_TRUE(process.reconcile({alpha}));
+    EXPECT_THAT(process.registrar->registeredFonts(), IsEmpty());
+}
+
+TEST_F(Installation, FontsFoldersThatAreAwayKeepTheirOrigins)
+{
+    process.copy({alpha});
+    const FilePath away = root.child("away");
+    ASSERT_EQ(std::rename(folders.userFonts.c_str(), away.c_str()), 0);
+    ASSERT_EQ(::mkdir(folders.userFonts.c_str(), 0700), 0);
+    ASSERT_TRUE(process.reconcile({alpha}));
+    EXPECT_EQ(process.store().origins().size(), 2) << "an empty mount point";
+    ASSERT_EQ(::rmdir(folders.userFonts.c_str()), 0);
+    ASSERT_EQ(std::rename(away.c_str(), folders.userFonts.c_str()), 0);
+    ASSERT_TRUE(process.reconcile({alpha}));
+    EXPECT_EQ(process.state(alpha), (FamilyActivationState{InstallMethod::copy, false}));
+    EXPECT_TRUE(process.service.books()->areAllOriginsKnown(alpha.styles));
+}
+
+TEST_F(Installation, WhoeverIsToldMayDestroyTheServiceOrWaitInADialog)
+{
+    auto other = std::make_unique<InstallingProcess>(folders);
+    other->watch({a, b});
+    bool isNextDone = false;
+    std::optional<bool> wasNextDone;
+    other->service.activateByCopying({familyOf("Alpha", {a})}, [&](const InstallationOutcome &) {
+        wasNextDone = test::waitUntil([&] { return isNextDone; });
+    });
+    other->service.activateInPlace({familyOf("Bold", {b})},
+                                   [&](const InstallationOutcome &) { isNextDone = true; });
+    ASSERT_TRUE(test::waitUntil([&] { return wasNextDone.has_value(); }));
+    EXPECT_TRUE(*wasNextDone) << "the queue stood still";
+
+    bool isGone = false;
+    other->service.deactivate({alpha}, {}, [&](const InstallationOutcome &) {
+        other.reset();
+        isGone = true;
+    });
+    ASSERT_TRUE(test::waitUntil([&] { return isGone; }));
+    EXPECT_THAT(process.copy({alpha}).failures, IsEmpty()) << "its lock has gone, too";
 }
 
 struct Obstacle
@@ -227,13 +295,16 @@ TEST_F(Installation, MovesToAFolderUnderFreeNames)
     EXPECT_EQ(readFile(to.child("B.ttf")), readFile(b));
     EXPECT_FALSE(exists(trashed));
 
-    for (const FilePath &inside : {folders.userFonts, folders.userFonts.child("sub"),
-                                   folders.registeredLinks(), writeFile(root, "file", "")}) {
+    for (const FilePath &inside :
+         {folders.userFonts, folders.userFonts.child("sub"), folders.registeredLinks().child("x"),
+          folders.home.child(".fonts"), writeFile(root, "file", "")}) {
         process.copy({alpha});
         EXPECT_THAT(failedFiles(process.deactivate({alpha}, inside)), ElementsAre(a, b))
             << inside.c_str();
         EXPECT_EQ(process.state(alpha), (FamilyActivationState{InstallMethod::copy, false}));
     }
+    EXPECT_FALSE(exists(folders.registeredLinks()) || exists(folders.home.child(".fonts")))
+        << "a refused one is not made";
 
     const QByteArray longName(251, 'n');
     for (const auto &[name, number, expected] :
@@ -357,6 +428,7 @@ TEST_F(Installation, ReconcileMendsWhatOthersDid)
     process.registrar->registerFont(c, RegistrationScope::user); // the books do not know it
     ASSERT_EQ(::unlink(inFonts("C.ttf").c_str()), 0); // the copy has gone
     writeFile(folders.registeredLinks(), "stranger.txt", "not ours");
+    writeFile(folders.userFonts, "Own.txt", "the Fonts folder is there");
 
     ASSERT_TRUE(process.reconcile(all));
     EXPECT_EQ(process.store().registeredURLs(), (QSet<FilePath>{b, c}));

@@ -149,6 +149,7 @@ public:
         return FontManagerError{FontManagerError::kNotRegistered, {}, {file}};
     }
     void registerFonts(const std::vector<FilePath> &, const Progress &) override { }
+    void unregisterFonts(const std::vector<FilePath> &, const Progress &) override { }
     std::vector<FilePath> registeredFonts() const override { return {}; }
     void announceChanges() override { ADD_FAILURE() << "nobody else is concerned"; }
 

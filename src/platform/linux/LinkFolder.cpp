@@ -47,7 +47,7 @@ std::unique_ptr<DIR, CloseFolder> openStream(int folder)
 } // namespace
 
 LinkFolder::LinkFolder(const FilePath &folder)
-    : m_folder(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    : m_folder(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC))
 {
     if (!m_folder.isOpen()) {
         m_openCode = errno;

@@ -82,14 +82,60 @@ std::optional<FontManagerError> makeLink(const LinkFolder &folder, const FilePat
 }
 
 /// What has changed is on the disk afterwards; `files` are whose registration that is.
-std::optional<FontManagerError> finish(const LinkFolder &folder, std::vector<FilePath> files)
+std::optional<FontManagerError> finish(const LinkFolder &folder, std::vector<FilePath> files,
+                                       QString (*words)(const QString &))
 {
     folder.stamp();
     const int code = folder.flush();
     if (code == 0)
         return std::nullopt;
-    return FontManagerError{FontManagerError::kCannotRegister, cannotRegister(systemText(code)),
+    return FontManagerError{FontManagerError::kCannotRegister, words(systemText(code)),
                             std::move(files)};
+}
+
+std::optional<FontManagerError> removeLink(const LinkFolder &folder, const FilePath &file)
+{
+    const LinkFolder::Outcome removed = folder.removeLink(file);
+    if (removed.kind == LinkFolder::Outcome::failed)
+        return FontManagerError{
+            FontManagerError::kCannotRegister, cannotUnregister(systemText(removed.code)), {file}};
+    return removed.kind == LinkFolder::Outcome::done ? std::nullopt
+                                                     : std::optional(notRegistered(file));
+}
+
+/// Changes the link of each file by `change`, and waits for the disk once.
+std::vector<FontManagerError> changeLinks(
+    const LinkFolder &folder, const std::vector<FilePath> &files,
+    std::optional<FontManagerError> (*change)(const LinkFolder &, const FilePath &),
+    QString (*words)(const QString &))
+{
+    std::vector<FontManagerError> errors;
+    std::vector<FilePath> changed;
+    for (const FilePath &file : files) {
+        if (std::optional<FontManagerError> error = change(folder, file))
+            errors.push_back(*std::move(error));
+        else
+            changed.push_back(file);
+    }
+    if (changed.empty())
+        return errors;
+    if (std::optional<FontManagerError> error = finish(folder, std::move(changed), words))
+        errors.push_back(*std::move(error));
+    return errors;
+}
+
+std::vector<FontManagerError> removeLinks(const FilePath &path, const std::vector<FilePath> &files)
+{
+    const LinkFolder folder(path);
+    const int code = folder.openCode();
+    if (code == 0)
+        return changeLinks(folder, files, removeLink, cannotUnregister);
+    if (code != ENOENT && code != ENOTDIR)
+        return {{FontManagerError::kCannotRegister, cannotUnregister(systemText(code)), files}};
+    std::vector<FontManagerError> errors;
+    for (const FilePath &file : files)
+        errors.push_back(notRegistered(file));
+    return errors;
 }
 
 /// One pass over an open folder, and one wait for the disk.
@@ -103,19 +149,7 @@ std::vector<FontManagerError> makeLinks(const FilePath &path, const std::vector<
     if (folder.openCode() != 0)
         return {{FontManagerError::kCannotRegister, cannotRegister(systemText(folder.openCode())),
                  files}};
-    std::vector<FontManagerError> errors;
-    std::vector<FilePath> changed;
-    for (const FilePath &file : files) {
-        if (std::optional<FontManagerError> error = makeLink(folder, file))
-            errors.push_back(*std::move(error));
-        else
-            changed.push_back(file);
-    }
-    if (changed.empty())
-        return errors;
-    if (std::optional<FontManagerError> error = finish(folder, std::move(changed)))
-        errors.push_back(*std::move(error));
-    return errors;
+    return changeLinks(folder, files, makeLink, cannotRegister);
 }
 
 } // namespace
@@ -146,16 +180,18 @@ std::optional<FontManagerError> LinkFolderRegistrar::unregisterFont(const FilePa
         const std::lock_guard lock(m_mutex);
         return m_processFonts.remove(file) ? std::nullopt : std::optional(notRegistered(file));
     }
-    const LinkFolder folder(m_linkFolder);
-    if (folder.openCode() == ENOENT || folder.openCode() == ENOTDIR)
-        return notRegistered(file);
-    const LinkFolder::Outcome removed = folder.removeLink(file);
-    if (removed.kind == LinkFolder::Outcome::failed)
-        return FontManagerError{
-            FontManagerError::kCannotRegister, cannotUnregister(systemText(removed.code)), {file}};
-    if (removed.kind != LinkFolder::Outcome::done)
-        return notRegistered(file);
-    return finish(folder, {file});
+    std::vector<FontManagerError> errors = removeLinks(m_linkFolder, {file});
+    return errors.empty() ? std::nullopt : std::optional(std::move(errors.front()));
+}
+
+void LinkFolderRegistrar::unregisterFonts(const std::vector<FilePath> &files,
+                                          const Progress &progress)
+{
+    std::vector<FontManagerError> errors = removeLinks(m_linkFolder, files);
+    std::erase_if(errors, [](const FontManagerError &error) {
+        return error.code == FontManagerError::kNotRegistered;
+    });
+    progress(errors, true);
 }
 
 void LinkFolderRegistrar::registerFonts(const std::vector<FilePath> &files,

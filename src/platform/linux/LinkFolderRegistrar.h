@@ -28,6 +28,7 @@ public:
     std::optional<FontManagerError> unregisterFont(const FilePath &file,
                                                    RegistrationScope scope) override;
     void registerFonts(const std::vector<FilePath> &files, const Progress &progress) override;
+    void unregisterFonts(const std::vector<FilePath> &files, const Progress &progress) override;
     std::vector<FilePath> registeredFonts() const override;
     /// Sets the folder's time, so that fontconfig does not trust what it remembers of it; does
     /// nothing when there is no folder.
