@@ -3,12 +3,14 @@
 #include "install/Reconciliation.h"
 
 #include "install/FailureBox.h"
+#include "install/GoneFiles.h"
 #include "install/InstallationJournal.h"
 #include "platform/FileTransfer.h"
 #include "platform/FontRegistrar.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <set>
 
 #include <sys/stat.h>
@@ -20,15 +22,6 @@ namespace {
 using Changes = FontInstallationStore::Changes;
 using Contents = ActivationBooks::Contents;
 
-/// A file that cannot be looked at, on a volume that does not answer, has not gone.
-bool hasGone(const FilePath &file)
-{
-    struct stat info;
-    if (::stat(file.c_str(), &info) == 0)
-        return !S_ISREG(info.st_mode);
-    return errno == ENOENT || errno == ENOTDIR;
-}
-
 bool hasEntryGone(const FilePath &entry)
 {
     struct stat info;
@@ -39,18 +32,18 @@ void lookAtRegistrations(const Contents &books, const std::vector<FilePath> &lin
                          DiskFindings &found)
 {
     const std::set<FilePath> links(linked.begin(), linked.end());
-    std::vector<FilePath> known(books.registeredURLs.begin(), books.registeredURLs.end());
-    std::sort(known.begin(), known.end());
-    for (const FilePath &file : known) {
-        if (hasGone(file))
+    const std::set<FilePath> known(books.registeredURLs.begin(), books.registeredURLs.end());
+    std::vector<FilePath> all;
+    std::set_union(links.begin(), links.end(), known.begin(), known.end(), std::back_inserter(all));
+    const std::set<FilePath> gone = goneFiles(all);
+    for (const FilePath &file : all) {
+        const bool hasGone = gone.contains(file);
+        if (!known.contains(file))
+            (hasGone ? found.brokenRegistrations : found.unknownRegistrations).push_back(file);
+        else if (hasGone)
             found.goneFiles.push_back(file);
         else if (!links.contains(file))
             found.lostRegistrations.push_back(file);
-    }
-    for (const FilePath &file : linked) {
-        if (!books.registeredURLs.contains(file))
-            (hasGone(file) ? found.brokenRegistrations : found.unknownRegistrations)
-                .push_back(file);
     }
 }
 

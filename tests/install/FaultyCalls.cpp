@@ -20,6 +20,8 @@ std::atomic<int> calls = 0;
 int faultyCall = 0;
 int faultCode = 0;
 char rootPath[PATH_MAX];
+std::atomic<bool> isHung = false;
+char hungPath[PATH_MAX];
 
 bool isBelowRoot(const char *path)
 {
@@ -89,12 +91,31 @@ int FaultyCalls::count()
     return calls;
 }
 
+HungFile::HungFile(const FilePath &file)
+{
+    std::snprintf(hungPath, sizeof hungPath, "%s", file.c_str());
+    isHung = true;
+}
+
+HungFile::~HungFile()
+{
+    isHung = false;
+    isHung.notify_all();
+}
+
 } // namespace lorva::test
 
 // NOLINTBEGIN(readability-inconsistent-declaration-parameter-name, cert-dcl50-cpp): the library's
 extern "C" {
 
 #define CALL(number, ...) static_cast<int>(::syscall(number, __VA_ARGS__))
+
+int stat(const char *path, struct stat *info)
+{
+    if (isHung && std::strcmp(path, hungPath) == 0)
+        isHung.wait(true);
+    return CALL(SYS_newfstatat, AT_FDCWD, path, info, 0);
+}
 
 int openat(int folder, const char *path, int flags, ...)
 {

@@ -26,4 +26,15 @@ public:
     static int count();
 };
 
+/// While it lives, stat() of that file does not come back, as on a network volume that is gone. Who
+/// asked is let go when it ends.
+class HungFile
+{
+public:
+    explicit HungFile(const FilePath &file);
+    ~HungFile();
+    HungFile(const HungFile &) = delete;
+    HungFile &operator=(const HungFile &) = delete;
+};
+
 } // namespace lorva::test

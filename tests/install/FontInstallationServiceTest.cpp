@@ -3,6 +3,7 @@
 #include "install/FontInstallationService.h"
 
 #include "base/NotificationCentre.h"
+#include "FaultyCalls.h"
 #include "install/WatchedFolderStore.h"
 #include "InstallationSupport.h"
 #include "platform/linux/XdgFolders.h"
@@ -221,6 +222,22 @@ TEST_F(Installation, FontsFoldersThatAreAwayKeepTheirOrigins)
     ASSERT_TRUE(process.reconcile({alpha}));
     EXPECT_EQ(process.state(alpha), (FamilyActivationState{InstallMethod::copy, false}));
     EXPECT_TRUE(process.service.books()->areAllOriginsKnown(alpha.styles));
+}
+
+TEST_F(Installation, AVolumeThatHangsStopsNothing)
+{
+    const FilePath c = writeFile(watched, "C.ttf", font("Gamma"));
+    process.watch({a, b, c});
+    process.registerInPlace({alpha});
+    ASSERT_EQ(::unlink(a.c_str()), 0);
+    {
+        const test::HungFile hung(b);
+        ASSERT_TRUE(process.reconcile({alpha}));
+        EXPECT_EQ(process.store().registeredURLs(), (QSet<FilePath>{b})) << "it has not gone";
+        EXPECT_THAT(process.copy({familyOf("Gamma", {c})}).failures, IsEmpty());
+    }
+    ASSERT_TRUE(process.reconcile({alpha}));
+    EXPECT_EQ(process.store().registeredURLs(), (QSet<FilePath>{b}));
 }
 
 TEST_F(Installation, WhoeverIsToldMayDestroyTheServiceOrWaitInADialog)
