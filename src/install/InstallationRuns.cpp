@@ -197,6 +197,7 @@ void unregister(const WithdrawalPlan &plan, FontRegistrar &registrar, Installati
     if (plan.registrations.empty())
         return;
     std::vector<FilePath> paths;
+    paths.reserve(plan.registrations.size());
     for (const auto &[file, path] : plan.registrations)
         paths.push_back(path);
     const BatchRegistration batch = unregisterAll(paths, registrar);

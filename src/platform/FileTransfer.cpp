@@ -207,19 +207,34 @@ Result<Transfer> moveFileAcross(const FilePath &source, const FilePath &destinat
     return removeSource(source, destination);
 }
 
+/// Nothing for what is no link; its error number is in errno.
+std::optional<QByteArray> linkTarget(const FilePath &path)
+{
+    std::array<char, PATH_MAX> target;
+    const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+    return length < 0 ? std::nullopt : std::optional(QByteArray(target.data(), length));
+}
+
+/// Makes the link anew, so that it leads from its new folder to where it led.
 Result<Transfer> moveLinkAcross(const FilePath &source, const FilePath &destination)
 {
-    std::array<char, PATH_MAX> target{};
-    // The last byte stays 0.
-    const ssize_t length = ::readlink(source.c_str(), target.data(), target.size() - 1);
-    if (length < 0)
+    std::optional<QByteArray> target = linkTarget(source);
+    if (!target)
         return transferFailure(errno, "read", source);
-    if (::symlink(target.data(), destination.c_str()) != 0)
+    if (!target->startsWith('/'))
+        target = source.parent().child(*target).bytes();
+    if (::symlink(target->constData(), destination.c_str()) != 0)
         return errno == EEXIST ? Result<Transfer>(Transfer::destinationExists)
                                : transferFailure(errno, "write", destination);
     if (const Result<Transfer> flushed = flushName(destination); !flushed)
         return flushed;
     return removeSource(source, destination);
+}
+
+bool isRelativeLink(const FilePath &path)
+{
+    const std::optional<QByteArray> target = linkTarget(path);
+    return target && !target->startsWith('/');
 }
 
 Result<Transfer> moveAcross(const FilePath &source, const FilePath &destination)
@@ -259,6 +274,8 @@ Result<Transfer> copyToNewFile(const FilePath &source, const FilePath &destinati
 
 Result<Transfer> moveToNewFile(const FilePath &source, const FilePath &destination)
 {
+    if (source.parent() != destination.parent() && isRelativeLink(source))
+        return moveLinkAcross(source, destination);
     const int code = renameWithoutReplacing(source, destination);
     if (code == EEXIST)
         return Transfer::destinationExists;

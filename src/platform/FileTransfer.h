@@ -21,7 +21,8 @@ Result<Transfer> copyToNewFile(const FilePath &source, const FilePath &destinati
 
 /// Gives the entry `source` (also a link) the name `destination`, in another folder perhaps; never
 /// replaces anything. On another file system a copy is made, compared byte by byte, and only then
-/// the source removed; a link there is made anew. Fails as copyToNewFile(); the source then is
+/// the source removed; a link there is made anew. A relative link
+/// leads where it led. Fails as copyToNewFile(); the source then is
 /// where it was.
 Result<Transfer> moveToNewFile(const FilePath &source, const FilePath &destination);
 

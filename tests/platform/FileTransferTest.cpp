@@ -272,6 +272,10 @@ TEST_F(FileTransferTest, AMoveTakesTheEntryItself)
     const FilePath source = writeFile(folder, "a.ttf", bytes);
     const FilePath link = makeLink(folder.child("link.ttf"), source);
     const FilePath dangling = makeLink(folder.child("dangling.ttf"), FilePath("/nowhere"));
+    const FilePath relative = makeLink(folder.child("relative.ttf"), FilePath(source.fileName()));
+    EXPECT_EQ(moveToNewFile(relative, target.child("r")), Transfer::done);
+    EXPECT_EQ(test::readFile(target.child("r")), test::readFile(source)) << "leads where it led";
+    EXPECT_EQ(linkTarget(relative), "");
     EXPECT_EQ(moveToNewFile(link, target.child("l")), Transfer::done);
     EXPECT_EQ(moveToNewFile(dangling, target.child("d")), Transfer::done);
     EXPECT_EQ(linkTarget(target.child("l")), source.bytes());

@@ -133,6 +133,7 @@ std::vector<FontManagerError> removeLinks(const FilePath &path, const std::vecto
     if (code != ENOENT && code != ENOTDIR)
         return {{FontManagerError::kCannotRegister, cannotUnregister(systemText(code)), files}};
     std::vector<FontManagerError> errors;
+    errors.reserve(files.size());
     for (const FilePath &file : files)
         errors.push_back(notRegistered(file));
     return errors;
