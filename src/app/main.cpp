@@ -8,8 +8,10 @@
 
 #include <QApplication>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 #include <unistd.h>
 
@@ -49,6 +51,16 @@ void handleStartupMessage(QtMsgType type, const QMessageLogContext &context, con
         || message.contains(QLatin1String("XDG_RUNTIME_DIR")))
         return;
     std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+/// A worker that waits for a volume which does not answer would keep the process for as long. What
+/// has to be written is written by now, and everything else may be cut short at any moment.
+void endInTime(int status)
+{
+    std::thread([status] {
+        std::this_thread::sleep_for(std::chrono::seconds(10));
+        ::_exit(status);
+    }).detach();
 }
 
 } // namespace
@@ -96,5 +108,7 @@ int main(int argc, char **argv)
 
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache));
     delegate.applicationDidFinishLaunching();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    endInTime(status);
+    return status;
 }
