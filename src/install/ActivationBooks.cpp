@@ -180,6 +180,20 @@ std::optional<FontFamilyActivation> ActivationBooks::activation(
     return FontFamilyActivation::active(state->method, state->isPartlyInactive);
 }
 
+std::optional<FontFamilyActivation> ActivationBooks::knownActivation(
+    const FontFamilyRecord &family) const
+{
+    {
+        const std::lock_guard lock(d->mutex);
+        const auto isUnknown = [this](const FontStyleRecord &style) {
+            return style.fileURL && !d->fileClassCache.contains(*style.fileURL);
+        };
+        if (std::ranges::any_of(family.styles, isUnknown))
+            return std::nullopt;
+    }
+    return activation(family);
+}
+
 Result<FilePath> ActivationBooks::fontsFolderEntry(const FilePath &copiedFile) const
 {
     return FontsFolderEntries(d->contents, d->places).entryOf(d->withoutOwnLink(copiedFile));

@@ -74,6 +74,9 @@ public:
     /// Nothing for a family without any file; else activationState() in two values.
     std::optional<FontFamilyActivation> activation(const FontFamilyRecord &family) const override;
 
+    std::optional<FontFamilyActivation> knownActivation(
+        const FontFamilyRecord &family) const override;
+
     /// The entry of a Fonts folder that de-activating a `copied` file removes: the file itself, as
     /// an entry of that folder and not what it links to, if it lies in one; else its namesake in
     /// the user's Fonts folder, if that was copied from this file or holds the same bytes. Fails

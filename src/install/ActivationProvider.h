@@ -24,6 +24,12 @@ public:
     /// Nothing for a family that the user cannot switch: one without any file.
     virtual std::optional<FontFamilyActivation> activation(
         const FontFamilyRecord &family) const = 0;
+    /// The same, if that has been found out before; nothing if the disk would have to be looked at.
+    virtual std::optional<FontFamilyActivation> knownActivation(
+        const FontFamilyRecord &family) const
+    {
+        return activation(family);
+    }
 };
 
 /// Knows which families are switched on for the whole system. Thread: main.

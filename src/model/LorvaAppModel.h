@@ -119,8 +119,8 @@ public:
     const FontFamilyRecord *family(const QString &name) const;
     /// Families that belong together under another name. Nothing fills it.
     const QHash<QString, QString> &superFamilyMap() const { return m_superFamilyMap; }
-    /// As it was found last; nothing while that is being worked out, and for a family that the user
-    /// cannot switch.
+    /// As it was found last; nothing while that is being worked out (which for the first screen it
+    /// has been), and for a family that the user cannot switch.
     std::optional<FontFamilyActivation> activation(const FontFamilyRecord &family) const;
 
     // The watched folders

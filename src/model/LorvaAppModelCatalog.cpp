@@ -17,6 +17,13 @@
 
 namespace lorva {
 
+namespace {
+
+/// More than fit on a large screen.
+constexpr size_t kFamiliesOfAScreen = 100;
+
+} // namespace
+
 void LorvaAppModel::loadCatalog()
 {
     m_catalogReconcileTask.stop();
@@ -51,8 +58,17 @@ void LorvaAppModel::reconcileCatalog()
 /// The scan waits for that: on two cores it would only delay the first picture.
 void LorvaAppModel::showSnapshot(qint64 generation)
 {
-    const auto read = [cache = m_catalogCache.get(), service = m_fontLibraryService.get()](
-                          const std::stop_token &) { return readSnapshot(*cache, *service); };
+    const auto read = [cache = m_catalogCache.get(), service = m_fontLibraryService.get(),
+                       state = m_installationService->state()](const std::stop_token &) {
+        Catalog catalog = readSnapshot(*cache, *service);
+        // Cards of active families show in another way: those of the first screen know at once.
+        if (catalog) {
+            const std::vector<FontFamilyRecord> &families = *catalog->snapshot.families;
+            for (size_t i = 0; i < std::min(families.size(), kFamiliesOfAScreen); ++i)
+                static_cast<void>(state->activation(families[i]));
+        }
+        return catalog;
+    };
     runThen(m_pool, this, read, [this, generation](Catalog catalog) {
         // A later load may have been quicker.
         if (catalog && m_catalogGeneration == 0) {
@@ -217,9 +233,9 @@ const FontFamilyRecord *LorvaAppModel::family(const QString &name) const
 
 std::optional<FontFamilyActivation> LorvaAppModel::activation(const FontFamilyRecord &family) const
 {
-    // Not asked of the service: it may have to look at the disk.
+    // Nothing that has to be looked up on the disk.
     if (!m_index || !m_activations)
-        return std::nullopt;
+        return m_installationService->state()->knownActivation(family);
     const std::optional<quint32> place = m_index->place(family.familyName);
     return place ? (*m_activations)[*place] : std::nullopt;
 }
