@@ -197,11 +197,13 @@ void checkMissingFamilies(Examined &examined, Findings &findings)
     addOverridden(rows, named);
     const qsizetype all = named.size();
     const qsizetype missing = named.subtract(*examined.catalogFamilies).size();
+    const QString text = missing == 0
+        ? QStringLiteral("all families that it names are in the last catalog: %1").arg(all)
+        : QStringLiteral("%1 of the %2 families that it names are not in the last catalog")
+              .arg(missing)
+              .arg(all);
     findings.push_back(
-        {missing > 0 ? State::note : State::well, QStringLiteral("organisation"),
-         QStringLiteral("%1 of the %2 families that it names are not in the last catalog")
-             .arg(missing)
-             .arg(all)});
+        {missing > 0 ? State::note : State::well, QStringLiteral("organisation"), text});
 }
 
 constexpr DoctorCheck kChecks[]{
