@@ -74,6 +74,7 @@ LorvaAppModel::~LorvaAppModel()
 {
     // It tells its listeners when it goes, and they would ask what has gone by then.
     m_undoStack.blockSignals(true);
+    m_display.setHeld(false);
 }
 
 void LorvaAppModel::changed()
@@ -85,10 +86,21 @@ void LorvaAppModel::changed()
 
 FontFamilySubset LorvaAppModel::visibleFamilies()
 {
-    return m_visibleFamilies.answer(
-        {m_selectedSource, m_searchQuery, m_catalogGeneration, m_activationGeneration,
-         m_membershipGeneration},
-        {allFamilies(), m_index.get(), m_activations.get(), m_organization});
+    return m_visibleFamilies.answer({m_selectedSource, m_searchQuery, m_catalogGeneration,
+                                     m_activationGeneration, m_membershipGeneration},
+                                    libraryView());
+}
+
+LibraryView LorvaAppModel::libraryView() const
+{
+    return {allFamilies(), m_index.get(), m_activations.get(), m_organization};
+}
+
+const SidebarCounts &LorvaAppModel::counts()
+{
+    return m_counts.answer({m_catalogGeneration, m_activationGeneration, m_membershipGeneration,
+                            m_index != nullptr, m_activations != nullptr},
+                           libraryView());
 }
 
 void LorvaAppModel::validateSelection()
@@ -176,6 +188,19 @@ void LorvaAppModel::setDisplayForThisRun(const SourceDisplaySettings &settings)
 {
     m_display.setForThisRun(settings);
     changed();
+}
+
+void LorvaAppModel::setDisplayHeld(bool isHeld)
+{
+    m_display.setHeld(isHeld);
+}
+
+void LorvaAppModel::resetDisplay()
+{
+    const DisplayValues before = display();
+    m_display.reset();
+    if (display() != before)
+        changed();
 }
 
 void LorvaAppModel::setPointSize(double pointSize)

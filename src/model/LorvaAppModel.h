@@ -3,6 +3,7 @@
 #pragma once
 
 #include "install/WatchedFolderStore.h"
+#include "model/LibraryCounts.h"
 #include "model/LibraryOrganization.h"
 #include "model/ReadyCatalog.h"
 #include "model/records/BrowserSource.h"
@@ -130,6 +131,8 @@ public:
     /// Adds folders, by whatever path, that are not in the list yet, and scans. Folders are looked
     /// at on a worker; `done` is called when the list is written and the scan has begun.
     void addWatchedFolders(std::vector<FilePath> folders, std::function<void(AddedFolders)> done);
+    /// Adds the fonts of folders for this run, and scans.
+    void addFoldersForThisRun(const std::vector<FilePath> &folders);
     /// Takes the folder out of the list and its fonts out of this process, and scans. Fails with
     /// notFound.
     Result<void> removeWatchedFolder(const QString &id);
@@ -139,6 +142,8 @@ public:
     /// The families that the browser shows for selectedSource() and searchQuery(), in the catalog's
     /// order. A source whose record has gone shows all.
     FontFamilySubset visibleFamilies();
+    /// How many families of this computer each place holds, as far as it is known.
+    const SidebarCounts &counts();
     BrowserSource selectedSource() const { return m_selectedSource; }
     void select(const BrowserSource &source);
     QString searchQuery() const { return m_searchQuery; }
@@ -159,6 +164,11 @@ public:
     /// Values that the program was started with: they win over stored ones and are not stored.
     /// Sizes and weights are clamped as by the setters.
     void setDisplayForThisRun(const SourceDisplaySettings &settings);
+    /// While held, changes are shown but not written: a slider gives many values a second, and all
+    /// but the last are of no use. Letting go writes, as do another source and the end.
+    void setDisplayHeld(bool isHeld);
+    /// Back to the defaults; for a collection, to what all other sources share.
+    void resetDisplay();
     double browserPointSize() const { return display().browserPointSize; }
     /// Clamped to kMinimumPointSize … kMaximumPointSize; values that are no numbers are refused.
     void setPointSize(double pointSize);
@@ -206,9 +216,16 @@ public:
     Result<void> deleteCollection(const QString &id);
     Result<void> addFamilies(const QString &collectionID, const QStringList &familyNames);
     Result<void> removeFamilies(const QString &collectionID, const QStringList &familyNames);
+    /// Into the collection, or out of it when all of them are its members.
+    Result<void> toggleFamilies(const QString &collectionID, const QStringList &familyNames);
     bool isMember(const QString &familyName, const QString &collectionID) const
     {
         return m_organization.collectionMemberSet(collectionID).contains(familyName);
+    }
+    /// Empty for an unknown id.
+    const QSet<QString> &collectionMemberSet(const QString &id) const
+    {
+        return m_organization.collectionMemberSet(id);
     }
     /// `base`, with a number if a collection has that name already.
     QString freeCollectionName(const QString &base) const;
@@ -284,6 +301,7 @@ private:
     void refreshActivations();
 
     void validateSelection();
+    LibraryView libraryView() const;
     void updateDisplay(std::function<void(SourceDisplaySettings &)> change);
     bool flag(const QString &key) const;
     void setFlag(const QString &key);
@@ -338,12 +356,14 @@ private:
     QTimer m_catalogReconcileTask;
 
     std::vector<WatchedFolder> m_watchedFolders;
+    std::vector<FilePath> m_foldersForThisRun;
     LibraryOrganization m_organization;
     QUndoStack m_undoStack;
     QHash<QString, QString> m_superFamilyMap;
     QSet<QString> m_collapsedGroups;
     bool m_hidesQuizPromoInSidebar = false;
     VisibleFamilies m_visibleFamilies;
+    LibraryCounts m_counts;
 
     BrowserSource m_selectedSource;
     QString m_searchQuery;

@@ -33,7 +33,16 @@ std::vector<FilePath> LorvaAppModel::foldersToScan() const
         take(folderURL(folder));
     if (m_givenFolders)
         std::ranges::for_each(m_givenFolders->resolvedFolders(), take);
+    std::ranges::for_each(m_foldersForThisRun, take);
     return folders;
+}
+
+void LorvaAppModel::addFoldersForThisRun(const std::vector<FilePath> &folders)
+{
+    if (folders.empty())
+        return;
+    m_foldersForThisRun.insert(m_foldersForThisRun.end(), folders.begin(), folders.end());
+    loadCatalog();
 }
 
 void LorvaAppModel::addWatchedFolders(std::vector<FilePath> folders,

@@ -9,6 +9,8 @@
 #include "model/stores/OrganizationChanges.h"
 #include "platform/PreferenceStore.h"
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
@@ -108,6 +110,16 @@ Result<void> LorvaAppModel::removeFamilies(const QString &collectionID,
     return changeOrganization(tr("Remove from Collection"), [=](Organization &organization) {
         return lorva::removeFamilies(organization, collectionID, familyNames);
     });
+}
+
+Result<void> LorvaAppModel::toggleFamilies(const QString &collectionID,
+                                           const QStringList &familyNames)
+{
+    const bool areMembers =
+        std::all_of(familyNames.begin(), familyNames.end(),
+                    [&](const QString &name) { return isMember(name, collectionID); });
+    return areMembers ? removeFamilies(collectionID, familyNames)
+                      : addFamilies(collectionID, familyNames);
 }
 
 QString LorvaAppModel::freeCollectionName(const QString &base) const

@@ -128,6 +128,7 @@ bool SourceDisplay::select(const BrowserSource &source)
     const QString key = displaySettingsKey(source);
     if (key == m_key)
         return false;
+    writeHeldChanges();
     m_key = key;
     return resolve();
 }
@@ -135,6 +136,8 @@ bool SourceDisplay::select(const BrowserSource &source)
 bool SourceDisplay::reload()
 {
     m_stored = m_store.all();
+    for (const Change &change : m_heldChanges)
+        change(m_stored[m_key]);
     return resolve();
 }
 
@@ -155,8 +158,38 @@ void SourceDisplay::update(std::function<void(SourceDisplaySettings &)> change)
 {
     // Made on nothing, the change says which of the start's values it takes the place of.
     change(m_changedInThisRun[m_key]);
-    m_stored = m_store.update(m_key, std::move(change));
+    if (m_isHeld) {
+        change(m_stored[m_key]);
+        m_heldChanges.push_back(std::move(change));
+    } else {
+        m_stored = m_store.update(m_key, std::move(change));
+    }
     resolve();
+}
+
+void SourceDisplay::setHeld(bool isHeld)
+{
+    m_isHeld = isHeld;
+    if (!isHeld)
+        writeHeldChanges();
+}
+
+void SourceDisplay::writeHeldChanges()
+{
+    if (m_heldChanges.empty())
+        return;
+    m_stored = m_store.update(
+        m_key, [changes = std::exchange(m_heldChanges, {})](SourceDisplaySettings &own) {
+            for (const Change &change : changes)
+                change(own);
+        });
+}
+
+void SourceDisplay::reset()
+{
+    m_forThisRun = {};
+    m_changedInThisRun.clear();
+    update([](SourceDisplaySettings &own) { own = {}; });
 }
 
 bool SourceDisplay::resolve()

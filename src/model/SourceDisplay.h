@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <vector>
 
 namespace lorva {
 
@@ -70,14 +71,23 @@ public:
     /// Changes the source's own settings, here and in the store. An empty text means none where
     /// there can be none. `change` may run again later, so it owns what it captures.
     void update(std::function<void(SourceDisplaySettings &)> change);
+    /// While held, changes are kept here; letting go writes them.
+    void setHeld(bool isHeld);
+    /// Drops the source's own settings, and what the program was started with.
+    void reset();
 
 private:
+    using Change = std::function<void(SourceDisplaySettings &)>;
+    void writeHeldChanges();
     bool resolve();
 
     DisplaySettingsStore &m_store;
     QString m_key;
     /// As last read or written: with logos in it, reading takes its time.
     std::map<QString, SourceDisplaySettings> m_stored;
+    bool m_isHeld = false;
+    /// Made while held, on the settings of m_key.
+    std::vector<Change> m_heldChanges;
     SourceDisplaySettings m_forThisRun;
     /// What the user has set since, by source key: there m_forThisRun does not count any more.
     std::map<QString, SourceDisplaySettings> m_changedInThisRun;

@@ -501,5 +501,102 @@ TEST_F(OrganizedLibrary, SidebarAndQuizRemember)
     EXPECT_TRUE(model().hidesQuizPromoInSidebar());
 }
 
+TEST_F(OrganizedLibrary, CountsWhatEachPlaceShows)
+{
+    for (const char *name : {"Aaa Sans", "Bbb Sans"})
+        add(QString::fromLatin1(name), QStringLiteral("Acme Fonts Ltd."));
+    add(QStringLiteral("Ccc Serif"));
+    EXPECT_EQ(model().counts().styles.size(), 0) << "nothing is known before the first scan";
+    ASSERT_TRUE(library.load());
+    const QString id = *model().createCollection(QStringLiteral("Mine"));
+    ASSERT_TRUE(model().addFamilies(id, {QStringLiteral("Ccc Serif"), QStringLiteral("Away")}));
+
+    const SidebarCounts before = model().counts();
+    EXPECT_EQ(before.all, 3);
+    EXPECT_EQ(before.active, 3);
+    EXPECT_EQ(before.inactive, 0);
+    EXPECT_EQ(before.styles.value(QStringLiteral("sans")), 2);
+    EXPECT_EQ(before.collections.value(id), 1) << "a family that is not here is not shown either";
+    ASSERT_EQ(model().foundryCollections().size(), 1U);
+    EXPECT_EQ(before.foundries.value(model().foundryCollections().front().id), 2);
+
+    ASSERT_TRUE(model().setStyle({QStringLiteral("Aaa Sans")}, std::nullopt));
+    EXPECT_EQ(model().counts().styles.value(QStringLiteral("sans")), 1);
+    library.fonts->files.pop_back();
+    ASSERT_TRUE(library.load());
+    EXPECT_EQ(model().counts().all, 2);
+    EXPECT_EQ(model().counts().collections.value(id), 0);
+}
+
+TEST_F(OrganizedLibrary, SeveralFamiliesEnterACollectionUnlessAllAreInIt)
+{
+    const QString id = *model().createCollection(QStringLiteral("Mine"));
+    const QStringList two{QStringLiteral("A"), QStringLiteral("B")};
+    ASSERT_TRUE(model().toggleFamilies(id, {QStringLiteral("A")}));
+    ASSERT_TRUE(model().toggleFamilies(id, two));
+    EXPECT_EQ(model().collections().front().familyNames, two);
+    ASSERT_TRUE(model().toggleFamilies(id, two));
+    EXPECT_THAT(model().collections().front().familyNames, IsEmpty());
+    EXPECT_FALSE(model().toggleFamilies(QStringLiteral("no such collection"), two));
+}
+
+TEST_F(OrganizedLibrary, FoldersForThisRunAreForgottenWithIt)
+{
+    const FilePath extra = home.child("extra");
+    test::writeFile(extra, "Extra.ttf", FontBuilder(QStringLiteral("Extra")).build());
+    add(QStringLiteral("Usual"));
+    ASSERT_TRUE(library.load());
+    model().addFoldersForThisRun({extra});
+    ASSERT_TRUE(library.load());
+    EXPECT_EQ(library.visibleNames(), (QStringList{"Extra", "Usual"}));
+    restart();
+    ASSERT_TRUE(library.load());
+    EXPECT_EQ(library.visibleNames(), (QStringList{"Usual"}));
+}
+
+TEST_F(OrganizedLibrary, AHeldControlIsWrittenOnceItIsLetGo)
+{
+    const auto stored = [this] {
+        return DisplaySettingsStore(*library.preferences).settings(QStringLiteral("allFonts"));
+    };
+    model().setDisplayHeld(true);
+    model().setPointSize(50);
+    model().setPointSize(60);
+    EXPECT_EQ(model().browserPointSize(), 60);
+    EXPECT_EQ(stored(), std::nullopt) << "nothing is written while the hand is on it";
+    model().setDisplayHeld(false);
+    EXPECT_EQ(stored()->browserPointSize, 60);
+
+    model().setDisplayHeld(true);
+    model().setPointSize(70);
+    model().select(BrowserSource::collection(*model().createCollection(QStringLiteral("Mine"))));
+    EXPECT_EQ(stored()->browserPointSize, 70) << "another source ends it";
+    model().setPointSize(80);
+    restart();
+    EXPECT_EQ(model().browserPointSize(), 70) << "80 is the collection's";
+    EXPECT_EQ(
+        library.preferences->data(QStringLiteral("vantrel.merid.displaySettings"))->contains("80"),
+        true)
+        << "the end writes what is held";
+}
+
+TEST_F(OrganizedLibrary, ResettingGoesBackToWhatTheSourceWouldShow)
+{
+    model().setPointSize(90);
+    model().setLogoImageData("logo");
+    const QString id = *model().createCollection(QStringLiteral("Mine"));
+    model().select(BrowserSource::collection(id));
+    model().setPointSize(40);
+    model().setColorMode(ColorMode::black);
+    model().resetDisplay();
+    EXPECT_EQ(model().browserPointSize(), 90) << "what all sources share";
+    EXPECT_EQ(model().colorMode(), ColorMode::white);
+    model().select(BrowserSource::allFonts());
+    model().resetDisplay();
+    EXPECT_EQ(model().display(), DisplayValues());
+    restart();
+    EXPECT_EQ(model().display(), DisplayValues());
+}
+
 } // namespace
 } // namespace lorva
