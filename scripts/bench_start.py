@@ -58,14 +58,14 @@ def memory_mb(pid):
 class Window:
     """One start of the program in a home of its own, ended by a signal."""
 
-    def __init__(self, program, library, environment):
+    def __init__(self, program, library, environment, platform=None):
         home = Path(environment["HOME"])
         screen = home / "screen.json"
         screen.write_text(json.dumps(SCREEN))
         self.trace = home / "trace.json"
         self.trace.unlink(missing_ok=True)
-        environment = {**environment, "QT_QPA_PLATFORM": f"offscreen:configfile={screen}",
-                       "LORVA_TRACE": str(self.trace)}
+        environment = {**environment, "LORVA_TRACE": str(self.trace),
+                       "QT_QPA_PLATFORM": platform or f"offscreen:configfile={screen}"}
         actions = [(os.POSIX_SPAWN_OPEN, fd, os.devnull, os.O_RDWR, 0) for fd in (0, 1)]
         self.started_ns = time.monotonic_ns()
         self.pid = os.posix_spawn(program, [program, "--folder", str(library)], environment,
@@ -109,8 +109,8 @@ class Window:
 
 
 @contextlib.contextmanager
-def opened(program, library, environment):
-    window = Window(program, library, environment)
+def opened(program, library, environment, platform=None):
+    window = Window(program, library, environment, platform)
     try:
         yield window
     finally:

@@ -16,7 +16,7 @@ packages_build="
   ninja-build           runs the build
   ccache                makes a second build of the same file free
   pkg-config            finds the libraries that bring no CMake files
-  qt6-base-dev          Qt Core, Gui, Widgets, Concurrent, Test, and the platform plugins
+  qt6-base-dev          Qt Core, Gui, Widgets, Concurrent, DBus, Test, and the platform plugins
   qt6-svg-dev           Qt Svg: the symbol images
   qt6-wayland           lets the window run on Wayland itself
   libharfbuzz-dev       reads, shapes and outlines fonts
@@ -32,6 +32,10 @@ packages_test="
   libgtest-dev          runs every test
   libgmock-dev          matchers
   libharfbuzz-bin       hb-shape, whose answers shaping is compared with
+  dbus-daemon           a private session bus for the second start
+  xvfb                  a display for the journey in a desktop session
+  openbox               its window manager
+  xdotool               its pointer and keyboard
 "
 packages_fonts="
   fonts-noto-cjk        collections, Chinese, Japanese and Korean, big files

@@ -3,8 +3,11 @@
 
 #include "app/LaunchOptions.h"
 
+#include "ui/display/BackgroundImages.h"
+
 #include <QList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lorva {
@@ -47,7 +50,57 @@ Result<ColorMode> parseColorMode(const QByteArray &value)
         return ColorMode::black;
     if (value == "custom")
         return ColorMode::custom;
-    return usage(QStringLiteral("--color takes white, black or custom"));
+    if (value == "image")
+        return ColorMode::image;
+    return usage(QStringLiteral("--color takes white, black, custom or image"));
+}
+
+Result<bool> parseAppearance(const QByteArray &value)
+{
+    if (value == "light" || value == "dark")
+        return value == "dark";
+    return usage(QStringLiteral("--appearance takes light or dark"));
+}
+
+Result<LaunchSource> parseSource(const QByteArray &value)
+{
+    using Kind = BrowserSource::Kind;
+    const struct
+    {
+        const char *word;
+        Kind kind;
+    } words[]{{"all", Kind::allFonts},          {"active", Kind::active},
+              {"inactive", Kind::inactive},     {"style", Kind::style},
+              {"collection", Kind::collection}, {"foundry", Kind::foundry}};
+    const qsizetype colon = value.indexOf(':');
+    const QByteArray place = colon < 0 ? value : value.left(colon);
+    const QString text = colon < 0 ? QString() : QString::fromUtf8(value.mid(colon + 1));
+    for (const auto &[word, kind] : words)
+        if (place == word && BrowserSource::namesGrouping(kind) == !text.isEmpty())
+            return LaunchSource{kind, text};
+    return usage(
+        QStringLiteral("--source takes all, active, inactive, style:ID, collection:NAME or "
+                       "foundry:ID"));
+}
+
+Result<QString> parseImage(const QByteArray &value)
+{
+    QStringList ids;
+    for (const BackgroundImage &image : builtInBackgroundImages()) {
+        if (value == image.id)
+            return QString::fromUtf8(value);
+        ids << QString::fromUtf8(image.id);
+    }
+    return usage(QStringLiteral("--image takes one of: %1").arg(ids.join(QStringLiteral(", "))));
+}
+
+Result<int> parseWeight(const QByteArray &value)
+{
+    bool isNumber = false;
+    const int weight = value.toInt(&isNumber);
+    if (!isNumber || weight < 100 || weight > 900)
+        return usage(QStringLiteral("--weight takes a number from 100 to 900"));
+    return weight;
 }
 
 Result<double> parsePointSize(const QByteArray &value)
@@ -69,30 +122,61 @@ Result<void> store(Result<T> parsed, Target &target)
     return {};
 }
 
-Result<void> applyOption(LaunchOptions &options, const QByteArray &name, const QByteArray &value,
-                         const FilePath &workingFolder)
+/// An option with a value, and where the value goes.
+struct Option
 {
-    if (name == "--screenshot")
-        return store(Result<FilePath>(FilePath::absolute(value, workingFolder)),
-                     options.screenshot);
-    if (name == "--window-size")
-        return store(parseSize(value), options.windowSize);
-    if (name == "--view")
-        return store(parseViewMode(value), options.viewMode);
-    if (name == "--color")
-        return store(parseColorMode(value), options.colorMode);
-    if (name == "--point-size")
-        return store(parsePointSize(value), options.pointSize);
-    if (name == "--text")
-        return store(Result<QString>(QString::fromUtf8(value)), options.sampleText);
+    const char *name;
+    Result<void> (*apply)(LaunchOptions &, const QByteArray &value, const FilePath &workingFolder);
+};
+
+/// For values that need no working folder.
+template <auto Parse, auto Member>
+Result<void> parsed(LaunchOptions &options, const QByteArray &value, const FilePath &)
+{
+    return store(Parse(value), options.*Member);
+}
+
+Result<QString> parseText(const QByteArray &value)
+{
+    return QString::fromUtf8(value);
+}
+
+template <auto Member>
+Result<void> path(LaunchOptions &options, const QByteArray &value, const FilePath &workingFolder)
+{
+    options.*Member = FilePath::absolute(value, workingFolder);
+    return {};
+}
+
+Result<void> addFolder(LaunchOptions &options, const QByteArray &value,
+                       const FilePath &workingFolder)
+{
     options.folders.push_back(FilePath::absolute(value, workingFolder));
     return {};
 }
 
-bool takesValue(const QByteArray &name)
+constexpr Option kOptions[]{
+    {"--screenshot", path<&LaunchOptions::screenshot>},
+    {"--window-size", parsed<parseSize, &LaunchOptions::windowSize>},
+    {"--appearance", parsed<parseAppearance, &LaunchOptions::isDark>},
+    {"--folder", addFolder},
+    {"--source", parsed<parseSource, &LaunchOptions::source>},
+    {"--search", parsed<parseText, &LaunchOptions::searchText>},
+    {"--select", parsed<parseText, &LaunchOptions::selectedFamily>},
+    {"--view", parsed<parseViewMode, &LaunchOptions::viewMode>},
+    {"--color", parsed<parseColorMode, &LaunchOptions::colorMode>},
+    {"--image", parsed<parseImage, &LaunchOptions::backgroundImageID>},
+    {"--logo", path<&LaunchOptions::logo>},
+    {"--point-size", parsed<parsePointSize, &LaunchOptions::pointSize>},
+    {"--weight", parsed<parseWeight, &LaunchOptions::weight>},
+    {"--text", parsed<parseText, &LaunchOptions::sampleText>},
+};
+
+const Option *findOption(const QByteArray &name)
 {
-    return name == "--screenshot" || name == "--window-size" || name == "--view"
-        || name == "--color" || name == "--point-size" || name == "--text" || name == "--folder";
+    const auto *const found =
+        std::ranges::find_if(kOptions, [&](const Option &option) { return name == option.name; });
+    return found == std::end(kOptions) ? nullptr : found;
 }
 
 } // namespace
@@ -116,14 +200,15 @@ Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
             options.showsVersion = true;
             continue;
         }
-        if (!takesValue(name))
+        const Option *const option = findOption(name);
+        if (!option)
             return usage(
                 QStringLiteral("unknown argument \"%1\"").arg(FilePath(name).displayText()));
         if (!value && i + 1 < arguments.size())
             value = QByteArray(arguments[++i]);
         if (!value || value->isEmpty())
             return usage(QStringLiteral("%1 needs a value").arg(QString::fromUtf8(name)));
-        if (const auto applied = applyOption(options, name, *value, workingFolder); !applied)
+        if (const auto applied = option->apply(options, *value, workingFolder); !applied)
             return tl::unexpected(applied.error());
     }
     return options;
@@ -136,15 +221,23 @@ QString launchHelp()
 Shows every font of this computer as a live specimen.
 
   --folder DIR          add the fonts of a folder for this start (repeatable)
+  --source SOURCE       start in all, active, inactive, style:ID, collection:NAME or foundry:ID
+  --search TEXT         start with this text in the search field
+  --select NAME         start with this family selected
   --view grid|list      start in this view
   --point-size N        start with specimens of this size, in points
-  --color MODE          start with white, black or custom colours
+  --weight N            start with specimens of this weight, 100 to 900
+  --color MODE          start with white, black or custom colours, or an image
+  --image ID            start with this background image (--color image)
+  --logo FILE           start with this image as logo
   --text TEXT           start with this sample text
+  --appearance MODE     light or dark, whatever the desktop is
   --screenshot FILE     show the window off screen, write its picture as PNG, and quit
   --window-size WxH     size of that picture, in points (default 1720x920)
   --version             print the version
   --help                print this help
 
+If Lorva runs already, its window comes to the front and takes the options over.
 QT_SCALE_FACTOR=2 makes the picture twice as dense. QT_LOGGING_RULES="lorva.*=true" logs.
 LORVA_TRACE=FILE writes down where the time of a start goes, as Chrome trace events.
 )");

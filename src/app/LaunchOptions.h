@@ -4,6 +4,7 @@
 
 #include "base/FilePath.h"
 #include "base/Result.h"
+#include "model/records/BrowserSource.h"
 #include "model/records/DisplayRecords.h"
 
 #include <QSize>
@@ -14,6 +15,16 @@
 
 namespace lorva {
 
+/// A place that the browser can show, as the command line names it.
+struct LaunchSource
+{
+    BrowserSource::Kind kind = BrowserSource::Kind::allFonts;
+    /// Of a style category or foundry its id, of a collection its name.
+    QString text;
+
+    bool operator==(const LaunchSource &) const = default;
+};
+
 /// What the command line asks of the program.
 struct LaunchOptions
 {
@@ -23,10 +34,19 @@ struct LaunchOptions
     std::optional<FilePath> screenshot;
     /// Content size for the picture, in points.
     QSize windowSize{1720, 920};
+    /// Whether the desktop is to be taken for a dark one.
+    std::optional<bool> isDark;
     std::vector<FilePath> folders;
+    std::optional<LaunchSource> source;
+    std::optional<QString> searchText;
+    std::optional<QString> selectedFamily;
     std::optional<ViewMode> viewMode;
     std::optional<ColorMode> colorMode;
+    /// One of builtInBackgroundImages().
+    std::optional<QString> backgroundImageID;
+    std::optional<FilePath> logo;
     std::optional<double> pointSize;
+    std::optional<int> weight;
     std::optional<QString> sampleText;
 };
 

@@ -3,28 +3,27 @@
 
 #include "app/LorvaApplicationDelegate.h"
 
+#include "app/FrameTrace.h"
+#include "app/MainMenu.h"
+#include "app/WindowPlacement.h"
 #include "base/AtomicFile.h"
 #include "base/Trace.h"
 #include "catalog/CatalogCache.h"
-#include "install/FontInstallationService.h"
 #include "model/stores/WindowGeometry.h"
-#include "platform/linux/DesktopTrash.h"
-#include "platform/linux/FontconfigAvailableFonts.h"
-#include "platform/linux/FontconfigSystemFont.h"
-#include "platform/linux/InotifyFolderWatcher.h"
-#include "platform/linux/LinkFolderRegistrar.h"
 #include "platform/linux/XdgFolders.h"
-#include "platform/MemoryPreferenceStore.h"
-#include "platform/SqlitePreferenceStore.h"
+#include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/FontBrowserViewController.h"
+#include "ui/display/BackgroundImageStore.h"
 #include "ui/LorvaRootSplitViewController.h"
+#include "ui/onboarding/WindowReveal.h"
+#include "ui/sidebar/ProjectSidebarViewController.h"
+#include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
 
 #include <QApplication>
 #include <QBuffer>
 #include <QLoggingCategory>
 #include <QScreen>
-#include <QShortcut>
 #include <QTimer>
 
 #include <chrono>
@@ -38,49 +37,12 @@ namespace {
 
 constexpr std::chrono::milliseconds kSettleLook{4};
 
-/// A picture must not touch what the user's own window remembers.
-std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
-                                                 const PlatformFolders &folders)
+std::vector<QRect> visibleFrames()
 {
-    if (options.screenshot)
-        return std::make_unique<MemoryPreferenceStore>();
-    return std::make_unique<SqlitePreferenceStore>(folders.applicationSupport);
-}
-
-/// Nobody waits for news in a picture.
-std::unique_ptr<FolderWatcher> makeFolderWatcher(const LaunchOptions &options)
-{
-    return options.screenshot ? nullptr : std::make_unique<InotifyFolderWatcher>();
-}
-
-std::unique_ptr<LorvaAppModel> makeModel(const LaunchOptions &options,
-                                         const PlatformFolders &folders,
-                                         PreferenceStore &preferences,
-                                         std::unique_ptr<CatalogCache> catalogCache)
-{
-    FontLibraryService::Dependencies dependencies{
-        std::make_shared<FontconfigAvailableFonts>(folders.registeredLinks()),
-        std::make_shared<FontconfigSystemFont>()};
-    dependencies.cacheFileURL = folders.parseCache();
-    // A picture leaves the user's files as they are.
-    dependencies.savesCache = !options.screenshot;
-    const auto registrar = std::make_shared<LinkFolderRegistrar>(folders.registeredLinks());
-    FontInstallationService::Dependencies installation{folders, registrar,
-                                                       std::make_shared<DesktopTrash>()};
-    installation.reconcilesBooks = !options.screenshot;
-    auto model = std::make_unique<LorvaAppModel>(LorvaAppModel::Dependencies{
-        std::make_unique<FontLibraryService>(std::move(dependencies)),
-        std::make_unique<FontInstallationService>(
-            std::make_unique<FontInstallationStore>(preferences), std::move(installation)),
-        preferences, std::make_unique<GivenFolders>(options.folders), std::move(catalogCache),
-        folders, makeFolderWatcher(options), registrar});
-    model->setViewMode(options.viewMode.value_or(model->viewMode()));
-    SourceDisplaySettings display;
-    display.colorMode = options.colorMode;
-    display.browserPointSize = options.pointSize;
-    display.sampleText = options.sampleText;
-    model->setDisplayForThisRun(display);
-    return model;
+    std::vector<QRect> frames;
+    for (const QScreen *screen : QGuiApplication::screens())
+        frames.push_back(screen->availableGeometry());
+    return frames;
 }
 
 } // namespace
@@ -96,18 +58,23 @@ std::unique_ptr<CatalogCache> LorvaApplicationDelegate::beginReadingCatalog(
 }
 
 LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options,
-                                                   std::unique_ptr<CatalogCache> catalogCache)
+                                                   std::unique_ptr<CatalogCache> catalogCache,
+                                                   ProgramParts parts)
     : m_options(std::move(options))
+    , m_makeOnboarding(std::move(parts.makeOnboarding))
     , m_preferences(makePreferences(m_options, xdgFolders()))
     , m_model(makeModel(m_options, xdgFolders(), *m_preferences, std::move(catalogCache)))
+    , m_updaterController(std::move(parts.updaterController))
     , m_windowFrameStore(*m_preferences)
+    , m_choices(*m_model)
 {
     traceMoment("model made");
 }
 
 LorvaApplicationDelegate::~LorvaApplicationDelegate()
 {
-    // The window holds the model without owning it.
+    // Both hold the model without owning it.
+    m_menu.reset();
     m_window.reset();
 }
 
@@ -116,11 +83,12 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
     const TraceStage stage("start: window");
     if (m_options.screenshot)
         setReducedMotionOverride(true);
+    applyChoices(m_options);
     buildWindow();
     placeWindow();
     watchFirstScreen();
     m_root->browser().setFocus();
-    m_window->show();
+    passOnboardingGate();
     m_model->loadCatalog();
     connect(qApp, &QGuiApplication::applicationStateChanged, m_model.get(),
             [this](Qt::ApplicationState state) {
@@ -129,16 +97,64 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
             });
 }
 
+void LorvaApplicationDelegate::applyChoices(const LaunchOptions &options)
+{
+    if (options.isDark)
+        setDarkDesktopOverride(*options.isDark);
+    if (const Result<void> applied = m_choices.apply(options); !applied)
+        std::fprintf(stderr, "lorva: %s\n", qPrintable(applied.error().detail));
+}
+
+void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
+{
+    std::vector<const char *> arguments;
+    for (const QByteArray &argument : start.arguments)
+        arguments.push_back(argument.constData());
+    const auto options = parseLaunchOptions(arguments, start.workingFolder);
+    if (options && m_root) {
+        applyChoices(*options);
+        if (!options->folders.empty())
+            m_model->addFoldersForThisRun(options->folders);
+    }
+    if (!start.activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", start.activationToken);
+    if (!m_window)
+        return;
+    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    m_window->raise();
+    m_window->activateWindow();
+}
+
 void LorvaApplicationDelegate::buildWindow()
 {
     m_window = std::make_unique<QMainWindow>();
     m_window->setObjectName(QStringLiteral("LorvaMainWindow"));
     m_window->setWindowTitle(tr("All Fonts"));
-    m_root = new LorvaRootSplitViewController(*m_model, m_window.get());
+    m_window->setBackgroundRole(QPalette::Base);
+    m_window->setContextMenuPolicy(Qt::NoContextMenu);
+    const auto images = std::make_shared<BackgroundImageStore>(
+        xdgFolders().applicationSupport.child("background-images"));
+    m_root = new LorvaRootSplitViewController(*m_model, images, m_window.get());
+    m_backgroundHostingView = &m_root->backgroundView();
     m_window->setCentralWidget(m_root);
     m_window->installEventFilter(this);
-    auto *quit = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), m_window.get());
-    connect(quit, &QShortcut::activated, m_window.get(), &QWidget::close);
+    buildMenu();
+    connect(m_root, &LorvaRootSplitViewController::rendered, this,
+            &LorvaApplicationDelegate::windowRendered);
+    traceFrames(*m_window);
+}
+
+void LorvaApplicationDelegate::buildMenu()
+{
+    const TraceStage stage("start: menu");
+    m_menu = std::make_unique<MainMenu>(MainMenu::Targets{
+        *m_model, *m_updaterController, *m_window,
+        [this] { m_root->sidebar().beginCreatingCollection(); }, [this] { m_root->addFolder(); },
+        [this] { m_root->browser().topBar().focusSearch(); }});
+    m_root->setMainMenu(m_menu->buttonMenu());
+    // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
+    connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),
+            &MainMenu::makeMenuBar, Qt::QueuedConnection);
 }
 
 void LorvaApplicationDelegate::placeWindow()
@@ -149,18 +165,70 @@ void LorvaApplicationDelegate::placeWindow()
     }
     m_window->setMinimumSize(kMinimumContentSize);
     const QScreen *screen = QGuiApplication::primaryScreen();
-    const QRect frame =
-        mainWindowFrame(m_windowFrameStore.load(), screen ? screen->availableGeometry() : QRect(),
-                        kMinimumContentSize, kWantedContentSize);
-    m_window->setGeometry(frame);
+    const std::optional<QRect> saved = m_windowFrameStore.load();
+    const QRect frame = mainWindowFrame(saved, screen ? screen->availableGeometry() : QRect(),
+                                        kMinimumContentSize, kWantedContentSize);
+    m_window->setGeometry(saved ? keptReachable(frame, visibleFrames()) : frame);
+}
+
+void LorvaApplicationDelegate::saveFrame()
+{
+    const QRect normal = m_window->normalGeometry();
+    m_windowFrameStore.save(normal.isValid() ? normal : m_window->geometry());
 }
 
 bool LorvaApplicationDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Close && watched == m_window.get() && !m_options.screenshot)
-        m_windowFrameStore.save(m_window->normalGeometry().isValid() ? m_window->normalGeometry()
-                                                                     : m_window->geometry());
+        saveFrame();
     return QObject::eventFilter(watched, event);
+}
+
+void LorvaApplicationDelegate::windowRendered()
+{
+    m_window->setWindowTitle(m_root->browser().state().title);
+    m_menu->update();
+    m_choices.catchUp();
+}
+
+void LorvaApplicationDelegate::passOnboardingGate()
+{
+    const bool wasSeen = m_preferences->boolean(onboardingFlag()).value_or(false);
+    if (wasSeen || m_options.screenshot) {
+        m_window->show();
+        startUpdater();
+        return;
+    }
+    concealWindow(*m_window);
+    m_window->show();
+    m_onboardingController = m_makeOnboarding(*m_model);
+    m_onboardingController->show(
+        *m_window, [this](OnboardingOverlayController::End end) { endOnboarding(end); });
+}
+
+void LorvaApplicationDelegate::endOnboarding(OnboardingOverlayController::End end)
+{
+    if (end == OnboardingOverlayController::End::continued) {
+        m_preferences->setBoolean(onboardingFlag(), true);
+        startUpdater();
+        revealWindow(*m_window, *m_root);
+    } else {
+        startUpdater();
+        showConcealedWindow(*m_window);
+    }
+    // It is its own call that ends here.
+    QMetaObject::invokeMethod(
+        this, [this] { m_onboardingController.reset(); }, Qt::QueuedConnection);
+}
+
+void LorvaApplicationDelegate::startUpdater()
+{
+    if (m_options.screenshot)
+        return;
+    // Without a category: the line is the same on every system.
+    if (const Result<void> started = m_updaterController->start(); !started)
+        qWarning("Sparkle updater failed to start: %s", qUtf8Printable(started.error().detail));
+    m_menu->update();
 }
 
 void LorvaApplicationDelegate::watchFirstScreen()
@@ -210,7 +278,7 @@ bool LorvaApplicationDelegate::isReadyForScreenshot()
         return false;
     // The result may not have been drawn yet.
     m_root->render();
-    return m_root->browser().isSettled();
+    return m_root->isSettled();
 }
 
 void LorvaApplicationDelegate::takeScreenshot()

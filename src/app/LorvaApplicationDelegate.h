@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/LaunchChoices.h"
 #include "app/LaunchOptions.h"
-#include "model/LorvaAppModel.h"
+#include "app/ProgramServices.h"
 #include "model/stores/WindowFrameStore.h"
-#include "platform/PreferenceStore.h"
+#include "platform/SingleInstance.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -15,27 +16,39 @@
 namespace lorva {
 
 class LorvaRootSplitViewController;
+class LorvaWindowBackgroundView;
+class MainMenu;
 
 /// Builds the program's objects in their order, opens the one main window, and ends with it.
 ///
-/// Owns: the preference store, the model, the window. Thread: main.
+/// Owns: the preference store, the model, the updater, the window, and the welcome while it is
+/// shown. Thread: main.
 class LorvaApplicationDelegate final : public QObject
 {
     Q_OBJECT
 public:
     static constexpr QSize kWantedContentSize{1720, 920};
     static constexpr QSize kMinimumContentSize{960, 800};
+    /// True once the user has gone through the welcome.
+    static QString onboardingFlag()
+    {
+        return QStringLiteral("vantrel.merid.hasCompletedOnboarding");
+    }
 
     /// The catalog of the last start, being read already: to be called first of all, before the
     /// toolkit is started. Null for a picture, which shows nothing but what is there now.
     static std::unique_ptr<CatalogCache> beginReadingCatalog(const LaunchOptions &options);
 
     explicit LorvaApplicationDelegate(LaunchOptions options,
-                                      std::unique_ptr<CatalogCache> catalogCache = nullptr);
+                                      std::unique_ptr<CatalogCache> catalogCache = nullptr,
+                                      ProgramParts parts = {});
     ~LorvaApplicationDelegate() override;
 
     /// Builds and shows the window and starts the catalog load.
     void applicationDidFinishLaunching();
+    /// Another start was handed over: brings the window to the front and shows what that start
+    /// asks for, as far as it can be understood.
+    void takeOver(const ProgramStart &start);
 
     LorvaAppModel &model() { return *m_model; }
     QMainWindow *window() { return m_window.get(); }
@@ -50,19 +63,34 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void applyChoices(const LaunchOptions &options);
     void buildWindow();
+    void buildMenu();
     void placeWindow();
+    void saveFrame();
+    void windowRendered();
+    void passOnboardingGate();
+    void endOnboarding(OnboardingOverlayController::End end);
+    void startUpdater();
     void watchFirstScreen();
     void reportFirstScreen();
     bool isReadyForScreenshot();
     void takeScreenshot();
 
     const LaunchOptions m_options;
+    const decltype(ProgramParts::makeOnboarding) m_makeOnboarding;
     std::unique_ptr<PreferenceStore> m_preferences;
     std::unique_ptr<LorvaAppModel> m_model;
-    WindowFrameStore m_windowFrameStore;
+    std::unique_ptr<UpdaterController> m_updaterController;
     std::unique_ptr<QMainWindow> m_window;
+    /// The root controller's.
+    LorvaWindowBackgroundView *m_backgroundHostingView = nullptr;
+    std::unique_ptr<OnboardingOverlayController> m_onboardingController;
+
+    WindowFrameStore m_windowFrameStore;
+    LaunchChoices m_choices;
     LorvaRootSplitViewController *m_root = nullptr;
+    std::unique_ptr<MainMenu> m_menu;
     QElapsedTimer m_sinceCatalog;
     /// They may still fade in.
     bool m_specimensAreDrawn = false;

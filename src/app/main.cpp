@@ -4,6 +4,7 @@
 #include "app/LaunchOptions.h"
 #include "app/LorvaApplicationDelegate.h"
 #include "base/Trace.h"
+#include "platform/linux/DBusSingleInstance.h"
 #include "platform/linux/SmallFontconfig.h"
 
 #include <QApplication>
@@ -63,6 +64,16 @@ void endInTime(int status)
     }).detach();
 }
 
+/// What another process is told if it takes this start over.
+lorva::ProgramStart thisStart(int argc, char **argv)
+{
+    lorva::ProgramStart start{
+        {}, lorva::FilePath::workingFolder(), lorva::activationTokenFromEnvironment()};
+    for (int i = 1; i < argc; ++i)
+        start.arguments << QByteArray(argv[i]);
+    return start;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -89,12 +100,17 @@ int main(int argc, char **argv)
         return kExitUsage;
     }
 
+    lorva::DBusSingleInstance instance;
+    if (!options->screenshot)
+        instance.beginClaim(thisStart(argc, argv));
     auto catalogCache = lorva::LorvaApplicationDelegate::beginReadingCatalog(*options);
     // Before the application object: its font database is filled from the process's configuration.
     {
         const lorva::TraceStage stage("start: interface fonts");
         lorva::useSmallFontconfigForInterface();
     }
+    if (!options->screenshot && instance.claim() == lorva::SingleInstance::Claim::handedOver)
+        return 0;
     QCoreApplication::setApplicationName(QStringLiteral("Lorva"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LORVA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("vantrel.lorva"));
@@ -107,8 +123,10 @@ int main(int argc, char **argv)
     qInstallMessageHandler(usual);
 
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache));
+    instance.onStart = [&](const lorva::ProgramStart &start) { delegate.takeOver(start); };
     delegate.applicationDidFinishLaunching();
     const int status = QApplication::exec();
     endInTime(status);
+    instance.release();
     return status;
 }

@@ -3,99 +3,56 @@
 
 #include "ui/LorvaRootSplitViewController.h"
 
+#include "base/Trace.h"
+#include "commands/OrganizationAlerts.h"
 #include "ui/browser/FontBrowserViewController.h"
+#include "ui/display/LogoImage.h"
+#include "ui/display/LorvaWindowBackgroundView.h"
+#include "ui/PaneStates.h"
+#include "ui/sheets/AlertSheet.h"
+#include "ui/sidebar/ProjectSidebarViewController.h"
+#include "ui/sidebar/SidebarFooter.h"
 
-#include <algorithm>
+#include <QEvent>
+#include <QFileDialog>
+#include <QPointer>
+#include <QStyle>
 
 namespace lorva {
 
 namespace {
 
-struct ColorPair
-{
-    QString foreground;
-    QString background;
-};
-
-ColorPair colorsOf(const LorvaAppModel &model)
-{
-    switch (model.colorMode()) {
-    case ColorMode::white:
-    case ColorMode::image:
-        break;
-    case ColorMode::black:
-        return {QStringLiteral("#FFFFFF"), QStringLiteral("#000000")};
-    case ColorMode::custom:
-        return {model.customForegroundColorHex(), model.customBackgroundColorHex()};
-    }
-    return {QStringLiteral("#000000"), QStringLiteral("#FFFFFF")};
-}
-
-template <class Records>
-std::optional<QString> nameOf(const Records &records, const QString &id)
-{
-    const auto found = std::ranges::find(records, id, [](const auto &record) { return record.id; });
-    return found == records.end() ? std::nullopt : std::optional(found->name);
-}
-
-QString titleOf(const BrowserSource &source, const LorvaAppModel &model)
-{
-    using Kind = BrowserSource::Kind;
-    std::optional<QString> title;
-    if (source.kind() == Kind::active)
-        title = LorvaRootSplitViewController::tr("Active");
-    else if (source.kind() == Kind::inactive)
-        title = LorvaRootSplitViewController::tr("Inactive");
-    else if (source.kind() == Kind::style)
-        title = nameOf(model.styleCategories(), source.id());
-    else if (source.kind() == Kind::collection)
-        title = nameOf(model.collections(), source.id());
-    else if (source.kind() == Kind::foundry)
-        title = nameOf(model.foundryCollections(), source.id());
-    return title.value_or(LorvaRootSplitViewController::tr("All Fonts"));
-}
-
-BrowserEmptyState emptyStateOf(const BrowserSource &source, const QString &query)
-{
-    using Empty = BrowserEmptyState::SourceEmpty;
-    if (!query.isEmpty())
-        return {BrowserEmptyState::NoSearchResults{query}};
-    switch (source.kind()) {
-    case BrowserSource::Kind::active:
-        return {
-            Empty{LorvaRootSplitViewController::tr("No Active Fonts"),
-                  LorvaRootSplitViewController::tr("Fonts that every program can use appear here."),
-                  false}};
-    case BrowserSource::Kind::inactive:
-        return {Empty{LorvaRootSplitViewController::tr("No Inactive Fonts"),
-                      LorvaRootSplitViewController::tr(
-                          "Fonts of your folders that are not switched on appear here."),
-                      false}};
-    case BrowserSource::Kind::style:
-    case BrowserSource::Kind::collection:
-    case BrowserSource::Kind::foundry:
-        return {Empty{LorvaRootSplitViewController::tr("No Fonts Here"),
-                      LorvaRootSplitViewController::tr(
-                          "None of the families that belong here are on this computer."),
-                      false}};
-    default:
-        return {Empty{LorvaRootSplitViewController::tr("No Fonts"),
-                      LorvaRootSplitViewController::tr(
-                          "Neither this system nor your folders hold a font that can be read."),
-                      false}};
-    }
-}
+constexpr int kSidebarWidth = ProjectSidebarViewController::kWidth;
 
 } // namespace
 
-LorvaRootSplitViewController::LorvaRootSplitViewController(LorvaAppModel &model, QWidget *parent)
+LorvaRootSplitViewController::LorvaRootSplitViewController(
+    LorvaAppModel &model, std::shared_ptr<const BackgroundImageStore> images, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
+    , m_browserActions(model, images)
+    , m_sidebarActions(model)
+    , m_logo(new LogoImage(this))
+    , m_background(new LorvaWindowBackgroundView(images, this))
+    , m_sidebar(new ProjectSidebarViewController(this))
+    , m_footer(new SidebarFooter(this))
     , m_browser(new FontBrowserViewController(makeFontResolver(model.fontLibraryService()), this))
 {
     setObjectName(QStringLiteral("LorvaRootSplitViewController"));
-    m_browser->setDelegate(this);
+    m_browser->setDelegate(&m_browserActions);
+    m_sidebar->setDelegate(&m_sidebarActions);
+    m_browserActions.onRefused = [this](const QString &reason) { tellRefused(reason); };
+    m_browserActions.onWatchFolderWanted = [this] { addFolder(); };
+    m_sidebarActions.onRefused = [this](const QString &reason) { tellRefused(reason); };
+    m_sidebarActions.onQuestion = [this](const Alert &question, std::function<void()> accepted) {
+        ask(question, std::move(accepted));
+    };
+    m_footer->onAddFolder = [this] { addFolder(); };
+    m_logo->onChange = [this] { scheduleRender(); };
     m_model.onChange = [this] { scheduleRender(); };
+    m_browserActions.readUserImages();
+    setTabOrder(m_sidebar, m_footer);
+    setTabOrder(m_footer, m_browser);
     render();
 }
 
@@ -106,38 +63,25 @@ LorvaRootSplitViewController::~LorvaRootSplitViewController()
 
 FontBrowserState LorvaRootSplitViewController::browserState() const
 {
-    FontBrowserState state;
-    state.source = m_model.selectedSource();
-    state.title = titleOf(state.source, m_model);
-    state.families = m_model.visibleFamilies();
-    state.selectedFamilyName = m_model.selectedFamilyName();
-    state.searchQuery = m_model.searchQuery();
-    state.viewMode = m_model.viewMode();
-    state.fontWeight = int(m_model.browserFontWeight());
-    state.pointSize = m_model.browserPointSize();
-    state.colorMode = m_model.colorMode();
-    const ColorPair colors = colorsOf(m_model);
-    state.foregroundColorHex = colors.foreground;
-    state.backgroundColorHex = colors.background;
-    state.imageForegroundColorHex = m_model.imageForegroundColorHex();
-    state.sampleText = m_model.sampleText();
-    state.activationProvider = [this](const FontFamilyRecord &family) {
-        return m_model.activation(family);
-    };
-    state.catalogGeneration = m_model.catalogGeneration();
-    state.activationGeneration = m_model.activationGeneration();
-    state.isLoading = m_model.isLoading();
-    state.loadingText = m_model.loadingText();
-    if (state.families.empty() && !state.isLoading)
-        state.emptyState = emptyStateOf(state.source, m_model.searchQuery().trimmed());
-    return state;
+    return browserStateOf(m_model, m_logo->image(m_model.display().logoImageData),
+                          m_browserActions.userImages());
 }
 
 void LorvaRootSplitViewController::render()
 {
+    const TraceStage stage("render");
     m_renderIsScheduled = false;
-    m_browser->apply(browserState());
+    const FontBrowserState state = browserState();
+    applyGround(state);
+    m_sidebar->apply(sidebarStateOf(m_model));
+    m_browser->apply(state);
     Q_EMIT rendered();
+}
+
+void LorvaRootSplitViewController::applyGround(const FontBrowserState &state)
+{
+    m_background->apply({state.colorMode, QColor(state.backgroundColorHex), state.backgroundImageID,
+                         state.backgroundImageUserFilename});
 }
 
 void LorvaRootSplitViewController::scheduleRender()
@@ -154,29 +98,73 @@ void LorvaRootSplitViewController::scheduleRender()
         Qt::QueuedConnection);
 }
 
+bool LorvaRootSplitViewController::isSettled() const
+{
+    return m_browser->isSettled() && !m_logo->isWaiting() && !m_background->isWaiting();
+}
+
+void LorvaRootSplitViewController::setMainMenu(QMenu *menu)
+{
+    m_footer->setMainMenu(menu);
+}
+
+void LorvaRootSplitViewController::addFolder()
+{
+    auto *dialog = new QFileDialog(this, tr("Add Folder"));
+    dialog->setObjectName(QStringLiteral("addFolderDialog"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setLabelText(QFileDialog::Accept, tr("Add"));
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString &folder) { watch(FilePath::fromText(folder)); });
+    dialog->open();
+}
+
+void LorvaRootSplitViewController::watch(const FilePath &folder)
+{
+    m_model.addWatchedFolders({folder}, [view = QPointer(this)](const AddedFolders &added) {
+        if (view && !added.failures.empty())
+            view->tellRefused(added.failures.begin()->second.detail);
+    });
+}
+
+void LorvaRootSplitViewController::ask(const Alert &question, std::function<void()> accepted)
+{
+    presentAlert(*window(), question, [accepted = std::move(accepted)](int button) {
+        if (button == 0)
+            accepted();
+    });
+}
+
+void LorvaRootSplitViewController::tellRefused(const QString &reason)
+{
+    presentAlert(*window(), refusedChangeAlert(reason), [](int) {});
+}
+
+void LorvaRootSplitViewController::layOut()
+{
+    const auto place = [this](QWidget *widget, const QRect &logical) {
+        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), logical));
+    };
+    const int footerHeight = SidebarFooter::kHeight;
+    const QRect pane(kSidebarWidth, 0, std::max(width() - kSidebarWidth, 0), height());
+    place(m_sidebar, {0, 0, kSidebarWidth, std::max(height() - footerHeight, 0)});
+    place(m_footer, {0, height() - footerHeight, kSidebarWidth, footerHeight});
+    place(m_background, pane);
+    place(m_browser, pane);
+}
+
 void LorvaRootSplitViewController::resizeEvent(QResizeEvent *)
 {
-    m_browser->setGeometry(rect());
+    layOut();
 }
 
-void LorvaRootSplitViewController::browserSelectionChanged(const std::optional<QString> &familyName)
+void LorvaRootSplitViewController::changeEvent(QEvent *event)
 {
-    m_model.selectFamily(familyName);
-}
-
-void LorvaRootSplitViewController::browserOpenDetail(const QString &familyName)
-{
-    m_model.openDetail(familyName);
-}
-
-void LorvaRootSplitViewController::browserPointSizeChanged(double pointSize)
-{
-    m_model.setPointSize(pointSize);
-}
-
-void LorvaRootSplitViewController::browserViewModeChanged(ViewMode mode)
-{
-    m_model.setViewMode(mode);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        layOut();
+    QWidget::changeEvent(event);
 }
 
 } // namespace lorva

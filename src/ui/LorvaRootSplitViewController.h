@@ -2,23 +2,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/browser/FontBrowserState.h"
+#include "ui/BrowserActions.h"
+#include "ui/SidebarActions.h"
 
 #include <QWidget>
+
+#include <memory>
+
+class QMenu;
 
 namespace lorva {
 
 class FontBrowserViewController;
+class LogoImage;
+class LorvaWindowBackgroundView;
+class ProjectSidebarViewController;
+class SidebarFooter;
 
 /// The content of the main window: builds the panes' states from the model and hands the panes'
 /// actions to it. Several changes of the model within one turn of the event loop are rendered once.
 ///
 /// Does not own the model, which must outlive it. Thread: main.
-class LorvaRootSplitViewController final : public QWidget, private FontBrowserDelegate
+class LorvaRootSplitViewController final : public QWidget
 {
     Q_OBJECT
 public:
-    explicit LorvaRootSplitViewController(LorvaAppModel &model, QWidget *parent = nullptr);
+    /// `images` may be null: the user has no background images.
+    explicit LorvaRootSplitViewController(
+        LorvaAppModel &model, std::shared_ptr<const BackgroundImageStore> images = nullptr,
+        QWidget *parent = nullptr);
     ~LorvaRootSplitViewController() override;
 
     /// The browser's whole state, computed from the model as it is now.
@@ -26,23 +38,39 @@ public:
     /// Renders the model's present state at once.
     void render();
     FontBrowserViewController &browser() { return *m_browser; }
+    ProjectSidebarViewController &sidebar() { return *m_sidebar; }
+    LorvaWindowBackgroundView &backgroundView() { return *m_background; }
+    /// Everything that is shown is there: specimens, logo, background.
+    bool isSettled() const;
+
+    /// The menu behind the button at the foot of the sidebar. Does not own it.
+    void setMainMenu(QMenu *menu);
+    /// Lets the user choose a folder, and watches it.
+    void addFolder();
 
 Q_SIGNALS:
-    /// The browser shows the model's newest state.
+    /// The panes show the model's newest state.
     void rendered();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void scheduleRender();
-
-    void browserSelectionChanged(const std::optional<QString> &familyName) override;
-    void browserOpenDetail(const QString &familyName) override;
-    void browserPointSizeChanged(double pointSize) override;
-    void browserViewModeChanged(ViewMode mode) override;
+    void layOut();
+    void applyGround(const FontBrowserState &state);
+    void watch(const FilePath &folder);
+    void ask(const Alert &question, std::function<void()> accepted);
+    void tellRefused(const QString &reason);
 
     LorvaAppModel &m_model;
+    BrowserActions m_browserActions;
+    SidebarActions m_sidebarActions;
+    LogoImage *m_logo;
+    LorvaWindowBackgroundView *m_background;
+    ProjectSidebarViewController *m_sidebar;
+    SidebarFooter *m_footer;
     FontBrowserViewController *m_browser;
     bool m_renderIsScheduled = false;
 };

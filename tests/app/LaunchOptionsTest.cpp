@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/LaunchOptions.h"
+#include "ui/display/BackgroundImages.h"
 
 #include <gmock/gmock.h>
 
@@ -35,6 +36,38 @@ TEST(LaunchOptions, ReadsHowTheWindowStarts)
     EXPECT_EQ(options->sampleText, QStringLiteral("Ship it"));
 }
 
+TEST(LaunchOptions, ReadsWhatTheWindowShowsFirst)
+{
+    const auto options =
+        parse({"--appearance", "dark", "--search", "sans", "--select", "Noto Sans", "--weight=700",
+               "--color", "image", "--image", builtInBackgroundImages().back().id, "--logo",
+               "l.svg", "--source", "collection:A: b"});
+    ASSERT_TRUE(options.has_value());
+    EXPECT_EQ(options->isDark, true);
+    EXPECT_EQ(options->searchText, QStringLiteral("sans"));
+    EXPECT_EQ(options->selectedFamily, QStringLiteral("Noto Sans"));
+    EXPECT_EQ(options->weight, 700);
+    EXPECT_EQ(options->colorMode, ColorMode::image);
+    EXPECT_EQ(options->backgroundImageID, QLatin1StringView(builtInBackgroundImages().back().id));
+    EXPECT_EQ(options->logo, FilePath("/here/l.svg"));
+    using Kind = BrowserSource::Kind;
+    EXPECT_EQ(options->source, (LaunchSource{Kind::collection, QStringLiteral("A: b")}));
+    const struct
+    {
+        const char *value;
+        Kind kind;
+    } sources[]{{"all", Kind::allFonts},
+                {"active", Kind::active},
+                {"inactive", Kind::inactive},
+                {"style:x", Kind::style},
+                {"foundry:x", Kind::foundry}};
+    for (const auto &row : sources) {
+        const auto parsed = parse({"--source", row.value});
+        ASSERT_TRUE(parsed.has_value()) << row.value;
+        EXPECT_EQ(parsed->source->kind, row.kind) << row.value;
+    }
+}
+
 TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
 {
     const struct
@@ -53,6 +86,14 @@ TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
         {{"--point-size", "nan"}, "--point-size"},
         {{"--point-size", "-3"}, "--point-size"},
         {{"--color", "red"}, "--color"},
+        {{"--appearance", "grey"}, "--appearance"},
+        {{"--weight", "50"}, "--weight"},
+        {{"--weight", "bold"}, "--weight"},
+        {{"--image", "nowhere"}, "--image"},
+        {{"--source", "discover"}, "--source"},
+        {{"--source", "style"}, "--source"},
+        {{"--source", "style:"}, "--source"},
+        {{"--source", "all:x"}, "--source"},
     };
     for (const auto &row : rows) {
         const auto options = parse(row.arguments);

@@ -97,6 +97,8 @@ QByteArray traceUntil(const std::vector<std::pair<const char *, int>> &events)
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("LORVA_TRACE"), file.displayText());
+    // A window that somebody has open here must not take the start over.
+    environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(LORVA_PROGRAM), QStringList());

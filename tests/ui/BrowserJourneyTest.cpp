@@ -198,7 +198,7 @@ TEST_F(BrowserJourney, ColumnsFollowTheWindow)
 {
     start(12, {960, 800});
     EXPECT_EQ(view().arrangement().columns(), 2);
-    root->resize(1600, 800);
+    root->resize(1600 + root->width() - root->browser().width(), 800);
     EXPECT_EQ(view().arrangement().columns(), 4);
     for (const auto &[index, item] : view().visibleItems())
         EXPECT_EQ(item->width(), 400) << index;
@@ -286,8 +286,9 @@ TEST_F(BrowserJourney, SaysWhoseFamiliesItShowsAndWhyThereAreNone)
         {BrowserSource::collection(logos), "", "Logos", 1, ""},
         {BrowserSource::collection(logos), "face", "Logos", 1, ""},
         {BrowserSource::collection(logos), "000", "Logos", 0, "No Results"},
-        {BrowserSource::collection(empty), "", "Empty", 0, "No Fonts Here"},
-        {BrowserSource::style(QStringLiteral("sans")), "", "Sans-Serif", 0, "No Fonts Here"},
+        {BrowserSource::collection(empty), "", "Empty", 0, "An Empty Collection"},
+        {BrowserSource::style(QStringLiteral("sans")), "", "Sans-Serif", 0,
+         "No Fonts of This Style"},
         {BrowserSource::inactive(), "", "Inactive", 0, "No Inactive Fonts"},
         {BrowserSource::allFonts(), "  ", "All Fonts", 3, ""},
     };

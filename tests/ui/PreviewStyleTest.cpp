@@ -56,15 +56,16 @@ TEST(PreviewStyle, controlsCanBeSeenOnAnyColours)
             for (const QColor &ink :
                  {ground, ground.lighter(120), QColor(Qt::white), QColor(Qt::blue)}) {
                 const ControlColors colors = ControlColors::from(ink, ground);
-                EXPECT_GE(contrastRatio(colors.ink, ground), 3.0) << ground.name().toStdString();
-                EXPECT_GE(contrastRatio(colors.inkOnRaised, colors.raised), 3.0)
+                EXPECT_GE(contrastRatio(colors.ink, ground), 4.5) << ground.name().toStdString();
+                EXPECT_GE(contrastRatio(colors.inkOnRaised, colors.raised), 4.5)
                     << ground.name().toStdString();
             }
         }
     }
     // Colours that can be told apart stay the user's own.
     EXPECT_EQ(controlColor(Qt::white, QColor(0x13, 0x28, 0xe9)), QColor(Qt::white));
-    EXPECT_EQ(controlColor(QColor(0xf0, 0x40, 0x00), Qt::white), QColor(0xf0, 0x40, 0x00));
+    EXPECT_EQ(controlColor(QColor(0xc0, 0x30, 0x00), Qt::white), QColor(0xc0, 0x30, 0x00));
+    EXPECT_EQ(controlColor(QColor(0xf0, 0x40, 0x00), Qt::white), QColor(Qt::black));
     EXPECT_EQ(controlColor(Qt::white, Qt::white), QColor(Qt::black));
 }
 

@@ -3,14 +3,18 @@
 
 #include "ui/browser/BrowserCollectionView.h"
 
+#include "ui/browser/BrowserAccessibility.h"
+#include "ui/browser/CardPointer.h"
+#include "ui/browser/CardSlide.h"
+#include "ui/browser/FontCardContentView.h"
 #include "ui/browser/FontCollectionItem.h"
-#include "ui/browser/OverlayScrollBar.h"
+#include "ui/browser/SmoothScroller.h"
 #include "ui/style/Hairline.h"
+#include "ui/style/OverlayScrollBar.h"
 #include "ui/style/Palette.h"
+#include "ui/style/ReducedMotion.h"
 
 #include <QHelpEvent>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
@@ -22,51 +26,32 @@ namespace lorva {
 
 namespace {
 
-constexpr int kWheelStep = 40;
+/// What the scroll bar's arrows and one line of a wheel move.
+constexpr int kLineStep = 40;
 /// Cards kept for the next scroll beyond those on screen.
 constexpr size_t kMaxSpareItems = 12;
 /// Width changes up to this are jitter of the window system, not a resize.
 constexpr int kIgnoredWidthChange = 1;
-
-std::optional<BrowserLayout::Step> stepFor(const QKeyEvent &event, Qt::LayoutDirection direction)
-{
-    const bool mirrored = direction == Qt::RightToLeft;
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return mirrored ? BrowserLayout::Step::right : BrowserLayout::Step::left;
-    case Qt::Key_Right:
-        return mirrored ? BrowserLayout::Step::left : BrowserLayout::Step::right;
-    case Qt::Key_Up:
-        return BrowserLayout::Step::up;
-    case Qt::Key_Down:
-        return BrowserLayout::Step::down;
-    case Qt::Key_PageUp:
-        return BrowserLayout::Step::pageUp;
-    case Qt::Key_PageDown:
-        return BrowserLayout::Step::pageDown;
-    case Qt::Key_Home:
-        return BrowserLayout::Step::home;
-    case Qt::Key_End:
-        return BrowserLayout::Step::end;
-    default:
-        return std::nullopt;
-    }
-}
 
 } // namespace
 
 BrowserCollectionView::BrowserCollectionView(QWidget *parent)
     : QAbstractScrollArea(parent)
     , m_overlay(new OverlayScrollBar(this))
+    , m_scroller(new SmoothScroller(verticalScrollBar()))
+    , m_slide(new CardSlide(this))
+    , m_pointer(new CardPointer(*this))
 {
+    installBrowserAccessibility();
     setObjectName(QStringLiteral("BrowserCollectionView"));
     setAccessibleName(tr("Fonts"));
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    verticalScrollBar()->setSingleStep(kWheelStep);
+    verticalScrollBar()->setSingleStep(kLineStep);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setAutoFillBackground(false);
     m_overlay->follow(verticalScrollBar());
 }
 
@@ -74,47 +59,87 @@ BrowserCollectionView::~BrowserCollectionView() = default;
 
 void BrowserCollectionView::setContent(const Content &content)
 {
-    const bool itemsChanged = content.ids != m_ids;
+    const bool itemsChanged = content.ids != items();
     const bool isRearranged = content.mode != m_mode || content.pointSize != m_pointSize;
     const auto anchors = itemsChanged || isRearranged ? currentAnchors() : std::vector<Anchor>();
+    const auto places =
+        itemsChanged && content.animates ? placesOfCards() : QHash<FontCollectionItem *, QPoint>();
+    const QString previous = m_selection.currentID();
     m_mode = content.mode;
     m_pointSize = content.pointSize;
-    m_selectedID = content.selectedID;
     if (itemsChanged)
         replaceItems(content.ids);
-    else if (!content.ids.isSharedWith(m_ids))
+    else if (!content.ids.isSharedWith(items()))
         // Equal names, but the old ones would hold on to the memory of a library that is gone.
-        setIds(content.ids);
+        m_selection.setItems(content.ids);
+    m_selection.mirror(content.selectedID);
     if (itemsChanged || isRearranged)
         relayout(anchors);
     reconfigureVisibleItems();
-}
-
-void BrowserCollectionView::setIds(const QStringList &ids)
-{
-    m_ids = ids;
-    m_indexByID.clear();
-    m_indexByID.reserve(ids.size());
-    for (int index = 0; index < ids.size(); ++index)
-        m_indexByID.insert(ids.at(index), index);
+    slideFrom(places);
+    if (itemsChanged)
+        announceItems(*this);
+    if (m_selection.currentID() != previous)
+        announceSelection(*this);
 }
 
 /// Cards are handed over by family, so that what stays on screen is not set anew.
 void BrowserCollectionView::replaceItems(const QStringList &ids)
 {
+    m_pointer->end();
     QHash<QString, FontCollectionItem *> byID;
     for (const auto &[index, item] : m_visible)
-        byID.insert(m_ids.at(index), item);
+        byID.insert(items().at(index), item);
     m_visible.clear();
-    setIds(ids);
+    m_selection.setItems(ids);
     for (auto it = byID.cbegin(); it != byID.cend(); ++it) {
-        if (const auto found = m_indexByID.constFind(it.key()); found != m_indexByID.cend()) {
-            m_visible.emplace(*found, it.value());
+        if (const int index = m_selection.indexOf(it.key()); index >= 0) {
+            m_visible.emplace(index, it.value());
         } else {
             it.value()->hide();
             m_spare.push_back(it.value());
         }
     }
+}
+
+QHash<FontCollectionItem *, QPoint> BrowserCollectionView::placesOfCards() const
+{
+    QHash<FontCollectionItem *, QPoint> places;
+    for (const auto &[index, item] : m_visible)
+        places.insert(item, item->pos());
+    return places;
+}
+
+/// Only cards that stay on screen: their number is bounded, and the eye knows where they were.
+void BrowserCollectionView::slideFrom(const QHash<FontCollectionItem *, QPoint> &places)
+{
+    std::vector<CardSlide::Move> moves;
+    for (const auto &[index, item] : m_visible) {
+        const auto from = places.constFind(item);
+        if (from != places.cend() && *from != item->pos())
+            moves.push_back({item, *from, item->pos()});
+    }
+    if (!prefersReducedMotion(this))
+        m_slide->start(std::move(moves));
+}
+
+void BrowserCollectionView::setSelection(const BrowserSelection &selection)
+{
+    if (selection == m_selection)
+        return;
+    const QString previous = m_selection.currentID();
+    m_pointer->forgetClick();
+    m_selection = selection;
+    reconfigureVisibleItems();
+    announceSelection(*this);
+    if (selection.currentID() != previous && onSelectionChanged)
+        onSelectionChanged(selection.currentID());
+}
+
+int BrowserCollectionView::focusIndex() const
+{
+    const int current = m_selection.current();
+    return current >= 0 ? current : m_layout.firstInSight(scrollOffset(), viewport()->height());
 }
 
 void BrowserCollectionView::setColors(const QColor &foreground, const QColor &background)
@@ -124,6 +149,8 @@ void BrowserCollectionView::setColors(const QColor &foreground, const QColor &ba
     m_foreground = foreground;
     m_background = background;
     m_overlay->setForeground(foreground);
+    // What lies beneath is painted first where anything of it may be seen.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent, background.alpha() == 255);
     viewport()->update();
 }
 
@@ -142,17 +169,48 @@ int BrowserCollectionView::scrollOffset() const
 
 void BrowserCollectionView::setScrollOffset(int offset)
 {
+    m_scroller->stop();
     verticalScrollBar()->setValue(offset);
 }
 
-void BrowserCollectionView::scrollToItem(int index)
+int BrowserCollectionView::scrollOffsetShowing(int index) const
 {
     const QRect card = m_layout.cardRect(index);
     const int top = scrollOffset();
     if (card.top() < top)
-        setScrollOffset(card.top());
-    else if (card.bottom() >= top + viewport()->height())
-        setScrollOffset(std::min(card.top(), card.bottom() + 1 - viewport()->height()));
+        return card.top();
+    const bool isBelow = card.bottom() >= top + viewport()->height();
+    return isBelow ? std::min(card.top(), card.bottom() + 1 - viewport()->height()) : top;
+}
+
+void BrowserCollectionView::scrollToItem(int index)
+{
+    setScrollOffset(scrollOffsetShowing(index));
+}
+
+QPoint BrowserCollectionView::contentPoint(QPoint viewportPoint) const
+{
+    const QRect point(viewportPoint, QSize(1, 1));
+    const QRect logical = QStyle::visualRect(layoutDirection(), viewport()->rect(), point);
+    return logical.topLeft() + QPoint(0, scrollOffset());
+}
+
+QRect BrowserCollectionView::viewportRect(const QRect &contentRect) const
+{
+    return QStyle::visualRect(layoutDirection(), viewport()->rect(),
+                              contentRect.translated(0, -scrollOffset()));
+}
+
+FontCollectionItem *BrowserCollectionView::visibleItem(int index) const
+{
+    const auto found = m_visible.find(index);
+    return found == m_visible.end() ? nullptr : found->second;
+}
+
+bool BrowserCollectionView::isOnSpecimen(int index, QPoint viewportPoint) const
+{
+    const FontCollectionItem *item = visibleItem(index);
+    return item && item->contentView().specimenRect().contains(viewportPoint - item->pos());
 }
 
 /// The selected card, when in sight, is what the eye rests on; else the first one in sight that
@@ -160,34 +218,34 @@ void BrowserCollectionView::scrollToItem(int index)
 std::vector<BrowserCollectionView::Anchor> BrowserCollectionView::currentAnchors() const
 {
     std::vector<Anchor> anchors;
-    if (m_ids.isEmpty() || scrollOffset() == 0)
+    if (items().isEmpty() || scrollOffset() == 0)
         return anchors;
     const int top = scrollOffset();
     const auto range = m_layout.visibleRange(top, viewport()->height());
     const auto add = [&](int index) {
         const double offset = m_layout.cardRect(index).top() - top;
-        anchors.push_back({m_ids.at(index), offset / m_layout.rowHeight()});
+        anchors.push_back({items().at(index), offset / m_layout.rowHeight()});
     };
-    const int selected = m_indexByID.value(m_selectedID, -1);
+    const int selected = m_selection.current();
     if (selected >= range.first && selected < range.last)
         add(selected);
-    for (int index = range.first; index < std::min(range.last, int(m_ids.size())); ++index)
+    for (int index = range.first; index < std::min(range.last, int(items().size())); ++index)
         add(index);
     return anchors;
 }
 
 void BrowserCollectionView::relayout(const std::vector<Anchor> &anchors)
 {
-    m_layout = BrowserLayout(m_mode, viewport()->width(), m_pointSize, int(m_ids.size()));
+    m_layout = BrowserLayout(m_mode, viewport()->width(), m_pointSize, int(items().size()));
     const int overflow = std::max(m_layout.contentHeight() - viewport()->height(), 0);
     {
         const QSignalBlocker blocker(verticalScrollBar());
         verticalScrollBar()->setPageStep(viewport()->height());
         verticalScrollBar()->setRange(0, overflow);
         const auto anchor = std::ranges::find_if(
-            anchors, [this](const Anchor &each) { return m_indexByID.contains(each.id); });
+            anchors, [this](const Anchor &each) { return m_selection.indexOf(each.id) >= 0; });
         if (anchor != anchors.end()) {
-            const double top = m_layout.cardRect(m_indexByID.value(anchor->id)).top()
+            const double top = m_layout.cardRect(m_selection.indexOf(anchor->id)).top()
                 - anchor->offset * m_layout.rowHeight();
             verticalScrollBar()->setValue(int(std::lround(top)));
         }
@@ -199,6 +257,7 @@ void BrowserCollectionView::relayout(const std::vector<Anchor> &anchors)
 
 void BrowserCollectionView::placeVisibleItems()
 {
+    m_slide->stop();
     const int top = scrollOffset();
     const auto range = m_layout.visibleRange(top, viewport()->height());
     for (auto it = m_visible.begin(); it != m_visible.end();) {
@@ -211,15 +270,14 @@ void BrowserCollectionView::placeVisibleItems()
         it = m_visible.erase(it);
     }
     for (int index = range.first; index < range.last; ++index) {
-        const QRect place = m_layout.cardRect(index).translated(0, -top);
-        const QRect mirrored = QStyle::visualRect(layoutDirection(), viewport()->rect(), place);
+        const QRect place = viewportRect(m_layout.cardRect(index));
         if (const auto found = m_visible.find(index); found != m_visible.end()) {
-            found->second->setGeometry(mirrored);
+            found->second->setGeometry(place);
             found->second->show();
             continue;
         }
         FontCollectionItem *item = takeSpareItem();
-        item->setGeometry(mirrored);
+        item->setGeometry(place);
         m_visible.emplace(index, item);
         // Shown first: a hidden widget does not learn its size, and a request for pixels names it.
         item->show();
@@ -258,8 +316,10 @@ bool BrowserCollectionView::viewportEvent(QEvent *event)
 bool BrowserCollectionView::showToolTip(const QHelpEvent &event)
 {
     for (const auto &[index, item] : m_visible) {
-        if (item->geometry().contains(event.pos()) && !item->toolTip().isEmpty()) {
-            QToolTip::showText(event.globalPos(), item->toolTip(), viewport(), item->geometry());
+        if (!item->geometry().contains(event.pos()))
+            continue;
+        if (const QString tip = item->toolTip(); !tip.isEmpty()) {
+            QToolTip::showText(event.globalPos(), tip, viewport(), item->geometry());
             return true;
         }
     }
@@ -270,20 +330,17 @@ bool BrowserCollectionView::showToolTip(const QHelpEvent &event)
 void BrowserCollectionView::paintViewport(const QRect &exposed)
 {
     QPainter painter(viewport());
-    if (m_background.alpha() < 255)
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(exposed, m_background);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     paintEndOfGrid(painter);
 }
 
 /// Cards draw the lines to their left and above; what the last row leaves open is closed here.
 void BrowserCollectionView::paintEndOfGrid(QPainter &painter) const
 {
-    if (m_ids.isEmpty())
+    if (items().isEmpty())
         return;
     const QColor color = hairlineColor(m_foreground, m_background);
-    const QRect last = m_layout.cardRect(int(m_ids.size()) - 1).translated(0, -scrollOffset());
+    const QRect last = m_layout.cardRect(int(items().size()) - 1).translated(0, -scrollOffset());
     const int rest = viewport()->width() - last.right() - 1;
     const auto mirrored = [&](const QRect &logical) {
         return QStyle::visualRect(layoutDirection(), viewport()->rect(), logical);
@@ -315,44 +372,13 @@ void BrowserCollectionView::resizeEvent(QResizeEvent *event)
 void BrowserCollectionView::scrollContentsBy(int, int)
 {
     placeVisibleItems();
+    m_pointer->scrolled();
+    // Without a current card the focus is at the first one in sight.
+    if (m_showsFocus && m_selection.current() < 0)
+        reconfigureVisibleItems();
     // Where no card stands, the lines that close the grid have moved.
     viewport()->update();
     m_overlay->flash();
-}
-
-void BrowserCollectionView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (onActivateSelection)
-            onActivateSelection();
-        return;
-    }
-    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    if (const auto step = stepFor(*event, layoutDirection()); step && modifiers == Qt::NoModifier) {
-        const int current = m_indexByID.value(m_selectedID, -1);
-        select(m_layout.neighbour(current, *step, viewport()->height()));
-        return;
-    }
-    QAbstractScrollArea::keyPressEvent(event);
-}
-
-void BrowserCollectionView::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton) {
-        QAbstractScrollArea::mousePressEvent(event);
-        return;
-    }
-    const QRect point(event->position().toPoint(), QSize(1, 1));
-    const QPoint logical =
-        QStyle::visualRect(layoutDirection(), viewport()->rect(), point).topLeft();
-    select(m_layout.indexAt(logical + QPoint(0, scrollOffset())));
-}
-
-void BrowserCollectionView::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    mousePressEvent(event);
-    if (event->button() == Qt::LeftButton && !m_selectedID.isEmpty() && onDoubleClick)
-        onDoubleClick();
 }
 
 void BrowserCollectionView::changeEvent(QEvent *event)
@@ -360,18 +386,6 @@ void BrowserCollectionView::changeEvent(QEvent *event)
     QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange)
         relayout(currentAnchors());
-}
-
-void BrowserCollectionView::select(int index)
-{
-    const QString id = index < 0 ? QString() : m_ids.at(index);
-    if (index >= 0)
-        scrollToItem(index);
-    if (id == m_selectedID)
-        return;
-    m_selectedID = id;
-    if (onSelectionChanged)
-        onSelectionChanged(id);
 }
 
 } // namespace lorva

@@ -3,12 +3,12 @@
 
 #include "ui/browser/BrowserEmptyStateView.h"
 
+#include "ui/browser/PaneButton.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 #include "ui/style/SymbolImage.h"
 
 #include <QPainter>
-#include <QPushButton>
 
 namespace lorva {
 
@@ -23,13 +23,12 @@ constexpr double kSubtitleAlpha = 0.5;
 
 BrowserEmptyStateView::BrowserEmptyStateView(QWidget *parent)
     : QWidget(parent)
-    , m_watchFolder(new QPushButton(tr("Watch Folder…"), this))
+    , m_watchFolder(new PaneButton(tr("Watch Folder…"), this))
 {
     setObjectName(QStringLiteral("BrowserEmptyStateView"));
     m_watchFolder->setObjectName(QStringLiteral("watchFolderButton"));
-    m_watchFolder->setFont(interfaceFont(InterfaceSize::body));
     m_watchFolder->hide();
-    connect(m_watchFolder, &QPushButton::clicked, this, [this] {
+    connect(m_watchFolder, &QAbstractButton::clicked, this, [this] {
         if (onWatchFolder)
             onWatchFolder();
     });
@@ -55,9 +54,10 @@ void BrowserEmptyStateView::show(const BrowserEmptyState &state)
     update();
 }
 
-void BrowserEmptyStateView::setForeground(const QColor &foreground)
+void BrowserEmptyStateView::setColors(const QColor &foreground, const QColor &background)
 {
     m_foreground = foreground;
+    m_watchFolder->setColors(foreground, background);
     update();
 }
 

@@ -7,9 +7,9 @@
 #include <QColor>
 #include <QWidget>
 
-class QPushButton;
-
 namespace lorva {
+
+class PaneButton;
 
 /// What stands in the pane when there are no cards: a symbol, a title, a sentence, and, where it
 /// helps, a button that watches a folder. Thread: main.
@@ -22,7 +22,7 @@ public:
     std::function<void()> onWatchFolder;
 
     void show(const BrowserEmptyState &state);
-    void setForeground(const QColor &foreground);
+    void setColors(const QColor &foreground, const QColor &background);
     const QString &title() const { return m_title; }
     const QString &subtitle() const { return m_subtitle; }
 
@@ -41,7 +41,7 @@ private:
     };
     Column column() const;
 
-    QPushButton *m_watchFolder;
+    PaneButton *m_watchFolder;
     QString m_symbol;
     QString m_title;
     QString m_subtitle;

@@ -53,11 +53,32 @@ int BrowserLayout::indexAt(QPoint point) const
     return -1;
 }
 
+std::vector<int> BrowserLayout::itemsIn(const QRect &rect) const
+{
+    const Range rows = visibleRange(rect.top(), rect.height());
+    std::vector<int> items;
+    for (int index = rows.first; index < rows.last; ++index) {
+        if (cardRect(index).intersects(rect))
+            items.push_back(index);
+    }
+    return items;
+}
+
 BrowserLayout::Range BrowserLayout::visibleRange(int top, int height) const
 {
     const int firstRow = std::max(top, 0) / m_rowHeight;
     const int endRow = (std::max(top + height, 0) + m_rowHeight - 1) / m_rowHeight;
     return {std::min(firstRow * m_columns, m_itemCount), std::min(endRow * m_columns, m_itemCount)};
+}
+
+int BrowserLayout::firstInSight(int top, int height) const
+{
+    const Range range = visibleRange(top, height);
+    if (range.first == range.last)
+        return -1;
+    const int next = range.first + m_columns;
+    const bool isCut = cardRect(range.first).top() < top;
+    return isCut && next < range.last ? next : range.first;
 }
 
 std::vector<int> BrowserLayout::nearbyItems(int top, int height) const

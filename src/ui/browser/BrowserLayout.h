@@ -38,6 +38,9 @@ public:
     /// The card at a point of the content; −1 where there is none.
     int indexAt(QPoint point) const;
 
+    /// The cards that a rectangle of the content touches.
+    std::vector<int> itemsIn(const QRect &rect) const;
+
     struct Range
     {
         int first = 0;
@@ -47,6 +50,9 @@ public:
     };
     /// The cards that a window of `height` points at scroll offset `top` touches.
     Range visibleRange(int top, int height) const;
+
+    /// The first card that such a window shows whole, or else touches; −1 when it touches none.
+    int firstInSight(int top, int height) const;
 
     /// The cards that a scroll would bring into that window: those of the next screen, then those
     /// of the previous one, the nearest first.

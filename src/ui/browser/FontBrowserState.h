@@ -6,8 +6,11 @@
 #include "model/records/BrowserSource.h"
 #include "model/records/DisplayRecords.h"
 #include "model/records/FontFamilySubset.h"
+#include "ui/display/DisplayControls.h"
 
+#include <QHash>
 #include <QImage>
+#include <QSet>
 
 #include <functional>
 #include <optional>
@@ -49,11 +52,24 @@ struct FontBrowserState
     ColorMode colorMode = ColorMode::white;
     QString foregroundColorHex = QStringLiteral("#000000");
     QString backgroundColorHex = QStringLiteral("#FFFFFF");
+    QString customForegroundColorHex = QStringLiteral("#FFFFFF");
+    QString customBackgroundColorHex = QStringLiteral("#1328E9");
     QString imageForegroundColorHex = QStringLiteral("#FFFFFF");
+    std::optional<QString> backgroundImageID;
+    std::optional<QString> backgroundImageUserFilename;
     QString sampleText = QStringLiteral("Aa");
+    /// What specimens show; absent as well when the user made the logo invisible.
     std::optional<QImage> logoImage;
     double logoSizeRatio = 1.0;
     double logoSpacing = 0.15;
+    /// What the display controls show of all that.
+    DisplayControlsState display;
+    std::vector<FontStyleCategoryRecord> styleCategories;
+    std::vector<FontCollectionRecord> collections;
+    QHash<QString, QSet<QString>> collectionMembersByID;
+    std::vector<FoundryCollectionRecord> foundryCollections;
+    QHash<QString, QString> styleIDByFamily;
+    QHash<QString, QString> foundryIDByFamily;
     /// Nothing: a family that the user cannot switch. Thread: main.
     std::function<std::optional<FontFamilyActivation>(const FontFamilyRecord &)>
         activationProvider = [](const FontFamilyRecord &) { return std::nullopt; };
@@ -66,14 +82,23 @@ struct FontBrowserState
 };
 
 /// What the user does in the browser, told to whoever decides.
-class FontBrowserDelegate
+class FontBrowserDelegate : public DisplayControlsDelegate
 {
 public:
-    virtual ~FontBrowserDelegate() = default;
+    /// The card that was chosen last; nothing when none is.
     virtual void browserSelectionChanged(const std::optional<QString> &familyName) = 0;
     virtual void browserOpenDetail(const QString &familyName) = 0;
-    virtual void browserPointSizeChanged(double pointSize) = 0;
     virtual void browserViewModeChanged(ViewMode mode) = 0;
+    virtual void browserSearchTextChanged(const QString &text) = 0;
+    /// Nothing: of no category.
+    virtual void browserStyleChosen(const QStringList &familyNames,
+                                    const std::optional<QString> &categoryID) = 0;
+    /// Into the collection, or out of it when all of them are its members.
+    virtual void browserCollectionToggled(const QStringList &familyNames,
+                                          const QString &collectionID) = 0;
+    /// An empty id: of no foundry.
+    virtual void browserFoundryChosen(const QStringList &familyNames, const QString &foundryID) = 0;
+    virtual void browserWatchFolderWanted() = 0;
 };
 
 } // namespace lorva

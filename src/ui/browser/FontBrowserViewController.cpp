@@ -3,14 +3,24 @@
 
 #include "ui/browser/FontBrowserViewController.h"
 
+#include "catalog/WeightChoice.h"
 #include "ui/browser/BrowserCollectionView.h"
 #include "ui/browser/BrowserEmptyStateView.h"
 #include "ui/browser/BrowserLoadingView.h"
 #include "ui/browser/BrowserTopBar.h"
+#include "ui/browser/CardMenu.h"
+#include "ui/browser/FamilyDrag.h"
 #include "ui/browser/FontCardContentView.h"
 #include "ui/browser/FontCollectionItem.h"
+#include "ui/browser/InlineEditHandler.h"
+#include "ui/browser/LetterJump.h"
+#include "ui/browser/LetterOverlayView.h"
 #include "ui/preview/SpecimenImage.h"
 
+#include <QClipboard>
+#include <QDrag>
+#include <QGuiApplication>
+#include <QMenu>
 #include <QTimer>
 
 #include <algorithm>
@@ -42,44 +52,95 @@ FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolve
     , m_collection(new BrowserCollectionView(this))
     , m_empty(new BrowserEmptyStateView(this))
     , m_loading(new BrowserLoadingView(this))
+    , m_inlineEdit(new InlineEditHandler(this))
 {
     setObjectName(QStringLiteral("FontBrowserViewController"));
+    // Its own, whatever the window's is.
+    setBackgroundRole(QPalette::Window);
     m_empty->hide();
     m_loading->hide();
+    runDrag = [](QDrag *drag) { drag->exec(Qt::CopyAction); };
+    m_empty->onWatchFolder = [this] {
+        if (m_delegate)
+            m_delegate->browserWatchFolderWanted();
+    };
+    connectCollection();
+    connectInlineEdit();
+    m_prewarmTimer->setObjectName(QStringLiteral("prewarmTimer"));
+    m_prewarmTimer->setSingleShot(true);
+    m_prewarmTimer->setInterval(kPrewarmDelayMilliseconds);
+    connect(m_prewarmTimer, &QTimer::timeout, this, &FontBrowserViewController::prewarm);
+    setFocusProxy(m_collection);
+    setTabOrder(m_collection, m_topBar);
+    applyColors();
+}
+
+/// The focus leaves what dies, and what it leaves asks this view, which must be whole then.
+FontBrowserViewController::~FontBrowserViewController()
+{
+    delete m_inlineEdit;
+    delete m_collection;
+}
+
+void FontBrowserViewController::connectCollection()
+{
     m_collection->makeItem = [this](QWidget *parentWidget) {
         return new FontCollectionItem(m_resolver, parentWidget);
     };
     m_collection->configureItem = [this](FontCollectionItem &item, int index) {
         item.configure(cardConfiguration(index));
     };
+    m_collection->describeItem = [this](int index) { return cardDescription(index); };
+    m_collection->onItemsPlaced = [this] {
+        m_prewarmTimer->start();
+        placeInlineEdit();
+    };
     m_collection->onSelectionChanged = [this](const QString &id) {
         if (m_delegate)
             m_delegate->browserSelectionChanged(id.isEmpty() ? std::nullopt : std::optional(id));
     };
-    m_prewarmTimer->setObjectName(QStringLiteral("prewarmTimer"));
-    m_prewarmTimer->setSingleShot(true);
-    m_prewarmTimer->setInterval(kPrewarmDelayMilliseconds);
-    connect(m_prewarmTimer, &QTimer::timeout, this, &FontBrowserViewController::prewarm);
-    m_collection->onItemsPlaced = [this] { m_prewarmTimer->start(); };
     m_collection->onActivateSelection = [this] { openSelection(); };
     m_collection->onDoubleClick = [this] { openSelection(); };
-    m_topBar->onPointSizeChanged = [this](double pointSize) {
-        if (m_delegate)
-            m_delegate->browserPointSizeChanged(pointSize);
-    };
-    m_topBar->onViewModeChanged = [this](ViewMode mode) {
-        if (m_delegate)
-            m_delegate->browserViewModeChanged(mode);
-    };
-    setFocusProxy(m_collection);
-    setTabOrder(m_collection, m_topBar);
-    applyColors();
+    m_collection->onLetterKey = [this](const QString &letter) { jumpTo(letter); };
+    m_collection->onDragWanted = [this] { dragSelection(); };
+    m_collection->onCopyWanted = [this] { copySelection(); };
+    m_collection->onEditWanted = [this] { editSampleText(); };
+    m_collection->onMenuWanted = [this](QPoint position) { openMenu(position); };
 }
 
-FontBrowserViewController::~FontBrowserViewController() = default;
+void FontBrowserViewController::connectInlineEdit()
+{
+    m_inlineEdit->onLiveChange = [this](const QString &text) {
+        m_liveSampleText = text;
+        m_collection->reconfigureVisibleItems();
+    };
+    m_inlineEdit->onEnd = [this](bool hadFocus) {
+        m_inlineEditID.clear();
+        m_liveSampleText.reset();
+        m_collection->reconfigureVisibleItems();
+        if (hadFocus)
+            m_collection->setFocus();
+    };
+    m_inlineEdit->onCommit = [this](const QString &text) {
+        m_liveSampleText = text;
+        m_collection->reconfigureVisibleItems();
+        if (m_delegate)
+            m_delegate->displaySampleTextChanged(text);
+    };
+}
+
+void FontBrowserViewController::setDelegate(FontBrowserDelegate *delegate)
+{
+    m_delegate = delegate;
+    m_topBar->setDelegate(delegate);
+}
 
 void FontBrowserViewController::apply(const FontBrowserState &state)
 {
+    if (m_lastRenderedSource && *m_lastRenderedSource != state.source)
+        m_inlineEdit->cancel();
+    if (!m_inlineEdit->isActive())
+        m_liveSampleText.reset();
     const FontBrowserState previous = std::exchange(m_state, state);
     const bool spins = m_state.families.empty() && m_state.isLoading;
     const bool isEmpty = m_state.emptyState && !m_state.isLoading;
@@ -89,7 +150,7 @@ void FontBrowserViewController::apply(const FontBrowserState &state)
         m_empty->show(*m_state.emptyState);
     m_empty->setVisible(isEmpty);
     showCollection(!isEmpty);
-    m_topBar->apply(m_state.title, m_state.pointSize, m_state.viewMode);
+    m_topBar->apply(m_state);
     applyColors();
     applyItems(previous);
 }
@@ -112,7 +173,7 @@ void FontBrowserViewController::applyColors()
     const QColor background = backgroundOf(m_state);
     m_topBar->setColors(foreground, background);
     m_collection->setColors(foreground, background);
-    m_empty->setForeground(foreground);
+    m_empty->setColors(foreground, background);
     m_loading->setForeground(foreground);
     setAutoFillBackground(background.alpha() == 255);
     if (palette().color(QPalette::Window) == background)
@@ -137,11 +198,28 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
         m_prewarmTimer->start();
     }
     m_collection->setContent({m_orderedIDs, m_state.viewMode, m_state.pointSize,
-                              m_state.selectedFamilyName.value_or(QString())});
+                              m_state.selectedFamilyName.value_or(QString()),
+                              animatesItems(previous, sourceChanged)});
+    placeInlineEdit();
     if (sourceChanged) {
         m_collection->setScrollOffset(m_scrollOriginBySource.value(m_state.source, 0));
         m_lastRenderedSource = m_state.source;
     }
+}
+
+/// Only where the eye can follow: a list that shrinks in place, as it does under a search.
+bool FontBrowserViewController::animatesItems(const FontBrowserState &previous,
+                                              bool sourceChanged) const
+{
+    return !sourceChanged && previous.viewMode == m_state.viewMode && !previous.families.empty()
+        && m_state.families.size() <= previous.families.size();
+}
+
+/// Of an edit that runs, else the state's. A blank text would never be taken over.
+QString FontBrowserViewController::sampleText() const
+{
+    const bool isShown = m_liveSampleText && !m_liveSampleText->trimmed().isEmpty();
+    return isShown ? *m_liveSampleText : m_state.sampleText;
 }
 
 FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) const
@@ -149,11 +227,16 @@ FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) co
     const FontFamilyRecord &family = m_state.families[size_t(index)];
     FontCardConfiguration card;
     card.family = family;
-    card.previewText = m_state.sampleText;
+    card.style = styleForWeight(family, m_state.fontWeight);
+    if (m_state.fontWeight != kUnweighted)
+        card.weight = m_state.fontWeight;
+    card.previewText = sampleText();
     card.pointSize = m_state.pointSize;
     card.viewMode = m_state.viewMode;
     // The view's own selection is ahead of the state by one turn of the event loop.
-    card.isSelected = m_collection->selectedID() == family.familyName;
+    card.isSelected = m_collection->isSelected(index);
+    card.showsFocus = m_collection->showsFocusAt(index);
+    card.isEdited = m_inlineEditID == family.familyName;
     card.catalogGeneration = m_state.catalogGeneration;
     card.isFirstColumn = m_collection->isFirstColumn(index);
     card.isFirstRow = index < m_collection->arrangement().columns();
@@ -167,11 +250,132 @@ FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) co
     return card;
 }
 
+QString FontBrowserViewController::cardDescription(int index) const
+{
+    const FontCardConfiguration card = cardConfiguration(index);
+    QStringList parts{FontCardContentView::subtitleText(card.family)};
+    if (card.isSystem)
+        parts.append(FontCardContentView::systemTagText());
+    if (const FontCollectionItem *item = m_collection->visibleItem(index)) {
+        const QString note = item->contentView().previewView().accessibleDescription();
+        if (!note.isEmpty())
+            parts.append(note);
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+QStringList FontBrowserViewController::selectedNames() const
+{
+    return m_collection->selection().selectedIDs();
+}
+
+std::vector<int> FontBrowserViewController::selectedIndices() const
+{
+    std::vector<int> indices;
+    for (const QString &name : selectedNames())
+        indices.push_back(m_collection->selection().indexOf(name));
+    return indices;
+}
+
+void FontBrowserViewController::selectAll()
+{
+    BrowserSelection selection = m_collection->selection();
+    selection.selectAll();
+    m_collection->setSelection(selection);
+}
+
+void FontBrowserViewController::focusCards()
+{
+    m_collection->setFocus(Qt::ShortcutFocusReason);
+}
+
 void FontBrowserViewController::openSelection()
 {
-    const QString id = m_collection->selectedID();
-    if (m_delegate && !id.isEmpty())
-        m_delegate->browserOpenDetail(id);
+    const QStringList names = selectedNames();
+    if (m_delegate && !names.isEmpty())
+        m_delegate->browserOpenDetail(names.front());
+}
+
+void FontBrowserViewController::copySelection()
+{
+    const std::vector<int> indices = selectedIndices();
+    if (indices.empty())
+        return;
+    auto families = familyMimeData(m_state.families, indices);
+    families->setText(selectedNames().join(u'\n'));
+    QGuiApplication::clipboard()->setMimeData(families.release());
+}
+
+void FontBrowserViewController::dragSelection()
+{
+    const std::vector<int> indices = selectedIndices();
+    if (indices.empty())
+        return;
+    auto *drag = new QDrag(m_collection->viewport());
+    drag->setMimeData(familyMimeData(m_state.families, indices).release());
+    if (const auto *item = m_collection->visibleItem(m_collection->selection().current())) {
+        const DragColors colors{foregroundOf(m_state), backgroundOf(m_state)};
+        const QPixmap pixmap = familyDragPixmap(*item, int(indices.size()), colors);
+        drag->setPixmap(pixmap);
+        drag->setHotSpot(QRectF(QPointF(), pixmap.deviceIndependentSize()).center().toPoint());
+    }
+    runDrag(drag);
+}
+
+void FontBrowserViewController::openMenu(QPoint globalPosition)
+{
+    if (m_menu)
+        return;
+    m_menu = makeCardMenu(m_state, selectedNames(), m_delegate, this);
+    // A menu that is closed is done for; its actions run after that.
+    connect(m_menu, &QMenu::aboutToHide, m_menu, [menu = m_menu.data(), this] {
+        m_menu.clear();
+        menu->deleteLater();
+    });
+    m_menu->popup(globalPosition);
+}
+
+void FontBrowserViewController::jumpTo(const QString &letter)
+{
+    const int index = firstWithLetter(m_orderedIDs, letter);
+    if (index >= 0) {
+        BrowserSelection selection = m_collection->selection();
+        selection.choose(index);
+        m_collection->setScrollOffset(m_collection->arrangement().cardRect(index).top());
+        m_collection->setSelection(selection);
+    }
+    delete m_letterOverlay;
+    m_letterOverlay = new LetterOverlayView(letter, foregroundOf(m_state), this);
+}
+
+void FontBrowserViewController::editSampleText()
+{
+    const int index = m_collection->focusIndex();
+    if (index < 0 || m_collection->isHidden())
+        return;
+    m_collection->scrollToItem(index);
+    m_inlineEdit->commit();
+    m_inlineEditID = m_orderedIDs.at(index);
+    m_inlineEdit->begin(m_collection->viewport(), m_state.sampleText, {});
+    placeInlineEdit();
+    m_collection->reconfigureVisibleItems();
+}
+
+/// The field goes where its card goes, and with it.
+void FontBrowserViewController::placeInlineEdit()
+{
+    if (!m_inlineEdit->isActive())
+        return;
+    const int index = m_collection->selection().indexOf(m_inlineEditID);
+    if (index < 0) {
+        m_inlineEdit->cancel();
+        return;
+    }
+    const QRect card = m_collection->viewportRect(m_collection->arrangement().cardRect(index));
+    const QRect specimen = FontCardContentView::previewRect(card.size()).translated(card.topLeft());
+    const bool isList = m_state.viewMode == ViewMode::list;
+    m_inlineEdit->setPlace({specimen, isList ? Qt::AlignLeft | Qt::AlignAbsolute : Qt::AlignHCenter,
+                            foregroundOf(m_state), backgroundOf(m_state)});
 }
 
 /// The next screen first: libraries are read downwards.
@@ -239,6 +443,8 @@ void FontBrowserViewController::resizeEvent(QResizeEvent *)
     m_collection->setGeometry(content);
     m_empty->setGeometry(content);
     m_loading->setGeometry(content);
+    if (m_letterOverlay)
+        m_letterOverlay->center();
 }
 
 } // namespace lorva

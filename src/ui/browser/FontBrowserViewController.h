@@ -7,11 +7,15 @@
 #include "ui/preview/FontResolver.h"
 
 #include <QHash>
+#include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
+class QDrag;
+class QMenu;
 class QTimer;
 
 namespace lorva {
@@ -20,6 +24,8 @@ class BrowserCollectionView;
 class BrowserEmptyStateView;
 class BrowserLoadingView;
 class BrowserTopBar;
+class InlineEditHandler;
+class LetterOverlayView;
 
 /// The main pane: a top bar over the grid or list of font cards.
 ///
@@ -34,12 +40,29 @@ public:
     ~FontBrowserViewController() override;
 
     /// Does not own it; it must outlive this view.
-    void setDelegate(FontBrowserDelegate *delegate) { m_delegate = delegate; }
+    void setDelegate(FontBrowserDelegate *delegate);
     /// Renders a new state whole. Cards are touched only as far as they changed.
     void apply(const FontBrowserState &state);
     const FontBrowserState &state() const { return m_state; }
 
     BrowserCollectionView &collectionView() { return *m_collection; }
+    BrowserTopBar &topBar() { return *m_topBar; }
+
+    // What the window's menus do here.
+
+    /// In display order.
+    QStringList selectedNames() const;
+    void selectAll();
+    /// Puts names and font files of the selected families on the clipboard; nothing without any.
+    void copySelection();
+    /// Edits the sample text in the place of the current card's specimen, or of the first one in
+    /// sight.
+    void editSampleText();
+    /// Gives the cards the keyboard.
+    void focusCards();
+
+    /// Runs a drag to its end and takes it over; a test's own.
+    std::function<void(QDrag *drag)> runDrag;
     /// True once every card on screen shows its specimen (or there are none to show).
     bool isSettled() const;
     /// The same, but specimens may still fade in.
@@ -59,10 +82,23 @@ private:
     void prewarm();
     PrewarmFace prewarmFace(int index) const;
     void openSelection();
+    void connectCollection();
+    std::vector<int> selectedIndices() const;
+    void dragSelection();
+    void openMenu(QPoint globalPosition);
+    void jumpTo(const QString &letter);
+    QString cardDescription(int index) const;
+    QString sampleText() const;
+    bool animatesItems(const FontBrowserState &previous, bool sourceChanged) const;
+
+    void connectInlineEdit();
+    void placeInlineEdit();
 
     const std::shared_ptr<FontResolver> m_resolver;
     FontBrowserDelegate *m_delegate = nullptr;
     FontBrowserState m_state;
+    /// The names of the state's families, made anew only when those may have changed. A family is
+    /// found by its place in them (the view's index), so that no second map of records is kept.
     QStringList m_orderedIDs;
     QHash<BrowserSource, int> m_scrollOriginBySource;
     std::optional<BrowserSource> m_lastRenderedSource;
@@ -86,6 +122,14 @@ private:
     BrowserCollectionView *m_collection;
     BrowserEmptyStateView *m_empty;
     BrowserLoadingView *m_loading;
+
+    InlineEditHandler *m_inlineEdit;
+    /// Whose specimen is edited; empty: none. By name, for the cards may get another order.
+    QString m_inlineEditID;
+    /// What all cards show while an edit runs, and after it until the state has it.
+    std::optional<QString> m_liveSampleText;
+    QPointer<LetterOverlayView> m_letterOverlay;
+    QPointer<QMenu> m_menu;
 };
 
 } // namespace lorva

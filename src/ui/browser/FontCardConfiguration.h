@@ -19,10 +19,16 @@ struct FontCardConfiguration
     FontFamilyRecord family;
     /// The style chosen by the weight control; absent: the family's default face.
     std::optional<FontStyleRecord> style;
+    /// The weight control's own, for faces with a weight axis; absent: as the style has it.
+    std::optional<int> weight;
     QString previewText;
     double pointSize = 36;
     ViewMode viewMode = ViewMode::grid;
     bool isSelected = false;
+    /// Keys start at this card, and the focus came by keyboard.
+    bool showsFocus = false;
+    /// A text field stands in the specimen's place.
+    bool isEdited = false;
     bool isFirstColumn = false;
     /// The top bar's hairline stands above the first row; a second one would double it.
     bool isFirstRow = false;

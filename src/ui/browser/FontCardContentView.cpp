@@ -3,6 +3,7 @@
 
 #include "ui/browser/FontCardContentView.h"
 
+#include "ui/style/ControlColors.h"
 #include "ui/style/Hairline.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
@@ -37,32 +38,40 @@ QFont subtitleFont()
     return interfaceFont(InterfaceSize::tag, InterfaceWeight::regular, Figures::tabular);
 }
 
-/// Draws at most `maximumLines` lines, the last one shortened with an ellipsis, and gives the
-/// height used.
-double drawLines(QPainter &painter, const QString &text, const QFont &font, const QRectF &room,
-                 int maximumLines)
+/// `text` in at most `maximumLines` lines, the last one shortened with an ellipsis.
+QStringList linesOf(const QString &text, const QFont &font, double width, int maximumLines)
 {
     const QFontMetricsF metrics(font);
-    painter.setFont(font);
     QTextLayout layout(text, font);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
     layout.beginLayout();
-    double y = 0;
-    for (int line = 1; line <= maximumLines; ++line) {
+    QStringList lines;
+    while (lines.size() < maximumLines) {
         QTextLine set = layout.createLine();
         if (!set.isValid())
             break;
-        set.setLineWidth(room.width());
-        const bool isLast = line == maximumLines;
+        set.setLineWidth(width);
+        const bool isLast = lines.size() + 1 == maximumLines;
         const QString rest = text.mid(set.textStart(), isLast ? -1 : set.textLength()).trimmed();
-        const QRectF place(room.left(), room.top() + y, room.width(), metrics.height());
-        painter.drawText(place, int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine),
-                         metrics.elidedText(rest, Qt::ElideRight, room.width()));
-        y += metrics.height();
+        lines.append(metrics.elidedText(rest, Qt::ElideRight, width));
     }
     layout.endLayout();
+    return lines;
+}
+
+/// Gives the height used.
+double drawLines(QPainter &painter, const QStringList &lines, const QFont &font, const QRectF &room)
+{
+    const double height = QFontMetricsF(font).height();
+    painter.setFont(font);
+    double y = 0;
+    for (const QString &line : lines) {
+        painter.drawText(QRectF(room.left(), room.top() + y, room.width(), height),
+                         int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine), line);
+        y += height;
+    }
     return y;
 }
 
@@ -75,6 +84,7 @@ FontPreviewConfiguration previewConfiguration(const FontCardConfiguration &card)
     preview.text = card.previewText;
     preview.familyName = card.family.familyName;
     preview.style = card.style;
+    preview.weight = card.weight;
     preview.pointSize = card.pointSize * (isList ? FontCardContentView::kListSizeRatio : 1.0);
     preview.alignment = isList ? TextAlignment::left : TextAlignment::center;
     preview.textColor = card.foregroundColor;
@@ -108,6 +118,7 @@ void FontCardContentView::configure(const FontCardConfiguration &configuration)
     if (hasNewCatalog && (previous.family != configuration.family || !showsItsFile()))
         m_appliedPreview.reset();
     applyPreview();
+    m_preview->setVisible(!configuration.isEdited);
     update();
 }
 
@@ -118,10 +129,32 @@ bool FontCardContentView::showsItsFile() const
     return shown.isNull() || (!shown.isStandIn() && shown.face()->isUpToDate());
 }
 
+QString FontCardContentView::subtitleText(const FontFamilyRecord &family)
+{
+    return QLocale().toString(qlonglong(family.styles.size())) + QStringLiteral(" styles");
+}
+
 QString FontCardContentView::subtitleText() const
 {
-    return QLocale().toString(qlonglong(m_configuration.family.styles.size()))
-        + QStringLiteral(" styles");
+    return subtitleText(m_configuration.family);
+}
+
+QRect FontCardContentView::specimenRect() const
+{
+    const QRectF ink = m_preview->inkBounds();
+    return ink.isNull() ? QRect() : ink.toAlignedRect().translated(m_preview->pos());
+}
+
+int FontCardContentView::titleLines() const
+{
+    return m_configuration.viewMode == ViewMode::list ? 1 : 2;
+}
+
+bool FontCardContentView::isTitleElided() const
+{
+    const QStringList lines = linesOf(titleText(), titleFont(), textRoom().width(), titleLines());
+    // Lines break at blanks, which are on neither line.
+    return lines.join(QString()).remove(u' ') != QString(titleText()).remove(u' ');
 }
 
 void FontCardContentView::applyPreview()
@@ -151,9 +184,15 @@ void FontCardContentView::paintEvent(QPaintEvent *)
 
 void FontCardContentView::paintSelection(QPainter &painter) const
 {
+    if (m_configuration.isSelected)
+        painter.fillRect(rect(), withAlpha(m_configuration.foregroundColor, kSelectionFillAlpha));
+    if (m_configuration.showsFocus) {
+        constexpr int inset = kSelectionRingWidth;
+        drawFocusRing(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), 0);
+        return;
+    }
     if (!m_configuration.isSelected)
         return;
-    painter.fillRect(rect(), withAlpha(m_configuration.foregroundColor, kSelectionFillAlpha));
     const double inset = kSelectionRingWidth / 2.0;
     painter.setBrush(Qt::NoBrush);
     QPen ring(withAlpha(m_configuration.foregroundColor, kSelectionRingAlpha), kSelectionRingWidth);
@@ -180,24 +219,30 @@ void FontCardContentView::paintHairlines(QPainter &painter) const
 QRect FontCardContentView::systemTagRect() const
 {
     const QFontMetrics metrics(interfaceFont(InterfaceSize::tag));
-    const int pillWidth = metrics.horizontalAdvance(tr("System")) + 2 * kTagPadding;
+    const int pillWidth = metrics.horizontalAdvance(systemTagText()) + 2 * kTagPadding;
     const QRect place(width() - spacing::k20 - pillWidth, spacing::k16, pillWidth, kTagHeight);
     return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 
+/// What the system tag leaves to title and subtitle.
+QRect FontCardContentView::textRoom() const
+{
+    const QRect room = rect().adjusted(spacing::k20, spacing::k16, -spacing::k20, 0);
+    if (!m_configuration.isSystem)
+        return room;
+    const int taken = systemTagRect().width() + spacing::k12;
+    return layoutDirection() == Qt::RightToLeft ? room.adjusted(taken, 0, 0, 0)
+                                                : room.adjusted(0, 0, -taken, 0);
+}
+
 void FontCardContentView::paintTexts(QPainter &painter) const
 {
-    const bool isList = m_configuration.viewMode == ViewMode::list;
-    QRect room = rect().adjusted(spacing::k20, spacing::k16, -spacing::k20, 0);
-    if (m_configuration.isSystem) {
-        const int taken = systemTagRect().width() + spacing::k12;
-        room = layoutDirection() == Qt::RightToLeft ? room.adjusted(taken, 0, 0, 0)
-                                                    : room.adjusted(0, 0, -taken, 0);
-    }
+    const QRectF room = textRoom();
     painter.setPen(withAlpha(m_configuration.foregroundColor, kTextAlpha));
-    const double used =
-        drawLines(painter, titleText(), titleFont(), room, isList ? 1 : 2) + spacing::k2;
-    drawLines(painter, subtitleText(), subtitleFont(), QRectF(room).adjusted(0, used, 0, 0), 1);
+    const QStringList title = linesOf(titleText(), titleFont(), room.width(), titleLines());
+    const double used = drawLines(painter, title, titleFont(), room) + spacing::k2;
+    drawLines(painter, linesOf(subtitleText(), subtitleFont(), room.width(), 1), subtitleFont(),
+              room.adjusted(0, used, 0, 0));
 }
 
 void FontCardContentView::paintSystemTag(QPainter &painter) const
@@ -208,7 +253,7 @@ void FontCardContentView::paintSystemTag(QPainter &painter) const
     painter.drawRoundedRect(pill, kTagHeight / 2.0, kTagHeight / 2.0);
     painter.setFont(interfaceFont(InterfaceSize::tag));
     painter.setPen(withAlpha(m_configuration.foregroundColor, kTagLabelAlpha));
-    painter.drawText(pill, Qt::AlignCenter, tr("System"));
+    painter.drawText(pill, Qt::AlignCenter, systemTagText());
 }
 
 } // namespace lorva

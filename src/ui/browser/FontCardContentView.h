@@ -32,6 +32,14 @@ public:
     /// The texts as shown; for the title, before it is shortened to the room there is.
     QString titleText() const { return m_configuration.family.familyName; }
     QString subtitleText() const;
+    static QString subtitleText(const FontFamilyRecord &family);
+    static QString systemTagText() { return tr("System"); }
+    /// The title does not fit.
+    bool isTitleElided() const;
+    /// Around the specimen's ink, in points of the card; null while there is none.
+    QRect specimenRect() const;
+    /// The specimen's ink alone; null while there is none.
+    QPixmap grabSpecimen() const { return QPixmap::fromImage(m_preview->inkImage()); }
     bool showsSystemTag() const { return m_configuration.isSystem; }
     bool showsSelection() const { return m_configuration.isSelected; }
 
@@ -42,6 +50,8 @@ protected:
 private:
     bool showsItsFile() const;
     void applyPreview();
+    QRect textRoom() const;
+    int titleLines() const;
     QRect systemTagRect() const;
     void paintHairlines(QPainter &painter) const;
     void paintTexts(QPainter &painter) const;

@@ -24,7 +24,10 @@ void FontCollectionItem::configure(const FontCardConfiguration &configuration)
 
 QString FontCollectionItem::toolTip() const
 {
-    return m_content->previewView().toolTip();
+    const QString note = m_content->previewView().toolTip();
+    if (!m_content->isTitleElided())
+        return note;
+    return note.isEmpty() ? m_familyName : QString(m_familyName + u'\n' + note);
 }
 
 void FontCollectionItem::resizeEvent(QResizeEvent *)

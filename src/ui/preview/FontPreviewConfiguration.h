@@ -24,6 +24,8 @@ struct FontPreviewConfiguration
     /// The whole record rather than its label: a label alone does not name a file. Absent: the
     /// family's default face.
     std::optional<FontStyleRecord> style;
+    /// Of the 100–900 scale, for faces with a weight axis; absent: as the style has it.
+    std::optional<int> weight;
     double pointSize = 36;
     TextAlignment alignment = TextAlignment::natural;
     /// Text and logo tint.

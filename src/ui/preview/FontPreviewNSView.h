@@ -44,6 +44,10 @@ public:
     bool isWaiting() const;
     /// Empty while nothing is shown.
     const QString &shownText() const { return m_shownText; }
+    /// Around the ink as last painted, in points of the view; null while nothing is shown.
+    QRectF inkBounds() const { return m_specimenIsCurrent ? m_specimen.inkBounds : QRectF(); }
+    /// The pixels as last painted, of the ink only; null while there are none.
+    QImage inkImage() const { return m_imageIsCurrent ? m_image.image : QImage(); }
     /// 0 … 1; below 1 only while a late font fades in.
     double textOpacity() const { return m_textOpacity; }
 

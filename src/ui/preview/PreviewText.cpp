@@ -6,11 +6,17 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
 
 constexpr size_t kCoverageMemoLimit = 16384;
+/// As a share of the point size; not even the bars of compressed hairline faces are narrower.
+constexpr double kNarrowestLetter = 1.0 / 20;
+constexpr qsizetype kRoomForMarks = 128;
+constexpr double kMostLetters = 8192;
 /// Below this share of its letters the probe itself is thinned out.
 constexpr double kWholeProbeCoverage = 0.99;
 /// Below this share of its letters the user's text gives way to the fallback.
@@ -19,6 +25,15 @@ constexpr double kSampleTextCoverage = 0.66;
 bool isAlphabetic(char32_t scalar)
 {
     return u_isUAlphabetic(UChar32(scalar));
+}
+
+/// At most `length` units, never half a surrogate pair.
+QString beginning(const QString &text, qsizetype length)
+{
+    if (text.size() <= length)
+        return text;
+    const bool splitsPair = length > 0 && text.at(length - 1).isHighSurrogate();
+    return text.left(splitsPair ? length - 1 : length);
 }
 
 /// The font's name alone would not do: different files share PostScript names, and a file may be
@@ -111,10 +126,11 @@ QString coverageProbe(WritingScript script)
     return QStringLiteral("Aa 123");
 }
 
-double coverage(const Font &font, const QString &text)
+double coverage(const Font &font, const QString &wholeText)
 {
     if (font.isNull())
         return 0.0;
+    const QString text = beginning(wholeText, kCoverageCharacters);
     const QString key = memoKey(font, text);
     if (const std::optional<double> known = coverageMemo().find(key))
         return *known;
@@ -130,6 +146,12 @@ QString fallbackText(const Font &font, WritingScript script)
         return probe;
     const QString reduced = reducedProbe(font, probe);
     return reduced.isEmpty() ? probe : reduced;
+}
+
+QString lineExcerpt(const QString &text, double widthPt, double pointSize)
+{
+    const double letters = std::max(widthPt, 0.0) / (std::max(pointSize, 1.0) * kNarrowestLetter);
+    return beginning(text, kRoomForMarks + qsizetype(std::min(letters, kMostLetters)));
 }
 
 QString specimenText(const QString &sampleText, const Font &font, WritingScript script)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/preview/SpecimenImage.h"
 
+#include "catalog/VariableWeight.h"
 #include "text/GlyphPainter.h"
 #include "ui/preview/PreviewText.h"
 
@@ -101,6 +102,15 @@ QRect inkDeviceRect(const QRectF &ink, const SpecimenCanvas &canvas)
     return cut.toAlignedRect().adjusted(-outset, -outset, outset, outset).intersected(view);
 }
 
+/// A variable face stands for every weight of its axis, a static one for its own.
+Font weighted(const Font &font, const FontPreviewConfiguration &configuration)
+{
+    if (!configuration.weight || font.isStandIn())
+        return font;
+    const std::optional<VariableWeight> variable = weightOf(*font.face(), {});
+    return variable ? withWeight(font, weightWithin(variable->axis, *configuration.weight)) : font;
+}
+
 /// The logo's shape in the text's colour.
 QImage tinted(QImage logo, const QColor &color)
 {
@@ -145,12 +155,13 @@ QSizeF logoSize(QSizeF imageSize, double capHeight, double sizeRatio)
     return QSizeF(height * imageSize.width() / std::max(1.0, imageSize.height()), height);
 }
 
-Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &font,
+Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &face,
                         const SpecimenCanvas &canvas)
 {
     Specimen specimen;
-    if (font.isNull())
+    if (face.isNull())
         return specimen;
+    const Font font = weighted(face, configuration);
     specimen.text = specimenText(configuration.text, font, configuration.primaryScript);
 
     QSizeF logo;
@@ -158,8 +169,11 @@ Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Fon
         logo = logoSize(configuration.logoImage->size(), font.capHeight(),
                         configuration.logoSizeRatio);
     const double inset = hasLogo(configuration) ? logo.width() + logoGap(configuration, font) : 0.0;
+    const QString text = configuration.singleLine
+        ? lineExcerpt(specimen.text, canvas.size.width(), font.pointSize())
+        : specimen.text;
     specimen.layout =
-        TextLayout(specimen.text, font, layoutOptions(configuration, canvas.size.width(), inset));
+        TextLayout(text, font, layoutOptions(configuration, canvas.size.width(), inset));
 
     QRectF ink = specimen.layout.inkBounds();
     if (hasLogo(configuration) && !specimen.layout.lines().empty()) {

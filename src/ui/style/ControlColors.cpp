@@ -10,6 +10,9 @@ namespace {
 
 constexpr double kBedAlpha = 0.09;
 constexpr double kShadowAlpha = 0.24;
+constexpr double kEdgeAlpha = 0.4;
+constexpr double kHoverAlpha = 0.07;
+constexpr double kPressedAlpha = 0.14;
 constexpr double kFocusRingWidth = 2.0;
 
 } // namespace
@@ -27,6 +30,7 @@ ControlColors ControlColors::from(const QColor &foreground, const QColor &backgr
     colors.inkOnRaised =
         controlColor(isLightGround ? colors.ink : blended(ground, Qt::black), colors.raised);
     colors.shadow = withAlpha(Qt::black, kShadowAlpha);
+    colors.edge = quietColor(colors.ink, ground, kEdgeAlpha);
     return colors;
 }
 
@@ -41,6 +45,14 @@ void drawRaised(QPainter &painter, const QRectF &rect, double radius, const Cont
     painter.drawRoundedRect(rect, radius, radius);
 }
 
+void drawHover(QPainter &painter, const QRectF &rect, double radius, const QColor &ink,
+               bool isPressed)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(withAlpha(ink, isPressed ? kPressedAlpha : kHoverAlpha));
+    painter.drawRoundedRect(rect, radius, radius);
+}
+
 void drawFocusRing(QPainter &painter, const QRectF &rect, double radius)
 {
     constexpr double outset = kFocusRingWidth / 2.0;
@@ -48,6 +60,22 @@ void drawFocusRing(QPainter &painter, const QRectF &rect, double radius)
     painter.setPen(QPen(accentColor(), kFocusRingWidth));
     painter.drawRoundedRect(rect.adjusted(-outset, -outset, outset, outset), radius + outset,
                             radius + outset);
+}
+
+bool showsFocusRing(Qt::FocusReason reason, bool showedBefore)
+{
+    switch (reason) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return true;
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        return showedBefore;
+    default:
+        return false;
+    }
 }
 
 } // namespace lorva

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/style/Palette.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPalette>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -15,8 +16,12 @@ namespace {
 constexpr double kLineOnWhite = 0.085;
 constexpr double kLineOnBlack = 0.13;
 constexpr double kLineOnColor = 0.20;
-/// What accessibility guidelines ask of the parts of a control (WCAG 2, 1.4.11).
-constexpr double kControlContrast = 3.0;
+/// What accessibility guidelines ask of texts (WCAG 2, 1.4.3); symbols as thin as ours need it,
+/// too.
+constexpr double kControlContrast = 4.5;
+/// Lines need less: they only part what stands apart anyhow.
+constexpr double kLineContrast = 3.0;
+constexpr double kAlphaStep = 0.02;
 /// Grounds this near to white or black count as such; an off-white paper is still paper.
 constexpr double kNearWhite = 0.92;
 constexpr double kNearBlack = 0.12;
@@ -42,6 +47,19 @@ double largestChannel(const QColor &color)
     return std::max({color.redF(), color.greenF(), color.blueF()});
 }
 
+QColor seenColor(const QColor &foreground, const QColor &background, double contrast)
+{
+    const QColor ground = blended(background, Qt::white);
+    const QColor seen = blended(foreground, ground);
+    return contrastRatio(seen, ground) >= contrast ? foreground : contrastingNeutral(ground);
+}
+
+std::optional<bool> &darkOverride()
+{
+    static std::optional<bool> isDark;
+    return isDark;
+}
+
 } // namespace
 
 NeutralColors neutralColors(bool isDark)
@@ -51,8 +69,20 @@ NeutralColors neutralColors(bool isDark)
     return {QColor(0xff, 0xff, 0xff), QColor(0xf6, 0xf5, 0xf3), QColor(0x1d, 0x1d, 0x1f)};
 }
 
+void setDarkDesktopOverride(std::optional<bool> isDark)
+{
+    darkOverride() = isDark;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        QEvent change(QEvent::PaletteChange);
+        QCoreApplication::sendEvent(widget, &change);
+        widget->update();
+    }
+}
+
 bool isDarkDesktop()
 {
+    if (darkOverride())
+        return *darkOverride();
     return QGuiApplication::palette().color(QPalette::Window).lightnessF() < 0.5;
 }
 
@@ -92,10 +122,15 @@ QColor contrastingNeutral(const QColor &background)
 
 QColor controlColor(const QColor &foreground, const QColor &background)
 {
-    const QColor ground = blended(background, Qt::white);
-    const QColor seen = blended(foreground, ground);
-    return contrastRatio(seen, ground) >= kControlContrast ? foreground
-                                                           : contrastingNeutral(ground);
+    return seenColor(foreground, background, kControlContrast);
+}
+
+QColor quietColor(const QColor &ink, const QColor &ground, double alpha)
+{
+    while (alpha < 1.0
+           && contrastRatio(blended(withAlpha(ink, alpha), ground), ground) < kControlContrast)
+        alpha += kAlphaStep;
+    return withAlpha(ink, std::min(alpha, 1.0));
 }
 
 QColor hairlineColor(const QColor &foreground, const QColor &background)
@@ -105,7 +140,7 @@ QColor hairlineColor(const QColor &foreground, const QColor &background)
         return withAlpha(Qt::black, kLineOnWhite);
     if (isOpaque && largestChannel(background) <= kNearBlack)
         return withAlpha(Qt::white, kLineOnBlack);
-    return withAlpha(controlColor(foreground, background), kLineOnColor);
+    return withAlpha(seenColor(foreground, background, kLineContrast), kLineOnColor);
 }
 
 } // namespace lorva

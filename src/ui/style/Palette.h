@@ -4,6 +4,8 @@
 
 #include <QColor>
 
+#include <optional>
+
 namespace lorva {
 
 // The colours of the interface. Pure functions but where they ask the desktop. Thread: any; main
@@ -20,6 +22,9 @@ struct NeutralColors
 NeutralColors neutralColors(bool isDark);
 /// True when the desktop's windows are dark. Thread: main.
 bool isDarkDesktop();
+/// Decides in the desktop's place; nothing gives the decision back to it. Every widget hears of it
+/// as of a new palette. Thread: main.
+void setDarkDesktopOverride(std::optional<bool> isDark);
 /// The desktop's own accent, for caret, focus and default buttons only. Thread: main.
 QColor accentColor();
 
@@ -35,6 +40,9 @@ QColor contrastingNeutral(const QColor &background);
 /// `foreground` where controls drawn in it can be seen on `background`, else black or white. A
 /// background that is not opaque is taken as it would be on white.
 QColor controlColor(const QColor &foreground, const QColor &background);
+
+/// `ink` at `alpha`, or at as much more as it takes to be read on an opaque `ground` (4.5:1).
+QColor quietColor(const QColor &ink, const QColor &ground, double alpha);
 
 /// Lines between cards: 8.5 % of black on a white ground, 13 % of white on a black one, 20 % of the
 /// foreground on a colour.

@@ -19,6 +19,10 @@ constexpr double kKnob = 14;
 /// Room for the knob's focus ring.
 constexpr int kHeight = 20;
 constexpr double kTrackAlpha = 0.18;
+/// How near the pointer must come to a stop for the knob to stick to it, in points.
+constexpr double kStickiness = 3.5;
+/// A knob that differs this much from its ground needs no edge.
+constexpr double kSeenContrast = 3.0;
 constexpr double kSideRoom = (kHeight - kKnob) / 2 + kKnob / 2;
 
 } // namespace
@@ -29,6 +33,22 @@ PointSlider::PointSlider(QWidget *parent)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     // Dragging must not take the keyboard away from the specimens.
     setFocusPolicy(Qt::TabFocus);
+    connect(this, &QAbstractSlider::actionTriggered, this, [this](int action) {
+        if (m_stop <= 0)
+            return;
+        if (action == SliderSingleStepAdd || action == SliderPageStepAdd)
+            setSliderPosition(nextStop(1));
+        else if (action == SliderSingleStepSub || action == SliderPageStepSub)
+            setSliderPosition(nextStop(-1));
+    });
+}
+
+void PointSlider::setStops(int step, int stop)
+{
+    m_step = std::max(step, 1);
+    m_stop = stop;
+    setSingleStep(stop);
+    setPageStep(stop);
 }
 
 void PointSlider::setColors(const QColor &foreground, const QColor &background)
@@ -68,8 +88,28 @@ QRectF PointSlider::knobRect() const
 int PointSlider::valueAt(double x) const
 {
     const QRectF track = trackRect();
-    return QStyle::sliderValueFromPosition(minimum(), maximum(), qRound((x - track.left()) * 8),
-                                           qRound(track.width() * 8), isMirrored());
+    const auto exact = [&](double at) {
+        return QStyle::sliderValueFromPosition(minimum(), maximum(),
+                                               qRound((at - track.left()) * 8),
+                                               qRound(track.width() * 8), isMirrored());
+    };
+    const int value = exact(x);
+    if (m_stop > 0) {
+        const int stop = qRound(double(value) / m_stop) * m_stop;
+        const int reach = std::abs(exact(x + kStickiness) - value);
+        if (std::abs(stop - value) <= reach)
+            return stop;
+    }
+    return qRound(double(value) / m_step) * m_step;
+}
+
+/// From the value, which the action has not changed yet.
+int PointSlider::nextStop(int direction) const
+{
+    const int below = (value() / m_stop) * m_stop;
+    if (direction > 0)
+        return below + m_stop;
+    return value() > below ? below : below - m_stop;
 }
 
 void PointSlider::paintEvent(QPaintEvent *)
@@ -83,6 +123,11 @@ void PointSlider::paintEvent(QPaintEvent *)
     if (!isEnabled())
         painter.setOpacity(0.4);
     drawRaised(painter, knobRect(), kKnob / 2, colors);
+    if (contrastRatio(colors.raised, blended(m_background, Qt::white)) < kSeenContrast) {
+        painter.setPen(QPen(colors.edge, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(knobRect().adjusted(0.5, 0.5, -0.5, -0.5));
+    }
     if (hasFocus() && m_showsFocus)
         drawFocusRing(painter, knobRect(), kKnob / 2);
 }
@@ -93,8 +138,12 @@ void PointSlider::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
+    const double x = event->position().x();
+    const QRectF knob = knobRect();
+    m_grip = knob.contains(event->position()) ? x - knob.center().x() : 0;
     setSliderDown(true);
-    setSliderPosition(valueAt(event->position().x()));
+    if (m_grip == 0)
+        setSliderPosition(valueAt(x));
     event->accept();
 }
 
@@ -104,8 +153,19 @@ void PointSlider::mouseMoveEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    setSliderPosition(valueAt(event->position().x()));
+    setSliderPosition(valueAt(event->position().x() - m_grip));
     event->accept();
+}
+
+void PointSlider::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && m_defaultValue
+        && knobRect().contains(event->position())) {
+        setValue(*m_defaultValue);
+        event->accept();
+        return;
+    }
+    mousePressEvent(event);
 }
 
 void PointSlider::mouseReleaseEvent(QMouseEvent *event)
@@ -120,7 +180,7 @@ void PointSlider::mouseReleaseEvent(QMouseEvent *event)
 
 void PointSlider::focusInEvent(QFocusEvent *event)
 {
-    m_showsFocus = event->reason() != Qt::MouseFocusReason;
+    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
     QSlider::focusInEvent(event);
 }
 

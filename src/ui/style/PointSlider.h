@@ -5,10 +5,13 @@
 #include <QColor>
 #include <QSlider>
 
+#include <optional>
+
 namespace lorva {
 
 /// A horizontal slider with a track of 104×3 points and a round knob of 14, in any foreground and
-/// background colour. A press on the track takes the knob there. Thread: main.
+/// background colour. A press on the track takes the knob there, a
+/// double click on the knob takes it to the default value. Thread: main.
 class PointSlider final : public QSlider
 {
     Q_OBJECT
@@ -16,6 +19,11 @@ public:
     explicit PointSlider(QWidget *parent = nullptr);
 
     void setColors(const QColor &foreground, const QColor &background);
+    /// Where a double click on the knob leads.
+    void setDefaultValue(int value) { m_defaultValue = value; }
+    /// The pointer moves in steps of `step` and sticks to multiples of `stop` from a few points
+    /// away; the keys go from stop to stop.
+    void setStops(int step, int stop);
     /// The knob, in points of the widget.
     QRectF knobRect() const;
 
@@ -27,15 +35,23 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
     QRectF trackRect() const;
     bool isMirrored() const;
     int valueAt(double x) const;
+    int nextStop(int direction) const;
 
     QColor m_foreground = Qt::black;
     QColor m_background = Qt::white;
+    std::optional<int> m_defaultValue;
+    int m_step = 1;
+    /// 0: none.
+    int m_stop = 0;
+    /// From the knob's centre to where it was taken.
+    double m_grip = 0;
     bool m_showsFocus = false;
 };
 

@@ -4,6 +4,8 @@
 
 #include "ui/style/ControlColors.h"
 #include "ui/style/DeviceSpace.h"
+#include "ui/style/Palette.h"
+#include "ui/style/Style.h"
 #include "ui/style/SymbolImage.h"
 
 #include <QAbstractButton>
@@ -44,8 +46,18 @@ public:
         setAutoExclusive(true);
         // Clicking must not take the keyboard away from the specimens.
         setFocusPolicy(Qt::TabFocus);
-        setToolTip(label);
         setAccessibleName(label);
+        if (m_symbol.isEmpty())
+            setText(label);
+        else
+            setToolTip(label);
+    }
+
+    int wantedWidth() const
+    {
+        if (!m_symbol.isEmpty())
+            return kSegmentWidth;
+        return QFontMetrics(textFont()).horizontalAdvance(text()) + 2 * spacing::k12;
     }
 
 protected:
@@ -81,10 +93,26 @@ protected:
             drawRaised(painter, box, kSegmentRadius, colors);
         if (hasFocus() && m_showsFocus)
             drawFocusRing(painter, box, kSegmentRadius);
-        paintSymbol(painter, isChecked() ? colors.inkOnRaised : colors.ink);
+        const QColor ink = isChecked() ? colors.inkOnRaised : colors.ink;
+        if (m_symbol.isEmpty())
+            paintText(painter, ink);
+        else
+            paintSymbol(painter, ink);
     }
 
 private:
+    static QFont textFont()
+    {
+        return interfaceFont(InterfaceSize::label, InterfaceWeight::medium);
+    }
+
+    void paintText(QPainter &painter, const QColor &color) const
+    {
+        painter.setFont(textFont());
+        painter.setPen(withAlpha(color, isEnabled() ? 1.0 : 0.4));
+        painter.drawText(rect(), int(Qt::AlignCenter) | int(Qt::TextSingleLine), text());
+    }
+
     void paintSymbol(QPainter &painter, QColor color) const
     {
         if (!isEnabled())
@@ -109,13 +137,30 @@ SegmentedControl::SegmentedControl(QWidget *parent)
 
 int SegmentedControl::addSegment(const QString &symbol, const QString &label)
 {
+    return append(new Segment(symbol, label, this));
+}
+
+int SegmentedControl::addTextSegment(const QString &text)
+{
+    return append(new Segment({}, text, this));
+}
+
+int SegmentedControl::append(Segment *segment)
+{
     const int index = int(m_group->buttons().size());
-    auto *segment = new Segment(symbol, label, this);
     m_group->addButton(segment, index);
     updateGeometry();
     placeSegments();
     segment->show();
     return index;
+}
+
+int SegmentedControl::segmentWidth() const
+{
+    int widest = 0;
+    for (const QAbstractButton *button : m_group->buttons())
+        widest = std::max(widest, static_cast<const Segment *>(button)->wantedWidth());
+    return widest;
 }
 
 int SegmentedControl::currentIndex() const
@@ -138,7 +183,7 @@ void SegmentedControl::setColors(const QColor &foreground, const QColor &backgro
 
 QSize SegmentedControl::sizeHint() const
 {
-    return QSize(int(m_group->buttons().size()) * kSegmentWidth + 2 * kPadding, kHeight);
+    return QSize(int(m_group->buttons().size()) * segmentWidth() + 2 * kPadding, kHeight);
 }
 
 /// Moves the keyboard and the choice to a neighbour, as the user's doing.
@@ -155,9 +200,10 @@ void SegmentedControl::chooseBeside(QAbstractButton *segment, int step)
 void SegmentedControl::placeSegments()
 {
     const QList<QAbstractButton *> segments = m_group->buttons();
+    const int width = segmentWidth();
     for (int i = 0; i < segments.size(); ++i) {
         const int place = isRightToLeft() ? int(segments.size()) - 1 - i : i;
-        segments[i]->setGeometry(place * kSegmentWidth, 0, kSegmentWidth + 2 * kPadding, kHeight);
+        segments[i]->setGeometry(place * width, 0, width + 2 * kPadding, kHeight);
     }
 }
 

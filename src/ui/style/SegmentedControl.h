@@ -25,6 +25,8 @@ public:
     /// Adds a segment that shows a symbol (see symbolImage()); `label` is its tool tip and its name
     /// for assistive technology. Gives its index.
     int addSegment(const QString &symbol, const QString &label);
+    /// Adds a segment that shows a word; all segments are as wide as the widest. Gives its index.
+    int addTextSegment(const QString &text);
     /// −1 while nothing is chosen.
     int currentIndex() const;
     /// Chooses without activated(); an index that does not exist is ignored.
@@ -46,6 +48,8 @@ private:
     class Segment;
 
     void chooseBeside(QAbstractButton *segment, int step);
+    int append(Segment *segment);
+    int segmentWidth() const;
     void placeSegments();
 
     QButtonGroup *m_group = nullptr;

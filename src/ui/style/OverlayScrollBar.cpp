@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/browser/OverlayScrollBar.h"
+#include "ui/style/OverlayScrollBar.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,0 +1,251 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MainMenu.h"
+
+#include "app/MenuBarReveal.h"
+#include "app/SpecimenSizes.h"
+#include "model/LorvaAppModel.h"
+#include "platform/UpdaterController.h"
+#include "ui/sheets/AlertSheet.h"
+#include "ui/style/MenuLook.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace lorva {
+
+namespace {
+
+bool isMenu(const QWidget *widget)
+{
+    return qobject_cast<const QMenu *>(widget) || qobject_cast<const QMenuBar *>(widget);
+}
+
+/// "Undo New Collection", or the bare word when nothing can be undone.
+QString commandText(const QString &withName, const QString &bare, const QString &name)
+{
+    // A command's name may hold an ampersand, which menus take for a mnemonic.
+    QString shown = name;
+    shown.replace(u'&', QStringLiteral("&&"));
+    return name.isEmpty() ? bare : withName.arg(shown);
+}
+
+} // namespace
+
+MainMenu::MainMenu(Targets targets)
+    : m_targets(std::move(targets))
+    , m_buttonMenu(new QMenu)
+{
+    m_buttonMenu->setObjectName(QStringLiteral("Menu"));
+    buildProgramMenu();
+    buildFileMenu();
+    buildEditMenu();
+    buildViewMenu();
+    applyMenuLook(*m_buttonMenu);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *now) { remember(now); });
+    connect(&m_targets.model.undoStack(), &QUndoStack::indexChanged, this, &MainMenu::update);
+    update();
+}
+
+MainMenu::~MainMenu() = default;
+
+QMenu *MainMenu::addMenu(const QString &title, const QString &name)
+{
+    QMenu *menu = m_buttonMenu->addMenu(title);
+    menu->setObjectName(name);
+    connect(menu, &QMenu::aboutToShow, this, &MainMenu::update);
+    m_menus << menu;
+    return menu;
+}
+
+QAction *MainMenu::add(QMenu *menu, const char *name, const QString &text,
+                       const QList<QKeySequence> &shortcuts, std::function<void()> act)
+{
+    QAction *action = menu->addAction(text);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcuts(shortcuts);
+    // Desktops that move actions by what they seem to be would tear the menus apart.
+    action->setMenuRole(QAction::NoRole);
+    connect(action, &QAction::triggered, this, [this, act = std::move(act)] {
+        if (!hasAlertSheet(m_targets.window))
+            act();
+    });
+    // The window's own, so that the shortcut works while no bar is shown.
+    m_targets.window.addAction(action);
+    return action;
+}
+
+void MainMenu::buildProgramMenu()
+{
+    QMenu *menu = addMenu(tr("&Lorva"), QStringLiteral("Menu.Program"));
+    add(menu, "Menu.About", tr("About Lorva"), {}, [this] { showAbout(); });
+    m_checkForUpdates = add(menu, "Menu.CheckForUpdates", tr("Check for Updates…"), {},
+                            [this] { m_targets.updater.checkForUpdates(); });
+    menu->addSeparator();
+    QAction *quit = menu->addAction(tr("Quit"));
+    quit->setObjectName(QStringLiteral("Menu.Quit"));
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    m_targets.window.addAction(quit);
+    connect(quit, &QAction::triggered, &m_targets.window, &QWidget::close);
+}
+
+void MainMenu::buildFileMenu()
+{
+    QMenu *menu = addMenu(tr("&File"), QStringLiteral("Menu.File"));
+    add(menu, "Menu.NewCollection", tr("New Collection"), {QKeySequence(Qt::CTRL | Qt::Key_N)},
+        m_targets.newCollection);
+    add(menu, "Menu.AddFolder", tr("Add Folder…"), {QKeySequence(Qt::CTRL | Qt::Key_O)},
+        m_targets.addFolder);
+    menu->addSeparator();
+    add(menu, "Menu.Close", tr("Close"), {QKeySequence(Qt::CTRL | Qt::Key_W)},
+        [this] { m_targets.window.close(); });
+}
+
+void MainMenu::buildEditMenu()
+{
+    QMenu *menu = addMenu(tr("&Edit"), QStringLiteral("Menu.Edit"));
+    m_undo = add(menu, "Menu.Undo", tr("Undo"), {QKeySequence(Qt::CTRL | Qt::Key_Z)},
+                 [this] { undo(); });
+    m_redo =
+        add(menu, "Menu.Redo", tr("Redo"),
+            {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
+            [this] { redo(); });
+    menu->addSeparator();
+    add(menu, "Menu.Copy", tr("Copy"), {QKeySequence(Qt::CTRL | Qt::Key_C)},
+        [this] { pressInFocus(Qt::Key_C); });
+    add(menu, "Menu.SelectAll", tr("Select All"), {QKeySequence(Qt::CTRL | Qt::Key_A)},
+        [this] { pressInFocus(Qt::Key_A); });
+    menu->addSeparator();
+    add(menu, "Menu.Find", tr("Find"), {QKeySequence(Qt::CTRL | Qt::Key_F)}, m_targets.find);
+}
+
+void MainMenu::buildViewMenu()
+{
+    QMenu *menu = addMenu(tr("&View"), QStringLiteral("Menu.View"));
+    addModeActions(menu);
+    menu->addSeparator();
+    addSizeActions(menu);
+    menu->addSeparator();
+    QList<QKeySequence> fullScreen{QKeySequence(Qt::Key_F11)};
+    for (const QKeySequence &key : QKeySequence::keyBindings(QKeySequence::FullScreen))
+        if (!fullScreen.contains(key))
+            fullScreen << key;
+    m_fullScreen = add(menu, "Menu.FullScreen", tr("Enter Full Screen"), fullScreen,
+                       [this] { toggleFullScreen(); });
+}
+
+void MainMenu::addModeActions(QMenu *menu)
+{
+    auto *modes = new QActionGroup(this);
+    const auto addMode = [&](const char *name, const QString &text, Qt::Key key, ViewMode mode) {
+        QAction *action = add(menu, name, text, {QKeySequence(Qt::CTRL | key)},
+                              [this, mode] { m_targets.model.setViewMode(mode); });
+        action->setCheckable(true);
+        modes->addAction(action);
+        return action;
+    };
+    m_grid = addMode("Menu.Grid", tr("Grid"), Qt::Key_1, ViewMode::grid);
+    m_list = addMode("Menu.List", tr("List"), Qt::Key_2, ViewMode::list);
+}
+
+void MainMenu::addSizeActions(QMenu *menu)
+{
+    LorvaAppModel &model = m_targets.model;
+    m_larger = add(menu, "Menu.Larger", tr("Larger Specimens"),
+                   {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+                   [&model] { model.setPointSize(largerSpecimenSize(model.browserPointSize())); });
+    m_smaller =
+        add(menu, "Menu.Smaller", tr("Smaller Specimens"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
+            [&model] { model.setPointSize(smallerSpecimenSize(model.browserPointSize())); });
+    add(menu, "Menu.StandardSize", tr("Standard Specimen Size"),
+        {QKeySequence(Qt::CTRL | Qt::Key_0)},
+        [&model] { model.setPointSize(DisplayValues().browserPointSize); });
+}
+
+void MainMenu::makeMenuBar()
+{
+    if (m_bar)
+        return;
+    m_bar = new QMenuBar(&m_targets.window);
+    m_bar->setObjectName(QStringLiteral("MenuBar"));
+    for (QMenu *menu : m_menus)
+        m_bar->addMenu(menu);
+    m_reveal = std::make_unique<MenuBarReveal>(m_targets.window, *m_bar);
+}
+
+void MainMenu::update()
+{
+    const QUndoStack &stack = m_targets.model.undoStack();
+    const auto *field = qobject_cast<const QLineEdit *>(m_focused.data());
+    m_undo->setText(field ? tr("Undo") : commandText(tr("Undo %1"), tr("Undo"), stack.undoText()));
+    m_redo->setText(field ? tr("Redo") : commandText(tr("Redo %1"), tr("Redo"), stack.redoText()));
+    m_undo->setEnabled(field ? field->isUndoAvailable() : stack.canUndo());
+    m_redo->setEnabled(field ? field->isRedoAvailable() : stack.canRedo());
+
+    const double size = m_targets.model.browserPointSize();
+    m_larger->setEnabled(size < LorvaAppModel::kMaximumPointSize);
+    m_smaller->setEnabled(size > LorvaAppModel::kMinimumPointSize);
+    (m_targets.model.viewMode() == ViewMode::grid ? m_grid : m_list)->setChecked(true);
+    m_checkForUpdates->setVisible(m_targets.updater.canCheckForUpdates());
+    m_fullScreen->setText(m_targets.window.isFullScreen() ? tr("Exit Full Screen")
+                                                          : tr("Enter Full Screen"));
+}
+
+void MainMenu::remember(QWidget *focused)
+{
+    if (isMenu(focused))
+        return;
+    if (focused && focused->window() == &m_targets.window)
+        m_focused = focused;
+    update();
+}
+
+void MainMenu::undo()
+{
+    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
+        field->undo();
+    else
+        m_targets.model.undoStack().undo();
+}
+
+void MainMenu::redo()
+{
+    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
+        field->redo();
+    else
+        m_targets.model.undoStack().redo();
+}
+
+/// The command does what its key does where the keyboard is: to a text, or to the cards.
+void MainMenu::pressInFocus(Qt::Key key)
+{
+    if (!m_focused)
+        return;
+    QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
+    QCoreApplication::sendEvent(m_focused, &press);
+}
+
+void MainMenu::toggleFullScreen()
+{
+    m_targets.window.setWindowState(m_targets.window.windowState() ^ Qt::WindowFullScreen);
+    update();
+}
+
+void MainMenu::showAbout()
+{
+    const Alert about{Alert::Style::informational,
+                      tr("Lorva"),
+                      tr("Version %1\n\nBrowse, test and organise all the fonts of this computer.")
+                          .arg(QStringLiteral(LORVA_VERSION)),
+                      {{tr("OK"), Alert::Role::accept}}};
+    presentAlert(m_targets.window, about, [](int) {});
+}
+
+} // namespace lorva

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QMenuBar;
+
+namespace lorva {
+
+class LorvaAppModel;
+class MenuBarReveal;
+class UpdaterController;
+
+/// The program's commands: menus, their shortcuts, and where they are found.
+///
+/// Desktops with a menu of their own get it exported. Elsewhere no bar is drawn: the shortcuts work
+/// all the same, Alt or F10 shows the bar as long as it is used, and buttonMenu() offers the same
+/// menus behind a button. While a sheet asks something, only quitting acts.
+///
+/// Owns: the actions and menus. Thread: main. Does not own what it acts on, which must outlive it.
+class MainMenu final : public QObject
+{
+    Q_OBJECT
+public:
+    struct Targets
+    {
+        LorvaAppModel &model;
+        UpdaterController &updater;
+        QMainWindow &window;
+        std::function<void()> newCollection;
+        std::function<void()> addFolder;
+        std::function<void()> find;
+    };
+
+    explicit MainMenu(Targets targets);
+    ~MainMenu() override;
+
+    /// All menus, one below the other, for a button.
+    QMenu *buttonMenu() { return m_buttonMenu.get(); }
+    /// Makes the bar, exported or hidden; asks the desktop, so it can wait until the window is
+    /// there.
+    void makeMenuBar();
+    /// Shows what the model, the updater and the focus allow now.
+    void update();
+
+private:
+    QMenu *addMenu(const QString &title, const QString &name);
+    QAction *add(QMenu *menu, const char *name, const QString &text,
+                 const QList<QKeySequence> &shortcuts, std::function<void()> act);
+    void buildProgramMenu();
+    void buildFileMenu();
+    void buildEditMenu();
+    void buildViewMenu();
+    void addSizeActions(QMenu *menu);
+    void addModeActions(QMenu *menu);
+    void remember(QWidget *focused);
+    void undo();
+    void redo();
+    void pressInFocus(Qt::Key key);
+    void toggleFullScreen();
+    void showAbout();
+
+    const Targets m_targets;
+    QList<QMenu *> m_menus;
+    std::unique_ptr<QMenu> m_buttonMenu;
+    QPointer<QMenuBar> m_bar;
+    std::unique_ptr<MenuBarReveal> m_reveal;
+    /// What had the keyboard's focus last, menus apart.
+    QPointer<QWidget> m_focused;
+    QAction *m_checkForUpdates = nullptr;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
+    QAction *m_grid = nullptr;
+    QAction *m_list = nullptr;
+    QAction *m_larger = nullptr;
+    QAction *m_smaller = nullptr;
+    QAction *m_fullScreen = nullptr;
+};
+
+} // namespace lorva

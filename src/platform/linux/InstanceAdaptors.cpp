@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/linux/InstanceAdaptors.h"
+
+namespace lorva {
+
+namespace {
+
+void take(SingleInstance &instance, const ProgramStart &start)
+{
+    if (instance.onStart)
+        instance.onStart(start);
+}
+
+QByteArray tokenIn(const QVariantMap &platformData)
+{
+    const QByteArray token =
+        platformData.value(QStringLiteral("activation-token")).toString().toUtf8();
+    return token.isEmpty()
+        ? platformData.value(QStringLiteral("desktop-startup-id")).toString().toUtf8()
+        : token;
+}
+
+} // namespace
+
+FreedesktopApplicationAdaptor::FreedesktopApplicationAdaptor(SingleInstance &instance,
+                                                             QObject *object)
+    : QDBusAbstractAdaptor(object)
+    , m_instance(instance)
+{
+}
+
+void FreedesktopApplicationAdaptor::Activate(const QVariantMap &platformData)
+{
+    take(m_instance, {{}, FilePath("/"), tokenIn(platformData)});
+}
+
+void FreedesktopApplicationAdaptor::Open(const QStringList &uris, const QVariantMap &platformData)
+{
+    ProgramStart start{{}, FilePath("/"), tokenIn(platformData)};
+    for (const QString &uri : uris)
+        if (const auto path = FilePath::fromUrl(uri.toUtf8()))
+            start.arguments << "--folder" << path->bytes();
+    take(m_instance, start);
+}
+
+void FreedesktopApplicationAdaptor::ActivateAction(const QString &, const QVariantList &,
+                                                   const QVariantMap &platformData)
+{
+    // The program has no actions yet that a desktop could offer.
+    Activate(platformData);
+}
+
+InstanceAdaptor::InstanceAdaptor(SingleInstance &instance, QObject *object)
+    : QDBusAbstractAdaptor(object)
+    , m_instance(instance)
+{
+}
+
+void InstanceAdaptor::Start(const QByteArrayList &arguments, const QByteArray &workingFolder,
+                            const QByteArray &activationToken)
+{
+    take(m_instance, {arguments, FilePath(workingFolder), activationToken});
+}
+
+} // namespace lorva

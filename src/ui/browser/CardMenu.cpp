@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/browser/CardMenu.h"
+
+#include "ui/style/MenuLook.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+
+#include <memory>
+
+namespace lorva {
+
+namespace {
+
+/// What the items of one menu need.
+struct Subject
+{
+    FontBrowserState state;
+    QStringList familyNames;
+    FontBrowserDelegate *delegate = nullptr;
+};
+using SharedSubject = std::shared_ptr<const Subject>;
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("CardMenu", source);
+}
+
+/// In a menu an ampersand names a key; in the name of a foundry it is only that.
+QString menuText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+template <class Option>
+QAction *addOption(QMenu &menu, const Option &option)
+{
+    QAction *action = menu.addAction(menuText(option.name));
+    action->setCheckable(true);
+    action->setChecked(option.isMember);
+    return action;
+}
+
+/// `fill` runs once, when the submenu first opens.
+void addSubmenu(QMenu &menu, const char *name, const QString &title,
+                std::function<void(QMenu &)> fill)
+{
+    QMenu *submenu = makeMenu(&menu);
+    submenu->setObjectName(QString::fromLatin1(name));
+    submenu->setTitle(title);
+    menu.addMenu(submenu);
+    QObject::connect(submenu, &QMenu::aboutToShow, submenu, [submenu, fill = std::move(fill)] {
+        if (submenu->isEmpty())
+            fill(*submenu);
+    });
+}
+
+void fillStyles(QMenu &menu, const SharedSubject &subject)
+{
+    const auto choose = [subject](const std::optional<QString> &id) {
+        if (subject->delegate)
+            subject->delegate->browserStyleChosen(subject->familyNames, id);
+    };
+    QObject::connect(menu.addAction(text("None")), &QAction::triggered, &menu,
+                     [choose] { choose(std::nullopt); });
+    menu.addSeparator();
+    for (const auto &option : styleOptions(subject->state, subject->familyNames)) {
+        QObject::connect(addOption(menu, option), &QAction::triggered, &menu,
+                         [choose, id = option.id] { choose(id); });
+    }
+}
+
+void fillCollections(QMenu &menu, const SharedSubject &subject)
+{
+    for (const auto &option : collectionOptions(subject->state, subject->familyNames)) {
+        auto *action = new CollectionMenuAction(option, &menu);
+        menu.addAction(action);
+        QObject::connect(action, &QAction::triggered, &menu, [subject, action] {
+            if (subject->delegate)
+                subject->delegate->browserCollectionToggled(subject->familyNames,
+                                                            action->collectionID);
+        });
+    }
+}
+
+void fillFoundries(QMenu &menu, const SharedSubject &subject)
+{
+    const auto choose = [subject](const QString &id) {
+        if (subject->delegate)
+            subject->delegate->browserFoundryChosen(subject->familyNames, id);
+    };
+    QObject::connect(menu.addAction(text("None")), &QAction::triggered, &menu,
+                     [choose] { choose({}); });
+    menu.addSeparator();
+    for (const auto &option : foundryOptions(subject->state, subject->familyNames)) {
+        QObject::connect(addOption(menu, option), &QAction::triggered, &menu,
+                         [choose, id = option.id] { choose(id); });
+    }
+}
+
+} // namespace
+
+CollectionMenuAction::CollectionMenuAction(const CollectionMembershipOption &option,
+                                           QObject *parent)
+    : QAction(menuText(option.name), parent)
+    , collectionID(option.id)
+{
+    setCheckable(true);
+    setChecked(option.isMember);
+}
+
+QMenu *makeCardMenu(const FontBrowserState &state, const QStringList &familyNames,
+                    FontBrowserDelegate *delegate, QWidget *parent)
+{
+    const auto subject = std::make_shared<const Subject>(Subject{state, familyNames, delegate});
+    QMenu *menu = makeMenu(parent);
+    menu->setObjectName(QStringLiteral("cardMenu"));
+    addSubmenu(*menu, "styleMenu", text("Style"),
+               [subject](QMenu &submenu) { fillStyles(submenu, subject); });
+    addSubmenu(*menu, "collectionsMenu", text("Collections"),
+               [subject](QMenu &submenu) { fillCollections(submenu, subject); });
+    menu->actions().back()->setEnabled(!state.collections.empty());
+    addSubmenu(*menu, "foundryMenu", text("Foundry"),
+               [subject](QMenu &submenu) { fillFoundries(submenu, subject); });
+    return menu;
+}
+
+} // namespace lorva

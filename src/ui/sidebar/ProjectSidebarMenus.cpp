@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+// The context menus of the sidebar's rows.
+
+#include "ui/sidebar/ProjectSidebarViewController.h"
+#include "ui/sidebar/SidebarModel.h"
+#include "ui/sidebar/SidebarOutlineView.h"
+#include "ui/style/MenuLook.h"
+
+#include <QFontMetrics>
+#include <QMenu>
+
+namespace lorva {
+
+namespace {
+
+constexpr int kWidestEntry = 320;
+
+/// A name as an entry of a menu: in one line, its ampersands shown.
+QString entryText(const QMenu &menu, const QString &name)
+{
+    const QString line =
+        menu.fontMetrics().elidedText(sidebarLineOf(name), Qt::ElideRight, kWidestEntry);
+    return QString(line).replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+void ProjectSidebarViewController::showMenu(const QModelIndex &index, const QPoint &globalPosition)
+{
+    const std::optional<SidebarItem> item = m_model->itemAt(index);
+    if (!item || !m_delegate)
+        return;
+    QMenu *menu = makeMenu(this);
+    menu->setObjectName(QStringLiteral("SidebarMenu"));
+    menu->setToolTipsVisible(true);
+    fillMenu(*menu, *item);
+    if (menu->isEmpty()) {
+        delete menu;
+        return;
+    }
+    m_contextualMenu = menu;
+    m_outlineView->setMenuTarget(index);
+    connect(menu, &QMenu::aboutToHide, this, [this, menu] {
+        m_outlineView->setMenuTarget({});
+        menu->deleteLater();
+    });
+    menu->popup(globalPosition);
+}
+
+void ProjectSidebarViewController::fillMenu(QMenu &menu, const SidebarItem &item)
+{
+    const QString id = item.id();
+    switch (item.kind()) {
+    case SidebarItem::Kind::collection:
+        menu.addAction(tr("Rename Collection…"), this, [this, item] { beginRenaming(item); });
+        menu.addAction(tr("Delete Collection"), this,
+                       [this, id] { m_delegate->sidebarCollectionDeletionWanted(id); });
+        break;
+    case SidebarItem::Kind::foundry:
+        fillFoundryMenu(menu, item);
+        break;
+    case SidebarItem::Kind::organize:
+        menu.addAction(tr("Hide from Sidebar"), this, [this] { m_delegate->sidebarPromoHidden(); });
+        break;
+    case SidebarItem::Kind::group:
+        if (item.group() == SidebarGroup::collections)
+            menu.addAction(tr("New Collection"), this, [this] { beginCreatingCollection(); });
+        else if (item.group() == SidebarGroup::foundries)
+            addHiddenFoundries(menu);
+        break;
+    default:
+        break;
+    }
+}
+
+void ProjectSidebarViewController::fillFoundryMenu(QMenu &menu, const SidebarItem &item)
+{
+    menu.addAction(tr("Rename Foundry…"), this, [this, item] { beginRenaming(item); });
+    QAction *hide = menu.addAction(tr("Hide Foundry"), this, [this, id = item.id()] {
+        m_delegate->sidebarFoundryHidingWanted(id);
+    });
+    hide->setToolTip(tr("This hides the foundry from the sidebar."));
+    hide->setStatusTip(hide->toolTip());
+    if (!m_state.dismissedFoundries.empty())
+        menu.addSeparator();
+    addHiddenFoundries(menu);
+}
+
+void ProjectSidebarViewController::addHiddenFoundries(QMenu &menu)
+{
+    if (m_state.dismissedFoundries.empty())
+        return;
+    auto *hidden = new QMenu(tr("Hidden Foundries"), &menu);
+    hidden->setObjectName(QStringLiteral("SidebarHiddenFoundries"));
+    for (const FoundryCollectionRecord &foundry : m_state.dismissedFoundries)
+        hidden->addAction(entryText(*hidden, foundry.name), this,
+                          [this, id = foundry.id] { m_delegate->sidebarFoundryBroughtBack(id); });
+    applyMenuLook(*hidden);
+    menu.addMenu(hidden);
+}
+
+} // namespace lorva

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "ui/style/MenuLook.h"
+
+#include "ui/style/MenuStyle.h"
+#include "ui/style/Style.h"
+
+#include <QGuiApplication>
+#include <QMenu>
+
+namespace lorva {
+
+namespace {
+
+bool hasTranslucentWindows()
+{
+    // An X11 desktop may have no compositor, and then the corners would be black.
+    return QGuiApplication::platformName() != QLatin1String("xcb");
+}
+
+void applyToSubmenus(const QMenu &menu)
+{
+    for (QAction *action : menu.actions()) {
+        if (QMenu *submenu = action->menu())
+            applyMenuLook(*submenu);
+    }
+}
+
+} // namespace
+
+QMenu *makeMenu(QWidget *parent)
+{
+    auto *menu = new QMenu(parent);
+    applyMenuLook(*menu);
+    return menu;
+}
+
+void applyMenuLook(QMenu &menu)
+{
+    if (menu.style() == MenuStyle::shared())
+        return applyToSubmenus(menu);
+    menu.setStyle(MenuStyle::shared());
+    menu.setFont(interfaceFont(InterfaceSize::body));
+    menu.setWindowFlag(Qt::FramelessWindowHint);
+    menu.setAttribute(Qt::WA_TranslucentBackground, hasTranslucentWindows());
+    applyToSubmenus(menu);
+    // Submenus that join later.
+    QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu] { applyToSubmenus(menu); });
+}
+
+} // namespace lorva

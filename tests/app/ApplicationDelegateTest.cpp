@@ -1,0 +1,360 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "app/LorvaApplicationDelegate.h"
+#include "catalog/CatalogCache.h"
+#include "platform/linux/XdgFolders.h"
+#include "platform/SqlitePreferenceStore.h"
+#include "support/FontBuilder.h"
+#include "support/TestHome.h"
+#include "support/Waiting.h"
+#include "ui/browser/FontBrowserViewController.h"
+#include "ui/LorvaRootSplitViewController.h"
+#include "ui/style/ReducedMotion.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace lorva {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// What the scripted parts of the program were asked for, in order.
+using Journal = std::vector<std::string>;
+
+class ScriptedUpdater final : public UpdaterController
+{
+public:
+    ScriptedUpdater(Journal &journal, Result<void> outcome)
+        : m_journal(journal)
+        , m_outcome(std::move(outcome))
+    {
+    }
+    Result<void> start() override
+    {
+        m_journal.push_back("start");
+        return m_outcome;
+    }
+    bool canCheckForUpdates() const override { return !m_journal.empty() && m_outcome.has_value(); }
+    void checkForUpdates() override { m_journal.push_back("check"); }
+
+private:
+    Journal &m_journal;
+    const Result<void> m_outcome;
+};
+
+class ScriptedOnboarding final : public OnboardingOverlayController
+{
+public:
+    ScriptedOnboarding(Journal &journal, std::function<void(End)> &ended)
+        : m_journal(journal)
+        , m_ended(ended)
+    {
+    }
+    ~ScriptedOnboarding() override { m_journal.push_back("welcome gone"); }
+    void show(QWidget &, std::function<void(End)> ended) override
+    {
+        m_journal.push_back("welcome");
+        m_ended = std::move(ended);
+    }
+
+private:
+    Journal &m_journal;
+    std::function<void(End)> &m_ended;
+};
+
+QStringList &messages()
+{
+    static QStringList list;
+    return list;
+}
+
+class ApplicationDelegate : public testing::Test
+{
+protected:
+    ApplicationDelegate()
+    {
+        setReducedMotionOverride(true);
+        QDir(xdgFolders().applicationSupport.displayText()).removeRecursively();
+        const auto &home = test::TestHome::instance();
+        for (const char *name : {"One", "Two"})
+            test::writeFile(
+                home.systemFonts(), QByteArray(name) + ".ttf",
+                test::FontBuilder(QString::fromLatin1(name)).codePoints(U"Aa 123").build());
+    }
+
+    ProgramParts scripted(Result<void> updaterOutcome = {})
+    {
+        return {std::make_unique<ScriptedUpdater>(m_journal, std::move(updaterOutcome)),
+                [this](LorvaAppModel &) {
+                    return std::make_unique<ScriptedOnboarding>(m_journal, m_continue);
+                }};
+    }
+    LorvaApplicationDelegate &launch(const LaunchOptions &options = {}, ProgramParts parts = {})
+    {
+        m_delegate.reset();
+        m_delegate = std::make_unique<LorvaApplicationDelegate>(options, nullptr, std::move(parts));
+        m_delegate->applicationDidFinishLaunching();
+        m_delegate->window()->activateWindow();
+        return *m_delegate;
+    }
+    bool waitForLibrary()
+    {
+        return test::waitUntil([this] {
+            const LorvaAppModel &model = m_delegate->model();
+            return !model.isLoading() && model.allFamilies()->size() == 2
+                && m_delegate->rootController()->browser().isSettled();
+        });
+    }
+    /// As the display would deliver it.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(m_delegate->window()->windowHandle(), key, modifiers);
+    }
+    QAction *command(const char *name) const
+    {
+        const QList<QAction *> actions = m_delegate->window()->actions();
+        const auto found =
+            std::ranges::find(actions, QString::fromLatin1(name), &QAction::objectName);
+        EXPECT_NE(found, actions.end()) << name;
+        return found == actions.end() ? nullptr : *found;
+    }
+
+    static void openMenuOf(const QAction *action)
+    {
+        for (QObject *object : action->associatedObjects())
+            if (auto *menu = qobject_cast<QMenu *>(object)) {
+                menu->popup({});
+                menu->close();
+            }
+    }
+
+    Journal m_journal;
+    std::function<void(OnboardingOverlayController::End)> m_continue;
+    std::unique_ptr<LorvaApplicationDelegate> m_delegate;
+};
+
+std::optional<bool> storedFlag()
+{
+    return SqlitePreferenceStore(xdgFolders().applicationSupport)
+        .boolean(LorvaApplicationDelegate::onboardingFlag());
+}
+
+TEST_F(ApplicationDelegate, OpensItsOneWindowAndKeepsItsFrame)
+{
+    QMainWindow *window = launch().window();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("All Fonts"));
+    EXPECT_EQ(window->minimumSize(), QSize(960, 800));
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->windowOpacity(), 1.0) << "no welcome, no waiting";
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    ASSERT_LT(screen.width(), 960) << "the offscreen display is a small one";
+    EXPECT_EQ(window->size(), QSize(960, 800));
+    EXPECT_EQ(window->geometry().center(),
+              QRect(screen.center() - QPoint(479, 399), QSize(960, 800)).center());
+    EXPECT_EQ(storedFlag(), std::nullopt) << "nobody has gone through a welcome";
+
+    window->setGeometry(20, 10, 1100, 900);
+    window->close();
+    EXPECT_EQ(launch().window()->geometry(), QRect(20, 10, 1100, 900));
+
+    m_delegate->window()->setGeometry(-4000, 10, 1100, 900);
+    m_delegate->window()->close();
+    EXPECT_TRUE(launch().window()->geometry().intersects(screen)) << "its screen is gone";
+    EXPECT_EQ(m_delegate->window()->size(), QSize(1100, 900));
+}
+
+TEST_F(ApplicationDelegate, WaitsInvisiblyForTheWelcomeAndShowsItOnce)
+{
+    using End = OnboardingOverlayController::End;
+    launch({}, scripted());
+    EXPECT_TRUE(m_delegate->window()->isVisible());
+    EXPECT_EQ(m_delegate->window()->windowOpacity(), 0.0);
+    EXPECT_TRUE(m_delegate->model().isLoading()) << "the library loads meanwhile";
+    EXPECT_THAT(m_journal, ElementsAre("welcome"));
+    EXPECT_EQ(storedFlag(), std::nullopt);
+
+    m_continue(End::continued);
+    EXPECT_EQ(m_delegate->window()->windowOpacity(), 1.0);
+    EXPECT_EQ(storedFlag(), true);
+    EXPECT_TRUE(test::waitUntil([this] { return m_journal.size() == 3; }));
+    EXPECT_THAT(m_journal, ElementsAre("welcome", "start", "welcome gone"));
+
+    m_journal.clear();
+    launch({}, scripted());
+    EXPECT_EQ(m_delegate->window()->windowOpacity(), 1.0);
+    EXPECT_THAT(m_journal, ElementsAre("start"));
+}
+
+TEST_F(ApplicationDelegate, GoesOnWithoutUpdatesAndSaysSoInTheSystemLog)
+{
+    messages().clear();
+    const QtMessageHandler usual = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &text) { messages() << text; });
+    launch({}, scripted(failure(ErrorKind::ioFailure, QStringLiteral("no feed"))));
+    m_continue(OnboardingOverlayController::End::absent);
+    qInstallMessageHandler(usual);
+    EXPECT_TRUE(messages().contains(QStringLiteral("Sparkle updater failed to start: no feed")))
+        << messages().join(u'\n').toStdString();
+    EXPECT_EQ(m_delegate->window()->windowOpacity(), 1.0);
+    EXPECT_EQ(storedFlag(), std::nullopt);
+    EXPECT_FALSE(command("Menu.CheckForUpdates")->isVisible());
+
+    m_journal.clear();
+    launch({}, scripted());
+    m_continue(OnboardingOverlayController::End::absent);
+    EXPECT_TRUE(command("Menu.CheckForUpdates")->isVisible());
+    command("Menu.CheckForUpdates")->trigger();
+    EXPECT_EQ(m_journal.back(), "check");
+}
+
+TEST_F(ApplicationDelegate, ActsOnItsShortcuts)
+{
+    LorvaAppModel &model = launch().model();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(test::waitUntil([this] { return m_delegate->window()->isActiveWindow(); }));
+
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(model.viewMode(), ViewMode::list);
+    press(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(model.viewMode(), ViewMode::grid);
+    const double size = model.browserPointSize();
+    press(Qt::Key_Equal, Qt::ControlModifier);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(model.browserPointSize(), size + 1);
+    press(Qt::Key_Minus, Qt::ControlModifier);
+    press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(model.browserPointSize(), size);
+
+    EXPECT_FALSE(command("Menu.Undo")->isEnabled());
+    ASSERT_TRUE(model.createCollection(QStringLiteral("A & B")));
+    EXPECT_TRUE(command("Menu.Undo")->isEnabled());
+    EXPECT_TRUE(command("Menu.Undo")->text().startsWith(QStringLiteral("Undo ")));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_THAT(model.collections(), IsEmpty());
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(model.collections().size(), 1U);
+
+    press(Qt::Key_F11);
+    EXPECT_TRUE(m_delegate->window()->isFullScreen());
+    EXPECT_EQ(command("Menu.FullScreen")->text(), QStringLiteral("Exit Full Screen"));
+    press(Qt::Key_F11);
+    EXPECT_FALSE(m_delegate->window()->isFullScreen());
+
+    command("Menu.About")->trigger();
+    auto *sheet = m_delegate->window()->findChild<QWidget *>(QStringLiteral("AlertSheet"));
+    ASSERT_TRUE(sheet);
+    press(Qt::Key_2, Qt::ControlModifier);
+    command("Menu.List")->trigger();
+    EXPECT_EQ(model.viewMode(), ViewMode::grid) << "nothing acts while a sheet is there";
+    press(Qt::Key_Escape);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(m_delegate->window()->isVisible());
+}
+
+TEST_F(ApplicationDelegate, LeavesTheTextKeysToATextThatIsEdited)
+{
+    LorvaAppModel &model = launch().model();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(test::waitUntil([this] { return m_delegate->window()->isActiveWindow(); }));
+    ASSERT_TRUE(model.createCollection(QStringLiteral("Kept")));
+
+    press(Qt::Key_F, Qt::ControlModifier);
+    auto *field = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    ASSERT_TRUE(field) << "Find goes to the search field";
+    for (const Qt::Key key : {Qt::Key_O, Qt::Key_N})
+        press(key);
+    EXPECT_EQ(field->text().toLower(), QStringLiteral("on"));
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(field->selectedText(), field->text());
+    field->deselect();
+    command("Menu.SelectAll")->trigger();
+    EXPECT_EQ(field->selectedText(), field->text()) << "the menu's command does the same";
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(field->text().isEmpty());
+    EXPECT_EQ(model.collections().size(), 1U) << "the key undid the text alone";
+    field->setText({});
+    field->insert(QStringLiteral("x"));
+    openMenuOf(command("Menu.Undo"));
+    command("Menu.Undo")->trigger();
+    EXPECT_TRUE(field->text().isEmpty());
+    EXPECT_EQ(model.collections().size(), 1U);
+}
+
+TEST_F(ApplicationDelegate, ShowsTheMenuBarOnlyWhileItIsUsed)
+{
+    launch();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(test::waitUntil([this] {
+        return m_delegate->window()->isActiveWindow()
+            && m_delegate->window()->findChild<QMenuBar *>(QStringLiteral("MenuBar"));
+    }));
+    auto *bar = m_delegate->window()->findChild<QMenuBar *>(QStringLiteral("MenuBar"));
+    QWindow *window = m_delegate->window()->windowHandle();
+    const auto closePopups = [] {
+        while (QWidget *popup = QApplication::activePopupWidget())
+            popup->close();
+    };
+    EXPECT_FALSE(bar->isVisible());
+
+    QTest::keyPress(window, Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyClick(window, Qt::Key_X, Qt::AltModifier);
+    QTest::keyRelease(window, Qt::Key_Alt);
+    EXPECT_FALSE(bar->isVisible()) << "Alt was not alone";
+
+    for (const Qt::Key key : {Qt::Key_Alt, Qt::Key_F10}) {
+        press(key);
+        EXPECT_TRUE(bar->isVisible());
+        EXPECT_EQ(bar->actions().size(), 4);
+        EXPECT_TRUE(QApplication::activePopupWidget());
+        closePopups();
+        m_delegate->rootController()->browser().setFocus();
+        EXPECT_TRUE(test::waitUntil([&] { return !bar->isVisible(); }));
+    }
+}
+
+TEST_F(ApplicationDelegate, ShowsWhatItsStartAsksForOnceTheLibraryIsKnown)
+{
+    LaunchOptions options;
+    options.selectedFamily = QStringLiteral("Two");
+    options.searchText = QStringLiteral("tw");
+    options.colorMode = ColorMode::image;
+    options.logo = FilePath("/nowhere/logo.png");
+    LorvaAppModel &model = launch(options).model();
+    EXPECT_EQ(model.searchQuery(), QStringLiteral("tw"));
+    EXPECT_TRUE(model.backgroundImageID().has_value());
+    EXPECT_TRUE(test::waitUntil([&] { return model.selectedFamilyName() == u"Two"; }));
+}
+
+TEST_F(ApplicationDelegate, TakesTheStartOfAnotherProcessOver)
+{
+    LorvaAppModel &model = launch().model();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(model.createCollection(QStringLiteral("Mine")));
+    const FilePath folder = test::TestHome::instance().makeFolder("more");
+    test::writeFile(folder, "three.ttf", test::FontBuilder(QStringLiteral("Three")).build());
+    m_delegate->window()->showMinimized();
+
+    m_delegate->takeOver({{"--view", "list", "--folder", "more", "--source", "collection:Mine"},
+                          test::TestHome::instance().root(),
+                          {}});
+    EXPECT_FALSE(m_delegate->window()->isMinimized());
+    EXPECT_EQ(model.viewMode(), ViewMode::list);
+    EXPECT_EQ(model.selectedSource().kind(), BrowserSource::Kind::collection);
+    EXPECT_TRUE(test::waitUntil([&] { return model.allFamilies()->size() == 3; }));
+    EXPECT_TRUE(test::waitUntil(
+        [this] { return m_delegate->window()->windowTitle() == QStringLiteral("Mine"); }));
+
+    m_delegate->takeOver({{"--frobnicate"}, FilePath("/"), {}});
+    EXPECT_EQ(model.viewMode(), ViewMode::list) << "what is not understood changes nothing";
+}
+
+} // namespace
+} // namespace lorva
