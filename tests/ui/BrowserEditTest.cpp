@@ -116,9 +116,11 @@ TEST(BrowserEnd, ABrowserMayEndWhileItsTextIsEditedOrItsFocusSeen)
         families[0].familyName = QStringLiteral("A");
         state.families = makeFamilyList(std::move(families));
         browser.apply(state);
+        browser.resize(800, 600);
         browser.show();
         browser.activateWindow();
         ASSERT_TRUE(waitUntil([&] { return browser.isActiveWindow(); }));
+        browser.collectionView().clearFocus();
         browser.focusCards();
         EXPECT_TRUE(browser.collectionView().showsFocusAt(0));
         if (edits)

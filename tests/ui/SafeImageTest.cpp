@@ -71,7 +71,7 @@ QImage plain(int width, int height, const QColor &color)
 /// Two pictures of two by two pixels: red, then blue.
 QByteArray animatedGif()
 {
-    const auto frame = [](const char *pixels) {
+    const auto frame = [](const char *pixels) -> QByteArray {
         return QByteArray::fromHex("21f904000a000000"
                                    "2c0000000002000200"
                                    "00")

@@ -29,7 +29,7 @@ public:
     /// Empty without a selection.
     const QString &currentID() const { return m_currentID; }
     /// −1 without a selection.
-    int current() const { return indexOf(m_currentID); }
+    int current() const { return m_currentID.isEmpty() ? -1 : indexOf(m_currentID); }
     bool isSelected(int index) const;
     int count() const { return int(m_selected.size()); }
     /// In display order.
