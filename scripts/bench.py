@@ -19,6 +19,7 @@ import time
 from pathlib import Path
 
 import bench_start
+import bench_window
 
 EXTENSIONS = {".otf", ".ttf", ".ttc", ".otc", ".dfont"}
 # As many files as the libraries of designers hold; the fonts of the machine are linked this often.
@@ -310,6 +311,34 @@ class Bench:
             f"very first start, without snapshot and parse cache, shows its specimens after "
             f"{ms(first[0]['painted_ms'])} ({FEW_FAMILIES:,} families: {ms(first[1]['painted_ms'])}).")
 
+    # The window at a person's hand, on an X server without a screen.
+
+    def use(self, many):
+        environment = self.environment(True)
+        program = str(self.build / "src/app/lorva")
+        bench_start.make_caches(program, many, environment)
+        uses = [bench_window.measure(program, many, environment) for _ in range(min(self.runs, 3))]
+        self.figures["used_window"] = uses
+
+        def median(key):
+            return statistics.median(statistics.median(use[key]) if isinstance(use[key], list) else use[key]
+                                     for use in uses)
+
+        for key, what, bar in (("frame_p99_ms", "99 of 100 frames of a scroll through the window", 16),
+                               ("frame_worst_ms", "the worst of them", 16),
+                               ("search_ms", "key press in the search field until it is painted", 50),
+                               ("list_ms", "grid to list until it is painted", 50),
+                               ("black_ms", "white to black until it is painted", 50),
+                               ("active_ms", "all to active fonts until it is painted", 50)):
+            self.add_against_bar(key, f"{MANY_FAMILIES:,} families: {what}", median(key), bar)
+        memory = statistics.median(use["scrolled"]["rss_mb"] for use in uses)
+        over = statistics.median(use["frames_over_16_ms"] for use in uses)
+        self.notes.append(
+            f"The window was used at 1720×920 on Xvfb with `xdotool`, whose own time is in the figures. The scroll "
+            f"through all {MANY_FAMILIES:,} families took {median('frames'):.0f} frames, {over:.0f} of them over "
+            f"16 ms, half of them under {ms(median('frame_median_ms'))}; the program then holds {memory:.0f} MB "
+            f"(at most: 180).")
+
     # The Google Benchmark programs.
 
     def programs(self, library, generated):
@@ -411,6 +440,8 @@ def main():
                           for families in (MANY_FAMILIES, FEW_FAMILIES))
         print("bench: start …", file=sys.stderr)
         bench.start(generated, few)
+        print("bench: window …", file=sys.stderr)
+        bench.use(generated)
         print("bench: scan …", file=sys.stderr)
         bench.scan("scan_large", library, many, "0.15 ×")
         bench.scan("scan_installed", options.folder, files, "–")

@@ -64,7 +64,8 @@ class Window:
         screen.write_text(json.dumps(SCREEN))
         self.trace = home / "trace.json"
         self.trace.unlink(missing_ok=True)
-        environment = {**environment, "LORVA_TRACE": str(self.trace),
+        # A window that is open on this desktop would take the start over.
+        environment = {**environment, "LORVA_TRACE": str(self.trace), "DBUS_SESSION_BUS_ADDRESS": "disabled:",
                        "QT_QPA_PLATFORM": platform or f"offscreen:configfile={screen}"}
         actions = [(os.POSIX_SPAWN_OPEN, fd, os.devnull, os.O_RDWR, 0) for fd in (0, 1)]
         self.started_ns = time.monotonic_ns()

@@ -15,6 +15,8 @@ WHEEL_CLICKS = 7000
 # As fast as a free-spinning wheel; faster, and the server would join the events.
 WHEEL_DELAY_MS = 2
 QUIET_S = 0.4
+# In the window of 1720×920 that the program opens.
+CARDS, BLACK, WHITE, ACTIVE, ALL = (1000, 500), (1239, 26), (1212, 26), (60, 80), (60, 52)
 
 
 class Server:
@@ -47,7 +49,15 @@ class Hand:
     def focus(self, pid):
         found = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--pid", str(pid)],
                                env=self.environment, check=True, capture_output=True, text=True)
-        self.do("windowfocus", "--sync", found.stdout.split()[-1])
+        self.window = found.stdout.split()[-1]
+        self.do("windowfocus", "--sync", self.window)
+
+    def point(self, place):
+        """Moves to a place of the window."""
+        self.do("mousemove", "--window", self.window, *place)
+
+    def click(self, place):
+        self.do("mousemove", "--window", self.window, *place, "click", 1)
 
 
 def durations_ms(events, name, after_us):
@@ -100,8 +110,8 @@ def used(program, library, environment):
     """The window over a library, with its scan applied, and a hand that uses it."""
     server = Server()
     try:
-        with bench_start.opened(program, library, {**environment, "DISPLAY": server.display},
-                                platform="xcb") as window:
+        environment = {**environment, "DISPLAY": server.display}
+        with bench_start.opened(program, library, environment, platform="xcb") as window:
             window.wait_for(bench_start.PAINTED, bench_start.APPLIED)
             hand = Hand(server.display)
             hand.focus(window.pid)
@@ -115,7 +125,7 @@ def measure(program, library, environment):
     """Frames of a scroll through the whole library and its memory then; how long a search and the
     switches take until they are painted."""
     with used(program, library, environment) as (window, hand):
-        hand.do("mousemove", 1000, 600)
+        hand.point(CARDS)
         begun = now_us()
         hand.do("click", "--repeat", WHEEL_CLICKS, "--delay", WHEEL_DELAY_MS, 5)
         frames = sorted(durations_ms(settle(window), "frame", begun))
@@ -123,11 +133,17 @@ def measure(program, library, environment):
                   "frame_p99_ms": frames[int(len(frames) * 0.99)], "frame_worst_ms": frames[-1],
                   "frames_over_16_ms": sum(frame > 16 for frame in frames),
                   "scrolled": window.settled_memory()}
+
+        def timed(*act):
+            return until_painted_ms(window, lambda: hand.do(*act))
+
         hand.do("key", "Home")
         settle(window)
-        result["list_ms"] = until_painted_ms(window, lambda: hand.do("key", "ctrl+2"))
-        result["grid_ms"] = until_painted_ms(window, lambda: hand.do("key", "ctrl+1"))
+        result["list_ms"], result["grid_ms"] = timed("key", "ctrl+2"), timed("key", "ctrl+1")
+        result["black_ms"] = until_painted_ms(window, lambda: hand.click(BLACK))
+        result["white_ms"] = until_painted_ms(window, lambda: hand.click(WHITE))
+        result["active_ms"] = until_painted_ms(window, lambda: hand.click(ACTIVE))
+        result["all_ms"] = until_painted_ms(window, lambda: hand.click(ALL))
         hand.do("key", "ctrl+f")
-        result["search_ms"] = [until_painted_ms(window, lambda key=key: hand.do("key", key))
-                               for key in "face"]
+        result["search_ms"] = [timed("key", key) for key in "face"]
         return result

@@ -62,6 +62,8 @@ packages_bench="
   fontconfig            fc-scan, to compare the scan with
   libharfbuzz-bin       hb-view, to compare the specimen with
   python3               runs both and writes the table
+  xvfb                  an X server for the window that is used
+  xdotool               uses it
 "
 packages_fuzz="
   clang                 brings libFuzzer

@@ -16,6 +16,7 @@
 #include "ui/display/BackgroundImageStore.h"
 #include "ui/LorvaRootSplitViewController.h"
 #include "ui/onboarding/WindowReveal.h"
+#include "ui/sheets/AlertSheet.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
@@ -36,6 +37,9 @@ namespace lorva {
 namespace {
 
 constexpr std::chrono::milliseconds kSettleLook{4};
+constexpr qsizetype kLongestTitle = 300;
+/// After the last of the moves of a window that is dragged.
+constexpr std::chrono::milliseconds kFrameRest{500};
 
 std::vector<QRect> visibleFrames()
 {
@@ -111,7 +115,8 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
     for (const QByteArray &argument : start.arguments)
         arguments.push_back(argument.constData());
     const auto options = parseLaunchOptions(arguments, start.workingFolder);
-    if (options && m_root) {
+    // A question that is open comes first: it is about what is shown now.
+    if (options && m_window && !hasAlertSheet(*m_window)) {
         applyChoices(*options);
         if (!options->folders.empty())
             m_model->addFoldersForThisRun(options->folders);
@@ -137,7 +142,6 @@ void LorvaApplicationDelegate::buildWindow()
     m_root = new LorvaRootSplitViewController(*m_model, images, m_window.get());
     m_backgroundHostingView = &m_root->backgroundView();
     m_window->setCentralWidget(m_root);
-    m_window->installEventFilter(this);
     buildMenu();
     connect(m_root, &LorvaRootSplitViewController::rendered, this,
             &LorvaApplicationDelegate::windowRendered);
@@ -150,7 +154,8 @@ void LorvaApplicationDelegate::buildMenu()
     m_menu = std::make_unique<MainMenu>(MainMenu::Targets{
         *m_model, *m_updaterController, *m_window,
         [this] { m_root->sidebar().beginCreatingCollection(); }, [this] { m_root->addFolder(); },
-        [this] { m_root->browser().topBar().focusSearch(); }});
+        [this] { m_root->browser().topBar().focusSearch(); },
+        [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); }});
     m_root->setMainMenu(m_menu->buttonMenu());
     // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
     connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),
@@ -165,28 +170,39 @@ void LorvaApplicationDelegate::placeWindow()
     }
     m_window->setMinimumSize(kMinimumContentSize);
     const QScreen *screen = QGuiApplication::primaryScreen();
-    const std::optional<QRect> saved = m_windowFrameStore.load();
+    const std::optional<QRect> saved = plausibleFrame(m_windowFrameStore.load());
     const QRect frame = mainWindowFrame(saved, screen ? screen->availableGeometry() : QRect(),
                                         kMinimumContentSize, kWantedContentSize);
     m_window->setGeometry(saved ? keptReachable(frame, visibleFrames()) : frame);
+    // Not only when it is closed: a session that ends, or a crash, does not ask.
+    m_frameRest.setSingleShot(true);
+    m_frameRest.setInterval(kFrameRest);
+    connect(&m_frameRest, &QTimer::timeout, this, &LorvaApplicationDelegate::saveFrame);
+    m_window->installEventFilter(this);
 }
 
 void LorvaApplicationDelegate::saveFrame()
 {
+    m_frameRest.stop();
     const QRect normal = m_window->normalGeometry();
     m_windowFrameStore.save(normal.isValid() ? normal : m_window->geometry());
 }
 
 bool LorvaApplicationDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Close && watched == m_window.get() && !m_options.screenshot)
+    if (watched != m_window.get())
+        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Close)
         saveFrame();
+    else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        m_frameRest.start();
     return QObject::eventFilter(watched, event);
 }
 
 void LorvaApplicationDelegate::windowRendered()
 {
-    m_window->setWindowTitle(m_root->browser().state().title);
+    // Names come from fonts, and a display closes the connection on a title of megabytes.
+    m_window->setWindowTitle(m_root->browser().state().title.left(kLongestTitle));
     m_menu->update();
     m_choices.catchUp();
 }

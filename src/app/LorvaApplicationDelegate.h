@@ -10,6 +10,7 @@
 
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
 
 #include <memory>
 
@@ -88,6 +89,7 @@ private:
     std::unique_ptr<OnboardingOverlayController> m_onboardingController;
 
     WindowFrameStore m_windowFrameStore;
+    QTimer m_frameRest;
     LaunchChoices m_choices;
     LorvaRootSplitViewController *m_root = nullptr;
     std::unique_ptr<MainMenu> m_menu;

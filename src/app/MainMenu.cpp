@@ -12,7 +12,6 @@
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -118,10 +117,9 @@ void MainMenu::buildEditMenu()
             {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
             [this] { redo(); });
     menu->addSeparator();
-    add(menu, "Menu.Copy", tr("Copy"), {QKeySequence(Qt::CTRL | Qt::Key_C)},
-        [this] { pressInFocus(Qt::Key_C); });
+    add(menu, "Menu.Copy", tr("Copy"), {QKeySequence(Qt::CTRL | Qt::Key_C)}, [this] { copy(); });
     add(menu, "Menu.SelectAll", tr("Select All"), {QKeySequence(Qt::CTRL | Qt::Key_A)},
-        [this] { pressInFocus(Qt::Key_A); });
+        [this] { selectAll(); });
     menu->addSeparator();
     add(menu, "Menu.Find", tr("Find"), {QKeySequence(Qt::CTRL | Qt::Key_F)}, m_targets.find);
 }
@@ -223,13 +221,20 @@ void MainMenu::redo()
         m_targets.model.undoStack().redo();
 }
 
-/// The command does what its key does where the keyboard is: to a text, or to the cards.
-void MainMenu::pressInFocus(Qt::Key key)
+void MainMenu::copy()
 {
-    if (!m_focused)
-        return;
-    QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
-    QCoreApplication::sendEvent(m_focused, &press);
+    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
+        field->copy();
+    else
+        m_targets.copy();
+}
+
+void MainMenu::selectAll()
+{
+    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
+        field->selectAll();
+    else
+        m_targets.selectAll();
 }
 
 void MainMenu::toggleFullScreen()

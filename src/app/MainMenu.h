@@ -40,6 +40,9 @@ public:
         std::function<void()> newCollection;
         std::function<void()> addFolder;
         std::function<void()> find;
+        /// Of the cards; a text that has the keyboard sees to its own.
+        std::function<void()> copy;
+        std::function<void()> selectAll;
     };
 
     explicit MainMenu(Targets targets);
@@ -66,7 +69,8 @@ private:
     void remember(QWidget *focused);
     void undo();
     void redo();
-    void pressInFocus(Qt::Key key);
+    void copy();
+    void selectAll();
     void toggleFullScreen();
     void showAbout();
 

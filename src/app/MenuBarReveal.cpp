@@ -62,6 +62,8 @@ bool MenuBarReveal::eventFilter(QObject *watched, QEvent *event)
         m_altIsAlone = false;
         return false;
     case QEvent::KeyPress:
+        if (watched == &m_bar)
+            QMetaObject::invokeMethod(this, &MenuBarReveal::hideWhenUnused, Qt::QueuedConnection);
         return watched->isWindowType() && keyPressed(*static_cast<QKeyEvent *>(event));
     case QEvent::KeyRelease:
         return watched->isWindowType() && keyReleased(*static_cast<QKeyEvent *>(event));
@@ -90,6 +92,7 @@ bool MenuBarReveal::keyReleased(const QKeyEvent &key)
 
 void MenuBarReveal::open()
 {
+    m_focusBefore = m_window.focusWidget();
     m_bar.show();
     m_bar.setFocus(Qt::MenuBarFocusReason);
     m_bar.setActiveAction(m_bar.actions().constFirst());
@@ -97,8 +100,11 @@ void MenuBarReveal::open()
 
 void MenuBarReveal::hideWhenUnused()
 {
-    if (!QApplication::activePopupWidget() && !m_bar.hasFocus())
-        m_bar.hide();
+    if (QApplication::activePopupWidget() || (m_bar.hasFocus() && m_bar.activeAction()))
+        return;
+    if (m_bar.hasFocus() && m_focusBefore)
+        m_focusBefore->setFocus(Qt::MenuBarFocusReason);
+    m_bar.hide();
 }
 
 void MenuBarReveal::color()

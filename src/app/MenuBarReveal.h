@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 class QKeyEvent;
 class QMainWindow;
@@ -34,6 +36,8 @@ private:
     QMainWindow &m_window;
     QMenuBar &m_bar;
     bool m_altIsAlone = false;
+    /// Has the focus again after the bar.
+    QPointer<QWidget> m_focusBefore;
 };
 
 } // namespace lorva

@@ -12,6 +12,7 @@ namespace {
 /// By which a window can be dragged back: a piece of its title bar.
 constexpr int kHandleWidth = 96;
 constexpr int kHandleHeight = 24;
+constexpr int kLongestSide = 16384;
 
 bool isWithinReach(const QRect &frame, const QRect &screen)
 {
@@ -36,6 +37,12 @@ QRect centredOn(QRect frame, const QRect &screen)
 }
 
 } // namespace
+
+std::optional<QRect> plausibleFrame(const std::optional<QRect> &saved)
+{
+    const bool isDamage = saved && std::max(saved->width(), saved->height()) > kLongestSide;
+    return isDamage ? std::nullopt : saved;
+}
 
 QRect keptReachable(const QRect &frame, std::span<const QRect> screens)
 {

@@ -5,6 +5,7 @@
 #include "app/LorvaApplicationDelegate.h"
 #include "base/Trace.h"
 #include "platform/linux/DBusSingleInstance.h"
+#include "platform/linux/ProcessMemory.h"
 #include "platform/linux/SmallFontconfig.h"
 
 #include <QApplication>
@@ -78,6 +79,7 @@ lorva::ProgramStart thisStart(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    lorva::keepMemoryTogether();
     const auto options = lorva::parseLaunchOptions(
         std::span<const char *const>(argv, size_t(argc)).subspan(argc > 0 ? 1 : 0),
         lorva::FilePath::workingFolder());

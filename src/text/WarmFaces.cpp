@@ -220,17 +220,18 @@ std::shared_ptr<const WarmFace> WarmFaces::insert(Key key, std::shared_ptr<const
     const std::lock_guard lock(m_mutex);
     if (const auto found = m_index.find(key); found != m_index.end())
         return found->second->face;
-    evictIdle(kWarmTableBytes, evicted);
+    evictIdle(kWarmTableBytes, kWarmFaces - 1, evicted);
     m_entries.push_front({std::move(key), face});
     m_index[m_entries.front().key] = m_entries.begin();
     return face;
 }
 
 /// Tables are read after a face is inserted, so the bytes are weighed when the next one comes.
-void WarmFaces::evictIdle(qint64 budget, Entries &evicted)
+void WarmFaces::evictIdle(qint64 budget, size_t count, Entries &evicted)
 {
     qint64 excess = tableByteCount - budget;
-    for (auto entry = m_entries.end(); excess > 0 && entry != m_entries.begin();) {
+    for (auto entry = m_entries.end();
+         (excess > 0 || m_entries.size() > count) && entry != m_entries.begin();) {
         --entry;
         if (entry->face.use_count() > 1)
             continue;
@@ -251,7 +252,7 @@ void WarmFaces::clear()
 {
     Entries evicted;
     const std::lock_guard lock(m_mutex);
-    evictIdle(std::numeric_limits<qint64>::min() / 2, evicted);
+    evictIdle(std::numeric_limits<qint64>::min() / 2, 0, evicted);
 }
 
 } // namespace lorva

@@ -52,7 +52,7 @@ private:
     mutable std::once_flag m_readOnce;
 };
 
-/// The faces used last, process-wide, within kWarmTableBytes of table bytes.
+/// The faces used last, process-wide, within kWarmTableBytes of table bytes and kWarmFaces.
 ///
 /// A face in use elsewhere is never let go; an idle one may be, and is made anew when next asked
 /// for. Thread: any; files are read outside the lock.
@@ -93,7 +93,7 @@ private:
 
     std::shared_ptr<const WarmFace> find(const Key &key);
     std::shared_ptr<const WarmFace> insert(Key key, std::shared_ptr<const WarmFace> face);
-    void evictIdle(qint64 budget, Entries &evicted);
+    void evictIdle(qint64 budget, size_t count, Entries &evicted);
 
     std::mutex m_mutex;
     /// Most recently used first.

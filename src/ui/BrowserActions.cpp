@@ -3,15 +3,34 @@
 
 #include "ui/BrowserActions.h"
 
+#include "base/RunThen.h"
+#include "ui/display/BackgroundImages.h"
 #include "ui/display/LogoImage.h"
+#include "ui/style/Palette.h"
 
 namespace lorva {
+
+namespace {
+
+/// Below this type is hard to see; large type in black or white is lost on hardly any ground above
+/// it.
+constexpr double kReadableContrast = 2.5;
+constexpr int kAverageSidePx = 256;
+
+} // namespace
 
 BrowserActions::BrowserActions(LorvaAppModel &model,
                                std::shared_ptr<const BackgroundImageStore> images)
     : m_model(model)
     , m_images(std::move(images))
 {
+    m_pool.setObjectName(QStringLiteral("vantrel.lorva.images"));
+    m_pool.setMaxThreadCount(1);
+}
+
+BrowserActions::~BrowserActions()
+{
+    m_pool.waitForDone();
 }
 
 void BrowserActions::tell(const Result<void> &outcome) const
@@ -97,30 +116,62 @@ void BrowserActions::displayCustomBackgroundChanged(const QString &hex)
 }
 
 /// One image at a time: the other kind's choice would win or lose by chance.
+void BrowserActions::showBackgroundImage(const std::optional<QString> &id,
+                                         const std::optional<QString> &userFilename)
+{
+    m_model.setBackgroundImageID(id);
+    m_model.setBackgroundImageUserFilename(userFilename);
+    m_model.setColorMode(ColorMode::image);
+}
+
+/// White text that was readable over the last image may be lost on this one. A colour of the user's
+/// own making stays.
+void BrowserActions::makeTextReadable(const QColor &average)
+{
+    const QColor text(m_model.imageForegroundColorHex());
+    const bool isNeutral = text == QColor(Qt::white) || text == QColor(Qt::black);
+    if (!average.isValid() || !isNeutral || contrastRatio(text, average) >= kReadableContrast)
+        return;
+    m_model.setImageForegroundColorHex(contrastingNeutral(average).name().toUpper());
+}
+
 void BrowserActions::displayBackgroundImageChosen(const QString &id)
 {
-    m_model.setBackgroundImageUserFilename(std::nullopt);
-    m_model.setBackgroundImageID(id);
-    m_model.setColorMode(ColorMode::image);
+    makeTextReadable(averageBackgroundColor(id));
+    showBackgroundImage(id, std::nullopt);
 }
 
 void BrowserActions::displayUserImageChosen(const QString &filename)
 {
-    m_model.setBackgroundImageID(std::nullopt);
-    m_model.setBackgroundImageUserFilename(filename);
-    m_model.setColorMode(ColorMode::image);
+    showBackgroundImage(std::nullopt, filename);
+    runThen(
+        m_pool, &m_guard,
+        [images = m_images, filename](const std::stop_token &) {
+            const auto image = images ? images->read(filename, kAverageSidePx) : Result<QImage>();
+            return image ? averageColor(*image) : QColor();
+        },
+        [this, filename](const QColor &average) {
+            if (m_model.backgroundImageUserFilename() == filename)
+                makeTextReadable(average);
+        });
 }
 
-QString BrowserActions::displayUserImageAdded(const QByteArray &bytes)
+void BrowserActions::displayUserImageAdded(const QByteArray &bytes, Answer answer)
 {
-    if (!m_images)
-        return QCoreApplication::translate("BrowserActions", "There is no place to keep images.");
-    const Result<QString> added = m_images->add(bytes);
-    if (!added)
-        return added.error().detail;
-    readUserImages();
-    displayUserImageChosen(*added);
-    return {};
+    if (!m_images) {
+        answer(QCoreApplication::translate("BrowserActions", "There is no place to keep images"));
+        return;
+    }
+    runThen(
+        m_pool, &m_guard,
+        [images = m_images, bytes](const std::stop_token &) { return images->add(bytes); },
+        [this, answer = std::move(answer)](const Result<QString> &added) {
+            if (added) {
+                readUserImages();
+                displayUserImageChosen(*added);
+            }
+            answer(added ? QString() : added.error().detail);
+        });
 }
 
 void BrowserActions::displayUserImageRemoved(const QString &filename)
@@ -141,18 +192,22 @@ void BrowserActions::displayImageForegroundChanged(const QString &hex)
     m_model.setImageForegroundColorHex(hex);
 }
 
-QString BrowserActions::displayLogoChosen(const QByteArray &bytes)
+void BrowserActions::displayLogoChosen(const QByteArray &bytes, Answer answer)
 {
     if (bytes.isEmpty()) {
         m_model.setLogoImageData({});
-        return {};
+        answer({});
+        return;
     }
-    const Result<QByteArray> storable = LogoImage::storable(bytes);
-    if (!storable)
-        return storable.error().detail;
-    m_model.setLogoImageData(*storable);
-    m_model.setLogoVisible(true);
-    return {};
+    runThen(
+        m_pool, &m_guard, [bytes](const std::stop_token &) { return LogoImage::storable(bytes); },
+        [this, answer = std::move(answer)](const Result<QByteArray> &storable) {
+            if (storable) {
+                m_model.setLogoImageData(*storable);
+                m_model.setLogoVisible(true);
+            }
+            answer(storable ? QString() : storable.error().detail);
+        });
 }
 
 void BrowserActions::displayLogoSizeRatioChanged(double ratio)

@@ -5,6 +5,9 @@
 #include "ui/browser/FontBrowserState.h"
 #include "ui/display/BackgroundImageStore.h"
 
+#include <QObject>
+#include <QThreadPool>
+
 #include <memory>
 
 namespace lorva {
@@ -17,6 +20,7 @@ class BrowserActions final : public FontBrowserDelegate
 public:
     /// `images` may be null: the user cannot add any.
     BrowserActions(LorvaAppModel &model, std::shared_ptr<const BackgroundImageStore> images);
+    ~BrowserActions() override;
 
     /// A change was refused; the text is fit to be shown.
     std::function<void(const QString &reason)> onRefused;
@@ -24,6 +28,7 @@ public:
 
     /// The user's own background images, as last read.
     const QStringList &userImages() const { return m_userImages; }
+    const std::shared_ptr<const BackgroundImageStore> &images() const { return m_images; }
     /// Reads them anew.
     void readUserImages();
 
@@ -45,10 +50,10 @@ public:
     void displayCustomBackgroundChanged(const QString &hex) override;
     void displayBackgroundImageChosen(const QString &id) override;
     void displayUserImageChosen(const QString &filename) override;
-    QString displayUserImageAdded(const QByteArray &bytes) override;
+    void displayUserImageAdded(const QByteArray &bytes, Answer answer) override;
     void displayUserImageRemoved(const QString &filename) override;
     void displayImageForegroundChanged(const QString &hex) override;
-    QString displayLogoChosen(const QByteArray &bytes) override;
+    void displayLogoChosen(const QByteArray &bytes, Answer answer) override;
     void displayLogoSizeRatioChanged(double ratio) override;
     void displayLogoSpacingChanged(double spacing) override;
     void displayLogoVisibilityChanged(bool isVisible) override;
@@ -58,10 +63,17 @@ public:
 
 private:
     void tell(const Result<void> &outcome) const;
+    void showBackgroundImage(const std::optional<QString> &id,
+                             const std::optional<QString> &userFilename);
+    void makeTextReadable(const QColor &average);
 
     LorvaAppModel &m_model;
     const std::shared_ptr<const BackgroundImageStore> m_images;
     QStringList m_userImages;
+    /// For images, which may be large.
+    QThreadPool m_pool;
+    /// Whatever m_pool still works at is dropped with it.
+    QObject m_guard;
 };
 
 } // namespace lorva

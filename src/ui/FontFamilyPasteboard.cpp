@@ -5,6 +5,13 @@
 
 namespace lorva {
 
+namespace {
+
+/// Of hundreds of thousands of families; a drag may come from any program.
+constexpr qsizetype kMostBytes = qsizetype(16) * 1024 * 1024;
+
+} // namespace
+
 std::unique_ptr<QMimeData> makeFontFamilyMimeData(const QStringList &familyNames,
                                                   const QList<QUrl> &fontFiles)
 {
@@ -18,6 +25,8 @@ std::unique_ptr<QMimeData> makeFontFamilyMimeData(const QStringList &familyNames
 QStringList fontFamilyNames(const QMimeData &data)
 {
     const QByteArray bytes = data.data(QString::fromLatin1(kFontFamilyNamesMimeType));
+    if (bytes.size() > kMostBytes)
+        return {};
     QStringList names = QString::fromUtf8(bytes).split(u'\n', Qt::SkipEmptyParts);
     names.removeDuplicates();
     return names;

@@ -19,8 +19,8 @@ inline constexpr char kFontFamilyNamesMimeType[] = "vantrel.lorva.fontFamilyName
 /// The names for our own windows, and the font files for every other program (none: left out).
 std::unique_ptr<QMimeData> makeFontFamilyMimeData(const QStringList &familyNames,
                                                   const QList<QUrl> &fontFiles);
-/// The names that a drag carries, without empty ones and doubles; empty when it carries none. A
-/// drag with names is never a drop of files.
+/// The names that a drag carries, without empty ones and doubles; empty when it carries none, or
+/// more than any library has. A drag with names is never a drop of files.
 QStringList fontFamilyNames(const QMimeData &data);
 
 } // namespace lorva

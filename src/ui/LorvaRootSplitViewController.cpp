@@ -49,6 +49,7 @@ LorvaRootSplitViewController::LorvaRootSplitViewController(
     };
     m_footer->onAddFolder = [this] { addFolder(); };
     m_logo->onChange = [this] { scheduleRender(); };
+    m_background->onImageChanged = [this] { scheduleRender(); };
     m_model.onChange = [this] { scheduleRender(); };
     m_browserActions.readUserImages();
     setTabOrder(m_sidebar, m_footer);
@@ -63,8 +64,10 @@ LorvaRootSplitViewController::~LorvaRootSplitViewController()
 
 FontBrowserState LorvaRootSplitViewController::browserState() const
 {
-    return browserStateOf(m_model, m_logo->image(m_model.display().logoImageData),
-                          m_browserActions.userImages());
+    return browserStateOf(m_model,
+                          {m_logo->image(m_model.display().logoImageData),
+                           m_browserActions.userImages(), m_browserActions.images(),
+                           m_background->userThumbnail()});
 }
 
 void LorvaRootSplitViewController::render()

@@ -39,6 +39,9 @@ public:
     void render();
     FontBrowserViewController &browser() { return *m_browser; }
     ProjectSidebarViewController &sidebar() { return *m_sidebar; }
+    /// What the panes report to; also for whoever acts in the user's place.
+    BrowserActions &browserActions() { return m_browserActions; }
+    SidebarActions &sidebarActions() { return m_sidebarActions; }
     LorvaWindowBackgroundView &backgroundView() { return *m_background; }
     /// Everything that is shown is there: specimens, logo, background.
     bool isSettled() const;

@@ -136,8 +136,7 @@ void takeOrganization(FontBrowserState &state, const LorvaAppModel &model)
     state.foundryIDByFamily = model.foundryIDByFamily();
 }
 
-void takeDisplay(FontBrowserState &state, const LorvaAppModel &model,
-                 const std::optional<QImage> &logo, const QStringList &userImages)
+void takeDisplay(FontBrowserState &state, const LorvaAppModel &model, const PanePictures &pictures)
 {
     const DisplayValues &values = model.display();
     const ColorPair colors = colorsOf(model);
@@ -154,10 +153,11 @@ void takeDisplay(FontBrowserState &state, const LorvaAppModel &model,
     state.backgroundImageUserFilename = values.backgroundImageUserFilename;
     state.sampleText = values.sampleText;
     if (values.logoVisible)
-        state.logoImage = logo;
+        state.logoImage = pictures.logo;
     state.logoSizeRatio = values.logoSizeRatio;
     state.logoSpacing = values.logoSpacing;
-    state.display = {values, logo, userImages};
+    state.display = {values, pictures.logo, pictures.userImages, pictures.imageStore,
+                     pictures.userThumbnail};
 }
 
 } // namespace
@@ -185,8 +185,7 @@ SidebarState sidebarStateOf(LorvaAppModel &model)
     return state;
 }
 
-FontBrowserState browserStateOf(LorvaAppModel &model, const std::optional<QImage> &logo,
-                                const QStringList &userImages)
+FontBrowserState browserStateOf(LorvaAppModel &model, const PanePictures &pictures)
 {
     FontBrowserState state;
     state.source = model.selectedSource();
@@ -194,7 +193,7 @@ FontBrowserState browserStateOf(LorvaAppModel &model, const std::optional<QImage
     state.families = model.visibleFamilies();
     state.selectedFamilyName = model.selectedFamilyName();
     state.searchQuery = model.searchQuery();
-    takeDisplay(state, model, logo, userImages);
+    takeDisplay(state, model, pictures);
     takeOrganization(state, model);
     state.activationProvider = [&model](const FontFamilyRecord &family) {
         return model.activation(family);

@@ -11,9 +11,18 @@ namespace lorva {
 
 SidebarState sidebarStateOf(LorvaAppModel &model);
 
-/// `logo`: the model's logo, decoded; absent while it is not. `userImages`: as
-/// DisplayControlsState::userImages. The state refers to the model, which must outlive it.
-FontBrowserState browserStateOf(LorvaAppModel &model, const std::optional<QImage> &logo,
-                                const QStringList &userImages);
+/// What the browser shows besides the model: pictures, as far as they are decoded.
+struct PanePictures
+{
+    /// The model's logo; absent while it is being decoded.
+    std::optional<QImage> logo;
+    /// As DisplayControlsState.
+    QStringList userImages;
+    std::shared_ptr<const BackgroundImageStore> imageStore;
+    QImage userThumbnail;
+};
+
+/// The state refers to the model, which must outlive it.
+FontBrowserState browserStateOf(LorvaAppModel &model, const PanePictures &pictures);
 
 } // namespace lorva

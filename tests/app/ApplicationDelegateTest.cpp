@@ -8,10 +8,14 @@
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
 #include "support/Waiting.h"
+#include "ui/browser/BrowserCollectionView.h"
 #include "ui/browser/FontBrowserViewController.h"
 #include "ui/LorvaRootSplitViewController.h"
+#include "ui/sheets/AlertSheet.h"
+#include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/style/ReducedMotion.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QLineEdit>
 #include <QMenu>
@@ -147,6 +151,12 @@ std::optional<bool> storedFlag()
         .boolean(LorvaApplicationDelegate::onboardingFlag());
 }
 
+std::optional<QRect> storedFrame()
+{
+    SqlitePreferenceStore preferences(xdgFolders().applicationSupport);
+    return WindowFrameStore(preferences).load();
+}
+
 TEST_F(ApplicationDelegate, OpensItsOneWindowAndKeepsItsFrame)
 {
     QMainWindow *window = launch().window();
@@ -161,6 +171,9 @@ TEST_F(ApplicationDelegate, OpensItsOneWindowAndKeepsItsFrame)
               QRect(screen.center() - QPoint(479, 399), QSize(960, 800)).center());
     EXPECT_EQ(storedFlag(), std::nullopt) << "nobody has gone through a welcome";
 
+    window->setGeometry(30, 20, 1000, 850);
+    EXPECT_TRUE(test::waitUntil([] { return storedFrame() == QRect(30, 20, 1000, 850); }))
+        << "also when it is never closed";
     window->setGeometry(20, 10, 1100, 900);
     window->close();
     EXPECT_EQ(launch().window()->geometry(), QRect(20, 10, 1100, 900));
@@ -288,6 +301,66 @@ TEST_F(ApplicationDelegate, LeavesTheTextKeysToATextThatIsEdited)
     EXPECT_EQ(model.collections().size(), 1U);
 }
 
+/// Wherever the keyboard is, but in a text.
+TEST_F(ApplicationDelegate, SelectsAndCopiesTheCards)
+{
+    launch();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(test::waitUntil([this] { return m_delegate->window()->isActiveWindow(); }));
+    FontBrowserViewController &browser = m_delegate->rootController()->browser();
+    BrowserCollectionView &cards = browser.collectionView();
+    QWidget *const places[]{
+        &cards, &m_delegate->rootController()->sidebar(),
+        m_delegate->window()->findChild<QWidget *>(QStringLiteral("logoButton"))};
+    for (QWidget *place : places) {
+        BrowserSelection none = cards.selection();
+        none.choose(-1);
+        cards.setSelection(none);
+        QGuiApplication::clipboard()->clear();
+        place->setFocus(Qt::TabFocusReason);
+        press(Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(browser.selectedNames().size(), 2);
+        press(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("One\nTwo"));
+    }
+}
+
+/// Nothing of the window is out of reach without a mouse, forwards or back.
+TEST_F(ApplicationDelegate, TabGoesThroughTheWholeWindowAndBack)
+{
+    launch();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(test::waitUntil([this] { return m_delegate->window()->isActiveWindow(); }));
+    m_delegate->window()->resize(1720, 920);
+    m_delegate->rootController()->sidebar().setFocus();
+
+    const auto placeOfFocus = [] {
+        QWidget *widget = QApplication::focusWidget();
+        QString name = widget->objectName();
+        for (QWidget *outer = widget->parentWidget(); name.startsWith(u"qt_") || name.isEmpty();
+             outer = outer->parentWidget())
+            name = outer->objectName();
+        return name.toStdString();
+    };
+    const auto round = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        std::vector<std::string> names;
+        do {
+            names.push_back(placeOfFocus());
+            press(key, modifiers);
+        } while (placeOfFocus() != names.front() && names.size() < 30);
+        return names;
+    };
+    std::vector<std::string> places = round(Qt::Key_Tab, Qt::NoModifier);
+    EXPECT_THAT(places,
+                ElementsAre("SidebarOutlineView", "SidebarAddButton", "addFolderButton",
+                            "mainMenuButton", "BrowserCollectionView", "pointSizeSlider",
+                            "fontWeightSlider", "whiteChip", "logoButton", "sampleTextButton",
+                            "viewModeControl", "searchField"));
+    const std::vector<std::string> back = round(Qt::Key_Backtab, Qt::ShiftModifier);
+    std::reverse(places.begin() + 1, places.end());
+    EXPECT_EQ(back, places);
+}
+
 TEST_F(ApplicationDelegate, ShowsTheMenuBarOnlyWhileItIsUsed)
 {
     launch();
@@ -318,6 +391,20 @@ TEST_F(ApplicationDelegate, ShowsTheMenuBarOnlyWhileItIsUsed)
         m_delegate->rootController()->browser().setFocus();
         EXPECT_TRUE(test::waitUntil([&] { return !bar->isVisible(); }));
     }
+
+    const QWidget *cards = QApplication::focusWidget();
+    press(Qt::Key_F10);
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(bar->isVisible()) << "the arrow keys still choose a menu";
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(test::waitUntil([&] { return !bar->isVisible(); }));
+    EXPECT_EQ(QApplication::focusWidget(), cards);
+
+    press(Qt::Key_F10);
+    while (QWidget *popup = QApplication::activePopupWidget())
+        QTest::keyClick(popup, Qt::Key_Return);
+    EXPECT_TRUE(test::waitUntil([&] { return !bar->isVisible(); })) << "a command was given";
 }
 
 TEST_F(ApplicationDelegate, ShowsWhatItsStartAsksForOnceTheLibraryIsKnown)
@@ -354,6 +441,14 @@ TEST_F(ApplicationDelegate, TakesTheStartOfAnotherProcessOver)
 
     m_delegate->takeOver({{"--frobnicate"}, FilePath("/"), {}});
     EXPECT_EQ(model.viewMode(), ViewMode::list) << "what is not understood changes nothing";
+    int answered = 0;
+    presentAlert(*m_delegate->window(),
+                 {Alert::Style::informational, QStringLiteral("?"), {}, {{QStringLiteral("OK")}}},
+                 [&](int) { ++answered; });
+    m_delegate->takeOver({{"--view", "grid"}, FilePath("/"), {}});
+    EXPECT_EQ(model.viewMode(), ViewMode::list) << "a question is open";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(answered, 1);
 }
 
 } // namespace

@@ -194,6 +194,11 @@ TEST(SingleInstance, AnswersDesktopsAsWellAndForgivesNonsense)
     send("vantrel.lorva.Instance", "Start", {QStringLiteral("no bytes")});
     send("vantrel.lorva.Instance", "Frobnicate", {});
     EXPECT_EQ(starts.size(), 3U);
+    send("vantrel.lorva.Instance", "Start",
+         {QVariant::fromValue(QByteArrayList{"--text", QByteArray(3'000'000, 'x')}),
+          QByteArray("/"), QByteArray("t")});
+    ASSERT_EQ(starts.size(), 4U);
+    EXPECT_EQ(starts.back(), (ProgramStart{{}, FilePath("/"), {}})) << "more than a start holds";
     QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
 }
 

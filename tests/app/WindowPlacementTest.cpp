@@ -36,6 +36,15 @@ TEST(WindowPlacement, KeepsTheWindowWithinReach)
         EXPECT_EQ(keptReachable(row.frame, row.screens), row.expected) << row.what;
 }
 
+TEST(WindowPlacement, TakesNoFrameThatNoDesktopHasRoomFor)
+{
+    const QRect whole(0, 0, 16384, 16384);
+    EXPECT_EQ(plausibleFrame(whole), whole);
+    EXPECT_EQ(plausibleFrame(QRect(0, 0, 16385, 800)), std::nullopt);
+    EXPECT_EQ(plausibleFrame(QRect(0, 0, 960, 65535)), std::nullopt);
+    EXPECT_EQ(plausibleFrame(std::nullopt), std::nullopt);
+}
+
 TEST(SpecimenSizes, GoUpAndDownTheSameSteps)
 {
     double size = LorvaAppModel::kMinimumPointSize;

@@ -317,6 +317,22 @@ TEST_F(WarmFacesTest, StayWithinTheirBudgetOverManyFaces)
         EXPECT_GT(advanceOfA(*face, {}), 0);
 }
 
+TEST_F(WarmFacesTest, SmallFacesAreCountedToo)
+{
+    const FilePath path = writeFont(FontBuilder().build());
+    const auto inUse = openFace(path);
+    const auto font = inUse->shapingFont({});
+    const qint64 one = WarmFaces::tableBytes();
+    std::vector<std::shared_ptr<const FontFace>> faces;
+    for (size_t i = 0; i < kWarmFaces + 40; ++i) {
+        faces.push_back(openFace(writeFont(FontBuilder(QStringLiteral("F%1").arg(i)).build())));
+        EXPECT_TRUE(faces.back()->shapingFont({}));
+    }
+    EXPECT_LE(WarmFaces::tableBytes(), one * qint64(kWarmFaces + 1) * 5 / 4);
+    EXPECT_GE(WarmFaces::tableBytes(), one * qint64(kWarmFaces / 2));
+    EXPECT_GT(advanceOfA(*faces.front(), {}), 0) << "an idle one is made anew";
+}
+
 TEST_F(WarmFacesTest, ServeManyThreadsAtOnce)
 {
     const auto face = openFace(realFont("truetype/inter-vf/Inter.var.ttf"), {0, 0});

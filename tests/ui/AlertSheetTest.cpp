@@ -4,9 +4,11 @@
 #include "ui/sheets/AlertSheet.h"
 #include "commands/OrganizationAlerts.h"
 #include "support/Waiting.h"
+#include "ui/style/Popover.h"
 #include "ui/style/ReducedMotion.h"
 
 #include <QAccessible>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -33,13 +35,13 @@ class AlertSheetTest : public testing::Test
 {
 protected:
     AlertSheetTest()
+        : m_field(new QLineEdit(m_window.get()))
     {
         setReducedMotionOverride(true);
         auto *action = new QAction(m_window.get());
         action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
         QObject::connect(action, &QAction::triggered, action, [this] { ++m_shortcuts; });
         m_window->addAction(action);
-        m_field = new QLineEdit(m_window.get());
         m_window->setCentralWidget(m_field);
         m_window->resize(960, 800);
         m_window->show();
@@ -97,6 +99,13 @@ TEST_F(AlertSheetTest, TakesTheWindowUntilItIsAnsweredAndGivesTheFocusBack)
     EXPECT_FALSE(hasAlertSheet(*m_window));
     press(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(m_shortcuts, 2);
+
+    Popover::open(new QLineEdit, m_field, QStringLiteral("panel"));
+    ASSERT_FALSE(m_field->hasFocus());
+    present(deleteCollectionAlert());
+    EXPECT_FALSE(part("Popover"));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(m_field->hasFocus()) << "where it was before the panel opened";
 }
 
 TEST_F(AlertSheetTest, AnswersKeysAndClicks)

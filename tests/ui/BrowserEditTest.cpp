@@ -43,6 +43,13 @@ TEST_F(BrowserEdit, EveryCardShowsTheTextWhileItIsTypedAndTheLastWordCounts)
          {"sample other"}},
         {"Escape restores", [this] { QTest::keyClick(field(), Qt::Key_Escape); }, "Some text", {}},
         {"the focus elsewhere commits", [this] { view().setFocus(); }, "other", {"sample other"}},
+        {"closing the window commits",
+         [this] {
+             browser.close();
+             browser.show();
+         },
+         "other",
+         {"sample other"}},
         {"blank is no text",
          [this] {
              field()->clear();

@@ -77,10 +77,10 @@ public:
     void displayCustomBackgroundChanged(const QString &) override { }
     void displayBackgroundImageChosen(const QString &) override { }
     void displayUserImageChosen(const QString &) override { }
-    QString displayUserImageAdded(const QByteArray &) override { return {}; }
+    void displayUserImageAdded(const QByteArray &, Answer) override { }
     void displayUserImageRemoved(const QString &) override { }
     void displayImageForegroundChanged(const QString &) override { }
-    QString displayLogoChosen(const QByteArray &) override { return {}; }
+    void displayLogoChosen(const QByteArray &, Answer) override { }
     void displayLogoSizeRatioChanged(double) override { }
     void displayLogoSpacingChanged(double) override { }
     void displayLogoVisibilityChanged(bool) override { }

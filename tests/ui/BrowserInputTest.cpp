@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "BrowserHarness.h"
+#include "ui/browser/BrowserEmptyStateView.h"
 #include "ui/browser/CardSlide.h"
 #include "ui/browser/LetterOverlayView.h"
 #include "ui/FontFamilyPasteboard.h"
+#include "ui/style/Palette.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -129,6 +131,7 @@ TEST_F(BrowserInput, ADragTakesNamesAndFilesOfAllSelectedAlong)
         names = fontFamilyNames(*drag->mimeData());
         files = drag->mimeData()->urls();
         picture = drag->pixmap().size();
+        EXPECT_FALSE(drag->pixmap().rect().contains(drag->hotSpot())) << "it hides its target";
         drag->deleteLater();
     };
     const auto drag = [&](int index) {
@@ -214,6 +217,16 @@ TEST_F(BrowserInput, LettersJumpToTheFirstFamilyAndShowThemselves)
     QTest::keyClick(&view(), Qt::Key_H);
     EXPECT_EQ(view().scrollOffset(), 2 * 220) << "the card stands at the top";
     ASSERT_TRUE(waitUntil([this] { return !browser.findChild<LetterOverlayView *>(); }));
+}
+
+TEST_F(BrowserInput, ALetterJumpsFromTheControlsOfThePaneButNotFromATextField)
+{
+    auto *slider = browser.findChild<QWidget *>(QStringLiteral("viewModeControl"));
+    QTest::keyClick(slider, Qt::Key_M);
+    EXPECT_EQ(selected(), QStringLiteral("M"));
+    QTest::keyClick(slider, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(browser.findChild<QWidget *>(QStringLiteral("searchField")), Qt::Key_D);
+    EXPECT_EQ(selected(), QStringLiteral("M"));
 }
 
 TEST_F(BrowserInput, ANewerLetterReplacesTheOverlayAndItFades)
@@ -302,6 +315,60 @@ TEST_F(BrowserInput, CardsThatStaySlideOnlyWhereTheEyeCanFollow)
     }
 }
 
+TEST_F(BrowserInput, CardsThatSlideArriveWhateverIsAppliedMeanwhile)
+{
+    setReducedMotionOverride(false);
+    auto *slide = view().findChild<CardSlide *>();
+    setFamilies({QStringLiteral("C"), QStringLiteral("F")});
+    apply();
+    ASSERT_TRUE(slide->isRunning());
+    state.fontWeight = 700;
+    apply();
+    EXPECT_TRUE(test::waitUntil([slide] { return !slide->isRunning(); }));
+    for (const auto &[index, item] : view().visibleItems())
+        EXPECT_EQ(item->geometry(), view().viewportRect(view().arrangement().cardRect(index)));
+}
+
+TEST_F(BrowserInput, ASearchIsReadFromItsTopAndLeadsBack)
+{
+    const auto search = [this](const QString &query, int found) {
+        state.searchQuery = query;
+        setFamilies(letters(found));
+        apply();
+    };
+    view().setScrollOffset(700);
+    search(QStringLiteral("x"), 18);
+    EXPECT_EQ(view().scrollOffset(), 0);
+    view().setScrollOffset(300);
+    search(QStringLiteral("xy"), 16);
+    EXPECT_EQ(view().scrollOffset(), 0);
+    search({}, 20);
+    EXPECT_EQ(view().scrollOffset(), 700);
+
+    search(QStringLiteral("x"), 18);
+    state.selectedFamilyName = QStringLiteral("B");
+    search({}, 20);
+    EXPECT_EQ(view().scrollOffset(), 0) << "the card that was chosen meanwhile is in sight";
+}
+
+TEST_F(BrowserInput, TheSearchFieldGivesTheKeysBackToTheCards)
+{
+    auto *search = browser.findChild<QLineEdit *>(QStringLiteral("searchField"));
+    ASSERT_NE(search, nullptr);
+    for (const Qt::Key leave : {Qt::Key_Escape, Qt::Key_Down, Qt::Key_Return}) {
+        search->setFocus(Qt::ShortcutFocusReason);
+        ASSERT_TRUE(search->hasFocus());
+        if (leave == Qt::Key_Escape) {
+            QTest::keyClick(search, Qt::Key_X);
+            QTest::keyClick(search, Qt::Key_Escape);
+            EXPECT_TRUE(search->text().isEmpty());
+            EXPECT_TRUE(search->hasFocus()) << "the first one is for the text";
+        }
+        QTest::keyClick(search, leave);
+        EXPECT_TRUE(view().hasFocus()) << leave;
+    }
+}
+
 TEST_F(BrowserInput, TheKeyboardsFocusIsSeenOnlyWhenItCameByKeyboard)
 {
     const auto ringAt = [this] {
@@ -323,6 +390,44 @@ TEST_F(BrowserInput, TheKeyboardsFocusIsSeenOnlyWhenItCameByKeyboard)
     EXPECT_NE(view().visibleItem(0)->grab().toImage(), ringed);
     click(1);
     EXPECT_EQ(ringAt(), -1);
+}
+
+/// The focus that leaves a list touches its cards once more, when their families are gone already.
+TEST_F(BrowserInput, TheListMayEmptyUnderTheKeyboard)
+{
+    view().clearFocus();
+    view().setFocus(Qt::TabFocusReason);
+    key(Qt::Key_End);
+    ASSERT_TRUE(view().showsFocusAt(19));
+    setFamilies({});
+    state.emptyState = {BrowserEmptyState::SourceEmpty()};
+    apply();
+    EXPECT_FALSE(view().isVisible());
+    EXPECT_THAT(view().visibleItems(), testing::IsEmpty());
+    setFamilies(letters(3));
+    state.emptyState.reset();
+    apply();
+    EXPECT_TRUE(view().hasFocus());
+    EXPECT_EQ(view().visibleItems().size(), 3U);
+}
+
+TEST_F(BrowserInput, AnEmptyPaneIsReadOnAnyColours)
+{
+    setFamilies({});
+    state.emptyState = {BrowserEmptyState::SourceEmpty{"IIIIIIII", "IIIIIIIIIIIIIIII", false}};
+    for (const char *hex : {"#808080", "#FFFFFF", "#000000", "#1328E9"}) {
+        state.foregroundColorHex = state.backgroundColorHex = QString::fromLatin1(hex);
+        apply();
+        const QImage pane = browser.grab().toImage();
+        double best = 1;
+        for (int y = BrowserTopBar::kHeight + 1; y < pane.height(); ++y)
+            for (int x = 0; x < pane.width(); ++x)
+                best = std::max(best, contrastRatio(pane.pixelColor(x, y), QColor(hex)));
+        EXPECT_GE(best, 4.5) << hex;
+    }
+    state.emptyState = {BrowserEmptyState::NoSearchResults{QString(50'000, u'x')}};
+    apply();
+    EXPECT_LT(browser.findChild<BrowserEmptyStateView *>()->accessibleDescription().size(), 300);
 }
 
 TEST_F(BrowserInput, RightToLeftMirrorsClicksBandsAndKeys)

@@ -170,12 +170,21 @@ TEST_F(BrowserMenu, ThousandsOfFoundriesStayOnTheScreen)
     EXPECT_LE(foundries->height(), foundries->screen()->geometry().height());
     EXPECT_LE(foundries->width(), 400) << "one column that scrolls";
     close();
+
+    state.foundryCollections = {{"f1", QString(60'000, u'W') + u'&', {}}};
+    apply();
+    rightClick(0);
+    foundries = menu()->findChild<QMenu *>(QStringLiteral("foundryMenu"));
+    foundries->popup({});
+    EXPECT_LE(foundries->width(), 400) << "whatever a font calls its maker";
+    close();
 }
 
 TEST_F(BrowserMenu, ToolTipsGiveTheWholeNameWhereItIsCut)
 {
     const QString longName = QString(40, u'W') + u' ' + QString(60, u'M');
-    setFamilies({"Short", "Two words that fit", longName});
+    const QString markup = QString("<img src='file:///etc/hostname'>" + QString(70'000, u'x'));
+    setFamilies({"Short", "Two words that fit", longName, markup});
     apply();
     const auto tipAt = [this](int index) {
         QHelpEvent event(QEvent::ToolTip, at(index), view().viewport()->mapToGlobal(at(index)));
@@ -186,6 +195,10 @@ TEST_F(BrowserMenu, ToolTipsGiveTheWholeNameWhereItIsCut)
     EXPECT_EQ(tipAt(1), QString());
     EXPECT_EQ(tipAt(2), longName);
     EXPECT_EQ(QToolTip::text(), longName);
+    tipAt(3);
+    EXPECT_FALSE(QToolTip::text().contains(QStringLiteral("<img"))) << "shown, not obeyed";
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("&lt;img")));
+    EXPECT_LT(QToolTip::text().size(), 2000);
 }
 
 class BrowserAccessible : public BrowserMenu

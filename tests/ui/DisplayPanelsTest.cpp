@@ -76,9 +76,9 @@ public:
         state.values.backgroundImageUserFilename = filename;
         note(QLatin1String("user ") + filename);
     }
-    QString displayUserImageAdded(const QByteArray &bytes) override
+    void displayUserImageAdded(const QByteArray &bytes, Answer answer) override
     {
-        return note(QStringLiteral("added %1").arg(bytes.size()));
+        answer(note(QStringLiteral("added %1").arg(bytes.size())));
     }
     void displayUserImageRemoved(const QString &filename) override
     {
@@ -90,9 +90,9 @@ public:
         state.values.imageForegroundColorHex = hex;
         note(QLatin1String("over ") + hex);
     }
-    QString displayLogoChosen(const QByteArray &bytes) override
+    void displayLogoChosen(const QByteArray &bytes, Answer answer) override
     {
-        return note(QStringLiteral("logo %1").arg(bytes.size()));
+        answer(note(QStringLiteral("logo %1").arg(bytes.size())));
     }
     void displayLogoSizeRatioChanged(double ratio) override
     {
@@ -288,6 +288,14 @@ TEST_F(DisplayPanels, BackgroundsAreChosenByClickAndKeys)
     EXPECT_THAT(taken(), ::testing::ElementsAre(QStringLiteral("over #1234AB")));
 }
 
+TEST_F(DisplayPanels, BlackOrWhiteCanBeReadOnEveryBackground)
+{
+    for (const BackgroundImage &image : builtInBackgroundImages()) {
+        const QColor ground = averageBackgroundColor(QLatin1String(image.id));
+        EXPECT_GE(contrastRatio(contrastingNeutral(ground), ground), 4.5) << image.id;
+    }
+}
+
 TEST_F(DisplayPanels, OwnBackgroundsAreAddedShownAndRemoved)
 {
     const FilePath folder = test::makeCaseFolder();
@@ -354,7 +362,7 @@ TEST_F(DisplayPanels, LogosAreDroppedMeasuredAndRemoved)
     QMimeData picture;
     picture.setImageData(red);
     drop(picture);
-    EXPECT_TRUE(taken().value(0).startsWith(QLatin1String("logo ")));
+    EXPECT_TRUE(waitUntil([&] { return taken().value(0).startsWith(QLatin1String("logo ")); }));
     // Families are never taken for files.
     QMimeData families;
     families.setUrls({QUrl(QStringLiteral("file:///usr/a.ttf"))});

@@ -78,6 +78,9 @@ TEST(PreviewStyle, hairlineColourFollowsTheGround)
     EXPECT_EQ(alphaOf(onBlue), 200);
     EXPECT_EQ(onBlue.rgb(), QColor(Qt::white).rgb());
     EXPECT_EQ(hairlineColor(Qt::blue, Qt::blue).rgb(), QColor(Qt::white).rgb());
+    // Over an image the colour that was chosen for it knows best.
+    for (const QColor &ink : {QColor(Qt::white), QColor(Qt::black), QColor(0xff, 0xe0, 0x40)})
+        EXPECT_EQ(hairlineColor(ink, Qt::transparent), withAlpha(ink, 0.2));
 }
 
 TEST(PreviewStyle, symbolsAreTintedAndSharp)

@@ -271,6 +271,10 @@ TEST_F(SidebarJourney, FamiliesFallOnRowsThatTakeThem)
         EXPECT_FALSE(drop(words, centre(row.item)));
         EXPECT_EQ(delegate.taken(), QString());
     }
+    QMimeData flood;
+    flood.setData(QLatin1String(kFontFamilyNamesMimeType), QByteArray("ab\n").repeated(6'000'000));
+    EXPECT_FALSE(drop(flood, centre(c("c1"))));
+    EXPECT_EQ(delegate.taken(), QString());
     EXPECT_TRUE(dragTo(*families, centre(c("c1"))));
     QDragLeaveEvent leave;
     QApplication::sendEvent(outline().viewport(), &leave);
@@ -323,6 +327,10 @@ TEST_F(SidebarJourney, TypingGoesToTheLabelThatBeginsLikeIt)
         QTest::keyClicks(&outline(), text(row.typed + 1));
         EXPECT_EQ(selected(), text(row.selected)) << row.typed;
     }
+    QApplication::setKeyboardInputInterval(0);
+    QKeyEvent accent(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QChar(0x301));
+    QApplication::sendEvent(&outline(), &accent);
+    EXPECT_EQ(selected(), text("Wayfinding")) << "no letter yet";
     QApplication::setKeyboardInputInterval(400);
 }
 

@@ -89,13 +89,16 @@ public:
     void displayFontWeightChanged(int weight) override { tell("weight", weight); }
     void displayColorModeChanged(ColorMode mode) override { tell("mode", int(mode)); }
     void displayCustomForegroundChanged(const QString &) override { }
-    void displayCustomBackgroundChanged(const QString &) override { }
+    void displayCustomBackgroundChanged(const QString &hex) override
+    {
+        told.append(QLatin1String("ground ") + hex);
+    }
     void displayBackgroundImageChosen(const QString &) override { }
     void displayUserImageChosen(const QString &) override { }
-    QString displayUserImageAdded(const QByteArray &) override { return {}; }
+    void displayUserImageAdded(const QByteArray &, Answer) override { }
     void displayUserImageRemoved(const QString &) override { }
     void displayImageForegroundChanged(const QString &) override { }
-    QString displayLogoChosen(const QByteArray &) override { return {}; }
+    void displayLogoChosen(const QByteArray &, Answer) override { }
     void displayLogoSizeRatioChanged(double) override { }
     void displayLogoSpacingChanged(double) override { }
     void displayLogoVisibilityChanged(bool) override { }
@@ -287,6 +290,24 @@ TEST_F(TopBarTest, theChosenChipOpensItsPanel)
     QTest::mouseClick(image, Qt::LeftButton);
     EXPECT_EQ(recorder.take(), Told(QStringLiteral("mode 3")));
     EXPECT_TRUE(waitForNoPopover());
+}
+
+/// With the window, whatever is open: whoever was told of its changes is gone by then.
+TEST_F(TopBarTest, anOpenPanelGoesWithTheBarInSilence)
+{
+    auto other = std::make_unique<BrowserTopBar>(&window);
+    other->setDelegate(&recorder);
+    other->setGeometry(bar.geometry().translated(0, 60));
+    other->show();
+    other->openPanel(BrowserTopBar::Panel::colors);
+    ASSERT_NE(openPopover(), nullptr);
+    auto *digits = find<LineField>("colorDigits");
+    digits->setFocus();
+    digits->selectAll();
+    QTest::keyClicks(digits, QStringLiteral("123"));
+    other.reset();
+    EXPECT_EQ(window.findChild<Popover *>(), nullptr);
+    EXPECT_EQ(recorder.take(), Told());
 }
 
 TEST_F(TopBarTest, slidersWithoutRoomMoveBehindAButton)

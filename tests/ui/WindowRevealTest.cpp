@@ -45,8 +45,8 @@ class WindowReveal : public testing::Test
 {
 protected:
     WindowReveal()
+        : m_content(new QWidget)
     {
-        m_content = new QWidget;
         m_window.setCentralWidget(m_content);
         concealWindow(m_window);
         m_window.show();

@@ -7,10 +7,24 @@ namespace lorva {
 
 namespace {
 
+/// As much as a command line holds. Any program of this login may send more.
+constexpr qsizetype kMostBytes = qsizetype(2) * 1024 * 1024;
+
+qsizetype sizeOf(const ProgramStart &start)
+{
+    qsizetype size = start.workingFolder.bytes().size() + start.activationToken.size();
+    for (const QByteArray &argument : start.arguments)
+        size += argument.size() + qsizetype(sizeof(char *));
+    return size;
+}
+
+/// What is too large is no start; the window comes forward all the same.
 void take(SingleInstance &instance, const ProgramStart &start)
 {
-    if (instance.onStart)
-        instance.onStart(start);
+    if (!instance.onStart)
+        return;
+    const bool isStart = sizeOf(start) <= kMostBytes;
+    instance.onStart(isStart ? start : ProgramStart{{}, FilePath("/"), {}});
 }
 
 QByteArray tokenIn(const QVariantMap &platformData)

@@ -18,6 +18,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <cmath>
@@ -32,6 +33,14 @@ constexpr int kLineStep = 40;
 constexpr size_t kMaxSpareItems = 12;
 /// Width changes up to this are jitter of the window system, not a resize.
 constexpr int kIgnoredWidthChange = 1;
+constexpr qsizetype kLongestTip = 1000;
+
+/// Names come from fonts: what looks like markup in them is shown, not obeyed.
+QString shownAsItIs(const QString &tip)
+{
+    const QString text = tip.left(kLongestTip);
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
 
 } // namespace
 
@@ -76,7 +85,9 @@ void BrowserCollectionView::setContent(const Content &content)
     if (itemsChanged || isRearranged)
         relayout(anchors);
     reconfigureVisibleItems();
-    slideFrom(places);
+    // Without any a slide that runs goes on to its end.
+    if (!places.isEmpty())
+        slideFrom(places);
     if (itemsChanged)
         announceItems(*this);
     if (m_selection.currentID() != previous)
@@ -319,7 +330,7 @@ bool BrowserCollectionView::showToolTip(const QHelpEvent &event)
         if (!item->geometry().contains(event.pos()))
             continue;
         if (const QString tip = item->toolTip(); !tip.isEmpty()) {
-            QToolTip::showText(event.globalPos(), tip, viewport(), item->geometry());
+            QToolTip::showText(event.globalPos(), shownAsItIs(tip), viewport(), item->geometry());
             return true;
         }
     }

@@ -18,6 +18,35 @@ constexpr int kSymbolSize = 40;
 constexpr int kTextWidth = 360;
 constexpr double kSymbolAlpha = 0.35;
 constexpr double kSubtitleAlpha = 0.5;
+constexpr int kBalanceStep = 8;
+
+/// A page of text that was pasted into the search field would fill the pane.
+QString shortened(const QString &query)
+{
+    constexpr qsizetype longest = 200;
+    return query.size() > longest ? QString(query.left(longest) + u'…') : query;
+}
+
+QSize wrappedSize(const QString &text, int width)
+{
+    return QFontMetrics(interfaceFont(InterfaceSize::body))
+        .boundingRect(QRect(0, 0, width, 0), Qt::AlignHCenter | Qt::TextWordWrap, text)
+        .size();
+}
+
+/// The least width at which `text` takes no more lines: no word stands alone on the last one.
+int balancedWidth(const QString &text, int widest)
+{
+    const int height = wrappedSize(text, widest).height();
+    int width = widest;
+    while (width > widest / 2) {
+        const QSize narrower = wrappedSize(text, width - kBalanceStep);
+        if (narrower.height() > height || narrower.width() > width - kBalanceStep)
+            break;
+        width -= kBalanceStep;
+    }
+    return width;
+}
 
 } // namespace
 
@@ -39,7 +68,7 @@ void BrowserEmptyStateView::show(const BrowserEmptyState &state)
     if (const auto *search = std::get_if<BrowserEmptyState::NoSearchResults>(&state.reason)) {
         m_symbol = QStringLiteral("magnifyingglass");
         m_title = tr("No Results");
-        m_subtitle = tr("No fonts match “%1”.").arg(search->query);
+        m_subtitle = tr("No fonts match “%1”.").arg(shortened(search->query));
     } else {
         const auto &source = std::get<BrowserEmptyState::SourceEmpty>(state.reason);
         m_symbol = QStringLiteral("textformat.alt");
@@ -56,7 +85,9 @@ void BrowserEmptyStateView::show(const BrowserEmptyState &state)
 
 void BrowserEmptyStateView::setColors(const QColor &foreground, const QColor &background)
 {
-    m_foreground = foreground;
+    // Over an image the text's colour says what it is read on.
+    m_ground = background.alpha() == 255 ? background : contrastingNeutral(foreground);
+    m_ink = controlColor(foreground, m_ground);
     m_watchFolder->setColors(foreground, background);
     update();
 }
@@ -66,10 +97,8 @@ BrowserEmptyStateView::Column BrowserEmptyStateView::column() const
     const int titleHeight =
         QFontMetrics(interfaceFont(InterfaceSize::title, InterfaceWeight::semibold)).height();
     const int left = rect().center().x() - kTextWidth / 2;
-    const int subtitleHeight = QFontMetrics(interfaceFont(InterfaceSize::body))
-                                   .boundingRect(QRect(left, 0, kTextWidth, height()),
-                                                 Qt::AlignHCenter | Qt::TextWordWrap, m_subtitle)
-                                   .height();
+    const int subtitleWidth = balancedWidth(m_subtitle, kTextWidth);
+    const int subtitleHeight = wrappedSize(m_subtitle, subtitleWidth).height();
     const QSize button = m_watchFolder->sizeHint();
     int total = kSymbolSize + spacing::k16 + titleHeight + spacing::k8 + subtitleHeight;
     if (!m_watchFolder->isHidden())
@@ -81,7 +110,7 @@ BrowserEmptyStateView::Column BrowserEmptyStateView::column() const
     y += kSymbolSize + spacing::k16;
     places.title = {left, y, kTextWidth, titleHeight};
     y += titleHeight + spacing::k8;
-    places.subtitle = {left, y, kTextWidth, subtitleHeight};
+    places.subtitle = {rect().center().x() - subtitleWidth / 2, y, subtitleWidth, subtitleHeight};
     y += subtitleHeight + spacing::k20;
     places.button = {QPoint(rect().center().x() - button.width() / 2, y), button};
     return places;
@@ -96,14 +125,14 @@ void BrowserEmptyStateView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const Column places = column();
-    painter.drawImage(places.symbol.topLeft(),
-                      symbolImage(m_symbol, kSymbolSize, withAlpha(m_foreground, kSymbolAlpha),
-                                  devicePixelRatioF()));
+    painter.drawImage(
+        places.symbol.topLeft(),
+        symbolImage(m_symbol, kSymbolSize, withAlpha(m_ink, kSymbolAlpha), devicePixelRatioF()));
     painter.setFont(interfaceFont(InterfaceSize::title, InterfaceWeight::semibold));
-    painter.setPen(m_foreground);
+    painter.setPen(m_ink);
     painter.drawText(places.title, Qt::AlignCenter, m_title);
     painter.setFont(interfaceFont(InterfaceSize::body));
-    painter.setPen(withAlpha(m_foreground, kSubtitleAlpha));
+    painter.setPen(quietColor(m_ink, m_ground, kSubtitleAlpha));
     painter.drawText(places.subtitle, int(Qt::AlignHCenter | Qt::AlignTop) | int(Qt::TextWordWrap),
                      m_subtitle);
 }

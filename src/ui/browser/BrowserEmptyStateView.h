@@ -45,7 +45,8 @@ private:
     QString m_symbol;
     QString m_title;
     QString m_subtitle;
-    QColor m_foreground = Qt::black;
+    QColor m_ink = Qt::black;
+    QColor m_ground = Qt::white;
 };
 
 } // namespace lorva

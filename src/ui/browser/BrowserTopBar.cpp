@@ -14,6 +14,7 @@
 #include "ui/style/SegmentedControl.h"
 #include "ui/style/Style.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -25,6 +26,8 @@ static_assert(BrowserTopBar::kHeight == kTopBarHeight);
 namespace {
 
 constexpr double kTitleAlpha = 0.5;
+/// A foundry's name may be a whole page of its font.
+constexpr qsizetype kLongestTitle = 300;
 /// Over an image, whose own brightness is anyone's.
 constexpr double kVeilAlpha = 0.32;
 
@@ -45,12 +48,24 @@ BrowserTopBar::BrowserTopBar(QWidget *parent)
     setUpNames();
     m_mode->addSegment(QStringLiteral("square.grid.2x2"), tr("Grid"));
     m_mode->addSegment(QStringLiteral("list.bullet"), tr("List"));
+    // The segments come after the field only in the order of making.
+    setTabOrder(m_mode->findChildren<QAbstractButton *>().constLast(), m_search);
     m_search->setSymbol(QStringLiteral("magnifyingglass"));
     m_search->setPlaceholderText(tr("Search"));
     m_search->setClearable(true);
     m_search->installEventFilter(this);
     connectParts();
     setColors(m_foreground, m_background);
+}
+
+/// The open panel hangs from a control that goes after this bar's own members. It goes first, and
+/// tells nobody: whoever was told may be gone.
+BrowserTopBar::~BrowserTopBar()
+{
+    if (m_panel)
+        m_panel->setDelegate(nullptr);
+    setDelegate(nullptr);
+    delete m_popover;
 }
 
 void BrowserTopBar::setUpNames()
@@ -121,7 +136,7 @@ void BrowserTopBar::apply(const FontBrowserState &state)
             slider->setValue(isSize ? m_pointSize : m_fontWeight);
         }
     }
-    m_chips->setValues(m_display.values);
+    m_chips->setValues(m_display.values, m_display.userThumbnail);
     const bool showsLogo = m_display.logoImage && m_display.values.logoVisible;
     m_logo->setMarked(showsLogo);
     m_logo->setAccessibleDescription(showsLogo ? tr("A logo is shown.") : QString());
@@ -129,9 +144,10 @@ void BrowserTopBar::apply(const FontBrowserState &state)
     showSearchQuery(state.searchQuery);
     if (m_panel)
         m_panel->apply(m_display);
-    if (state.title == m_title)
+    const QString title = state.title.left(kLongestTitle);
+    if (title == m_title)
         return;
-    m_title = state.title;
+    m_title = title;
     update();
 }
 
@@ -194,7 +210,7 @@ DisplayPanel *BrowserTopBar::makePanel(Panel panel)
     case Panel::colors:
         return makeColorPanel(this);
     case Panel::backgroundImage:
-        return makeBackgroundImagePanel(this);
+        return makeBackgroundImagePanel(this, m_display.imageStore);
     case Panel::logo:
         return makeLogoPanel(this);
     case Panel::sampleText:

@@ -35,6 +35,7 @@ public:
     enum class Panel { colors, backgroundImage, logo, sampleText };
 
     explicit BrowserTopBar(QWidget *parent);
+    ~BrowserTopBar() override;
 
     /// Does not own it; it must outlive this bar.
     void setDelegate(FontBrowserDelegate *delegate) { m_delegate = delegate; }

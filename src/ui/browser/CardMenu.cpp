@@ -28,16 +28,10 @@ QString text(const char *source)
     return QCoreApplication::translate("CardMenu", source);
 }
 
-/// In a menu an ampersand names a key; in the name of a foundry it is only that.
-QString menuText(QString name)
-{
-    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 template <class Option>
 QAction *addOption(QMenu &menu, const Option &option)
 {
-    QAction *action = menu.addAction(menuText(option.name));
+    QAction *action = menu.addAction(menuEntryText(option.name));
     action->setCheckable(true);
     action->setChecked(option.isMember);
     return action;
@@ -104,7 +98,7 @@ void fillFoundries(QMenu &menu, const SharedSubject &subject)
 
 CollectionMenuAction::CollectionMenuAction(const CollectionMembershipOption &option,
                                            QObject *parent)
-    : QAction(menuText(option.name), parent)
+    : QAction(menuEntryText(option.name), parent)
     , collectionID(option.id)
 {
     setCheckable(true);

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QStyle>
 
+#include <utility>
+
 namespace lorva {
 
 namespace {
@@ -45,9 +47,10 @@ ColorModeChips::ColorModeChips(QWidget *parent)
     setValues(m_values);
 }
 
-void ColorModeChips::setValues(const DisplayValues &values)
+void ColorModeChips::setValues(const DisplayValues &values, const QImage &userImage)
 {
     m_values = values;
+    m_userImage = userImage;
     m_chips[size_t(ColorMode::custom)]->setChipColors(QColor(values.customForegroundColorHex),
                                                       QColor(values.customBackgroundColorHex));
     showChosen();
@@ -76,19 +79,22 @@ void ColorModeChips::showChosen()
     m_chips[size_t(m_values.colorMode)]->setChecked(true);
 }
 
-/// Drawing a picture can wait until the chip is seen.
+/// Drawing a picture can wait until the chip is seen, and is done once: every key of a search
+/// brings a state.
 void ColorModeChips::showImage()
 {
-    const auto images = builtInBackgroundImages();
-    QString id = m_values.backgroundImageID.value_or(QString());
-    QImage image = id.isEmpty() ? QImage() : drawBackgroundImage(id, {kThumbnailPx, kThumbnailPx});
-    if (image.isNull() && !images.empty()) {
-        id = QLatin1String(images.front().id);
-        if (id == m_shownImageID)
-            return;
-        image = drawBackgroundImage(id, {kThumbnailPx, kThumbnailPx});
+    if (m_values.backgroundImageUserFilename && !m_userImage.isNull()) {
+        if (std::exchange(m_shownImageID, *m_values.backgroundImageUserFilename)
+            != *m_values.backgroundImageUserFilename)
+            m_chips[size_t(ColorMode::image)]->setChipImage(m_userImage);
+        return;
     }
-    m_shownImageID = id.isNull() ? QLatin1String("") : id;
+    QString id = m_values.backgroundImageID.value_or(QString());
+    if (backgroundImageName(id).isEmpty())
+        id = QLatin1String(builtInBackgroundImages().front().id);
+    if (std::exchange(m_shownImageID, id) == id)
+        return;
+    const QImage image = drawBackgroundImage(id, {kThumbnailPx, kThumbnailPx});
     m_chips[size_t(ColorMode::image)]->setChipImage(image);
 }
 

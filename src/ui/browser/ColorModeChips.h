@@ -22,7 +22,8 @@ class ColorModeChips final : public QWidget
 public:
     explicit ColorModeChips(QWidget *parent = nullptr);
 
-    void setValues(const DisplayValues &values);
+    /// `userImage`: the user's image that is shown, small; null: none.
+    void setValues(const DisplayValues &values, const QImage &userImage = {});
     void setColors(const QColor &foreground, const QColor &background);
     QWidget *chip(ColorMode mode) const;
     QSize sizeHint() const override;
@@ -46,6 +47,7 @@ private:
 
     std::array<ColorChip *, std::size(kAllColorModes)> m_chips{};
     DisplayValues m_values;
+    QImage m_userImage;
     /// The picture on the last chip; null until it is painted.
     QString m_shownImageID;
 };

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QMimeData>
 #include <QPixmap>
+#include <QPoint>
 #include <QUrl>
 
 #include <memory>
@@ -34,5 +35,7 @@ struct DragColors
 };
 /// What hangs at the pointer: the card's specimen made small, and how many there are.
 QPixmap familyDragPixmap(const FontCollectionItem &item, int count, const DragColors &colors);
+/// Where the pointer is in that picture: beside it, so that the row under the pointer is seen.
+inline constexpr QPoint kFamilyDragHotSpot(-4, -4);
 
 } // namespace lorva

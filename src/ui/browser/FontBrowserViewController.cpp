@@ -48,8 +48,8 @@ FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolve
     : QWidget(parent)
     , m_resolver(std::move(resolver))
     , m_prewarmTimer(new QTimer(this))
-    , m_topBar(new BrowserTopBar(this))
     , m_collection(new BrowserCollectionView(this))
+    , m_topBar(new BrowserTopBar(this))
     , m_empty(new BrowserEmptyStateView(this))
     , m_loading(new BrowserLoadingView(this))
     , m_inlineEdit(new InlineEditHandler(this))
@@ -64,6 +64,7 @@ FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolve
         if (m_delegate)
             m_delegate->browserWatchFolderWanted();
     };
+    m_topBar->onSearchLeft = [this] { focusCards(); };
     connectCollection();
     connectInlineEdit();
     m_prewarmTimer->setObjectName(QStringLiteral("prewarmTimer"));
@@ -71,13 +72,14 @@ FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolve
     m_prewarmTimer->setInterval(kPrewarmDelayMilliseconds);
     connect(m_prewarmTimer, &QTimer::timeout, this, &FontBrowserViewController::prewarm);
     setFocusProxy(m_collection);
-    setTabOrder(m_collection, m_topBar);
     applyColors();
 }
 
-/// The focus leaves what dies, and what it leaves asks this view, which must be whole then.
+/// The focus leaves what dies, and what it leaves asks this view, which must be whole then. Nobody
+/// is told any more: whoever decides may be gone already.
 FontBrowserViewController::~FontBrowserViewController()
 {
+    setDelegate(nullptr);
     delete m_inlineEdit;
     delete m_collection;
 }
@@ -88,9 +90,12 @@ void FontBrowserViewController::connectCollection()
         return new FontCollectionItem(m_resolver, parentWidget);
     };
     m_collection->configureItem = [this](FontCollectionItem &item, int index) {
-        item.configure(cardConfiguration(index));
+        if (hasFamilyAt(index))
+            item.configure(cardConfiguration(index));
     };
-    m_collection->describeItem = [this](int index) { return cardDescription(index); };
+    m_collection->describeItem = [this](int index) {
+        return hasFamilyAt(index) ? cardDescription(index) : QString();
+    };
     m_collection->onItemsPlaced = [this] {
         m_prewarmTimer->start();
         placeInlineEdit();
@@ -149,21 +154,33 @@ void FontBrowserViewController::apply(const FontBrowserState &state)
     if (isEmpty)
         m_empty->show(*m_state.emptyState);
     m_empty->setVisible(isEmpty);
-    showCollection(!isEmpty);
+    if (!isEmpty)
+        showCollection();
     m_topBar->apply(m_state);
     applyColors();
     applyItems(previous);
+    // Only now: the focus that leaves its cards asks for each of them.
+    if (isEmpty)
+        hideCollection();
 }
 
-/// A hidden view loses the focus to whatever comes next; with its cards it gets it back.
-void FontBrowserViewController::showCollection(bool isShown)
+void FontBrowserViewController::hideCollection()
 {
-    if (isShown != m_collection->isHidden())
+    if (m_collection->isHidden())
         return;
-    if (!isShown)
-        m_collectionHadFocus = m_collection->hasFocus();
-    m_collection->setVisible(isShown);
-    if (isShown && m_collectionHadFocus)
+    m_collectionHadFocus = m_collection->hasFocus();
+    m_collection->hide();
+    m_focusInstead = window()->focusWidget();
+}
+
+/// A hidden view loses the focus to whatever comes next; with its cards it gets it back, unless
+/// the user has gone elsewhere.
+void FontBrowserViewController::showCollection()
+{
+    if (!m_collection->isHidden())
+        return;
+    m_collection->show();
+    if (m_collectionHadFocus && window()->focusWidget() == m_focusInstead)
         m_collection->setFocus();
 }
 
@@ -188,6 +205,8 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
     const bool sourceChanged = m_lastRenderedSource != m_state.source;
     if (sourceChanged && m_lastRenderedSource)
         m_scrollOriginBySource.insert(*m_lastRenderedSource, m_collection->scrollOffset());
+    if (previous.searchQuery.isEmpty() && !m_state.searchQuery.isEmpty())
+        m_offsetBeforeSearch = m_collection->scrollOffset();
 
     if (previous.families != m_state.families
         || previous.catalogGeneration != m_state.catalogGeneration) {
@@ -204,7 +223,19 @@ void FontBrowserViewController::applyItems(const FontBrowserState &previous)
     if (sourceChanged) {
         m_collection->setScrollOffset(m_scrollOriginBySource.value(m_state.source, 0));
         m_lastRenderedSource = m_state.source;
+        m_offsetBeforeSearch = 0;
+    } else if (previous.searchQuery != m_state.searchQuery) {
+        scrollForSearch();
     }
+}
+
+/// What is found is read from the top; afterwards the view is where it was, or at what was chosen.
+void FontBrowserViewController::scrollForSearch()
+{
+    const bool isOver = m_state.searchQuery.isEmpty();
+    m_collection->setScrollOffset(isOver ? m_offsetBeforeSearch : 0);
+    if (const int chosen = m_collection->selection().current(); isOver && chosen >= 0)
+        m_collection->scrollToItem(chosen);
 }
 
 /// Only where the eye can follow: a list that shrinks in place, as it does under a search.
@@ -248,6 +279,13 @@ FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) co
     card.activation = m_state.activationProvider(family);
     card.isSystem = card.activation && card.activation->isActive() && !card.activation->method();
     return card;
+}
+
+/// The cards still are those of the former state while a new one is taken up, and may be asked for
+/// then: a view that goes loses the focus.
+bool FontBrowserViewController::hasFamilyAt(int index) const
+{
+    return size_t(index) < m_state.families.size();
 }
 
 QString FontBrowserViewController::cardDescription(int index) const
@@ -315,9 +353,8 @@ void FontBrowserViewController::dragSelection()
     drag->setMimeData(familyMimeData(m_state.families, indices).release());
     if (const auto *item = m_collection->visibleItem(m_collection->selection().current())) {
         const DragColors colors{foregroundOf(m_state), backgroundOf(m_state)};
-        const QPixmap pixmap = familyDragPixmap(*item, int(indices.size()), colors);
-        drag->setPixmap(pixmap);
-        drag->setHotSpot(QRectF(QPointF(), pixmap.deviceIndependentSize()).center().toPoint());
+        drag->setPixmap(familyDragPixmap(*item, int(indices.size()), colors));
+        drag->setHotSpot(kFamilyDragHotSpot);
     }
     runDrag(drag);
 }
@@ -433,6 +470,16 @@ bool FontBrowserViewController::showsItsSpecimens() const
         const FontPreviewNSView &preview = entry.second->contentView().previewView();
         return !preview.isWaiting() && preview.textOpacity() >= 1.0;
     });
+}
+
+/// A letter that no control of the pane has a use for.
+void FontBrowserViewController::keyPressEvent(QKeyEvent *event)
+{
+    const QString letter = jumpLetter(*event);
+    if (letter.isEmpty() || m_collection->isHidden())
+        QWidget::keyPressEvent(event);
+    else
+        jumpTo(letter);
 }
 
 void FontBrowserViewController::resizeEvent(QResizeEvent *)

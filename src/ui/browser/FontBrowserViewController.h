@@ -71,12 +71,16 @@ public:
     static constexpr int kPrewarmDelayMilliseconds = 100;
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void applyItems(const FontBrowserState &previous);
+    void scrollForSearch();
     void applyColors();
-    void showCollection(bool isShown);
+    void hideCollection();
+    void showCollection();
+    bool hasFamilyAt(int index) const;
     FontCardConfiguration cardConfiguration(int index) const;
     bool showsItsSpecimens() const;
     void prewarm();
@@ -101,9 +105,12 @@ private:
     /// found by its place in them (the view's index), so that no second map of records is kept.
     QStringList m_orderedIDs;
     QHash<BrowserSource, int> m_scrollOriginBySource;
+    int m_offsetBeforeSearch = 0;
     std::optional<BrowserSource> m_lastRenderedSource;
 
     bool m_collectionHadFocus = false;
+    /// Where the focus of the hidden cards went.
+    QPointer<QWidget> m_focusInstead;
 
     /// What a pre-warm was asked for; an equal one would do nothing new.
     struct Prewarmed
@@ -118,8 +125,9 @@ private:
     std::optional<Prewarmed> m_prewarmed;
     QTimer *m_prewarmTimer;
 
-    BrowserTopBar *m_topBar;
+    // In the order in which Tab goes through them.
     BrowserCollectionView *m_collection;
+    BrowserTopBar *m_topBar;
     BrowserEmptyStateView *m_empty;
     BrowserLoadingView *m_loading;
 

@@ -27,6 +27,8 @@ constexpr int kTagHeight = 18;
 constexpr int kTagPadding = 8;
 /// The specimen is centred in what the title leaves: this much of the card's top is not counted.
 constexpr int kTitleRoom = spacing::k28;
+/// More of a name than any card has room for; a font may bring one of 64 kilobytes.
+constexpr qsizetype kLongestLine = 300;
 
 QFont titleFont()
 {
@@ -38,9 +40,10 @@ QFont subtitleFont()
     return interfaceFont(InterfaceSize::tag, InterfaceWeight::regular, Figures::tabular);
 }
 
-/// `text` in at most `maximumLines` lines, the last one shortened with an ellipsis.
-QStringList linesOf(const QString &text, const QFont &font, double width, int maximumLines)
+/// `whole` in at most `maximumLines` lines, the last one shortened with an ellipsis.
+QStringList linesOf(const QString &whole, const QFont &font, double width, int maximumLines)
 {
+    const QString text = whole.left(kLongestLine);
     const QFontMetricsF metrics(font);
     QTextLayout layout(text, font);
     QTextOption option;
@@ -75,6 +78,12 @@ double drawLines(QPainter &painter, const QStringList &lines, const QFont &font,
     return y;
 }
 
+/// Their outlines are read whole, up to 25 MB: two frames of a scroll, on the main thread.
+bool hasLargeTables(WritingScript script)
+{
+    return script != WritingScript::latin;
+}
+
 } // namespace
 
 FontPreviewConfiguration previewConfiguration(const FontCardConfiguration &card)
@@ -93,7 +102,8 @@ FontPreviewConfiguration previewConfiguration(const FontCardConfiguration &card)
     preview.logoSpacing = card.logoSpacing;
     preview.singleLine = true;
     preview.primaryScript = card.family.primaryScript.value_or(WritingScript::latin);
-    preview.prefersAsyncResolution = !card.activation || !card.activation->isActive();
+    preview.prefersAsyncResolution =
+        !card.activation || !card.activation->isActive() || hasLargeTables(preview.primaryScript);
     return preview;
 }
 

@@ -52,6 +52,7 @@ void InlineEditHandler::begin(QWidget *parent, const QString &text, const Place 
     m_initialText = m_field->text();
     setPlace(place);
     m_field->installEventFilter(this);
+    m_field->window()->installEventFilter(this);
     // The field sets its text from its leading edge whenever that changes.
     connect(m_field, &QLineEdit::textChanged, this, [this] { align(); });
     connect(m_field, &LineField::textSettled, this, [this](const QString &changed) {
@@ -87,6 +88,9 @@ void InlineEditHandler::align()
 
 bool InlineEditHandler::eventFilter(QObject *watched, QEvent *event)
 {
+    // What was typed before the window is closed was meant.
+    if (m_field && event->type() == QEvent::Close && watched == m_field->window())
+        commit();
     if (watched != m_field)
         return false;
     switch (event->type()) {
@@ -129,6 +133,7 @@ void InlineEditHandler::end(bool commits)
     m_field.clear();
     const QString text = field->text();
     field->removeEventFilter(this);
+    field->window()->removeEventFilter(this);
     field->disconnect(this);
     if (onEnd)
         onEnd(field->hasFocus());

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
 #include <QThreadPool>
 #include <QVBoxLayout>
 
@@ -143,7 +144,13 @@ void BackgroundImagePanel::connectIntake()
 {
     m_intake->onProblem = [this](const QString &words) { m_problem->setProblem(words); };
     m_intake->onBytes = [this](const QByteArray &bytes) {
-        m_problem->setProblem(delegate() ? delegate()->displayUserImageAdded(bytes) : QString());
+        m_problem->setProblem(QString());
+        if (!delegate())
+            return;
+        delegate()->displayUserImageAdded(bytes, [panel = QPointer(this)](const QString &problem) {
+            if (panel)
+                panel->m_problem->setProblem(problem);
+        });
     };
 }
 

@@ -49,6 +49,7 @@ ColorChooser::ColorChooser(QWidget *parent)
     , m_field(new SaturationField(this))
     , m_hue(new HueBar(this))
     , m_digits(new LineField(this))
+    , m_digitsRow(new QHBoxLayout)
 {
     m_digits->setObjectName(QStringLiteral("colorDigits"));
     m_digits->setAccessibleName(tr("Color Code"));
@@ -58,7 +59,6 @@ ColorChooser::ColorChooser(QWidget *parent)
     column->setSpacing(spacing::k8);
     column->addWidget(m_field);
     column->addWidget(m_hue);
-    m_digitsRow = new QHBoxLayout;
     m_digitsRow->setSpacing(spacing::k12);
     m_digitsRow->addWidget(m_digits);
     m_digitsRow->addStretch();

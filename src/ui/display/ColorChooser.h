@@ -43,7 +43,7 @@ private:
     SaturationField *m_field;
     HueBar *m_hue;
     LineField *m_digits;
-    QHBoxLayout *m_digitsRow = nullptr;
+    QHBoxLayout *m_digitsRow;
 };
 
 } // namespace lorva

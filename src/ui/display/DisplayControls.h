@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -23,6 +24,10 @@ struct DisplayControlsState
     std::optional<QImage> logoImage;
     /// Background images that the user added: their file names in the support folder.
     QStringList userImages;
+    /// Where those are; null: the user has none.
+    std::shared_ptr<const BackgroundImageStore> imageStore;
+    /// The user's image that is shown, small; null while none is.
+    QImage userThumbnail;
 
     bool operator==(const DisplayControlsState &) const = default;
 };
@@ -42,14 +47,14 @@ public:
     virtual void displayBackgroundImageChosen(const QString &id) = 0;
     /// One of the user's; the mode becomes image.
     virtual void displayUserImageChosen(const QString &filename) = 0;
-    /// The bytes of an image file that the user wants as a background. `problem`: what to say when
-    /// it cannot be one; empty when it was taken.
-    virtual QString displayUserImageAdded(const QByteArray &bytes) = 0;
+    /// What to say of an image that cannot be taken; empty when it was. Told later, on this thread.
+    using Answer = std::function<void(const QString &problem)>;
+    /// The bytes of an image file that the user wants as a background.
+    virtual void displayUserImageAdded(const QByteArray &bytes, Answer answer) = 0;
     virtual void displayUserImageRemoved(const QString &filename) = 0;
     virtual void displayImageForegroundChanged(const QString &hex) = 0;
-    /// The bytes of an image file; empty: no logo. Gives what to say when it cannot be one, else an
-    /// empty text.
-    virtual QString displayLogoChosen(const QByteArray &bytes) = 0;
+    /// The bytes of an image file; empty: no logo.
+    virtual void displayLogoChosen(const QByteArray &bytes, Answer answer) = 0;
     virtual void displayLogoSizeRatioChanged(double ratio) = 0;
     virtual void displayLogoSpacingChanged(double spacing) = 0;
     virtual void displayLogoVisibilityChanged(bool isVisible) = 0;

@@ -51,9 +51,8 @@ QString words(ErrorKind kind, const QString &name)
     }
 }
 
-QByteArray pictureBytes(const QMimeData &data)
+QByteArray pngOf(const QImage &picture)
 {
-    const auto picture = qvariant_cast<QImage>(data.imageData());
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -108,10 +107,24 @@ void ImageIntake::take(const QMimeData &data)
         read(*file);
         return;
     }
-    if (const QByteArray bytes = pictureBytes(data); !bytes.isEmpty() && onBytes)
-        onBytes(bytes);
+    const auto picture = qvariant_cast<QImage>(data.imageData());
+    if (!picture.isNull())
+        encode(picture);
     else if (onProblem)
         onProblem(tr("What was dropped is no picture"));
+}
+
+/// A dropped photograph takes seconds to be packed.
+void ImageIntake::encode(const QImage &picture)
+{
+    const unsigned generation = ++m_generation;
+    runThen(
+        *QThreadPool::globalInstance(), this,
+        [picture](const std::stop_token &) { return pngOf(picture); },
+        [this, generation](const QByteArray &bytes) {
+            if (generation == m_generation && onBytes)
+                onBytes(bytes);
+        });
 }
 
 void ImageIntake::read(const FilePath &file)

@@ -10,6 +10,7 @@
 
 #include <functional>
 
+class QImage;
 class QMimeData;
 class QWidget;
 
@@ -39,6 +40,7 @@ public:
 
 private:
     void read(const FilePath &file);
+    void encode(const QImage &picture);
 
     const qsizetype m_mostBytes;
     QWidget *const m_host;

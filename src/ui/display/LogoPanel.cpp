@@ -17,6 +17,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -297,7 +298,13 @@ void LogoPanel::connectIntake()
 
 void LogoPanel::choose(const QByteArray &bytes)
 {
-    m_problem->setProblem(delegate() ? delegate()->displayLogoChosen(bytes) : QString());
+    m_problem->setProblem(QString());
+    if (!delegate())
+        return;
+    delegate()->displayLogoChosen(bytes, [panel = QPointer(this)](const QString &problem) {
+        if (panel)
+            panel->m_problem->setProblem(problem);
+    });
 }
 
 void LogoPanel::apply(const DisplayControlsState &state)

@@ -9,6 +9,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QPaintEvent>
 
 #include <cmath>
 
@@ -18,6 +19,9 @@ namespace {
 
 /// Photographs need not be read larger than this to cover any screen.
 constexpr int kMostReadSidePx = 8192;
+
+/// Of the chip in the bar, on a threefold screen.
+constexpr int kThumbnailPx = 54;
 
 QImage makeImage(const LorvaWindowBackgroundView::Ground &ground, const BackgroundImageStore *store,
                  QSize sizePx)
@@ -71,6 +75,7 @@ void LorvaWindowBackgroundView::apply(const Ground &ground)
         m_run.cancel();
         m_isRunning = false;
         m_image = {};
+        m_userThumbnail = {};
         m_askedSizePx = {};
         m_interim = interimColor();
         requestImage();
@@ -132,6 +137,10 @@ void LorvaWindowBackgroundView::takeImage(unsigned generation, QSize sizePx, con
     m_isRunning = false;
     if (sizePx == m_askedSizePx)
         m_image = image;
+    if (m_ground.userFilename && m_userThumbnail.isNull() && !image.isNull())
+        m_userThumbnail = coveringImage(image, {kThumbnailPx, kThumbnailPx});
+    if (onImageChanged)
+        onImageChanged();
     // The window may have got another size meanwhile.
     requestImage();
     update();

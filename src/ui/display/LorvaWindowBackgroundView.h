@@ -10,6 +10,7 @@
 #include <QThreadPool>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -41,6 +42,10 @@ public:
         bool operator==(const Ground &) const = default;
     };
     void apply(const Ground &ground);
+    /// The middle of the user's image that is shown, small; null while there is none.
+    const QImage &userThumbnail() const { return m_userThumbnail; }
+    /// Another image is there, or none.
+    std::function<void()> onImageChanged;
     /// The image is on its way.
     bool isWaiting() const { return m_isRunning; }
 
@@ -60,6 +65,7 @@ private:
     Ground m_ground;
     QColor m_interim;
     QImage m_image;
+    QImage m_userThumbnail;
     /// What was asked for last, whether it could be had or not.
     QSize m_askedSizePx;
     unsigned m_generation = 0;

@@ -9,6 +9,7 @@
 #include "ui/style/TextButton.h"
 
 #include <QCoreApplication>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>

@@ -5,6 +5,7 @@
 
 #include "ui/sheets/SheetText.h"
 #include "ui/style/Palette.h"
+#include "ui/style/Popover.h"
 #include "ui/style/ReducedMotion.h"
 #include "ui/style/Style.h"
 #include "ui/style/TextButton.h"
@@ -138,6 +139,9 @@ void SheetOverlay::addButtons(const Alert &alert)
 
 void SheetOverlay::present()
 {
+    // What they hang from has the focus again then, and gets it back from here.
+    for (Popover *popover : window()->findChildren<Popover *>(Qt::FindDirectChildrenOnly))
+        popover->close();
     m_focusBefore = window()->focusWidget();
     layOut();
     const bool isAnimated = !prefersReducedMotion(this);

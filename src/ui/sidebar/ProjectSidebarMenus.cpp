@@ -8,24 +8,9 @@
 #include "ui/sidebar/SidebarOutlineView.h"
 #include "ui/style/MenuLook.h"
 
-#include <QFontMetrics>
 #include <QMenu>
 
 namespace lorva {
-
-namespace {
-
-constexpr int kWidestEntry = 320;
-
-/// A name as an entry of a menu: in one line, its ampersands shown.
-QString entryText(const QMenu &menu, const QString &name)
-{
-    const QString line =
-        menu.fontMetrics().elidedText(sidebarLineOf(name), Qt::ElideRight, kWidestEntry);
-    return QString(line).replace(u'&', QStringLiteral("&&"));
-}
-
-} // namespace
 
 void ProjectSidebarViewController::showMenu(const QModelIndex &index, const QPoint &globalPosition)
 {
@@ -95,7 +80,7 @@ void ProjectSidebarViewController::addHiddenFoundries(QMenu &menu)
     auto *hidden = new QMenu(tr("Hidden Foundries"), &menu);
     hidden->setObjectName(QStringLiteral("SidebarHiddenFoundries"));
     for (const FoundryCollectionRecord &foundry : m_state.dismissedFoundries)
-        hidden->addAction(entryText(*hidden, foundry.name), this,
+        hidden->addAction(menuEntryText(foundry.name), this,
                           [this, id = foundry.id] { m_delegate->sidebarFoundryBroughtBack(id); });
     applyMenuLook(*hidden);
     menu.addMenu(hidden);

@@ -6,6 +6,7 @@
 #include "ui/FontFamilyPasteboard.h"
 
 #include <QDragEnterEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTreeView>
 
@@ -21,6 +22,12 @@ constexpr std::chrono::milliseconds kScrollEvery{16};
 /// How near to an edge the outline begins to scroll, and the most that it scrolls at once.
 constexpr int kEdge = 32;
 constexpr int kFastestStep = 12;
+
+/// Without reading them: a drag of the whole library moves with the pointer.
+bool carriesFamilies(const QDropEvent &event)
+{
+    return event.mimeData()->hasFormat(QLatin1String(kFontFamilyNamesMimeType));
+}
 
 } // namespace
 
@@ -39,14 +46,14 @@ void SidebarDropTracker::enter(QDragEnterEvent &event)
 {
     // Accepted wherever it enters: a drag that is refused here would never be told of again.
     event.setDropAction(Qt::CopyAction);
-    event.setAccepted(!fontFamilyNames(*event.mimeData()).isEmpty());
+    event.setAccepted(carriesFamilies(event));
     if (event.isAccepted())
         follow(event.position().toPoint());
 }
 
 void SidebarDropTracker::move(QDragMoveEvent &event)
 {
-    if (fontFamilyNames(*event.mimeData()).isEmpty()) {
+    if (!carriesFamilies(event)) {
         event.ignore();
         return;
     }

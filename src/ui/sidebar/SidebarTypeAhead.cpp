@@ -32,6 +32,9 @@ qsizetype SidebarTypeAhead::find(const QString &typed, const QStringList &labels
     if (typed.isEmpty() || labels.isEmpty())
         return -1;
     QString wanted = foldedForSearch(m_typed);
+    // An accent on its own folds to nothing, with which every label begins.
+    if (wanted.isEmpty())
+        return -1;
     const bool goesOn = isOneKeyRepeated(wanted);
     if (goesOn)
         wanted.truncate(1);

@@ -5,12 +5,17 @@
 #include "ui/style/MenuStyle.h"
 #include "ui/style/Style.h"
 
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QMenu>
 
 namespace lorva {
 
 namespace {
+
+constexpr int kWidestEntry = 320;
+/// Beyond it nothing would be seen anyway; a font may bring names of 64 kilobytes.
+constexpr qsizetype kLongestEntry = 300;
 
 bool hasTranslucentWindows()
 {
@@ -33,6 +38,14 @@ QMenu *makeMenu(QWidget *parent)
     auto *menu = new QMenu(parent);
     applyMenuLook(*menu);
     return menu;
+}
+
+QString menuEntryText(const QString &name)
+{
+    const QFontMetrics metrics(interfaceFont(InterfaceSize::body));
+    const QString line = name.left(kLongestEntry).simplified();
+    return metrics.elidedText(line, Qt::ElideRight, kWidestEntry)
+        .replace(u'&', QStringLiteral("&&"));
 }
 
 void applyMenuLook(QMenu &menu)

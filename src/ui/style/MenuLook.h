@@ -13,4 +13,7 @@ QMenu *makeMenu(QWidget *parent);
 /// Gives the look to a menu that exists, submenus included.
 void applyMenuLook(QMenu &menu);
 
+/// A name as the text of an entry: in one line of bounded width, its ampersands shown.
+QString menuEntryText(const QString &name);
+
 } // namespace lorva

@@ -37,6 +37,12 @@ NeutralColors colors()
     return neutralColors(isDarkDesktop());
 }
 
+/// Of shortcuts and arrows, which are read as well.
+QColor quietInk()
+{
+    return quietColor(colors().text, colors().ground, kShortcutAlpha);
+}
+
 int markRoom(const QStyleOptionMenuItem &item)
 {
     return item.menuHasCheckableItems ? kMarkWidth : 0;
@@ -66,8 +72,7 @@ void drawSubmenuArrow(QPainter &painter, const QRect &row, Qt::LayoutDirection d
     chevron.lineTo(isMirrored ? box.left() : box.right(), box.center().y());
     chevron.lineTo(isMirrored ? box.right() : box.left(), box.bottom() - 0.5);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(withAlpha(colors().text, kShortcutAlpha), 1.3, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
+    painter.setPen(QPen(quietInk(), 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(chevron);
 }
 
@@ -207,7 +212,7 @@ void MenuStyle::drawText(const QStyleOptionMenuItem &item, QPainter &painter, co
     painter.drawText(room, int(leading) | Qt::TextSingleLine | mnemonic, label);
     if (tab < 0)
         return;
-    painter.setPen(withAlpha(painter.pen().color(), kShortcutAlpha));
+    painter.setPen(withAlpha(quietInk(), item.state & State_Enabled ? 1.0 : kDisabledAlpha));
     painter.drawText(room, int(trailing) | Qt::TextSingleLine, item.text.mid(tab + 1));
 }
 

@@ -135,10 +135,11 @@ QColor quietColor(const QColor &ink, const QColor &ground, double alpha)
 
 QColor hairlineColor(const QColor &foreground, const QColor &background)
 {
-    const bool isOpaque = background.alpha() == 255;
-    if (isOpaque && smallestChannel(background) >= kNearWhite)
+    if (background.alpha() < 255)
+        return withAlpha(foreground, kLineOnColor);
+    if (smallestChannel(background) >= kNearWhite)
         return withAlpha(Qt::black, kLineOnWhite);
-    if (isOpaque && largestChannel(background) <= kNearBlack)
+    if (largestChannel(background) <= kNearBlack)
         return withAlpha(Qt::white, kLineOnBlack);
     return withAlpha(seenColor(foreground, background, kLineContrast), kLineOnColor);
 }

@@ -45,7 +45,7 @@ QColor controlColor(const QColor &foreground, const QColor &background);
 QColor quietColor(const QColor &ink, const QColor &ground, double alpha);
 
 /// Lines between cards: 8.5 % of black on a white ground, 13 % of white on a black one, 20 % of the
-/// foreground on a colour.
+/// foreground on a colour, and where an image shows through.
 QColor hairlineColor(const QColor &foreground, const QColor &background);
 
 } // namespace lorva
