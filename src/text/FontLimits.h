@@ -48,8 +48,8 @@ constexpr qint64 kMaxFvarBytes = qint64(2) << 20;
 /// Table bytes of faces that nobody is drawing with just now. A Latin face takes 0.1 to 0.5 MB, a
 /// CJK one up to 20: this keeps a screenful of either warm.
 constexpr qint64 kWarmTableBytes = qint64(48) << 20;
-/// And so many of them: three screens of small fonts, whose tables weigh less than what HarfBuzz builds
-/// over them.
+/// And so many of them: three screens of small fonts, whose tables weigh less than what HarfBuzz
+/// builds over them.
 constexpr size_t kWarmFaces = 160;
 
 /// A specimen is a line or a paragraph, never a book: shaping and breaking stay within

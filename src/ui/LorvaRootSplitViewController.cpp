@@ -52,14 +52,15 @@ LorvaRootSplitViewController::LorvaRootSplitViewController(
     m_background->onImageChanged = [this] { scheduleRender(); };
     m_model.onChange = [this] { scheduleRender(); };
     m_browserActions.readUserImages();
-    setTabOrder(m_sidebar, m_footer);
-    setTabOrder(m_footer, m_browser);
     render();
 }
 
 LorvaRootSplitViewController::~LorvaRootSplitViewController()
 {
     m_model.onChange = nullptr;
+    // They report to members that go before the children do.
+    delete m_browser;
+    delete m_sidebar;
 }
 
 FontBrowserState LorvaRootSplitViewController::browserState() const

@@ -251,7 +251,10 @@ void FontCardContentView::paintTexts(QPainter &painter) const
     painter.setPen(withAlpha(m_configuration.foregroundColor, kTextAlpha));
     const QStringList title = linesOf(titleText(), titleFont(), room.width(), titleLines());
     const double used = drawLines(painter, title, titleFont(), room) + spacing::k2;
-    drawLines(painter, linesOf(subtitleText(), subtitleFont(), room.width(), 1), subtitleFont(),
+    // Isolated, so that its number stays in front of its word in a window that reads from the
+    // right.
+    const QString subtitle = QChar(0x2068) + subtitleText() + QChar(0x2069);
+    drawLines(painter, linesOf(subtitle, subtitleFont(), room.width(), 1), subtitleFont(),
               room.adjusted(0, used, 0, 0));
 }
 

@@ -12,7 +12,7 @@ namespace lorva {
 namespace {
 
 /// Stored as it came up to here, so that a drawing stays a drawing.
-constexpr qsizetype kMaximumStoredBytes = 512 * 1024;
+constexpr qsizetype kMaximumStoredBytes = qsizetype(512) * 1024;
 
 } // namespace
 

@@ -36,7 +36,7 @@ void ProjectSidebarViewController::showMenu(const QModelIndex &index, const QPoi
 
 void ProjectSidebarViewController::fillMenu(QMenu &menu, const SidebarItem &item)
 {
-    const QString id = item.id();
+    const QString &id = item.id();
     switch (item.kind()) {
     case SidebarItem::Kind::collection:
         menu.addAction(tr("Rename Collection…"), this, [this, item] { beginRenaming(item); });

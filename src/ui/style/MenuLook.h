@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 class QMenu;
 class QWidget;
 

@@ -116,7 +116,8 @@ Popover::Popover(QWidget *content, QWidget *anchor)
 Popover::~Popover()
 {
     m_isClosed = true;
-    // Our parts tell of their end while we are half gone already.
+    // Our parts tell of their end, and of the focus that they lose, while we are half gone already.
+    qApp->disconnect(this);
     for (QObject *part : {m_content.data(), m_anchor.data()}) {
         if (part)
             part->disconnect(this);

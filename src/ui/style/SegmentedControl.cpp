@@ -101,10 +101,7 @@ protected:
     }
 
 private:
-    static QFont textFont()
-    {
-        return interfaceFont(InterfaceSize::label, InterfaceWeight::medium);
-    }
+    static QFont textFont() { return interfaceFont(InterfaceSize::label, InterfaceWeight::medium); }
 
     void paintText(QPainter &painter, const QColor &color) const
     {
