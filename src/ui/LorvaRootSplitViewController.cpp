@@ -27,7 +27,8 @@ constexpr int kSidebarWidth = ProjectSidebarViewController::kWidth;
 } // namespace
 
 LorvaRootSplitViewController::LorvaRootSplitViewController(
-    LorvaAppModel &model, std::shared_ptr<const BackgroundImageStore> images, QWidget *parent)
+    LorvaAppModel &model, const std::shared_ptr<const BackgroundImageStore> &images,
+    QWidget *parent)
     : QWidget(parent)
     , m_model(model)
     , m_browserActions(model, images)

@@ -29,7 +29,7 @@ class LorvaRootSplitViewController final : public QWidget
 public:
     /// `images` may be null: the user has no background images.
     explicit LorvaRootSplitViewController(
-        LorvaAppModel &model, std::shared_ptr<const BackgroundImageStore> images = nullptr,
+        LorvaAppModel &model, const std::shared_ptr<const BackgroundImageStore> &images = nullptr,
         QWidget *parent = nullptr);
     ~LorvaRootSplitViewController() override;
 
