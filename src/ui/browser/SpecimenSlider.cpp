@@ -43,7 +43,7 @@ SpecimenSlider::SpecimenSlider(Kind kind, QWidget *parent)
 
 void SpecimenSlider::setUpSlider()
 {
-    const DisplayValues defaults;
+    static const DisplayValues defaults;
     if (m_kind == Kind::size) {
         m_slider->setObjectName(QStringLiteral("pointSizeSlider"));
         m_slider->setAccessibleName(tr("Specimen size"));
