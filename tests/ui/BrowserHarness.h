@@ -41,35 +41,18 @@ public:
     void prewarm(std::vector<PrewarmFace>, double) override { }
 };
 
-/// Notes what the user did.
-class RecordingBrowserDelegate : public FontBrowserDelegate
+/// Hears everything, and does nothing about it.
+class SilentBrowserDelegate : public FontBrowserDelegate
 {
 public:
-    QStringList log;
-
-    void browserSelectionChanged(const std::optional<QString> &name) override
-    {
-        log.append(QStringLiteral("selected %1").arg(name.value_or(QStringLiteral("-"))));
-    }
-    void browserOpenDetail(const QString &name) override
-    {
-        log.append(QStringLiteral("open %1").arg(name));
-    }
+    void browserSelectionChanged(const std::optional<QString> &) override { }
+    void browserOpenDetail(const QString &) override { }
     void browserViewModeChanged(ViewMode) override { }
     void browserSearchTextChanged(const QString &) override { }
-    void browserStyleChosen(const QStringList &names, const std::optional<QString> &id) override
-    {
-        note("style", names, id.value_or(QStringLiteral("-")));
-    }
-    void browserCollectionToggled(const QStringList &names, const QString &id) override
-    {
-        note("collection", names, id);
-    }
-    void browserFoundryChosen(const QStringList &names, const QString &id) override
-    {
-        note("foundry", names, id);
-    }
-    void browserWatchFolderWanted() override { log.append(QStringLiteral("watch")); }
+    void browserStyleChosen(const QStringList &, const std::optional<QString> &) override { }
+    void browserCollectionToggled(const QStringList &, const QString &) override { }
+    void browserFoundryChosen(const QStringList &, const QString &) override { }
+    void browserWatchFolderWanted() override { }
     void displayPointSizeChanged(double) override { }
     void displayFontWeightChanged(int) override { }
     void displayColorModeChanged(ColorMode) override { }
@@ -84,12 +67,42 @@ public:
     void displayLogoSizeRatioChanged(double) override { }
     void displayLogoSpacingChanged(double) override { }
     void displayLogoVisibilityChanged(bool) override { }
+    void displaySampleTextChanged(const QString &) override { }
+    void displayReset() override { }
+    void displayHoldChanged(bool) override { }
+};
+
+/// Notes what the user did.
+class RecordingBrowserDelegate : public SilentBrowserDelegate
+{
+public:
+    QStringList log;
+
+    void browserSelectionChanged(const std::optional<QString> &name) override
+    {
+        log.append(QStringLiteral("selected %1").arg(name.value_or(QStringLiteral("-"))));
+    }
+    void browserOpenDetail(const QString &name) override
+    {
+        log.append(QStringLiteral("open %1").arg(name));
+    }
+    void browserStyleChosen(const QStringList &names, const std::optional<QString> &id) override
+    {
+        note("style", names, id.value_or(QStringLiteral("-")));
+    }
+    void browserCollectionToggled(const QStringList &names, const QString &id) override
+    {
+        note("collection", names, id);
+    }
+    void browserFoundryChosen(const QStringList &names, const QString &id) override
+    {
+        note("foundry", names, id);
+    }
+    void browserWatchFolderWanted() override { log.append(QStringLiteral("watch")); }
     void displaySampleTextChanged(const QString &text) override
     {
         log.append(QStringLiteral("sample %1").arg(text));
     }
-    void displayReset() override { }
-    void displayHoldChanged(bool) override { }
 
 private:
     void note(const char *what, const QStringList &names, const QString &id)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "BrowserHarness.h"
 #include "support/Waiting.h"
 #include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/TopBarLayout.h"
@@ -69,41 +70,23 @@ TEST(TopBarLayoutTest, absurdWidthsStayInOrder)
 }
 
 /// Writes down what the bar tells.
-class Recorder final : public FontBrowserDelegate
+class Recorder final : public test::SilentBrowserDelegate
 {
 public:
     QStringList told;
 
-    void browserSelectionChanged(const std::optional<QString> &) override { }
-    void browserOpenDetail(const QString &) override { }
     void browserViewModeChanged(ViewMode mode) override { tell("view", int(mode)); }
     void browserSearchTextChanged(const QString &text) override
     {
         told.append(QLatin1String("search ") + text);
     }
-    void browserStyleChosen(const QStringList &, const std::optional<QString> &) override { }
-    void browserCollectionToggled(const QStringList &, const QString &) override { }
-    void browserFoundryChosen(const QStringList &, const QString &) override { }
-    void browserWatchFolderWanted() override { }
     void displayPointSizeChanged(double pointSize) override { tell("size", int(pointSize)); }
     void displayFontWeightChanged(int weight) override { tell("weight", weight); }
     void displayColorModeChanged(ColorMode mode) override { tell("mode", int(mode)); }
-    void displayCustomForegroundChanged(const QString &) override { }
     void displayCustomBackgroundChanged(const QString &hex) override
     {
         told.append(QLatin1String("ground ") + hex);
     }
-    void displayBackgroundImageChosen(const QString &) override { }
-    void displayUserImageChosen(const QString &) override { }
-    void displayUserImageAdded(const QByteArray &, Answer) override { }
-    void displayUserImageRemoved(const QString &) override { }
-    void displayImageForegroundChanged(const QString &) override { }
-    void displayLogoChosen(const QByteArray &, Answer) override { }
-    void displayLogoSizeRatioChanged(double) override { }
-    void displayLogoSpacingChanged(double) override { }
-    void displayLogoVisibilityChanged(bool) override { }
-    void displaySampleTextChanged(const QString &) override { }
-    void displayReset() override { }
     void displayHoldChanged(bool isHeld) override { tell("hold", isHeld); }
 
     QStringList take() { return std::exchange(told, {}); }

@@ -7,7 +7,6 @@
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
-#include <QFocusEvent>
 #include <QPainter>
 
 namespace lorva {
@@ -23,7 +22,7 @@ constexpr double kPressedAlpha = 0.2;
 } // namespace
 
 PaneButton::PaneButton(const QString &text, QWidget *parent)
-    : QPushButton(text, parent)
+    : FocusRinged(text, parent)
 {
     setFont(interfaceFont(InterfaceSize::body, InterfaceWeight::medium));
     setAttribute(Qt::WA_Hover);
@@ -41,12 +40,6 @@ QSize PaneButton::sizeHint() const
     return {fontMetrics().horizontalAdvance(text()) + 2 * spacing::k16, kHeight};
 }
 
-void PaneButton::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QPushButton::focusInEvent(event);
-}
-
 void PaneButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -59,7 +52,7 @@ void PaneButton::paintEvent(QPaintEvent *)
     painter.setFont(font());
     painter.setPen(ink);
     painter.drawText(rect(), Qt::AlignCenter, text());
-    if (hasFocus() && m_showsFocus)
+    if (hasFocusRing())
         drawFocusRing(painter, QRectF(rect()).adjusted(2, 2, -2, -2), kRadius - 2);
 }
 

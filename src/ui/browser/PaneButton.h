@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QColor>
 #include <QPushButton>
 
 namespace lorva {
 
 /// A push button in the colours of the pane, seen on any of them. Thread: main.
-class PaneButton final : public QPushButton
+class PaneButton final : public FocusRinged<QPushButton>
 {
     Q_OBJECT
 public:
@@ -19,12 +21,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QColor m_foreground = Qt::black;
     QColor m_background = Qt::white;
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva

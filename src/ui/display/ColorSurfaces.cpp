@@ -86,7 +86,7 @@ Hsv Hsv::from(const QColor &color, const Hsv &former)
 }
 
 ColorSurface::ColorSurface(const QString &name, QSize size, QWidget *parent)
-    : QWidget(parent)
+    : FocusRinged(parent)
 {
     [[maybe_unused]] static const bool once = (QAccessible::installFactory(makeAccessible), true);
     setFixedSize(size);
@@ -186,12 +186,6 @@ void ColorSurface::keyPressEvent(QKeyEvent *event)
     choose(hsvAt(clampedPlace(next)));
 }
 
-void ColorSurface::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    update();
-}
-
 void ColorSurface::focusOutEvent(QFocusEvent *)
 {
     update();
@@ -235,7 +229,7 @@ void ColorSurface::paintKnob(QPainter &painter) const
     const Hsv pure{m_hsv.hue, 1, 1};
     painter.setBrush(isBar() ? pure.color() : m_hsv.color());
     painter.drawEllipse(knob.adjusted(2.5, 2.5, -2.5, -2.5));
-    if (hasFocus() && m_showsFocus)
+    if (hasFocusRing())
         drawFocusRing(painter, knob.adjusted(1, 1, -1, -1), kKnob / 2 - 1);
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QColor>
 #include <QImage>
 #include <QWidget>
@@ -22,7 +24,7 @@ struct Hsv
 
 /// A surface of colours on which a point is chosen by pointer or arrow keys: a slider to assistive
 /// technology. Thread: main.
-class ColorSurface : public QWidget
+class ColorSurface : public FocusRinged<QWidget>
 {
     Q_OBJECT
 public:
@@ -58,7 +60,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
@@ -71,7 +72,6 @@ private:
     Hsv m_hsv;
     QImage m_surface;
     bool m_isHeld = false;
-    bool m_showsFocus = false;
 };
 
 /// Saturation from left to right, brightness upwards, of one hue.

@@ -28,7 +28,7 @@ constexpr int kPlusSize = 16;
 } // namespace
 
 ImageThumbnail::ImageThumbnail(Kind kind, const QString &id, const QString &name, QWidget *parent)
-    : QAbstractButton(parent)
+    : FocusRinged(parent)
     , m_kind(kind)
     , m_id(id)
 {
@@ -53,12 +53,6 @@ void ImageThumbnail::setImage(const QImage &image)
 QSize ImageThumbnail::sizeHint() const
 {
     return kImageSize + QSize(2 * kRoom, 2 * kRoom);
-}
-
-void ImageThumbnail::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QAbstractButton::focusInEvent(event);
 }
 
 void ImageThumbnail::keyPressEvent(QKeyEvent *event)
@@ -97,7 +91,7 @@ void ImageThumbnail::paintEvent(QPaintEvent *)
         painter.setPen(QPen(withAlpha(neutral.text, 0.85), kRingWidth));
         painter.drawRoundedRect(box.adjusted(-3, -3, 3, 3), kRadius + 3, kRadius + 3);
     }
-    if (hasFocus() && m_showsFocus)
+    if (hasFocusRing())
         drawFocusRing(painter, box, kRadius);
 }
 

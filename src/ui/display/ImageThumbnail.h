@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QAbstractButton>
 #include <QImage>
 
@@ -9,7 +11,7 @@ namespace lorva {
 
 /// A background to choose, or the tile that adds one: 72 by 48 points with room for the ring around
 /// the chosen one. A radio button to assistive technology; the adding one a button. Thread: main.
-class ImageThumbnail final : public QAbstractButton
+class ImageThumbnail final : public FocusRinged<QAbstractButton>
 {
     Q_OBJECT
 public:
@@ -33,7 +35,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     void paintTile(QPainter &painter, const QRectF &box);
@@ -42,7 +43,6 @@ private:
     const Kind m_kind;
     const QString m_id;
     QImage m_image;
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva

@@ -4,6 +4,7 @@
 #include "ui/display/ImageIntake.h"
 #include "ui/display/PanelParts.h"
 #include "ui/style/ControlColors.h"
+#include "ui/style/FocusRinged.h"
 #include "ui/style/PointSlider.h"
 #include "ui/style/Style.h"
 #include "ui/style/TextButton.h"
@@ -61,13 +62,13 @@ SpecimenColors specimenColors(const DisplayValues &values)
 }
 
 /// The logo as specimens show it; without one, the invitation to bring one.
-class LogoTile final : public QAbstractButton
+class LogoTile final : public FocusRinged<QAbstractButton>
 {
     Q_DECLARE_TR_FUNCTIONS(LogoTile)
 
 public:
     explicit LogoTile(QWidget *parent)
-        : QAbstractButton(parent)
+        : FocusRinged(parent)
     {
         setObjectName(QStringLiteral("logoTile"));
         setFixedSize(kPanelContentWidth, kTileHeight);
@@ -92,12 +93,6 @@ public:
     }
 
 protected:
-    void focusInEvent(QFocusEvent *event) override
-    {
-        m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-        QAbstractButton::focusInEvent(event);
-    }
-
     void keyPressEvent(QKeyEvent *event) override
     {
         if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -121,7 +116,7 @@ protected:
             paintInvitation(painter, neutral);
         else
             paintLogo(painter);
-        if (hasFocus() && m_showsFocus)
+        if (hasFocusRing())
             drawFocusRing(painter, box.adjusted(1.5, 1.5, -1.5, -1.5), kTileRadius - 2);
     }
 
@@ -156,7 +151,6 @@ private:
     QImage m_logo;
     SpecimenColors m_colors;
     bool m_isDropTarget = false;
-    bool m_showsFocus = false;
 };
 
 class LogoPanel final : public NeutralPanel

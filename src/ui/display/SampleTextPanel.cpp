@@ -3,13 +3,13 @@
 #include "ui/display/PanelParts.h"
 #include "ui/display/SampleTexts.h"
 #include "ui/style/ControlColors.h"
+#include "ui/style/FocusRinged.h"
 #include "ui/style/LineField.h"
 #include "ui/style/Style.h"
 #include "ui/style/SymbolImage.h"
 #include "ui/style/TextButton.h"
 
 #include <QCoreApplication>
-#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QStyle>
@@ -28,11 +28,11 @@ constexpr int kListHeight = 296;
 constexpr int kMostTyped = 2000;
 
 /// A text to choose, in the interface's type, with a check mark when it is the present one.
-class SampleRow final : public QAbstractButton
+class SampleRow final : public FocusRinged<QAbstractButton>
 {
 public:
     SampleRow(const QString &text, QWidget *parent)
-        : QAbstractButton(parent)
+        : FocusRinged(parent)
     {
         setText(text);
         setAccessibleName(text);
@@ -47,12 +47,6 @@ public:
     QSize sizeHint() const override { return {kPanelContentWidth, kRowHeight}; }
 
 protected:
-    void focusInEvent(QFocusEvent *event) override
-    {
-        m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-        QAbstractButton::focusInEvent(event);
-    }
-
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
@@ -60,7 +54,7 @@ protected:
         const NeutralColors neutral = neutralColors(isDarkDesktop());
         if (underMouse())
             drawHover(painter, rect(), kRowRadius, neutral.text, isDown());
-        if (hasFocus() && m_showsFocus)
+        if (hasFocusRing())
             drawFocusRing(painter, QRectF(rect()).adjusted(2, 2, -2, -2), kRowRadius - 2);
         const QRect inner = rect().adjusted(spacing::k8, 0, -spacing::k8, 0);
         painter.setFont(interfaceFont(InterfaceSize::body));
@@ -83,8 +77,6 @@ private:
             QStyle::visualRect(layoutDirection(), rect(), place).topLeft(),
             symbolImage(QStringLiteral("checkmark"), kCheckSize, ink, devicePixelRatioF()));
     }
-
-    bool m_showsFocus = false;
 };
 
 class SampleTextPanel final : public NeutralPanel

@@ -5,7 +5,6 @@
 #include "ui/style/ControlColors.h"
 #include "ui/style/Palette.h"
 
-#include <QFocusEvent>
 #include <QPainterPath>
 
 namespace lorva {
@@ -24,7 +23,7 @@ constexpr double kDisabledOpacity = 0.4;
 } // namespace
 
 ColorChip::ColorChip(const QString &label, QWidget *parent)
-    : QAbstractButton(parent)
+    : FocusRinged(parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setCheckable(true);
@@ -62,12 +61,6 @@ QSize ColorChip::sizeHint() const
     return QSize(kSide, kSide);
 }
 
-void ColorChip::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QAbstractButton::focusInEvent(event);
-}
-
 void ColorChip::paintEvent(QPaintEvent *)
 {
     const ControlColors colors = ControlColors::from(m_foreground, m_background);
@@ -87,7 +80,7 @@ void ColorChip::paintEvent(QPaintEvent *)
     }
     constexpr double outset = kRingGap + kRingWidth / 2;
     const QRectF ring = disc.adjusted(-outset, -outset, outset, outset);
-    if (hasFocus() && m_showsFocus) {
+    if (hasFocusRing()) {
         drawFocusRing(painter, disc.adjusted(-kRingGap, -kRingGap, kRingGap, kRingGap),
                       kDisc / 2 + kRingGap);
     } else if (isChecked() || isDown() || (underMouse() && isEnabled())) {

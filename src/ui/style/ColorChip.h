@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QAbstractButton>
 #include <QColor>
 #include <QImage>
@@ -12,7 +14,7 @@ namespace lorva {
 /// A round chip of 18 points that stands for a ground: one colour, two (halves), or an image. The
 /// chosen one has a two-point ring, two points off. On any pane colour its edge stays visible.
 /// Thread: main.
-class ColorChip final : public QAbstractButton
+class ColorChip final : public FocusRinged<QAbstractButton>
 {
     Q_OBJECT
 public:
@@ -30,7 +32,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     void paintDisc(QPainter &painter, const QRectF &disc) const;
@@ -40,7 +41,6 @@ private:
     QImage m_image;
     QColor m_foreground = Qt::black;
     QColor m_background = Qt::white;
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva

@@ -7,7 +7,6 @@
 #include "ui/style/Palette.h"
 #include "ui/style/SymbolImage.h"
 
-#include <QFocusEvent>
 #include <QPainter>
 
 namespace lorva {
@@ -26,7 +25,7 @@ constexpr double kDot = 5;
 } // namespace
 
 IconButton::IconButton(QString symbol, const QString &label, QWidget *parent)
-    : QAbstractButton(parent)
+    : FocusRinged(parent)
     , m_symbol(std::move(symbol))
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -61,12 +60,6 @@ QSize IconButton::sizeHint() const
     return QSize(kSide, kSide);
 }
 
-void IconButton::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QAbstractButton::focusInEvent(event);
-}
-
 void IconButton::paintEvent(QPaintEvent *)
 {
     const ControlColors colors = ControlColors::from(m_foreground, m_background);
@@ -78,7 +71,7 @@ void IconButton::paintEvent(QPaintEvent *)
     const QRectF box = QRectF(rect()).adjusted(kInset, kInset, -kInset, -kInset);
     if (isEnabled() && (underMouse() || isDown() || isChecked()))
         drawHover(painter, box, kRadius - kInset / 2, colors.ink, isDown() || isChecked());
-    if (hasFocus() && m_showsFocus)
+    if (hasFocusRing())
         drawFocusRing(painter, box, kRadius - kInset / 2);
     const QRectF symbol((width() - kSymbolSize) / 2, (height() - kSymbolSize) / 2, kSymbolSize,
                         kSymbolSize);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QAbstractButton>
 #include <QColor>
 
@@ -10,7 +12,7 @@ namespace lorva {
 /// A symbol of 16 points that can be pressed, 28 square, on any foreground and background colour:
 /// no frame until the pointer is over it or the keyboard is on it. Checkable where asked for.
 /// Thread: main.
-class IconButton final : public QAbstractButton
+class IconButton final : public FocusRinged<QAbstractButton>
 {
     Q_OBJECT
 public:
@@ -26,14 +28,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QString m_symbol;
     QColor m_foreground = Qt::black;
     QColor m_background = Qt::white;
     bool m_isMarked = false;
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva

@@ -28,7 +28,7 @@ constexpr double kSideRoom = (kHeight - kKnob) / 2 + kKnob / 2;
 } // namespace
 
 PointSlider::PointSlider(QWidget *parent)
-    : QSlider(Qt::Horizontal, parent)
+    : FocusRinged(Qt::Horizontal, parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     // Dragging must not take the keyboard away from the specimens.
@@ -128,7 +128,7 @@ void PointSlider::paintEvent(QPaintEvent *)
         painter.setBrush(Qt::NoBrush);
         painter.drawEllipse(knobRect().adjusted(0.5, 0.5, -0.5, -0.5));
     }
-    if (hasFocus() && m_showsFocus)
+    if (hasFocusRing())
         drawFocusRing(painter, knobRect(), kKnob / 2);
 }
 
@@ -176,12 +176,6 @@ void PointSlider::mouseReleaseEvent(QMouseEvent *event)
     }
     setSliderDown(false);
     event->accept();
-}
-
-void PointSlider::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QSlider::focusInEvent(event);
 }
 
 } // namespace lorva

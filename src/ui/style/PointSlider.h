@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QColor>
 #include <QSlider>
 
@@ -12,7 +14,7 @@ namespace lorva {
 /// A horizontal slider with a track of 104×3 points and a round knob of 14, in any foreground and
 /// background colour. A press on the track takes the knob there, a
 /// double click on the knob takes it to the default value. Thread: main.
-class PointSlider final : public QSlider
+class PointSlider final : public FocusRinged<QSlider>
 {
     Q_OBJECT
 public:
@@ -36,7 +38,6 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QRectF trackRect() const;
@@ -52,7 +53,6 @@ private:
     int m_stop = 0;
     /// From the knob's centre to where it was taken.
     double m_grip = 0;
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva

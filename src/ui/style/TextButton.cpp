@@ -6,7 +6,6 @@
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
-#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QPainter>
 
@@ -33,7 +32,7 @@ QFont buttonFont()
 } // namespace
 
 TextButton::TextButton(const QString &text, Kind kind, QWidget *parent)
-    : QPushButton(text, parent)
+    : FocusRinged(text, parent)
     , m_kind(kind)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -47,12 +46,6 @@ QSize TextButton::sizeHint() const
 {
     const int textWidth = QFontMetrics(buttonFont()).size(Qt::TextShowMnemonic, text()).width();
     return QSize(std::max(textWidth + 2 * kPadding, kMinimumWidth), kHeight);
-}
-
-void TextButton::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QPushButton::focusInEvent(event);
 }
 
 QColor TextButton::fillColor() const
@@ -76,7 +69,7 @@ void TextButton::paintEvent(QPaintEvent *)
         painter.setOpacity(kDisabledOpacity);
     QRectF box(rect());
     double radius = kRadius;
-    if (hasFocus() && m_showsFocus) {
+    if (hasFocusRing()) {
         drawFocusRing(painter, box.adjusted(2, 2, -2, -2), kRadius - 2);
         // On a button in the accent's own colour only the gap tells the ring from the fill.
         box.adjust(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QColor>
 #include <QPushButton>
 
@@ -9,7 +11,7 @@ namespace lorva {
 
 /// A push button of the neutral panes: 28 high, radius 7, no bevel; the default one in the
 /// desktop's accent, a destructive one in red. Follows light and dark. Thread: main.
-class TextButton final : public QPushButton
+class TextButton final : public FocusRinged<QPushButton>
 {
     Q_OBJECT
 public:
@@ -21,13 +23,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QColor fillColor() const;
 
     const Kind m_kind;
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva

@@ -5,7 +5,6 @@
 #include "ui/style/ControlColors.h"
 #include "ui/style/Palette.h"
 
-#include <QFocusEvent>
 #include <QPainter>
 
 namespace lorva {
@@ -22,7 +21,7 @@ constexpr double kDisabledOpacity = 0.4;
 } // namespace
 
 ToggleSwitch::ToggleSwitch(const QString &label, QWidget *parent)
-    : QAbstractButton(parent)
+    : FocusRinged(parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setCheckable(true);
@@ -34,12 +33,6 @@ ToggleSwitch::ToggleSwitch(const QString &label, QWidget *parent)
 QSize ToggleSwitch::sizeHint() const
 {
     return QSize(int(kWidth + 2 * kRoom), int(kHeight + 2 * kRoom));
-}
-
-void ToggleSwitch::focusInEvent(QFocusEvent *event)
-{
-    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
-    QAbstractButton::focusInEvent(event);
 }
 
 void ToggleSwitch::paintEvent(QPaintEvent *)
@@ -61,7 +54,7 @@ void ToggleSwitch::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(isChecked() ? neutral.ground : colors.edge);
     painter.drawEllipse(QRectF(x, track.top() + kKnobInset, side, side));
-    if (hasFocus() && m_showsFocus)
+    if (hasFocusRing())
         drawFocusRing(painter, track.adjusted(-1, -1, 1, 1), kHeight / 2 + 1);
 }
 

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/FocusRinged.h"
+
 #include <QAbstractButton>
 
 namespace lorva {
 
 /// A switch of 30×18 points, on and off told by place and fill. A check box to assistive
 /// technology. Thread: main.
-class ToggleSwitch final : public QAbstractButton
+class ToggleSwitch final : public FocusRinged<QAbstractButton>
 {
     Q_OBJECT
 public:
@@ -20,10 +22,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
 
 private:
-    bool m_showsFocus = false;
 };
 
 } // namespace lorva
