@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDrag>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QWheelEvent>
 
