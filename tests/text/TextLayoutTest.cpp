@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "text/LayoutSupport.h"
 
+#include <gmock/gmock.h>
+
 #include <QTextBoundaryFinder>
 
 using namespace lorva;

@@ -55,8 +55,8 @@ struct SpecimenImage
 QSizeF logoSize(QSizeF imageSize, double capHeight, double sizeRatio);
 
 /// Sets the specimen: single lines within the margins, centred on their ink (not on their line
-/// box), the logo centred on the cap height. A null font gives an empty specimen.
-Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &font,
+/// box), the logo centred on the cap height. A null face gives an empty specimen.
+Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &face,
                         const SpecimenCanvas &canvas);
 
 /// Paints the specimen in the configuration's colour. Ink outside the view is cut off.
