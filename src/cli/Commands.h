@@ -24,6 +24,7 @@ int runActivateCommand(std::span<const QByteArray> words);
 int runDeactivateCommand(std::span<const QByteArray> words);
 int runStatusCommand(std::span<const QByteArray> words);
 int runFoldersCommand(std::span<const QByteArray> words);
+int runHistoryCommand(std::span<const QByteArray> words);
 int runDoctorCommand(std::span<const QByteArray> words);
 
 } // namespace lorva::cli

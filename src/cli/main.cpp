@@ -30,6 +30,7 @@ constexpr char kHelp[] = "Usage: lorvactl COMMAND [OPTION]...\n"
                          "  deactivate   withdraw them again\n"
                          "  status       tell what is active, and how\n"
                          "  folders      list, add and remove watched folders\n"
+                         "  history      tell what was switched on and off, and when\n"
                          "\n"
                          "  doctor       tell how preferences, caches and activation fare\n"
                          "\n"
@@ -59,6 +60,7 @@ constexpr Command kCommands[]{
     {"deactivate", lorva::cli::runDeactivateCommand},
     {"status", lorva::cli::runStatusCommand},
     {"folders", lorva::cli::runFoldersCommand},
+    {"history", lorva::cli::runHistoryCommand},
     {"doctor", lorva::cli::runDoctorCommand},
 };
 

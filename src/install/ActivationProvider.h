@@ -16,6 +16,8 @@
 
 namespace lorva {
 
+class FontInstallationService;
+
 /// What is switched on, as it was at one moment. Immutable. Thread: any.
 class ActivationState
 {
@@ -53,6 +55,8 @@ public:
     /// Looks anew at what is there of these families, and calls `done` when state() says it; at
     /// once, or later on the main thread. Not calling it is allowed only while being destroyed.
     virtual void reconcile(const FontFamilyList &families, std::function<void()> done) = 0;
+    /// What switches fonts on and off; null where nothing does.
+    virtual FontInstallationService *installationService() { return nullptr; }
     /// Other processes may have changed the books.
     virtual void takeChangesElsewhere() { }
 };

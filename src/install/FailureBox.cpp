@@ -17,10 +17,17 @@ void FailureBox::add(const std::vector<FontManagerError> &errors)
     }
 }
 
+void FailureBox::countFile()
+{
+    const std::lock_guard lock(m_lock);
+    ++m_filesDealtWith;
+}
+
 BatchRegistration FailureBox::take()
 {
     const std::lock_guard lock(m_lock);
-    return {std::exchange(m_failures, {}), std::exchange(m_unattributed, {})};
+    return {std::exchange(m_failures, {}), std::exchange(m_unattributed, {}),
+            std::exchange(m_filesDealtWith, 0)};
 }
 
 InstallationError installationError(const FontManagerError &error)
@@ -28,23 +35,35 @@ InstallationError installationError(const FontManagerError &error)
     return {InstallationError::fontManagerDomain(), error.code, error.detail};
 }
 
-BatchRegistration registerAll(const std::vector<FilePath> &files, FontRegistrar &registrar)
+namespace {
+
+/// Puts everything into `box`.
+FontRegistrar::Progress intoBox(FailureBox &box, const AfterFile &afterFile)
+{
+    return [&box, &afterFile](const std::vector<FontManagerError> &errors, bool isDone) {
+        box.add(errors);
+        if (isDone)
+            return true;
+        box.countFile();
+        return !afterFile || afterFile();
+    };
+}
+
+} // namespace
+
+BatchRegistration registerAll(const std::vector<FilePath> &files, FontRegistrar &registrar,
+                              const AfterFile &afterFile)
 {
     FailureBox box;
-    registrar.registerFonts(files, [&box](const std::vector<FontManagerError> &errors, bool) {
-        box.add(errors);
-        return true;
-    });
+    registrar.registerFonts(files, intoBox(box, afterFile));
     return box.take();
 }
 
-BatchRegistration unregisterAll(const std::vector<FilePath> &files, FontRegistrar &registrar)
+BatchRegistration unregisterAll(const std::vector<FilePath> &files, FontRegistrar &registrar,
+                                const AfterFile &afterFile)
 {
     FailureBox box;
-    registrar.unregisterFonts(files, [&box](const std::vector<FontManagerError> &errors, bool) {
-        box.add(errors);
-        return true;
-    });
+    registrar.unregisterFonts(files, intoBox(box, afterFile));
     return box.take();
 }
 

@@ -4,12 +4,18 @@
 
 #include "base/NotificationCentre.h"
 #include "base/RunThen.h"
+#include "install/EitherStop.h"
 #include "install/FailureBox.h"
 #include "install/InstallationJournal.h"
+#include "install/InstallationProgress.h"
 #include "install/Reconciliation.h"
+#include "install/RunFamilies.h"
+#include "install/RunHistory.h"
 #include "platform/FontRegistrar.h"
 #include "platform/RunLock.h"
 #include "platform/Trash.h"
+
+#include <QPointer>
 
 #include <algorithm>
 
@@ -17,6 +23,12 @@ namespace lorva {
 
 struct FontInstallationService::Job
 {
+    /// Ends it between two files, or before its turn.
+    std::stop_token cancelled;
+    /// While it waits: has the service told that it need not.
+    std::unique_ptr<std::stop_callback<std::function<void()>>> whenCancelled;
+    /// May be null.
+    std::shared_ptr<InstallationProgress> progress;
     /// Nothing: it only looks, and needs no lock.
     std::optional<std::chrono::milliseconds> patience;
     /// On a worker, under the lock.
@@ -25,6 +37,17 @@ struct FontInstallationService::Job
     std::function<InstallationResult(const Error &)> workWithoutLock;
     /// On the main thread, when the books are written; told whether they are others than before.
     std::function<void(InstallationOutcome, bool isOther)> end;
+};
+
+struct FontInstallationService::Plan
+{
+    /// What it is, for the history.
+    ActivationHistoryEntry entry;
+    std::vector<FilePath> files;
+    /// On a worker.
+    std::function<InstallationResult(const InstallationTools &)> work;
+    /// False for one that is refused.
+    bool belongsToHistory = true;
 };
 
 struct FontInstallationService::Ended
@@ -49,6 +72,14 @@ bool isSame(const ActivationBooks::Contents &one, const ActivationBooks::Content
         && one.watchedFontURLs == other.watchedFontURLs
         && one.registeredURLs == other.registeredURLs && one.methods == other.methods
         && one.origins == other.origins;
+}
+
+/// What a run of `files` comes to that was cancelled before it began.
+InstallationResult left(const std::vector<FilePath> &files)
+{
+    InstallationResult result;
+    result.outcome.filesLeft = files;
+    return result;
 }
 
 /// What a run of `files` comes to that cannot begin.
@@ -78,7 +109,10 @@ FontInstallationService::FontInstallationService(std::unique_ptr<FontInstallatio
     setBooks(listFontsFolder(m_dependencies.folders.userFonts, FontLinks::areLeftOut));
 }
 
-FontInstallationService::~FontInstallationService() = default;
+FontInstallationService::~FontInstallationService()
+{
+    cancelRuns();
+}
 
 bool FontInstallationService::isInFlight(const QString &familyName) const
 {
@@ -152,13 +186,15 @@ void FontInstallationService::beginNext()
         return;
     Job job = std::move(m_jobs.front());
     m_jobs.pop_front();
+    job.whenCancelled.reset();
     if (!job.patience) {
         work(std::move(job), nullptr);
         return;
     }
-    const auto takeLock = [file = m_dependencies.folders.activationLock(),
-                           patience = *job.patience](const std::stop_token &stop) {
-        return RunLock::take(file, patience, stop).map([](RunLock lock) {
+    const auto takeLock = [file = m_dependencies.folders.activationLock(), patience = *job.patience,
+                           cancelled = job.cancelled](const std::stop_token &stop) {
+        const EitherStop either(stop, cancelled);
+        return RunLock::take(file, patience, either.token()).map([](RunLock lock) {
             return std::make_shared<RunLock>(std::move(lock));
         });
     };
@@ -166,20 +202,27 @@ void FontInstallationService::beginNext()
             [this, job = std::move(job)](Result<std::shared_ptr<RunLock>> lock) mutable {
                 // Whoever had it may have written to the books.
                 m_store->dropCaches();
-                work(std::move(job), std::move(lock));
+                const QPointer<FontInstallationService> self(this);
+                if (lock && job.progress)
+                    job.progress->begin();
+                if (self)
+                    work(std::move(job), std::move(lock));
             });
 }
 
 void FontInstallationService::work(Job job, Result<std::shared_ptr<RunLock>> lock)
 {
     const auto atWork = [run = job.work, otherwise = job.workWithoutLock, lock,
-                         dependencies = m_dependencies,
+                         dependencies = m_dependencies, cancelled = job.cancelled,
+                         counter = job.progress ? job.progress->counter() : nullptr,
                          books = contents({})](const std::stop_token &stop) mutable {
+        const EitherStop either(stop, cancelled);
         const FilePath fonts = dependencies.folders.userFonts;
         books.fontsFolder = listFontsFolder(fonts);
-        const InstallationTools tools{dependencies.folders, dependencies.registrar,
-                                      dependencies.trash,
-                                      std::make_shared<ActivationBooks>(std::move(books)), stop};
+        const InstallationTools tools{
+            dependencies.folders, dependencies.registrar,
+            dependencies.trash,   std::make_shared<ActivationBooks>(std::move(books)),
+            either.token(),       counter};
         // A run whose process died may have left work for the books; this one's plan comes next.
         FontInstallationStore::Changes left =
             lock && *lock ? unfinishedChanges(tools) : FontInstallationStore::Changes();
@@ -230,50 +273,148 @@ QStringList FontInstallationService::takeOff(std::vector<FontFamilyRecord> &fami
     return names;
 }
 
-void FontInstallationService::run(std::vector<FontFamilyRecord> families,
-                                  std::optional<InstallMethod> method, Work work, Done done)
+FontInstallationService::Run FontInstallationService::run(Plan plan, Done done, Progress progress)
 {
-    const QStringList names = takeOff(families);
-    const std::vector<FilePath> files = filesOf(families);
+    std::stop_source stop;
+    m_runs.push_back(stop);
     Job job;
     job.patience = kPatience;
-    job.work = [files, names, method, work = std::move(work)](const InstallationTools &tools) {
-        InstallationResult result = work(files, tools);
-        for (const QString &name : names)
-            result.changes.methods[name] = method;
+    job.cancelled = stop.get_token();
+    job.whenCancelled =
+        std::make_unique<std::stop_callback<std::function<void()>>>(job.cancelled, [this] {
+            QMetaObject::invokeMethod(
+                this, [this] { endCancelledJobs(); }, Qt::QueuedConnection);
+        });
+    if (progress)
+        job.progress =
+            std::make_shared<InstallationProgress>(int(plan.files.size()), std::move(progress));
+    job.work = [plan](const InstallationTools &tools) {
+        InstallationResult result =
+            tools.stop.stop_requested() ? left(plan.files) : plan.work(tools);
+        tools.countAllBut(result.outcome.filesLeft.size(), plan.files.size());
+        if (plan.belongsToHistory)
+            addToHistory(plan.entry, plan.files, result.outcome, tools.folders.activationHistory());
         return result;
     };
-    job.workWithoutLock = [files](const Error &why) { return failed(files, why); };
-    job.end = [this, names, done = std::move(done)](InstallationOutcome outcome, bool) {
-        for (const QString &name : names)
-            m_inFlightFamilies.remove(name);
-        outcome.families = names;
-        NotificationCentre::shared().post(changeNotification());
-        if (done)
-            done(std::move(outcome));
+    job.workWithoutLock = [files = plan.files, cancelled = job.cancelled](const Error &why) {
+        return cancelled.stop_requested() ? left(files) : failed(files, why);
+    };
+    job.end = [this, plan = std::move(plan), stop, shown = job.progress,
+               done = std::move(done)](InstallationOutcome outcome, bool) {
+        endRun(plan, stop, shown.get(), std::move(outcome), done);
     };
     enqueue(std::move(job));
+    return Run(std::move(stop));
 }
 
-void FontInstallationService::activateByCopying(std::vector<FontFamilyRecord> families, Done done)
+void FontInstallationService::endRun(const Plan &plan, const std::stop_source &stop,
+                                     InstallationProgress *progress, InstallationOutcome outcome,
+                                     const Done &done)
 {
-    run(std::move(families), InstallMethod::copy, copyToFontsFolder, std::move(done));
+    for (const QString &name : plan.entry.families)
+        m_inFlightFamilies.remove(name);
+    std::erase(m_runs, stop);
+    const QPointer<FontInstallationService> self(this);
+    if (progress)
+        progress->end();
+    if (!self)
+        return;
+    outcome.families = plan.entry.families;
+    NotificationCentre::shared().post(changeNotification());
+    if (done)
+        done(std::move(outcome));
 }
 
-void FontInstallationService::activateInPlace(std::vector<FontFamilyRecord> families, Done done)
+/// They need not wait for their turn. Whoever is told may destroy the service.
+void FontInstallationService::endCancelledJobs()
 {
-    run(std::move(families), InstallMethod::registerInPlace, lorva::registerInPlace,
-        std::move(done));
+    const QPointer<FontInstallationService> self(this);
+    while (self) {
+        const auto found = std::ranges::find_if(
+            m_jobs, [](const Job &job) { return job.cancelled.stop_requested(); });
+        if (found == m_jobs.end())
+            return;
+        const Job job = std::move(*found);
+        m_jobs.erase(found);
+        job.end(job.workWithoutLock({ErrorKind::cancelled, {}}).outcome, false);
+    }
 }
 
-void FontInstallationService::deactivate(std::vector<FontFamilyRecord> families,
-                                         std::optional<FilePath> destination, Done done)
+void FontInstallationService::cancelRuns()
 {
-    const auto work = [destination = std::move(destination)](const std::vector<FilePath> &files,
-                                                             const InstallationTools &tools) {
-        return withdraw(files, destination, tools);
+    // Copies: a run that ends takes itself out.
+    for (std::stop_source &run : std::vector(m_runs))
+        run.request_stop();
+}
+
+FontInstallationService::Run FontInstallationService::activateByCopying(
+    std::vector<FontFamilyRecord> families, Done done, Progress progress)
+{
+    const QStringList names = takeOff(families);
+    Plan plan{{{}, ActivationHistoryEntry::Action::copied, names, {}, {}}, filesOf(families), {}};
+    plan.work = [files = plan.files,
+                 byFamily = filesByFamily(families)](const InstallationTools &tools) {
+        InstallationResult result = copyToFontsFolder(files, tools);
+        setMethods(byFamily, InstallMethod::copy, result);
+        return result;
     };
-    run(std::move(families), std::nullopt, work, std::move(done));
+    return run(std::move(plan), std::move(done), std::move(progress));
+}
+
+FontInstallationService::Run FontInstallationService::activateInPlace(
+    std::vector<FontFamilyRecord> families, Done done, Progress progress)
+{
+    const QStringList names = takeOff(families);
+    Plan plan{
+        {{}, ActivationHistoryEntry::Action::registered, names, {}, {}}, filesOf(families), {}};
+    plan.work = [files = plan.files,
+                 byFamily = filesByFamily(families)](const InstallationTools &tools) {
+        InstallationResult result = registerInPlace(files, tools);
+        setMethods(byFamily, InstallMethod::registerInPlace, result);
+        return result;
+    };
+    return run(std::move(plan), std::move(done), std::move(progress));
+}
+
+FontInstallationService::Run FontInstallationService::deactivate(
+    std::vector<FontFamilyRecord> families, std::optional<FilePath> destination, Done done,
+    Progress progress)
+{
+    using Action = ActivationHistoryEntry::Action;
+    const QStringList names = takeOff(families);
+    const Action action = destination ? Action::moved : Action::deactivated;
+    Plan plan{{{}, action, names, destination, {}}, filesOf(families), {}};
+    plan.work = [files = plan.files, byFamily = filesByFamily(families),
+                 destination = std::move(destination)](const InstallationTools &tools) {
+        InstallationResult result = withdraw(files, destination, tools);
+        removeMethods(byFamily, *tools.books, result);
+        return result;
+    };
+    return run(std::move(plan), std::move(done), std::move(progress));
+}
+
+FontInstallationService::Run FontInstallationService::restore(WithdrawnFonts withdrawn,
+                                                              QStringList families, Done done,
+                                                              Progress progress)
+{
+    const bool isBusy = !families.isEmpty()
+        && std::ranges::all_of(families, [this](const QString &name) { return isInFlight(name); });
+    families.removeIf([this](const QString &name) { return isInFlight(name); });
+    families.removeDuplicates();
+    for (const QString &name : std::as_const(families))
+        m_inFlightFamilies.insert(name);
+    Plan plan{{{}, ActivationHistoryEntry::Action::restored, families, {}, {}}, {}, {}};
+    for (const WithdrawnFonts::Copy &copy : withdrawn.copies)
+        plan.files.push_back(copy.entry);
+    plan.files.insert(plan.files.end(), withdrawn.registrations.begin(),
+                      withdrawn.registrations.end());
+    plan.belongsToHistory = !isBusy;
+    plan.work = [files = plan.files, withdrawn = std::move(withdrawn), families,
+                 isBusy](const InstallationTools &tools) {
+        return isBusy ? failed(files, {ErrorKind::cancelled, {}})
+                      : restoreWithdrawn(withdrawn, families, tools);
+    };
+    return run(std::move(plan), std::move(done), std::move(progress));
 }
 
 void FontInstallationService::batchRegister(const std::vector<FilePath> &files,

@@ -11,10 +11,12 @@
 
 #include <chrono>
 #include <deque>
+#include <stop_token>
 
 namespace lorva {
 
 class FontRegistrar;
+class InstallationProgress;
 class RunLock;
 struct InstallationResult;
 struct InstallationTools;
@@ -29,8 +31,11 @@ class Trash;
 /// (InstallationOutcome::areBooksWritten says when the preferences could not take them yet); what a
 /// process that dies in between leaves undone in the books, reconcile() mends.
 ///
+/// Each run is taken into the history (ActivationHistory), whatever became of its files.
+///
 /// Owns: a thread for the runs. Thread: main; every operation returns at once, and its `done` is
-/// called later on the main thread, unless the service has gone by then.
+/// called later on the main thread, unless the service has gone by then: it waits for the file
+/// that a run is at, and reconcile() finds what the run has done.
 class FontInstallationService final : public QObject, public ActivationProvider
 {
     Q_OBJECT
@@ -56,6 +61,7 @@ public:
     /// For workers, and for everything that the books say. Never null.
     std::shared_ptr<const ActivationBooks> books() const { return m_books; }
     std::shared_ptr<const ActivationState> state() const override { return m_books; }
+    FontInstallationService *installationService() override { return this; }
     bool isInFlight(const QString &familyName) const;
     std::optional<InstallMethod> defaultMethod() const;
     void setDefaultMethod(std::optional<InstallMethod> method);
@@ -68,12 +74,42 @@ public:
     // `done`.
 
     using Done = std::function<void(InstallationOutcome)>;
-    void activateByCopying(std::vector<FontFamilyRecord> families, Done done);
-    void activateInPlace(std::vector<FontFamilyRecord> families, Done done);
+    /// How many files of how many are dealt with. Thread: main, at most some thirty times a second.
+    using Progress = std::function<void(int done, int total)>;
+    /// Ends a run after the file that it is at; what was done by then is in the books, and in the
+    /// outcome. Copies stand for the same run. Does nothing for one that has ended.
+    class Run
+    {
+    public:
+        Run() = default;
+        explicit Run(std::stop_source stop)
+            : m_stop(std::move(stop))
+        {
+        }
+        void cancel() { m_stop.request_stop(); }
+
+    private:
+        std::stop_source m_stop{std::nostopstate};
+    };
+
+    Run activateByCopying(std::vector<FontFamilyRecord> families, Done done,
+                          Progress progress = {});
+    Run activateInPlace(std::vector<FontFamilyRecord> families, Done done, Progress progress = {});
     /// Without `destination` copies go to the Trash; they should then have known origins
     /// (ActivationBooks::areAllOriginsKnown()), though nothing depends on it.
-    void deactivate(std::vector<FontFamilyRecord> families, std::optional<FilePath> destination,
-                    Done done);
+    Run deactivate(std::vector<FontFamilyRecord> families, std::optional<FilePath> destination,
+                   Done done, Progress progress = {});
+    /// Brings back what a de-activation took: copies from the Trash to where they lay, and
+    /// registrations. Failures are told by the path of the copy, or of the registered file.
+    /// What lies there already with the same bytes is skipped. `families` are those of the run, for
+    /// the books and the outcome: those in flight are left out of both, and when all are in flight,
+    /// nothing is done and every file fails with isBusy.
+    Run restore(WithdrawnFonts withdrawn, QStringList families, Done done, Progress progress = {});
+    /// Cancels every run, those that wait too.
+    void cancelRuns();
+    /// A run that switches fonts is under way or waiting; false when the `done` of the last one is
+    /// called.
+    bool hasRuns() const { return !m_runs.empty(); }
     /// Registers all at once, without books, for whoever keeps them.
     void batchRegister(const std::vector<FilePath> &files,
                        std::function<void(BatchRegistration)> done);
@@ -86,10 +122,9 @@ public:
     void takeChangesElsewhere() override;
 
 private:
-    /// Does something to files on a worker.
-    using Work = std::function<InstallationResult(const std::vector<FilePath> &files,
-                                                  const InstallationTools &tools)>;
     struct Job;
+    /// One run that switches fonts.
+    struct Plan;
     /// What a worker hands back.
     struct Ended;
 
@@ -97,8 +132,10 @@ private:
     void beginNext();
     void work(Job job, Result<std::shared_ptr<RunLock>> lock);
     bool finish(Ended &ended, bool hasLock);
-    void run(std::vector<FontFamilyRecord> families, std::optional<InstallMethod> method, Work work,
-             Done done);
+    void endCancelledJobs();
+    Run run(Plan plan, Done done, Progress progress);
+    void endRun(const Plan &plan, const std::stop_source &stop, InstallationProgress *progress,
+                InstallationOutcome outcome, const Done &done);
     QStringList takeOff(std::vector<FontFamilyRecord> &families);
     void setBooks(FontsFolderListing fontsFolder);
     ActivationBooks::Contents contents(FontsFolderListing fontsFolder) const;
@@ -110,6 +147,8 @@ private:
     /// One after the other: each begins with the books that the one before it has left.
     std::deque<Job> m_jobs;
     bool m_isBusy = false;
+    /// What ends each run that has not told its end yet.
+    std::vector<std::stop_source> m_runs;
     QThreadPool m_pool;
 };
 

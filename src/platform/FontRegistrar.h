@@ -48,8 +48,9 @@ public:
     virtual std::optional<FontManagerError> unregisterFont(const FilePath &file,
                                                            RegistrationScope scope) = 0;
 
-    /// Gets the errors since the last call, and whether it is the last one; may be called more than
-    /// once and on other threads. Returning false ends the registration early.
+    /// Called after each file, in their order, and once more at the end, when `isDone`. Gets the
+    /// errors since the last call, which may be about earlier files too; calls may come on other
+    /// threads, one at a time. Returning false ends it early: the files that follow are left alone.
     using Progress = std::function<bool(const std::vector<FontManagerError> &errors, bool isDone)>;
     /// Registers all `files` in one go, in the user scope. Files that are registered already are no
     /// error. Returns after the last call of `progress`.

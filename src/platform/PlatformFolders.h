@@ -36,6 +36,11 @@ struct PlatformFolders
     {
         return applicationSupport.child("activation-journal.json");
     }
+    /// What was switched on and off, and when.
+    FilePath activationHistory() const
+    {
+        return applicationSupport.child("activation-history.jsonl");
+    }
     /// The catalog that the window shows until its scan has ended.
     FilePath catalogSnapshot() const { return applicationSupport.child("catalog.json"); }
 };

@@ -134,6 +134,10 @@ struct Operation
     const char *name;
     std::optional<InstallMethod> before;
     std::function<InstallationOutcome(InstallingProcess &, const Machine &)> run;
+    /// Begins by switching off, which nothing goes wrong with, and brings that back.
+    bool isRestoration = false;
+
+    bool switchesOff() const { return before && !isRestoration; }
 };
 
 const std::vector<Operation> kOperations{
@@ -147,6 +151,8 @@ const std::vector<Operation> kOperations{
      [](auto &process, auto &m) {
          return process.deactivate({m.family}, m.root.child("home").child("moved"));
      }},
+    {"restore", InstallMethod::copy, {}, true},
+    {"restore", InstallMethod::registerInPlace, {}, true},
 };
 
 void prepare(const Machine &machine, const Operation &operation)
@@ -176,8 +182,13 @@ TEST_P(AnyFault, LosesNothingAndIsTold)
         std::set<FilePath> told;
         {
             const auto process = machine.process();
+            const WithdrawnFonts withdrawn = operation.isRestoration
+                ? process->deactivate({machine.family}).withdrawn
+                : WithdrawnFonts();
             const FaultyCalls fault(machine.root.child("home"), faulty, code);
-            const InstallationOutcome outcome = operation.run(*process, machine);
+            const InstallationOutcome outcome = operation.isRestoration
+                ? process->restore(withdrawn, {machine.family.familyName})
+                : operation.run(*process, machine);
             calls = FaultyCalls::count();
             for (const auto &[file, error] : outcome.failures)
                 told.insert(file);
@@ -185,7 +196,7 @@ TEST_P(AnyFault, LosesNothingAndIsTold)
             for (const FilePath &file : outcome.filesDone) {
                 const bool isOn = process->service.books()->classify(file)
                     != FileActivationClass::watchedInactive;
-                EXPECT_EQ(isOn, !operation.before) << file.c_str();
+                EXPECT_EQ(isOn, !operation.switchesOff()) << file.c_str();
             }
             EXPECT_EQ(told.size() + outcome.filesDone.size() + outcome.filesSkipped.size(),
                       size_t(kFiles));

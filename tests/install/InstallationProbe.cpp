@@ -29,6 +29,8 @@ int main(int count, char **arguments)
 
     InstallingProcess process(foldersBelow(root));
     process.watch(QSet<FilePath>(files.begin(), files.end()));
+    const WithdrawnFonts withdrawn =
+        operation == "restore" ? process.deactivate(families).withdrawn : WithdrawnFonts();
     const FaultyCalls calls(root.child("home"), std::atoi(arguments[3]), FaultyCalls::kDeath);
     if (operation == "copy")
         process.copy(families);
@@ -36,6 +38,8 @@ int main(int count, char **arguments)
         process.registerInPlace(families);
     else if (operation == "deactivate")
         process.deactivate(families);
+    else if (operation == "restore")
+        process.restore(withdrawn, {QStringLiteral("Family")});
     else if (operation == "move")
         process.deactivate(families, root.child("home").child("moved"));
     else

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "install/ActivationHistory.h"
 #include "install/FontInstallationService.h"
 #include "install/InstallationJournal.h"
 #include "install/Reconciliation.h"
@@ -45,13 +46,22 @@ inline PlatformFolders foldersBelow(const FilePath &root)
 /// One process that switches fonts on and off.
 struct InstallingProcess
 {
-    explicit InstallingProcess(PlatformFolders given)
+    using Dependencies = FontInstallationService::Dependencies;
+    /// `change` may put others in the place of the real ones.
+    explicit InstallingProcess(PlatformFolders given,
+                               const std::function<void(Dependencies &)> &change = {})
         : folders(std::move(given))
         , preferences(folders.applicationSupport)
         , registrar(std::make_shared<LinkFolderRegistrar>(folders.registeredLinks()))
-        , service(std::make_unique<FontInstallationStore>(preferences),
-                  {folders, registrar, std::make_shared<DesktopTrash>()})
+        , service(std::make_unique<FontInstallationStore>(preferences), dependencies(change))
     {
+    }
+    Dependencies dependencies(const std::function<void(Dependencies &)> &change) const
+    {
+        Dependencies real{folders, registrar, std::make_shared<DesktopTrash>()};
+        if (change)
+            change(real);
+        return real;
     }
 
     /// Runs `start(done)` to its end. Without one, nothing: a case that waits in vain fails.
@@ -76,6 +86,10 @@ struct InstallingProcess
     {
         return run([&](auto done) { service.deactivate(families, destination, done); });
     }
+    InstallationOutcome restore(const WithdrawnFonts &withdrawn, const QStringList &families)
+    {
+        return run([&](auto done) { service.restore(withdrawn, families, done); });
+    }
     bool reconcile(const std::vector<FontFamilyRecord> &families)
     {
         bool hasEnded = false;
@@ -87,6 +101,10 @@ struct InstallingProcess
     std::optional<FamilyActivationState> state(const FontFamilyRecord &family) const
     {
         return service.books()->activationState(family);
+    }
+    std::vector<ActivationHistoryEntry> history() const
+    {
+        return ActivationHistory(folders.activationHistory()).read().value();
     }
     FontInstallationStore store() { return FontInstallationStore(preferences); }
 

@@ -132,6 +132,75 @@ TEST_F(DesktopTrashTest, WhatCannotGoStaysWhereItIs)
     EXPECT_EQ(readFile(file), "bytes");
 }
 
+TEST_F(DesktopTrashTest, GivesBackWhatItWasGiven)
+{
+    const QByteArray longName = QByteArray(251, 'x') + ".otf";
+    for (const QByteArray &name :
+         {QByteArray("font.otf"), QByteArray("font.otf"), QByteArray("\xff%20\n.otf"), longName}) {
+        const FilePath file = writeFile(folder, name, "bytes");
+        const Result<FilePath> place = trash.moveToTrash(file);
+        ASSERT_TRUE(place);
+        EXPECT_EQ(readFile(*place), "bytes");
+        const FilePath back = folder.child("back.otf");
+        EXPECT_TRUE(trash.takeFromTrash(*place, back));
+        EXPECT_EQ(readFile(back), "bytes");
+        EXPECT_EQ(entryCount(home.child("info")), 0U);
+        EXPECT_EQ(trash.takeFromTrash(*place, file).error().kind, ErrorKind::notFound) << "twice";
+        ASSERT_EQ(::unlink(back.c_str()), 0);
+    }
+    const FilePath link = folder.child("link.otf");
+    ASSERT_EQ(::symlink("relative", link.c_str()), 0);
+    ASSERT_TRUE(trash.takeFromTrash(trash.moveToTrash(link).value(), link));
+    char target[PATH_MAX];
+    EXPECT_EQ(QByteArray(target, ::readlink(link.c_str(), target, sizeof target)), "relative");
+    ::unlink(link.c_str());
+}
+
+TEST_F(DesktopTrashTest, WhatCannotBeGivenBackStaysInIt)
+{
+    const FilePath file = writeFile(folder, "font.otf", "bytes");
+    const FilePath place = trash.moveToTrash(file).value();
+    const FilePath other = writeFile(folder, "other.otf", "other");
+    const FilePath dangling = folder.child("dangling.otf");
+    const FilePath locked = folder.child("locked");
+    ASSERT_EQ(::symlink("/nowhere", dangling.c_str()), 0);
+    ::mkdir(locked.c_str(), 0555);
+    const struct
+    {
+        const char *what;
+        FilePath from;
+        FilePath to;
+        ErrorKind kind;
+    } rows[]{
+        {"taken", place, other, ErrorKind::invalidValue},
+        {"taken by a link to nothing", place, dangling, ErrorKind::invalidValue},
+        {"taken by a folder", place, folder, ErrorKind::invalidValue},
+        {"no such folder", place, folder.child("none").child("font.otf"), ErrorKind::ioFailure},
+        {"below a file", place, other.child("font.otf"), ErrorKind::ioFailure},
+        {"not in it", place.parent().child("none"), file, ErrorKind::notFound},
+        {"no place in a Trash", other, file, ErrorKind::notFound},
+        {"nothing", FilePath(), file, ErrorKind::notFound},
+    };
+    for (const auto &row : rows) {
+        const Result<void> taken = trash.takeFromTrash(row.from, row.to);
+        ASSERT_FALSE(taken) << row.what;
+        EXPECT_EQ(taken.error().kind, row.kind) << row.what;
+        EXPECT_FALSE(taken.error().detail.isEmpty());
+    }
+    for (FilePath above = place.parent(); above.isInside(test::TestHome::instance().root());
+         above = above.parent())
+        ::chmod(above.c_str(), 0777);
+    {
+        const test::AsOrdinaryUser nobody;
+        EXPECT_EQ(trash.takeFromTrash(place, locked.child("font.otf")).error().kind,
+                  ErrorKind::permissionDenied);
+    }
+    EXPECT_EQ(readFile(place), "bytes");
+    EXPECT_EQ(readFile(other), "other");
+    EXPECT_EQ(entryCount(home.child("info")), 1U) << "its note stays, too";
+    std::filesystem::remove_all(home.c_str());
+}
+
 /// A folder in memory stands for a volume; its top is what the case says.
 class VolumeTrashTest : public DesktopTrashTest
 {
@@ -156,12 +225,15 @@ protected:
     }
     void expectTrashed(const FilePath &place)
     {
-        EXPECT_TRUE(volumeTrash.moveToTrash(below));
+        EXPECT_EQ(volumeTrash.moveToTrash(below), place.child("files").child("a b.otf"));
         EXPECT_FALSE(isThere(below));
         EXPECT_EQ(readFile(place.child("files").child("a b.otf")), "bytes");
         EXPECT_THAT(readFile(place.child("info").child("a b.otf.trashinfo")).toStdString(),
                     MatchesRegex("\\[Trash Info\\]\nPath=fonts/a%20b.otf\n" + std::string(kDate)));
         EXPECT_FALSE(isThere(home));
+        EXPECT_TRUE(volumeTrash.takeFromTrash(place.child("files").child("a b.otf"), below));
+        EXPECT_EQ(readFile(below), "bytes");
+        EXPECT_EQ(entryCount(place.child("info")), 0U);
     }
 
     const QByteArray user = QByteArray::number(::geteuid());

@@ -56,14 +56,14 @@ protected:
     std::vector<FontManagerError> addAll(const std::vector<FilePath> &files)
     {
         std::vector<FontManagerError> all;
-        int calls = 0;
+        size_t calls = 0;
         registrar.registerFonts(files, [&](const auto &errors, bool isDone) {
-            EXPECT_TRUE(isDone);
+            EXPECT_EQ(isDone, calls == files.size());
             ++calls;
-            all = errors;
+            all.insert(all.end(), errors.begin(), errors.end());
             return true;
         });
-        EXPECT_EQ(calls, 1);
+        EXPECT_EQ(calls, files.size() + 1);
         return all;
     }
     /// Of the link folder, hidden ones too.
@@ -170,6 +170,27 @@ TEST_F(LinkFolderRegistrarTest, WhatOthersPutIntoTheFolderStays)
     EXPECT_THAT(names(),
                 UnorderedElementsAre(linkOf(file).fileName().toStdString(),
                                      linkOf(blocked).fileName().toStdString(), "by-hand.ttf"));
+}
+
+TEST_F(LinkFolderRegistrarTest, EndsAfterTheFileThatItIsToldAt)
+{
+    std::vector<FilePath> files;
+    for (const char *name : {"1.ttf", "2.ttf", "3.ttf", "4.ttf"})
+        files.push_back(writeFile(sources, name, name));
+    int calls = 0;
+    const auto untilSecond = [&](const auto &errors, bool isDone) {
+        EXPECT_TRUE(errors.empty());
+        EXPECT_EQ(isDone, ++calls == 3);
+        return calls < 2;
+    };
+    registrar.registerFonts(files, untilSecond);
+    EXPECT_THAT(registrar.registeredFonts(), ElementsAre(files[0], files[1]));
+    EXPECT_EQ(calls, 3);
+    addAll(files);
+    calls = 0;
+    registrar.unregisterFonts(files, untilSecond);
+    EXPECT_THAT(registrar.registeredFonts(), ElementsAre(files[2], files[3]));
+    EXPECT_EQ(calls, 3);
 }
 
 TEST_F(LinkFolderRegistrarTest, AFolderThatCannotBeUsedFailsEveryFile)

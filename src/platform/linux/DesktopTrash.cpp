@@ -42,17 +42,38 @@ bool meansNoTrash(int code)
 }
 
 /// Nothing when `file` turns out to be on another volume than the Trash.
-std::optional<Result<void>> takeInto(const FilePath &trashPath, const FilePath &file,
-                                     const FilePath &originalPath)
+std::optional<Result<FilePath>> takeInto(const FilePath &trashPath, const FilePath &file,
+                                         const FilePath &originalPath)
 {
     const TrashFolder trash(trashPath);
-    int code = trash.ensureFolders();
-    if (code != 0)
+    if (const int code = trash.ensureFolders())
         return meansNoTrash(code) ? hasNoTrash(file) : trashFailure(code, file);
-    code = trash.take(file, originalPath);
-    if (code == EXDEV)
+    const tl::expected<FilePath, int> taken = trash.take(file, originalPath);
+    if (taken)
+        return *taken;
+    if (taken.error() == EXDEV)
         return std::nullopt;
-    return code == 0 ? Result<void>() : trashFailure(code, file);
+    return trashFailure(taken.error(), file);
+}
+
+bool isThere(const FilePath &entry)
+{
+    struct stat info;
+    return ::lstat(entry.c_str(), &info) == 0;
+}
+
+tl::unexpected<Error> giveBackFailure(int code, const FilePath &place, const FilePath &destination)
+{
+    if (code == EEXIST)
+        return failure(ErrorKind::invalidValue,
+                       QStringLiteral("cannot take %1 from the Trash: the name is taken")
+                           .arg(destination.displayText()));
+    tl::unexpected<Error> failed = systemFailure(code, "take from the Trash", place);
+    const bool isAboutDestination = failed.value().kind == ErrorKind::notFound
+        && place.parent().fileName() == "files" && isThere(place);
+    if (isAboutDestination || failed.value().kind == ErrorKind::notRegularFile)
+        failed.value().kind = ErrorKind::ioFailure;
+    return failed;
 }
 
 std::optional<dev_t> deviceOf(const FilePath &folder)
@@ -143,7 +164,7 @@ FilePath DesktopTrash::topOfVolume(const FilePath &realFolder)
     return top;
 }
 
-Result<void> DesktopTrash::moveToTrash(const FilePath &file)
+Result<FilePath> DesktopTrash::moveToTrash(const FilePath &file)
 {
     struct stat info;
     if (::lstat(file.c_str(), &info) != 0)
@@ -155,7 +176,7 @@ Result<void> DesktopTrash::moveToTrash(const FilePath &file)
     const FilePath home = homeTrash();
     if (deviceOf(*folder) == futureDeviceOf(home)) {
         // Parts of one device may still be volumes of their own.
-        if (std::optional<Result<void>> taken = takeInto(home, file, file))
+        if (std::optional<Result<FilePath>> taken = takeInto(home, file, file))
             return *std::move(taken);
     }
     const FilePath top = m_volumeTop(*folder);
@@ -164,6 +185,13 @@ Result<void> DesktopTrash::moveToTrash(const FilePath &file)
         return hasNoTrash(file);
     const FilePath place = relativeTo(top, folder->child(file.fileName()));
     return takeInto(*trash, file, place).value_or(hasNoTrash(file));
+}
+
+Result<void> DesktopTrash::takeFromTrash(const FilePath &place, const FilePath &destination)
+{
+    if (const int code = TrashFolder::giveBack(place, destination))
+        return giveBackFailure(code, place, destination);
+    return {};
 }
 
 } // namespace lorva

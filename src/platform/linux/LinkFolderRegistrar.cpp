@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <cerrno>
+#include <functional>
 #include <system_error>
 #include <utility>
 
@@ -103,44 +104,51 @@ std::optional<FontManagerError> removeLink(const LinkFolder &folder, const FileP
                                                      : std::optional(notRegistered(file));
 }
 
-/// Changes the link of each file by `change`, and waits for the disk once.
+/// Gets what went wrong with the file just dealt with; false ends the pass.
+using AfterLink = std::function<bool(const std::vector<FontManagerError> &)>;
+
+/// Changes the link of each file by `change`, waits for the disk once, and gives what that came to.
 std::vector<FontManagerError> changeLinks(
     const LinkFolder &folder, const std::vector<FilePath> &files,
     std::optional<FontManagerError> (*change)(const LinkFolder &, const FilePath &),
-    QString (*words)(const QString &))
+    QString (*words)(const QString &), const AfterLink &afterLink)
 {
-    std::vector<FontManagerError> errors;
     std::vector<FilePath> changed;
     for (const FilePath &file : files) {
+        std::vector<FontManagerError> errors;
         if (std::optional<FontManagerError> error = change(folder, file))
             errors.push_back(*std::move(error));
         else
             changed.push_back(file);
+        if (!afterLink(errors))
+            break;
     }
     if (changed.empty())
-        return errors;
+        return {};
     if (std::optional<FontManagerError> error = finish(folder, std::move(changed), words))
-        errors.push_back(*std::move(error));
-    return errors;
+        return {*std::move(error)};
+    return {};
 }
 
-std::vector<FontManagerError> removeLinks(const FilePath &path, const std::vector<FilePath> &files)
+std::vector<FontManagerError> removeLinks(const FilePath &path, const std::vector<FilePath> &files,
+                                          const AfterLink &afterLink)
 {
     const LinkFolder folder(path);
     const int code = folder.openCode();
     if (code == 0)
-        return changeLinks(folder, files, removeLink, cannotUnregister);
+        return changeLinks(folder, files, removeLink, cannotUnregister, afterLink);
     if (code != ENOENT && code != ENOTDIR)
         return {{FontManagerError::kCannotRegister, cannotUnregister(systemText(code)), files}};
-    std::vector<FontManagerError> errors;
-    errors.reserve(files.size());
-    for (const FilePath &file : files)
-        errors.push_back(notRegistered(file));
-    return errors;
+    for (const FilePath &file : files) {
+        if (!afterLink({notRegistered(file)}))
+            break;
+    }
+    return {};
 }
 
 /// One pass over an open folder, and one wait for the disk.
-std::vector<FontManagerError> makeLinks(const FilePath &path, const std::vector<FilePath> &files)
+std::vector<FontManagerError> makeLinks(const FilePath &path, const std::vector<FilePath> &files,
+                                        const AfterLink &afterLink)
 {
     if (files.empty())
         return {};
@@ -150,7 +158,38 @@ std::vector<FontManagerError> makeLinks(const FilePath &path, const std::vector<
     if (folder.openCode() != 0)
         return {{FontManagerError::kCannotRegister, cannotRegister(systemText(folder.openCode())),
                  files}};
-    return changeLinks(folder, files, makeLink, cannotRegister);
+    return changeLinks(folder, files, makeLink, cannotRegister, afterLink);
+}
+
+using ChangeLinks = std::vector<FontManagerError> (*)(const FilePath &path,
+                                                      const std::vector<FilePath> &files,
+                                                      const AfterLink &afterLink);
+
+std::optional<FontManagerError> changeOne(ChangeLinks change, const FilePath &path,
+                                          const FilePath &file)
+{
+    std::optional<FontManagerError> first;
+    const std::vector<FontManagerError> atTheEnd =
+        change(path, {file}, [&first](const std::vector<FontManagerError> &errors) {
+            if (!errors.empty())
+                first = errors.front();
+            return true;
+        });
+    if (!first && !atTheEnd.empty())
+        first = atTheEnd.front();
+    return first;
+}
+
+/// Tells `progress` of each file, and of errors but those of the code `expected`.
+void changeMany(ChangeLinks change, const FilePath &path, const std::vector<FilePath> &files,
+                int expected, const FontRegistrar::Progress &progress)
+{
+    const auto afterLink = [&](std::vector<FontManagerError> errors) {
+        std::erase_if(errors,
+                      [&](const FontManagerError &error) { return error.code == expected; });
+        return progress(errors, false);
+    };
+    progress(change(path, files, afterLink), true);
 }
 
 } // namespace
@@ -170,8 +209,7 @@ std::optional<FontManagerError> LinkFolderRegistrar::registerFont(const FilePath
         m_processFonts.insert(file);
         return std::nullopt;
     }
-    std::vector<FontManagerError> errors = makeLinks(m_linkFolder, {file});
-    return errors.empty() ? std::nullopt : std::optional(std::move(errors.front()));
+    return changeOne(makeLinks, m_linkFolder, file);
 }
 
 std::optional<FontManagerError> LinkFolderRegistrar::unregisterFont(const FilePath &file,
@@ -181,28 +219,19 @@ std::optional<FontManagerError> LinkFolderRegistrar::unregisterFont(const FilePa
         const std::lock_guard lock(m_mutex);
         return m_processFonts.remove(file) ? std::nullopt : std::optional(notRegistered(file));
     }
-    std::vector<FontManagerError> errors = removeLinks(m_linkFolder, {file});
-    return errors.empty() ? std::nullopt : std::optional(std::move(errors.front()));
+    return changeOne(removeLinks, m_linkFolder, file);
 }
 
 void LinkFolderRegistrar::unregisterFonts(const std::vector<FilePath> &files,
                                           const Progress &progress)
 {
-    std::vector<FontManagerError> errors = removeLinks(m_linkFolder, files);
-    std::erase_if(errors, [](const FontManagerError &error) {
-        return error.code == FontManagerError::kNotRegistered;
-    });
-    progress(errors, true);
+    changeMany(removeLinks, m_linkFolder, files, FontManagerError::kNotRegistered, progress);
 }
 
 void LinkFolderRegistrar::registerFonts(const std::vector<FilePath> &files,
                                         const Progress &progress)
 {
-    std::vector<FontManagerError> errors = makeLinks(m_linkFolder, files);
-    std::erase_if(errors, [](const FontManagerError &error) {
-        return error.code == FontManagerError::kAlreadyRegistered;
-    });
-    progress(errors, true);
+    changeMany(makeLinks, m_linkFolder, files, FontManagerError::kAlreadyRegistered, progress);
 }
 
 std::vector<FilePath> LinkFolderRegistrar::registeredFonts() const

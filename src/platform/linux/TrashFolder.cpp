@@ -19,6 +19,8 @@ namespace lorva {
 
 namespace {
 
+constexpr QByteArrayView kFilesName = "files";
+constexpr QByteArrayView kInfoName = "info";
 constexpr QByteArrayView kNoteExtension = ".trashinfo";
 /// Room for the number that tells entries of one name apart.
 constexpr qsizetype kNumberBytes = 8;
@@ -82,8 +84,8 @@ int writeNewFile(const FilePath &path, const QByteArray &bytes)
 
 TrashFolder::TrashFolder(FilePath folder)
     : m_folder(std::move(folder))
-    , m_files(m_folder.child("files"))
-    , m_info(m_folder.child("info"))
+    , m_files(m_folder.child(kFilesName))
+    , m_info(m_folder.child(kInfoName))
 {
 }
 
@@ -96,18 +98,39 @@ int TrashFolder::ensureFolders() const
     return 0;
 }
 
-int TrashFolder::take(const FilePath &file, const FilePath &originalPath) const
+tl::expected<FilePath, int> TrashFolder::take(const FilePath &file,
+                                              const FilePath &originalPath) const
 {
     const QByteArray note = noteOn(originalPath);
     const long most = ::pathconf(m_info.c_str(), _PC_NAME_MAX);
     const qsizetype room =
         (most > 0 ? std::min<qsizetype>(most, kUsualMostNameBytes) : kUsualMostNameBytes)
         - kNoteExtension.size();
-    const QByteArray name = cutName(file.fileName(), room - kNumberBytes);
-    int code = takeAs(cutName(file.fileName(), room), file, note);
-    for (int number = 2; code == EEXIST && number <= kMostOfOneName; ++number)
-        code = takeAs(numberedName(name, number), file, note);
-    return code;
+    const QByteArray shortName = cutName(file.fileName(), room - kNumberBytes);
+    QByteArray name = cutName(file.fileName(), room);
+    int code = takeAs(name, file, note);
+    for (int number = 2; code == EEXIST && number <= kMostOfOneName; ++number) {
+        name = numberedName(shortName, number);
+        code = takeAs(name, file, note);
+    }
+    if (code != 0)
+        return tl::unexpected(code);
+    return m_files.child(name);
+}
+
+int TrashFolder::giveBack(const FilePath &place, const FilePath &destination)
+{
+    const FilePath files = place.parent();
+    if (files.fileName() != kFilesName)
+        return ENOENT;
+    if (const int code = renameWithoutReplacing(place, destination))
+        return code;
+    // A note that stays says something about a file that no program finds any more.
+    const QByteArray note = place.fileName() + kNoteExtension;
+    ::unlink(files.parent().child(kInfoName).child(note).c_str());
+    std::ignore = flushFolder(destination.parent());
+    std::ignore = flushFolder(files);
+    return 0;
 }
 
 /// The note comes first: its name, once taken, is taken in "files", too, for every program that

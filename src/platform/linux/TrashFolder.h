@@ -4,6 +4,8 @@
 
 #include "base/FilePath.h"
 
+#include <tl/expected.hpp>
+
 namespace lorva {
 
 /// One Trash: the folder "files" with what was thrown away, and the folder "info" with a note of
@@ -17,9 +19,12 @@ public:
 
     /// Makes what is missing of it, with its parents.
     int ensureFolders() const;
-    /// Moves the entry `file` here, and notes `originalPath` as its place. When that fails, the
-    /// file is where it was, and no note is left.
-    int take(const FilePath &file, const FilePath &originalPath) const;
+    /// Moves the entry `file` here, notes `originalPath` as its place, and gives where it lies now.
+    /// When that fails, the file is where it was, and no note is left.
+    tl::expected<FilePath, int> take(const FilePath &file, const FilePath &originalPath) const;
+    /// Moves the entry `place`, as take() gave it, to `destination`, and removes its note. EEXIST
+    /// when that is taken.
+    static int giveBack(const FilePath &place, const FilePath &destination);
 
 private:
     int takeAs(const QByteArray &name, const FilePath &file, const QByteArray &note) const;
