@@ -32,6 +32,7 @@
 
 namespace lorva {
 
+class FolderLooks;
 class FontRegistrar;
 class LibraryWatcher;
 
@@ -91,6 +92,11 @@ public:
     std::function<void()> onChange;
 
     FontLibraryService &fontLibraryService() { return *m_fontLibraryService; }
+    /// What switches fonts on and off; null where nothing does.
+    FontInstallationService *installationService()
+    {
+        return m_installationService->installationService();
+    }
 
     // The catalog
 
@@ -109,6 +115,13 @@ public:
     bool isLoading() const { return m_isLoading; }
     /// What the running scan does, for people; empty when none runs.
     QString loadingText() const { return m_loadingText; }
+    /// Calls `done` once, when the load that runs or is about to run has ended: with the number of
+    /// families that the catalog has and had not when this was called, or with nothing when the
+    /// load was cancelled. Not called when the model goes first.
+    void whenLoaded(std::function<void(std::optional<int> newFamilies)> done);
+    /// Ends the running scan: the catalog stays as it is, and the next load begins from what was
+    /// read. Does nothing when none runs.
+    void cancelLoad();
 
     /// Sorted by name as the user's language sorts, ignoring case.
     FontFamilyList allFamilies() const { return m_catalog->snapshot.families; }
@@ -133,6 +146,17 @@ public:
     void addWatchedFolders(std::vector<FilePath> folders, std::function<void(AddedFolders)> done);
     /// Adds the fonts of folders for this run, and scans.
     void addFoldersForThisRun(const std::vector<FilePath> &folders);
+    struct FolderLook
+    {
+        /// It can be opened.
+        bool isThere = false;
+        /// Of the present catalog, with a file below it.
+        int families = 0;
+        bool operator==(const FolderLook &) const = default;
+    };
+    /// Looks on a worker at the folders of the list, and gives what it found by their ids; a folder
+    /// that does not answer within two seconds counts as not there.
+    void lookAtFolders(std::function<void(QHash<QString, FolderLook>)> done);
     /// Takes the folder out of the list and its fonts out of this process, and scans. Fails with
     /// notFound.
     Result<void> removeWatchedFolder(const QString &id);
@@ -282,6 +306,10 @@ public:
     qint64 activationGeneration() const { return m_activationGeneration; }
     qint64 membershipGeneration() const { return m_membershipGeneration; }
 
+Q_SIGNALS:
+    /// How far the running scan is.
+    void scanProgressed(const FontScanPhase &phase);
+
 private:
     void showSnapshot(qint64 generation);
     void indexSnapshot();
@@ -289,6 +317,8 @@ private:
     void applyCatalog(FontCatalogResult result);
     void finishLoad(const Catalog &catalog);
     void endLoad();
+    QSet<QString> familyNames() const;
+    void answerLoadWaiters(bool isCancelled);
     void reconcileCatalog();
     bool readWatchedFolders();
     std::vector<FilePath> foldersToScan() const;
@@ -331,6 +361,8 @@ private:
     QThreadPool m_quietPool;
     /// For looks at folders that may hang.
     QThreadPool m_folderPool;
+    /// A child; made when first asked.
+    FolderLooks *m_folderLooks = nullptr;
 
     /// Never null.
     Catalog m_catalog;
@@ -348,6 +380,13 @@ private:
     bool m_loadIsOutdated = false;
     std::chrono::system_clock::time_point m_scanBegan{};
     QString m_loadingText;
+    /// Who waits for the end of the next load, and which families they know.
+    struct LoadWaiter
+    {
+        QSet<QString> known;
+        std::function<void(std::optional<int>)> done;
+    };
+    std::vector<LoadWaiter> m_loadWaiters;
     qint64 m_loadGeneration = 0;
     qint64 m_catalogGeneration = 0;
     qint64 m_activationGeneration = 0;

@@ -27,6 +27,10 @@ constexpr size_t kFamiliesOfAScreen = 100;
 void LorvaAppModel::loadCatalog()
 {
     m_catalogReconcileTask.stop();
+    // Nobody waits for that one any more, and this one would wait behind it. What it has read is
+    // kept.
+    if (m_isLoading)
+        m_fontLibraryService->cancelLoad();
     m_loadIsOutdated = false;
     m_isLoading = true;
     m_loadAwaitsActivations = false;
@@ -74,6 +78,9 @@ void LorvaAppModel::showSnapshot(qint64 generation)
         if (catalog && m_catalogGeneration == 0) {
             installCatalog(std::move(catalog));
             m_snapshotIsCurrent = true;
+            // What the last process knew is nothing new.
+            for (LoadWaiter &waiter : m_loadWaiters)
+                waiter.known.unite(familyNames());
             traceMoment("snapshot shown");
             changed();
             indexSnapshot();
@@ -117,9 +124,13 @@ void LorvaAppModel::scan(qint64 generation)
     m_fontLibraryService->loadCatalog(
         foldersToScan(),
         [this, generation](const FontScanPhase &phase) {
-            if (generation != m_loadGeneration)
+            if (generation != m_loadGeneration) {
+                // It had not begun when its successor was asked for.
+                m_fontLibraryService->cancelLoad();
                 return;
+            }
             m_loadingText = phase.text();
+            Q_EMIT scanProgressed(phase);
             // Once cards are on the screen, a scan says nothing until it has a result.
             if (allFamilies()->empty())
                 changed();
@@ -181,6 +192,55 @@ void LorvaAppModel::endLoad()
         m_libraryWatcher->watch(foldersToScan(), m_scanBegan);
     if (std::exchange(m_loadIsOutdated, false))
         requestCatalogReconcile();
+    answerLoadWaiters(false);
+}
+
+void LorvaAppModel::whenLoaded(std::function<void(std::optional<int>)> done)
+{
+    m_loadWaiters.push_back({familyNames(), std::move(done)});
+}
+
+void LorvaAppModel::cancelLoad()
+{
+    if (!m_isLoading)
+        return;
+    // Results that are on their way are of an earlier load from now on.
+    ++m_loadGeneration;
+    m_fontLibraryService->cancelLoad();
+    m_isLoading = false;
+    // If only they were missing, they follow as after any change.
+    m_loadAwaitsActivations = false;
+    m_loadingText.clear();
+    changed();
+    if (std::exchange(m_loadIsOutdated, false))
+        requestCatalogReconcile();
+    answerLoadWaiters(true);
+}
+
+QSet<QString> LorvaAppModel::familyNames() const
+{
+    QSet<QString> names;
+    names.reserve(qsizetype(allFamilies()->size()));
+    for (const FontFamilyRecord &family : *allFamilies())
+        names.insert(family.familyName);
+    return names;
+}
+
+void LorvaAppModel::answerLoadWaiters(bool isCancelled)
+{
+    std::vector<LoadWaiter> waiters = std::exchange(m_loadWaiters, {});
+    const QPointer<LorvaAppModel> self(this);
+    for (const LoadWaiter &waiter : waiters) {
+        // An answer may end the model, or begin the next load.
+        if (!self)
+            return;
+        std::optional<int> newFamilies;
+        if (!isCancelled)
+            newFamilies = int(std::ranges::count_if(*allFamilies(), [&](const auto &family) {
+                return !waiter.known.contains(family.familyName);
+            }));
+        waiter.done(newFamilies);
+    }
 }
 
 void LorvaAppModel::installCatalog(Catalog catalog)

@@ -8,11 +8,33 @@
 
 #include "base/RunThen.h"
 #include "install/WatchedFontRegistrar.h"
+#include "model/FolderLooks.h"
 #include "platform/FontRegistrar.h"
 
 #include <algorithm>
 
 namespace lorva {
+
+namespace {
+
+/// After it a folder counts as not there.
+constexpr std::chrono::seconds kPatienceWithFolders{2};
+
+bool hasFileIn(const FontFamilyRecord &family, const FilePath &folder)
+{
+    return std::ranges::any_of(family.styles, [&](const FontStyleRecord &style) {
+        return style.fileURL && style.fileURL->isInside(folder);
+    });
+}
+
+/// Thread: worker.
+int familiesIn(const FontFamilyList &families, const FilePath &folder)
+{
+    return int(std::ranges::count_if(
+        *families, [&](const FontFamilyRecord &family) { return hasFileIn(family, folder); }));
+}
+
+} // namespace
 
 /// True if it is another list than before.
 bool LorvaAppModel::readWatchedFolders()
@@ -107,6 +129,28 @@ Result<void> LorvaAppModel::removeWatchedFolder(const QString &id)
     }
     loadCatalog();
     return {};
+}
+
+void LorvaAppModel::lookAtFolders(std::function<void(QHash<QString, FolderLook>)> done)
+{
+    if (!m_folderLooks)
+        m_folderLooks = new FolderLooks(kPatienceWithFolders, canOpenFolder, this);
+    std::vector<FilePath> paths;
+    for (const WatchedFolder &folder : m_watchedFolders)
+        paths.push_back(folderURL(folder));
+    const auto count = [this, folders = m_watchedFolders,
+                        done = std::move(done)](const QSet<FilePath> &there) {
+        const auto work = [folders, there, families = allFamilies()](const std::stop_token &) {
+            QHash<QString, FolderLook> looks;
+            for (const WatchedFolder &folder : folders) {
+                const FilePath path = folderURL(folder);
+                looks.insert(folder.id, {there.contains(path), familiesIn(families, path)});
+            }
+            return looks;
+        };
+        runThen(m_quietPool, this, work, done);
+    };
+    m_folderLooks->look(paths, count);
 }
 
 } // namespace lorva
