@@ -27,6 +27,8 @@ struct Alert
     QString body;
     /// In the order of importance: the first is what Return chooses, unless it is destructive.
     std::vector<Button> buttons;
+    /// Said after the body, more quietly; empty for nothing.
+    QString note = {};
 
     bool operator==(const Alert &) const = default;
 };

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "commands/ActivationPlans.h"
+#include "commands/CommandPresenter.h"
+#include "install/FontInstallationService.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+namespace lorva {
+
+class LorvaAppModel;
+struct DeactivationRecord;
+
+/// What the user does to switch fonts on and off: decides which families take part, asks what has
+/// to be asked, has the service do it and tells what became of it. A de-activation to the Trash can
+/// be undone on the model's undo stack.
+///
+/// Looks at the disk on a worker. A command that is given while another waits for an answer or runs
+/// is done as well: families that are being switched are left out of it. Holds the model and the
+/// presenter, which outlive it; does nothing without an installation service. Thread: main.
+class ActivationCommands final : public QObject
+{
+    Q_OBJECT
+public:
+    ActivationCommands(LorvaAppModel &model, CommandPresenter &presenter,
+                       QObject *parent = nullptr);
+    ~ActivationCommands() override;
+
+    /// Unknown names are left out, here and below.
+    void activate(const QStringList &familyNames);
+    void activateRemaining(const QStringList &familyNames);
+    void deactivate(const QStringList &familyNames);
+    /// The style's file; other styles in that file go with it.
+    void deactivateStyle(const QString &familyName, const FontStyleRecord &style);
+
+    /// By what the model knows; looks at no disk.
+    ActivationOffer offer(const QStringList &familyNames) const;
+
+    bool hasFailures() const { return !m_failures.empty(); }
+    /// Which files failed when some did last, and why.
+    void showFailures();
+    /// What was switched when, with an export.
+    void showHistory();
+
+    /// True while a run is under way or waits.
+    bool isRunning() const { return m_runs > 0; }
+    /// Ends every run after the file that it is at, and calls `done` when the books say what was
+    /// done; at once when nothing runs.
+    /// Nothing that was asked for before begins any more.
+    void finish(std::function<void()> done);
+    /// Takes de-activations off the undo stack whose files have left the Trash. Looks on a worker.
+    void refreshUndo();
+
+Q_SIGNALS:
+    /// hasFailures() or isRunning() may have changed.
+    void changed();
+
+private:
+    /// What is asked for: families by their names, or the file of one style.
+    struct Request;
+    /// What a request comes to on the disk as it is now.
+    struct Plan;
+    using Outcome = std::function<void(const InstallationOutcome &)>;
+
+    void start(const Request &request);
+    void makePlan(const Request &request, std::function<void(const Plan &)> then);
+    Plan withoutThoseInFlight(Plan plan) const;
+    void chooseMethod(const Request &request, const Plan &plan);
+    void runActivation(const Plan &plan, InstallMethod method);
+    void askDeactivation(const Request &request, const Plan &plan);
+    void confirmDeactivation(const Request &request, const Plan &plan);
+    void askDestination(const Request &request, const Plan &plan);
+    void deactivateAgain(const Request &request, const std::optional<FilePath> &destination);
+    void runDeactivation(const Plan &plan, const QString &label,
+                         const std::optional<FilePath> &destination, Outcome then);
+    void pushUndo(const QString &label, const QStringList &names, const WithdrawnFonts &withdrawn);
+    void restore(const std::shared_ptr<DeactivationRecord> &record);
+    void repeat(const std::shared_ptr<DeactivationRecord> &record);
+    void dropStaleUndo();
+
+    using Begin = std::function<FontInstallationService::Run(
+        FontInstallationService &service, FontInstallationService::Done done,
+        FontInstallationService::Progress progress)>;
+    using Words = std::function<ProgressState(int done, int total)>;
+    void run(const Begin &begin, const Words &words, Outcome then);
+    void ended(const InstallationOutcome &outcome, const Outcome &then);
+    void saveHistory(const FilePath &target);
+
+    LorvaAppModel &m_model;
+    CommandPresenter &m_presenter;
+    /// Of the last run in which a file failed.
+    InstallationFailures m_failures;
+    int m_runs = 0;
+    bool m_isFinishing = false;
+    /// Waits for the runs to end.
+    std::function<void()> m_finished;
+    QThreadPool m_pool;
+};
+
+} // namespace lorva

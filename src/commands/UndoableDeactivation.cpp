@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/UndoableDeactivation.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+
+namespace lorva {
+
+namespace {
+
+/// Menus show it.
+constexpr qsizetype kLongestLabel = 60;
+
+QString shortened(const QString &label)
+{
+    return label.size() <= kLongestLabel ? label : QString(label.left(kLongestLabel - 1) % u'…');
+}
+
+} // namespace
+
+UndoableDeactivation::UndoableDeactivation(std::shared_ptr<DeactivationRecord> record,
+                                           std::function<void()> restore,
+                                           std::function<void()> repeat)
+    : QUndoCommand(QCoreApplication::translate("UndoableDeactivation", "De-activate %1")
+                       .arg(shortened(record->label)))
+    , m_record(std::move(record))
+    , m_restore(std::move(restore))
+    , m_repeat(std::move(repeat))
+{
+}
+
+void UndoableDeactivation::undo()
+{
+    m_isDone = false;
+    if (m_record->isGone)
+        setObsolete(true);
+    else
+        m_restore();
+}
+
+/// Called by the stack once for what has been done already.
+void UndoableDeactivation::redo()
+{
+    if (!std::exchange(m_isDone, true))
+        m_repeat();
+}
+
+std::shared_ptr<DeactivationRecord> UndoableDeactivation::recordOf(const QUndoCommand *command)
+{
+    const auto *own = dynamic_cast<const UndoableDeactivation *>(command);
+    return own ? own->m_record : nullptr;
+}
+
+bool hasLeftTrash(const WithdrawnFonts &withdrawn)
+{
+    const auto isThere = [](const WithdrawnFonts::Copy &copy) {
+        struct stat info;
+        return ::lstat(copy.place.c_str(), &info) == 0;
+    };
+    return withdrawn.registrations.empty() && std::ranges::none_of(withdrawn.copies, isThere);
+}
+
+} // namespace lorva
