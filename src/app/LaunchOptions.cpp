@@ -55,6 +55,19 @@ Result<ColorMode> parseColorMode(const QByteArray &value)
     return usage(QStringLiteral("--color takes white, black, custom or image"));
 }
 
+Result<LaunchSheet> parseSheet(const QByteArray &value)
+{
+    if (value == "activate")
+        return LaunchSheet::activate;
+    if (value == "deactivate")
+        return LaunchSheet::deactivate;
+    if (value == "history")
+        return LaunchSheet::history;
+    if (value == "settings")
+        return LaunchSheet::settings;
+    return usage(QStringLiteral("--sheet takes activate, deactivate, history or settings"));
+}
+
 Result<bool> parseAppearance(const QByteArray &value)
 {
     if (value == "light" || value == "dark")
@@ -157,6 +170,7 @@ Result<void> addFolder(LaunchOptions &options, const QByteArray &value,
 
 constexpr Option kOptions[]{
     {"--screenshot", path<&LaunchOptions::screenshot>},
+    {"--sheet", parsed<parseSheet, &LaunchOptions::sheet>},
     {"--window-size", parsed<parseSize, &LaunchOptions::windowSize>},
     {"--appearance", parsed<parseAppearance, &LaunchOptions::isDark>},
     {"--folder", addFolder},
@@ -234,6 +248,7 @@ Shows every font of this computer as a live specimen.
   --appearance MODE     light or dark, whatever the desktop is
   --screenshot FILE     show the window off screen, write its picture as PNG, and quit
   --window-size WxH     size of that picture, in points (default 1720x920)
+  --sheet SHEET         open activate, deactivate (for --select), history or settings for it
   --version             print the version
   --help                print this help
 

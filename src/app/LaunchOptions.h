@@ -25,6 +25,9 @@ struct LaunchSource
     bool operator==(const LaunchSource &) const = default;
 };
 
+/// What can be opened over the window, for its picture.
+enum class LaunchSheet { activate, deactivate, history, settings };
+
 /// What the command line asks of the program.
 struct LaunchOptions
 {
@@ -34,6 +37,8 @@ struct LaunchOptions
     std::optional<FilePath> screenshot;
     /// Content size for the picture, in points.
     QSize windowSize{1720, 920};
+    /// Opened for the picture, for the selected family.
+    std::optional<LaunchSheet> sheet;
     /// Whether the desktop is to be taken for a dark one.
     std::optional<bool> isDark;
     std::vector<FilePath> folders;

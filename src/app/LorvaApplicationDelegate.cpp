@@ -9,6 +9,7 @@
 #include "base/AtomicFile.h"
 #include "base/Trace.h"
 #include "catalog/CatalogCache.h"
+#include "commands/LorvaSettingsViewModel.h"
 #include "model/stores/WindowGeometry.h"
 #include "platform/linux/XdgFolders.h"
 #include "ui/browser/BrowserTopBar.h"
@@ -16,6 +17,7 @@
 #include "ui/display/BackgroundImageStore.h"
 #include "ui/LorvaRootSplitViewController.h"
 #include "ui/onboarding/WindowReveal.h"
+#include "ui/settings/SettingsWindow.h"
 #include "ui/sheets/AlertSheet.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/style/Palette.h"
@@ -24,6 +26,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QLoggingCategory>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -40,6 +43,7 @@ constexpr std::chrono::milliseconds kSettleLook{4};
 constexpr qsizetype kLongestTitle = 300;
 /// After the last of the moves of a window that is dragged.
 constexpr std::chrono::milliseconds kFrameRest{500};
+constexpr std::chrono::milliseconds kClosePatience{5000};
 
 std::vector<QRect> visibleFrames()
 {
@@ -79,6 +83,8 @@ LorvaApplicationDelegate::~LorvaApplicationDelegate()
 {
     // Both hold the model without owning it.
     m_menu.reset();
+    m_settings.reset();
+    m_settingsViewModel.reset();
     m_window.reset();
 }
 
@@ -91,13 +97,17 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
     buildWindow();
     placeWindow();
     watchFirstScreen();
-    m_root->browser().setFocus();
+    m_root->browser().focusCards();
     passOnboardingGate();
     m_model->loadCatalog();
+    if (!m_options.screenshot)
+        m_root->folders().showFirstLoad();
     connect(qApp, &QGuiApplication::applicationStateChanged, m_model.get(),
             [this](Qt::ApplicationState state) {
-                if (state == Qt::ApplicationActive)
-                    m_model->becomeActive();
+                if (state != Qt::ApplicationActive)
+                    return;
+                m_model->becomeActive();
+                m_root->activation().refreshUndo();
             });
 }
 
@@ -153,13 +163,44 @@ void LorvaApplicationDelegate::buildMenu()
     const TraceStage stage("start: menu");
     m_menu = std::make_unique<MainMenu>(MainMenu::Targets{
         *m_model, *m_updaterController, *m_window,
-        [this] { m_root->sidebar().beginCreatingCollection(); }, [this] { m_root->addFolder(); },
+        [this] { m_root->sidebar().beginCreatingCollection(); },
+        [this] { m_root->folders().addFolders(); },
         [this] { m_root->browser().topBar().focusSearch(); },
-        [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); }});
+        [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); },
+        [this] { showSettings(); }, m_root->activation(),
+        [this] { return m_root->browser().selectedNames(); }});
     m_root->setMainMenu(m_menu->buttonMenu());
     // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
     connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),
             &MainMenu::makeMenuBar, Qt::QueuedConnection);
+}
+
+/// Made when it is first opened: most starts never do.
+void LorvaApplicationDelegate::showSettings()
+{
+    if (!m_settings) {
+        m_settingsViewModel = std::make_unique<LorvaSettingsViewModel>(*m_model);
+        m_settings = std::make_unique<SettingsWindow>(*m_settingsViewModel, m_window.get());
+    }
+    m_settings->present();
+}
+
+/// The file that is being copied is finished and written down first. A disk that hangs is not
+/// waited for: the next start brings the books into line.
+bool LorvaApplicationDelegate::closesNow()
+{
+    if (m_isClosing || !m_root->activation().isRunning())
+        return true;
+    m_isClosing = true;
+    m_window->setEnabled(false);
+    const auto close = [window = QPointer<QMainWindow>(m_window.get())] {
+        if (window)
+            window->close();
+    };
+    m_root->activation().finish(
+        [this, close] { QMetaObject::invokeMethod(m_window.get(), close, Qt::QueuedConnection); });
+    QTimer::singleShot(kClosePatience, m_window.get(), close);
+    return false;
 }
 
 void LorvaApplicationDelegate::placeWindow()
@@ -192,9 +233,13 @@ bool LorvaApplicationDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_window.get())
         return QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Close)
+    if (event->type() == QEvent::Close) {
         saveFrame();
-    else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        if (!closesNow()) {
+            event->ignore();
+            return true;
+        }
+    } else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
         m_frameRest.start();
     return QObject::eventFilter(watched, event);
 }
@@ -294,7 +339,36 @@ bool LorvaApplicationDelegate::isReadyForScreenshot()
         return false;
     // The result may not have been drawn yet.
     m_root->render();
-    return m_root->isSettled();
+    if (!m_root->isSettled())
+        return false;
+    if (m_options.sheet && !std::exchange(m_sheetWasOpened, true))
+        openSheet();
+    return !m_options.sheet || isSheetOpen();
+}
+
+void LorvaApplicationDelegate::openSheet()
+{
+    ActivationCommands &activation = m_root->activation();
+    const QStringList names(m_options.selectedFamily.value_or(QString()));
+    switch (*m_options.sheet) {
+    case LaunchSheet::activate:
+        activation.activate(names);
+        break;
+    case LaunchSheet::deactivate:
+        activation.deactivate(names);
+        break;
+    case LaunchSheet::history:
+        activation.showHistory();
+        break;
+    case LaunchSheet::settings:
+        showSettings();
+        break;
+    }
+}
+
+bool LorvaApplicationDelegate::isSheetOpen() const
+{
+    return m_settings ? m_settings->isVisible() : hasAlertSheet(*m_window);
 }
 
 void LorvaApplicationDelegate::takeScreenshot()
@@ -302,7 +376,8 @@ void LorvaApplicationDelegate::takeScreenshot()
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
-    const bool isEncoded = m_window->grab().toImage().save(&buffer, "PNG");
+    QWidget *shown = m_settings ? static_cast<QWidget *>(m_settings.get()) : m_window.get();
+    const bool isEncoded = shown->grab().toImage().save(&buffer, "PNG");
     const Result<void> written = isEncoded
         ? writeFileAtomically(*m_options.screenshot, png)
         : failure(ErrorKind::ioFailure, QStringLiteral("the picture could not be encoded"));

@@ -17,8 +17,10 @@
 namespace lorva {
 
 class LorvaRootSplitViewController;
+class LorvaSettingsViewModel;
 class LorvaWindowBackgroundView;
 class MainMenu;
+class SettingsWindow;
 
 /// Builds the program's objects in their order, opens the one main window, and ends with it.
 ///
@@ -67,6 +69,8 @@ private:
     void applyChoices(const LaunchOptions &options);
     void buildWindow();
     void buildMenu();
+    void showSettings();
+    bool closesNow();
     void placeWindow();
     void saveFrame();
     void windowRendered();
@@ -76,6 +80,8 @@ private:
     void watchFirstScreen();
     void reportFirstScreen();
     bool isReadyForScreenshot();
+    void openSheet();
+    bool isSheetOpen() const;
     void takeScreenshot();
 
     const LaunchOptions m_options;
@@ -93,10 +99,16 @@ private:
     LaunchChoices m_choices;
     LorvaRootSplitViewController *m_root = nullptr;
     std::unique_ptr<MainMenu> m_menu;
+    /// Made when they are first opened.
+    std::unique_ptr<LorvaSettingsViewModel> m_settingsViewModel;
+    std::unique_ptr<SettingsWindow> m_settings;
+    /// The window waits for the end of what is being switched.
+    bool m_isClosing = false;
     QElapsedTimer m_sinceCatalog;
     /// They may still fade in.
     bool m_specimensAreDrawn = false;
     bool m_firstScreenIsPainted = false;
+    bool m_sheetWasOpened = false;
 };
 
 } // namespace lorva

@@ -5,6 +5,7 @@
 
 #include "app/MenuBarReveal.h"
 #include "app/SpecimenSizes.h"
+#include "commands/ActivationCommands.h"
 #include "model/LorvaAppModel.h"
 #include "platform/UpdaterController.h"
 #include "ui/sheets/AlertSheet.h"
@@ -45,11 +46,13 @@ MainMenu::MainMenu(Targets targets)
     buildProgramMenu();
     buildFileMenu();
     buildEditMenu();
+    buildFontsMenu();
     buildViewMenu();
     applyMenuLook(*m_buttonMenu);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget *, QWidget *now) { remember(now); });
     connect(&m_targets.model.undoStack(), &QUndoStack::indexChanged, this, &MainMenu::update);
+    connect(&m_targets.activation, &ActivationCommands::changed, this, &MainMenu::update);
     update();
 }
 
@@ -59,7 +62,10 @@ QMenu *MainMenu::addMenu(const QString &title, const QString &name)
 {
     QMenu *menu = m_buttonMenu->addMenu(title);
     menu->setObjectName(name);
-    connect(menu, &QMenu::aboutToShow, this, &MainMenu::update);
+    connect(menu, &QMenu::aboutToShow, this, [this] {
+        m_targets.activation.refreshUndo();
+        update();
+    });
     m_menus << menu;
     return menu;
 }
@@ -88,6 +94,9 @@ void MainMenu::buildProgramMenu()
     m_checkForUpdates = add(menu, "Menu.CheckForUpdates", tr("Check for Updates…"), {},
                             [this] { m_targets.updater.checkForUpdates(); });
     menu->addSeparator();
+    add(menu, "Menu.Settings", tr("Settings…"), {QKeySequence(Qt::CTRL | Qt::Key_Comma)},
+        m_targets.showSettings);
+    menu->addSeparator();
     QAction *quit = menu->addAction(tr("Quit"));
     quit->setObjectName(QStringLiteral("Menu.Quit"));
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
@@ -102,6 +111,8 @@ void MainMenu::buildFileMenu()
         m_targets.newCollection);
     add(menu, "Menu.AddFolder", tr("Add Folder…"), {QKeySequence(Qt::CTRL | Qt::Key_O)},
         m_targets.addFolder);
+    add(menu, "Menu.Rescan", tr("Scan Folders Again"), {QKeySequence(Qt::Key_F5)},
+        [this] { m_targets.model.loadCatalog(); });
     menu->addSeparator();
     add(menu, "Menu.Close", tr("Close"), {QKeySequence(Qt::CTRL | Qt::Key_W)},
         [this] { m_targets.window.close(); });
@@ -122,6 +133,26 @@ void MainMenu::buildEditMenu()
         [this] { selectAll(); });
     menu->addSeparator();
     add(menu, "Menu.Find", tr("Find"), {QKeySequence(Qt::CTRL | Qt::Key_F)}, m_targets.find);
+    menu->addSeparator();
+    m_failedFiles = add(menu, "Menu.FailedFiles", tr("Files That Failed…"), {},
+                        [this] { m_targets.activation.showFailures(); });
+    add(menu, "Menu.History", tr("Activation History…"), {},
+        [this] { m_targets.activation.showHistory(); });
+}
+
+void MainMenu::buildFontsMenu()
+{
+    QMenu *menu = addMenu(tr("F&onts"), QStringLiteral("Menu.Fonts"));
+    ActivationCommands &activation = m_targets.activation;
+    m_activate = add(menu, "Menu.Activate", tr("Activate…"), {QKeySequence(Qt::CTRL | Qt::Key_E)},
+                     [this, &activation] { activation.activate(m_targets.selectedNames()); });
+    m_activateRemaining = add(menu, "Menu.ActivateRemaining", tr("Activate Remaining Styles…"),
+                              {QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_E)}, [this, &activation] {
+                                  activation.activateRemaining(m_targets.selectedNames());
+                              });
+    m_deactivate = add(menu, "Menu.Deactivate", tr("De-activate"),
+                       {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)},
+                       [this, &activation] { activation.deactivate(m_targets.selectedNames()); });
 }
 
 void MainMenu::buildViewMenu()
@@ -184,16 +215,34 @@ void MainMenu::update()
     const auto *field = qobject_cast<const QLineEdit *>(m_focused.data());
     m_undo->setText(field ? tr("Undo") : commandText(tr("Undo %1"), tr("Undo"), stack.undoText()));
     m_redo->setText(field ? tr("Redo") : commandText(tr("Redo %1"), tr("Redo"), stack.redoText()));
-    m_undo->setEnabled(field ? field->isUndoAvailable() : stack.canUndo());
-    m_redo->setEnabled(field ? field->isRedoAvailable() : stack.canRedo());
+    // A de-activation that is being undone cannot be done again before that has ended.
+    const bool isIdle = !m_targets.activation.isRunning();
+    m_undo->setEnabled(field ? field->isUndoAvailable() : isIdle && stack.canUndo());
+    m_redo->setEnabled(field ? field->isRedoAvailable() : isIdle && stack.canRedo());
 
     const double size = m_targets.model.browserPointSize();
     m_larger->setEnabled(size < LorvaAppModel::kMaximumPointSize);
     m_smaller->setEnabled(size > LorvaAppModel::kMinimumPointSize);
     (m_targets.model.viewMode() == ViewMode::grid ? m_grid : m_list)->setChecked(true);
     m_checkForUpdates->setVisible(m_targets.updater.canCheckForUpdates());
+    updateFontActions();
     m_fullScreen->setText(m_targets.window.isFullScreen() ? tr("Exit Full Screen")
                                                           : tr("Enter Full Screen"));
+}
+
+/// The commands themselves find out what is to be done: the shortcuts act without a menu that
+/// looks.
+void MainMenu::updateFontActions()
+{
+    const qsizetype count = m_targets.selectedNames().size();
+    for (QAction *action : {m_activate, m_activateRemaining, m_deactivate})
+        action->setEnabled(count > 0);
+    const auto titled = [count](QAction *action, const QString &one, const QString &several) {
+        action->setText(count < 2 ? one : several.arg(QString::number(count)));
+    };
+    titled(m_activate, tr("Activate…"), tr("Activate %1 Fonts…", nullptr, int(count)));
+    titled(m_deactivate, tr("De-activate"), tr("De-activate %1 Fonts", nullptr, int(count)));
+    m_failedFiles->setEnabled(m_targets.activation.hasFailures());
 }
 
 void MainMenu::remember(QWidget *focused)

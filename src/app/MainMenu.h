@@ -17,6 +17,7 @@ class QMenuBar;
 
 namespace lorva {
 
+class ActivationCommands;
 class LorvaAppModel;
 class MenuBarReveal;
 class UpdaterController;
@@ -43,6 +44,10 @@ public:
         /// Of the cards; a text that has the keyboard sees to its own.
         std::function<void()> copy;
         std::function<void()> selectAll;
+        std::function<void()> showSettings;
+        ActivationCommands &activation;
+        /// The families whose cards are chosen.
+        std::function<QStringList()> selectedNames;
     };
 
     explicit MainMenu(Targets targets);
@@ -63,9 +68,11 @@ private:
     void buildProgramMenu();
     void buildFileMenu();
     void buildEditMenu();
+    void buildFontsMenu();
     void buildViewMenu();
     void addSizeActions(QMenu *menu);
     void addModeActions(QMenu *menu);
+    void updateFontActions();
     void remember(QWidget *focused);
     void undo();
     void redo();
@@ -82,6 +89,10 @@ private:
     /// What had the keyboard's focus last, menus apart.
     QPointer<QWidget> m_focused;
     QAction *m_checkForUpdates = nullptr;
+    QAction *m_failedFiles = nullptr;
+    QAction *m_activate = nullptr;
+    QAction *m_activateRemaining = nullptr;
+    QAction *m_deactivate = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_grid = nullptr;

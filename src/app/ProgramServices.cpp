@@ -19,10 +19,12 @@ namespace lorva {
 
 namespace {
 
-/// What a picture takes from the user's own preferences, by kind of value.
+/// What a picture takes from the user's own preferences, by kind of value: the library as it is
+/// sorted and switched.
 void copyOrganization(const PreferenceStore &from, PreferenceStore &to)
 {
-    for (const char *key : {"vantrel.merid.collections", "vantrel.merid.styles"})
+    for (const char *key : {"vantrel.merid.collections", "vantrel.merid.styles",
+                            "vantrel.merid.watchedFolders", "vantrel.merid.fontInstallations"})
         if (const auto value = from.data(QLatin1StringView(key)))
             to.setData(QLatin1StringView(key), *value);
     for (const char *key :
@@ -30,10 +32,12 @@ void copyOrganization(const PreferenceStore &from, PreferenceStore &to)
           "vantrel.merid.hideQuizPromoInSidebar"})
         if (const auto value = from.boolean(QLatin1StringView(key)))
             to.setBoolean(QLatin1StringView(key), *value);
-    const QString dismissed = QStringLiteral("vantrel.merid.dismissedFoundries");
-    if (const auto value = from.stringArray(dismissed))
-        to.setStringArray(dismissed, *value);
-    for (const char *key : {"vantrel.merid.foundryOverrides", "vantrel.merid.foundryNameOverrides"})
+    for (const char *key :
+         {"vantrel.merid.dismissedFoundries", "vantrel.merid.lorvaRegisteredURLs"})
+        if (const auto value = from.stringArray(QLatin1StringView(key)))
+            to.setStringArray(QLatin1StringView(key), *value);
+    for (const char *key : {"vantrel.merid.foundryOverrides", "vantrel.merid.foundryNameOverrides",
+                            "vantrel.merid.fontOrigins"})
         if (const auto value = from.stringDictionary(QLatin1StringView(key)))
             to.setStringDictionary(QLatin1StringView(key), *value);
 }

@@ -23,8 +23,8 @@ struct ProgramParts
         makeOnboarding = [](LorvaAppModel &) { return std::make_unique<AbsentOnboarding>(); };
 };
 
-/// The user's preferences. A picture gets what the user has organised, and nothing of how their
-/// window looks, and changes neither.
+/// The user's preferences. A picture gets what the user has organised and switched on, and nothing
+/// of how their window looks, and changes neither.
 std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
                                                  const PlatformFolders &folders);
 /// The model over the services of this desktop. `preferences` outlives it.

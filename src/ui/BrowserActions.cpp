@@ -82,6 +82,24 @@ void BrowserActions::browserFoundryChosen(const QStringList &familyNames, const 
     tell(m_model.setFoundry(familyNames, foundryID));
 }
 
+void BrowserActions::browserActivationWanted(const QStringList &familyNames)
+{
+    if (onActivationWanted)
+        onActivationWanted(familyNames);
+}
+
+void BrowserActions::browserRemainingActivationWanted(const QStringList &familyNames)
+{
+    if (onRemainingActivationWanted)
+        onRemainingActivationWanted(familyNames);
+}
+
+void BrowserActions::browserDeactivationWanted(const QStringList &familyNames)
+{
+    if (onDeactivationWanted)
+        onDeactivationWanted(familyNames);
+}
+
 void BrowserActions::browserWatchFolderWanted()
 {
     if (onWatchFolderWanted)

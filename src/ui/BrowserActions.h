@@ -25,6 +25,9 @@ public:
     /// A change was refused; the text is fit to be shown.
     std::function<void(const QString &reason)> onRefused;
     std::function<void()> onWatchFolderWanted;
+    std::function<void(const QStringList &familyNames)> onActivationWanted;
+    std::function<void(const QStringList &familyNames)> onRemainingActivationWanted;
+    std::function<void(const QStringList &familyNames)> onDeactivationWanted;
 
     /// The user's own background images, as last read.
     const QStringList &userImages() const { return m_userImages; }
@@ -41,6 +44,9 @@ public:
     void browserCollectionToggled(const QStringList &familyNames,
                                   const QString &collectionID) override;
     void browserFoundryChosen(const QStringList &familyNames, const QString &foundryID) override;
+    void browserActivationWanted(const QStringList &familyNames) override;
+    void browserRemainingActivationWanted(const QStringList &familyNames) override;
+    void browserDeactivationWanted(const QStringList &familyNames) override;
     void browserWatchFolderWanted() override;
 
     void displayPointSizeChanged(double pointSize) override;

@@ -9,13 +9,10 @@
 #include "ui/display/LogoImage.h"
 #include "ui/display/LorvaWindowBackgroundView.h"
 #include "ui/PaneStates.h"
-#include "ui/sheets/AlertSheet.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/sidebar/SidebarFooter.h"
 
 #include <QEvent>
-#include <QFileDialog>
-#include <QPointer>
 #include <QStyle>
 
 namespace lorva {
@@ -31,6 +28,9 @@ LorvaRootSplitViewController::LorvaRootSplitViewController(
     QWidget *parent)
     : QWidget(parent)
     , m_model(model)
+    , m_presenter(*this)
+    , m_activation(model, m_presenter)
+    , m_folders(model, m_presenter)
     , m_browserActions(model, images)
     , m_sidebarActions(model)
     , m_logo(new LogoImage(this))
@@ -40,20 +40,34 @@ LorvaRootSplitViewController::LorvaRootSplitViewController(
     , m_browser(new FontBrowserViewController(makeFontResolver(model.fontLibraryService()), this))
 {
     setObjectName(QStringLiteral("LorvaRootSplitViewController"));
-    m_browser->setDelegate(&m_browserActions);
-    m_sidebar->setDelegate(&m_sidebarActions);
-    m_browserActions.onRefused = [this](const QString &reason) { tellRefused(reason); };
-    m_browserActions.onWatchFolderWanted = [this] { addFolder(); };
-    m_sidebarActions.onRefused = [this](const QString &reason) { tellRefused(reason); };
-    m_sidebarActions.onQuestion = [this](const Alert &question, std::function<void()> accepted) {
-        ask(question, std::move(accepted));
-    };
-    m_footer->onAddFolder = [this] { addFolder(); };
+    connectActions();
+    m_footer->onAddFolder = [this] { m_folders.addFolders(); };
     m_logo->onChange = [this] { scheduleRender(); };
     m_background->onImageChanged = [this] { scheduleRender(); };
     m_model.onChange = [this] { scheduleRender(); };
     m_browserActions.readUserImages();
     render();
+}
+
+void LorvaRootSplitViewController::connectActions()
+{
+    m_browser->setDelegate(&m_browserActions);
+    m_sidebar->setDelegate(&m_sidebarActions);
+    const auto activate = [this](const QStringList &names) { m_activation.activate(names); };
+    const auto deactivate = [this](const QStringList &names) { m_activation.deactivate(names); };
+    m_browserActions.onRefused = [this](const QString &reason) { tellRefused(reason); };
+    m_browserActions.onWatchFolderWanted = [this] { m_folders.addFolders(); };
+    m_browserActions.onActivationWanted = activate;
+    m_browserActions.onRemainingActivationWanted = [this](const QStringList &names) {
+        m_activation.activateRemaining(names);
+    };
+    m_browserActions.onDeactivationWanted = deactivate;
+    m_sidebarActions.onRefused = [this](const QString &reason) { tellRefused(reason); };
+    m_sidebarActions.onQuestion = [this](const Alert &question, std::function<void()> accepted) {
+        ask(question, std::move(accepted));
+    };
+    m_sidebarActions.onActivationWanted = activate;
+    m_sidebarActions.onDeactivationWanted = deactivate;
 }
 
 LorvaRootSplitViewController::~LorvaRootSplitViewController()
@@ -113,30 +127,9 @@ void LorvaRootSplitViewController::setMainMenu(QMenu *menu)
     m_footer->setMainMenu(menu);
 }
 
-void LorvaRootSplitViewController::addFolder()
-{
-    auto *dialog = new QFileDialog(this, tr("Add Folder"));
-    dialog->setObjectName(QStringLiteral("addFolderDialog"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
-    dialog->setLabelText(QFileDialog::Accept, tr("Add"));
-    connect(dialog, &QFileDialog::fileSelected, this,
-            [this](const QString &folder) { watch(FilePath::fromText(folder)); });
-    dialog->open();
-}
-
-void LorvaRootSplitViewController::watch(const FilePath &folder)
-{
-    m_model.addWatchedFolders({folder}, [view = QPointer(this)](const AddedFolders &added) {
-        if (view && !added.failures.empty())
-            view->tellRefused(added.failures.begin()->second.detail);
-    });
-}
-
 void LorvaRootSplitViewController::ask(const Alert &question, std::function<void()> accepted)
 {
-    presentAlert(*window(), question, [accepted = std::move(accepted)](int button) {
+    m_presenter.showAlert(question, [accepted = std::move(accepted)](int button) {
         if (button == 0)
             accepted();
     });
@@ -144,7 +137,7 @@ void LorvaRootSplitViewController::ask(const Alert &question, std::function<void
 
 void LorvaRootSplitViewController::tellRefused(const QString &reason)
 {
-    presentAlert(*window(), refusedChangeAlert(reason), [](int) {});
+    m_presenter.showAlert(refusedChangeAlert(reason), {});
 }
 
 void LorvaRootSplitViewController::layOut()

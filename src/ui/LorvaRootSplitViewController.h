@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/ActivationCommands.h"
+#include "commands/FolderCommands.h"
 #include "ui/BrowserActions.h"
+#include "ui/sheets/WindowPresenter.h"
 #include "ui/SidebarActions.h"
 
 #include <QWidget>
@@ -48,8 +51,9 @@ public:
 
     /// The menu behind the button at the foot of the sidebar. Does not own it.
     void setMainMenu(QMenu *menu);
-    /// Lets the user choose a folder, and watches it.
-    void addFolder();
+    /// Switching fonts on and off, from wherever the user asks for it.
+    ActivationCommands &activation() { return m_activation; }
+    FolderCommands &folders() { return m_folders; }
 
 Q_SIGNALS:
     /// The panes show the model's newest state.
@@ -60,14 +64,17 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void connectActions();
     void scheduleRender();
     void layOut();
     void applyGround(const FontBrowserState &state);
-    void watch(const FilePath &folder);
     void ask(const Alert &question, std::function<void()> accepted);
     void tellRefused(const QString &reason);
 
     LorvaAppModel &m_model;
+    WindowPresenter m_presenter;
+    ActivationCommands m_activation;
+    FolderCommands m_folders;
     BrowserActions m_browserActions;
     SidebarActions m_sidebarActions;
     LogoImage *m_logo;

@@ -12,6 +12,17 @@
 
 namespace lorva {
 
+namespace {
+
+template <class Record>
+QStringList membersIn(const std::vector<Record> &records, const QString &id)
+{
+    const auto found = std::ranges::find(records, id, &Record::id);
+    return found == records.end() ? QStringList() : found->familyNames;
+}
+
+} // namespace
+
 SidebarActions::SidebarActions(LorvaAppModel &model)
     : m_model(model)
 {
@@ -77,6 +88,32 @@ void SidebarActions::sidebarFoundryHidingWanted(const QString &id)
 void SidebarActions::sidebarFoundryBroughtBack(const QString &id)
 {
     tell(m_model.bringBackFoundry(id));
+}
+
+QStringList SidebarActions::membersOf(const SidebarItem &item) const
+{
+    switch (item.kind()) {
+    case SidebarItem::Kind::style:
+        return membersIn(m_model.styleCategories(), item.id());
+    case SidebarItem::Kind::collection:
+        return membersIn(m_model.collections(), item.id());
+    case SidebarItem::Kind::foundry:
+        return membersIn(m_model.foundryCollections(), item.id());
+    default:
+        return {};
+    }
+}
+
+void SidebarActions::sidebarActivationWanted(const SidebarItem &item)
+{
+    if (onActivationWanted)
+        onActivationWanted(membersOf(item));
+}
+
+void SidebarActions::sidebarDeactivationWanted(const SidebarItem &item)
+{
+    if (onDeactivationWanted)
+        onDeactivationWanted(membersOf(item));
 }
 
 void SidebarActions::sidebarFamiliesDropped(const SidebarItem &target,

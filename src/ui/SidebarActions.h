@@ -24,6 +24,8 @@ public:
     std::function<void(const QString &reason)> onRefused;
     /// Asks the user; `accepted` is called if they choose the first button.
     std::function<void(const Alert &question, std::function<void()> accepted)> onQuestion;
+    std::function<void(const QStringList &familyNames)> onActivationWanted;
+    std::function<void(const QStringList &familyNames)> onDeactivationWanted;
 
     void sidebarSelected(const BrowserSource &source) override;
     void sidebarOrganizeChosen() override { }
@@ -35,10 +37,13 @@ public:
     void sidebarFoundryRenamed(const QString &id, const QString &name) override;
     void sidebarFoundryHidingWanted(const QString &id) override;
     void sidebarFoundryBroughtBack(const QString &id) override;
+    void sidebarActivationWanted(const SidebarItem &item) override;
+    void sidebarDeactivationWanted(const SidebarItem &item) override;
     void sidebarFamiliesDropped(const SidebarItem &target, const QStringList &familyNames) override;
 
 private:
     void tell(const Result<void> &outcome) const;
+    QStringList membersOf(const SidebarItem &item) const;
 
     LorvaAppModel &m_model;
 };

@@ -385,7 +385,7 @@ TEST_F(ApplicationDelegate, ShowsTheMenuBarOnlyWhileItIsUsed)
     for (const Qt::Key key : {Qt::Key_Alt, Qt::Key_F10}) {
         press(key);
         EXPECT_TRUE(bar->isVisible());
-        EXPECT_EQ(bar->actions().size(), 4);
+        EXPECT_EQ(bar->actions().size(), 5);
         EXPECT_TRUE(QApplication::activePopupWidget());
         closePopups();
         m_delegate->rootController()->browser().setFocus();

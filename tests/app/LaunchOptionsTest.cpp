@@ -41,9 +41,10 @@ TEST(LaunchOptions, ReadsWhatTheWindowShowsFirst)
     const auto options =
         parse({"--appearance", "dark", "--search", "sans", "--select", "Noto Sans", "--weight=700",
                "--color", "image", "--image", builtInBackgroundImages().back().id, "--logo",
-               "l.svg", "--source", "collection:A: b"});
+               "l.svg", "--source", "collection:A: b", "--sheet", "deactivate"});
     ASSERT_TRUE(options.has_value());
     EXPECT_EQ(options->isDark, true);
+    EXPECT_EQ(options->sheet, LaunchSheet::deactivate);
     EXPECT_EQ(options->searchText, QStringLiteral("sans"));
     EXPECT_EQ(options->selectedFamily, QStringLiteral("Noto Sans"));
     EXPECT_EQ(options->weight, 700);
@@ -94,6 +95,7 @@ TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
         {{"--source", "style"}, "--source"},
         {{"--source", "style:"}, "--source"},
         {{"--source", "all:x"}, "--source"},
+        {{"--sheet", "quiz"}, "--sheet"},
     };
     for (const auto &row : rows) {
         const auto options = parse(row.arguments);

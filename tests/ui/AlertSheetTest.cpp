@@ -181,7 +181,9 @@ TEST_F(AlertSheetTest, StaysInsideTheWindowWhateverItSays)
         EXPECT_TRUE(m_window->rect().contains(panel->geometry())) << row.window.width();
         EXPECT_LE(panel->width(), 480);
         for (const char *name : {"AlertSheet.Button0", "AlertSheet.Button1"})
-            EXPECT_TRUE(panel->rect().contains(part(name)->geometry())) << name;
+            EXPECT_TRUE(
+                panel->rect().contains({part(name)->mapTo(panel, QPoint()), part(name)->size()}))
+                << name;
         const bool firstIsRight = part("AlertSheet.Button0")->x() > part("AlertSheet.Button1")->x();
         EXPECT_EQ(firstIsRight, row.direction == Qt::LeftToRight);
         m_window->resize(500, 400);
@@ -199,6 +201,22 @@ TEST_F(AlertSheetTest, TellsAssistiveTechnologyWhatItIs)
     EXPECT_EQ(panel->text(QAccessible::Name), QStringLiteral("Delete Collection?"));
     EXPECT_EQ(panel->text(QAccessible::Description),
               QStringLiteral("This removes the collection but keeps the fonts on your Mac."));
+}
+
+TEST_F(AlertSheetTest, SaysItsNoteAfterTheBody)
+{
+    Alert alert = deleteCollectionAlert();
+    alert.note = QStringLiteral("More goes with it.");
+    present(alert);
+    const QWidget *note = part("AlertSheet.Note");
+    ASSERT_TRUE(note);
+    EXPECT_GE(note->y(), part("AlertSheet.Body")->geometry().bottom());
+    EXPECT_LT(note->font().pixelSize(), part("AlertSheet.Body")->font().pixelSize());
+    EXPECT_EQ(part("AlertSheet.Panel")->accessibleDescription(),
+              QString(alert.body + QLatin1String("\nMore goes with it.")));
+    press(Qt::Key_Escape);
+    present(deleteCollectionAlert());
+    EXPECT_FALSE(part("AlertSheet.Note"));
 }
 
 TEST_F(AlertSheetTest, GoesUnansweredWithItsWindow)

@@ -52,6 +52,9 @@ public:
     void browserStyleChosen(const QStringList &, const std::optional<QString> &) override { }
     void browserCollectionToggled(const QStringList &, const QString &) override { }
     void browserFoundryChosen(const QStringList &, const QString &) override { }
+    void browserActivationWanted(const QStringList &) override { }
+    void browserRemainingActivationWanted(const QStringList &) override { }
+    void browserDeactivationWanted(const QStringList &) override { }
     void browserWatchFolderWanted() override { }
     void displayPointSizeChanged(double) override { }
     void displayFontWeightChanged(int) override { }
@@ -97,6 +100,15 @@ public:
     void browserFoundryChosen(const QStringList &names, const QString &id) override
     {
         note("foundry", names, id);
+    }
+    void browserActivationWanted(const QStringList &names) override { note("activate", names, {}); }
+    void browserRemainingActivationWanted(const QStringList &names) override
+    {
+        note("complete", names, {});
+    }
+    void browserDeactivationWanted(const QStringList &names) override
+    {
+        note("deactivate", names, {});
     }
     void browserWatchFolderWanted() override { log.append(QStringLiteral("watch")); }
     void displaySampleTextChanged(const QString &text) override

@@ -126,6 +126,59 @@ TEST_F(BrowserMenu, ActsOnAllSelectedFamilies)
     close();
 }
 
+TEST_F(BrowserMenu, OffersWhatFamiliesCanBeSwitchedTo)
+{
+    using Activation = FontFamilyActivation;
+    // A inactive, B copied, C copied in part, D the system's, E without files.
+    const QHash<QString, std::optional<Activation>> states{
+        {"A", Activation::inactive()},
+        {"B", Activation::active(InstallMethod::copy, false)},
+        {"C", Activation::active(InstallMethod::registerInPlace, true)},
+        {"D", Activation::active({}, false)}};
+    state.activationProvider = [states](const FontFamilyRecord &family) {
+        return states.value(family.familyName, std::nullopt);
+    };
+    ++state.activationGeneration;
+    apply();
+    const struct
+    {
+        QList<int> selected;
+        QStringList items;
+        QStringList log;
+    } rows[]{
+        {{0}, {"-", "Activate…"}, {"activate  of A"}},
+        {{1}, {"-", "De-activate"}, {"deactivate  of B"}},
+        {{2},
+         {"-", "Activate Remaining Styles…", "De-activate"},
+         {"complete  of C", "deactivate  of C"}},
+        {{3}, {}, {}},
+        {{4}, {}, {}},
+        {{3, 4}, {}, {}},
+        {{0, 3}, {"-", "Activate 2 Fonts…"}, {"activate  of A+D"}},
+        {{1, 2},
+         {"-", "Activate 2 Fonts…", "De-activate 2 Fonts"},
+         {"complete  of B+C", "deactivate  of B+C"}},
+        {{0, 1, 2},
+         {"-", "Activate 3 Fonts…", "De-activate 3 Fonts"},
+         {"activate  of A+B+C", "deactivate  of A+B+C"}},
+    };
+    for (const auto &row : rows) {
+        click(row.selected.front());
+        for (const int index : row.selected.mid(1))
+            click(index, Qt::ControlModifier);
+        rightClick(row.selected.front());
+        delegate.log.clear();
+        QStringList items;
+        for (QAction *action : menu()->actions().mid(3)) {
+            items.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+            action->trigger();
+        }
+        EXPECT_EQ(items, row.items);
+        EXPECT_EQ(delegate.log, row.log);
+        close();
+    }
+}
+
 TEST_F(BrowserMenu, OpensByKeyAtTheCurrentCardAndNotOnTheGround)
 {
     key(Qt::Key_Menu);

@@ -58,6 +58,14 @@ public:
     }
     void sidebarFoundryHidingWanted(const QString &id) override { log.append(text("hide ") + id); }
     void sidebarFoundryBroughtBack(const QString &id) override { log.append(text("back ") + id); }
+    void sidebarActivationWanted(const SidebarItem &item) override
+    {
+        log.append(QStringLiteral("activate %1").arg(item.id()));
+    }
+    void sidebarDeactivationWanted(const SidebarItem &item) override
+    {
+        log.append(QStringLiteral("deactivate %1").arg(item.id()));
+    }
     void sidebarFamiliesDropped(const SidebarItem &target, const QStringList &names) override
     {
         log.append(text("dropped on ") + target.id() + text(": ") + names.join(u','));

@@ -202,6 +202,10 @@ TEST_F(SidebarJourney, EachRowOffersItsCommands)
 {
     state.content.unsortedFontCount = 1;
     state.dismissedFoundries = {{text("h"), text("Hoefler & Co"), {}}};
+    // Of the style there is nothing on this computer.
+    state.content.counts = {};
+    state.content.counts.collections = {{text("c1"), 3}};
+    state.content.counts.foundries = {{text("f2"), 1}};
     sidebar.apply(state);
     const struct
     {
@@ -210,12 +214,20 @@ TEST_F(SidebarJourney, EachRowOffersItsCommands)
         int triggered;
         const char *told;
     } rows[]{
-        {c("c1"), "Rename Collection…|Delete Collection", 1, "delete c1"},
-        {f("f2"), "Rename Foundry…|Hide Foundry|-|Hidden Foundries", 1, "hide f2"},
+        {c("c1"), "Activate Fonts…|De-activate Fonts|-|Rename Collection…|Delete Collection", 4,
+         "delete c1"},
+        {c("c1"), "Activate Fonts…|De-activate Fonts|-|Rename Collection…|Delete Collection", 0,
+         "activate c1"},
+        {f("f2"),
+         "Activate Fonts…|De-activate Fonts|-|Rename Foundry…|Hide Foundry|-|Hidden Foundries", 4,
+         "hide f2"},
+        {f("f2"),
+         "Activate Fonts…|De-activate Fonts|-|Rename Foundry…|Hide Foundry|-|Hidden Foundries", 1,
+         "deactivate f2"},
         {fonts(Kind::organize), "Hide from Sidebar", 0, "promo hidden"},
         {head(SidebarGroup::collections), "New Collection", 0, "wanted"},
         {head(SidebarGroup::foundries), "Hidden Foundries", -1, "back h"},
-        {s("serif"), "", -2, ""},
+        {s("serif"), "Activate Fonts…|De-activate Fonts", 0, ""},
         {fonts(Kind::allFonts), "", -2, ""},
         {head(SidebarGroup::library), "", -2, ""},
     };
@@ -234,10 +246,11 @@ TEST_F(SidebarJourney, EachRowOffersItsCommands)
     }
     state.dismissedFoundries.clear();
     sidebar.apply(state);
-    EXPECT_EQ(menuOf(f("f1")), text("Rename Foundry…|Hide Foundry"));
-    EXPECT_EQ(openMenu()->actions().at(1)->toolTip(),
+    EXPECT_EQ(menuOf(f("f1")),
+              text("Activate Fonts…|De-activate Fonts|-|Rename Foundry…|Hide Foundry"));
+    EXPECT_EQ(openMenu()->actions().at(4)->toolTip(),
               text("This hides the foundry from the sidebar."));
-    openMenu()->actions().constFirst()->trigger();
+    openMenu()->actions().at(3)->trigger();
     EXPECT_NE(editor(), nullptr);
     closeMenu();
     EXPECT_EQ(menuOf(head(SidebarGroup::foundries)), QString());

@@ -94,6 +94,49 @@ void fillFoundries(QMenu &menu, const SharedSubject &subject)
     }
 }
 
+/// "Activate…", or "Activate 3 Fonts…".
+QString switchingText(const char *forOne, const char *forSeveral, qsizetype count)
+{
+    if (count < 2)
+        return text(forOne);
+    return QCoreApplication::translate("CardMenu", forSeveral, nullptr, int(count))
+        .arg(QString::number(count));
+}
+
+using Wish = void (FontBrowserDelegate::*)(const QStringList &);
+
+void addSwitching(QMenu &menu, const char *name, const QString &title, const SharedSubject &subject,
+                  Wish wish)
+{
+    QAction *action = menu.addAction(title);
+    action->setObjectName(QString::fromLatin1(name));
+    QObject::connect(action, &QAction::triggered, &menu, [subject, wish] {
+        if (subject->delegate)
+            (subject->delegate->*wish)(subject->familyNames);
+    });
+}
+
+/// What makes sense for any of the families; those for which it does not are left out when it is
+/// chosen.
+void addActivation(QMenu &menu, const SharedSubject &subject)
+{
+    const ActivationOffer offer = activationOffer(subject->state, subject->familyNames);
+    const qsizetype count = subject->familyNames.size();
+    if (offer != ActivationOffer())
+        menu.addSeparator();
+    if (offer.activates)
+        addSwitching(menu, "activateItem", switchingText("Activate…", "Activate %1 Fonts…", count),
+                     subject, &FontBrowserDelegate::browserActivationWanted);
+    else if (offer.activatesRemaining)
+        addSwitching(menu, "activateRemainingItem",
+                     switchingText("Activate Remaining Styles…", "Activate %1 Fonts…", count),
+                     subject, &FontBrowserDelegate::browserRemainingActivationWanted);
+    if (offer.deactivates)
+        addSwitching(menu, "deactivateItem",
+                     switchingText("De-activate", "De-activate %1 Fonts", count), subject,
+                     &FontBrowserDelegate::browserDeactivationWanted);
+}
+
 } // namespace
 
 CollectionMenuAction::CollectionMenuAction(const CollectionMembershipOption &option,
@@ -118,6 +161,7 @@ QMenu *makeCardMenu(const FontBrowserState &state, const QStringList &familyName
     menu->actions().back()->setEnabled(!state.collections.empty());
     addSubmenu(*menu, "foundryMenu", text("Foundry"),
                [subject](QMenu &submenu) { fillFoundries(submenu, subject); });
+    addActivation(*menu, subject);
     return menu;
 }
 

@@ -20,7 +20,8 @@ public:
     const QString collectionID;
 };
 
-/// The menu of one card, or of all selected ones: style, collections, foundry.
+/// The menu of one card, or of all selected ones: style, collections, foundry, and switching on and
+/// off.
 ///
 /// Its submenus are filled when they open, so that it is there at once however many foundries there
 /// are. The state it was made from is kept. Thread: main. `delegate` may be null, and must outlive

@@ -98,6 +98,10 @@ public:
                                           const QString &collectionID) = 0;
     /// An empty id: of no foundry.
     virtual void browserFoundryChosen(const QStringList &familyNames, const QString &foundryID) = 0;
+    virtual void browserActivationWanted(const QStringList &familyNames) = 0;
+    /// What is missing of families that are active in part.
+    virtual void browserRemainingActivationWanted(const QStringList &familyNames) = 0;
+    virtual void browserDeactivationWanted(const QStringList &familyNames) = 0;
     virtual void browserWatchFolderWanted() = 0;
 };
 

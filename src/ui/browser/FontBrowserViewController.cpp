@@ -20,6 +20,7 @@
 #include <QClipboard>
 #include <QDrag>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 
@@ -180,7 +181,10 @@ void FontBrowserViewController::showCollection()
     if (!m_collection->isHidden())
         return;
     m_collection->show();
+    const bool isTyping = qobject_cast<QLineEdit *>(window()->focusWidget());
     if (m_collectionHadFocus && window()->focusWidget() == m_focusInstead)
+        m_collection->setFocus();
+    else if (std::exchange(m_cardsAwaitFocus, false) && !isTyping)
         m_collection->setFocus();
 }
 
@@ -325,6 +329,7 @@ void FontBrowserViewController::selectAll()
 void FontBrowserViewController::focusCards()
 {
     m_collection->setFocus(Qt::ShortcutFocusReason);
+    m_cardsAwaitFocus = m_collection->isHidden();
 }
 
 void FontBrowserViewController::openSelection()

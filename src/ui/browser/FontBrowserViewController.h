@@ -58,7 +58,7 @@ public:
     /// Edits the sample text in the place of the current card's specimen, or of the first one in
     /// sight.
     void editSampleText();
-    /// Gives the cards the keyboard.
+    /// Gives the cards the keyboard, as soon as there are any.
     void focusCards();
 
     /// Runs a drag to its end and takes it over; a test's own.
@@ -109,6 +109,8 @@ private:
     std::optional<BrowserSource> m_lastRenderedSource;
 
     bool m_collectionHadFocus = false;
+    /// They were given the keyboard before there were any.
+    bool m_cardsAwaitFocus = false;
     /// Where the focus of the hidden cards went.
     QPointer<QWidget> m_focusInstead;
 

@@ -67,4 +67,14 @@ std::vector<FoundryMembershipOption> foundryOptions(const FontBrowserState &stat
         state.foundryCollections, commonID(state.foundryIDByFamily, familyNames));
 }
 
+ActivationOffer activationOffer(const FontBrowserState &state, const QStringList &familyNames)
+{
+    const QSet<QString> names(familyNames.begin(), familyNames.end());
+    ActivationOffer offer;
+    for (const FontFamilyRecord &family : state.families)
+        if (names.contains(family.familyName))
+            offer.add(state.activationProvider(family));
+    return offer;
+}
+
 } // namespace lorva

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/ActivationPlans.h"
 #include "ui/browser/FontBrowserState.h"
 
 #include <vector>
@@ -44,5 +45,8 @@ std::vector<CollectionMembershipOption> collectionOptions(const FontBrowserState
                                                           const QStringList &familyNames);
 std::vector<FoundryMembershipOption> foundryOptions(const FontBrowserState &state,
                                                     const QStringList &familyNames);
+
+/// What the families can be switched to, by what is known of them.
+ActivationOffer activationOffer(const FontBrowserState &state, const QStringList &familyNames);
 
 } // namespace lorva

@@ -3,86 +3,108 @@
 
 #include "ui/sheets/AlertSheet.h"
 
-#include "ui/sheets/SheetOverlay.h"
+#include "ui/sheets/Sheet.h"
+#include "ui/sheets/SheetQueue.h"
+#include "ui/style/TextButton.h"
 
-#include <QWidget>
-
-#include <deque>
+#include <algorithm>
 #include <utility>
 
 namespace lorva {
 
 namespace {
 
-/// The alerts of one window, whose child it is: with the window they go unanswered.
-class AlertQueue final : public QObject
+TextButton::Kind kindOf(const Alert::Button &button, bool isFirst)
+{
+    if (button.role == Alert::Role::destructive)
+        return TextButton::Kind::destructive;
+    return isFirst ? TextButton::Kind::prominent : TextButton::Kind::plain;
+}
+
+int cancelIndex(const std::vector<Alert::Button> &buttons)
+{
+    const auto found = std::ranges::find(buttons, Alert::Role::cancel, &Alert::Button::role);
+    return int(found == buttons.end() ? buttons.size() - 1 : size_t(found - buttons.begin()));
+}
+
+/// The first that loses nothing; Return must not delete.
+size_t defaultIndex(const std::vector<Alert::Button> &buttons)
+{
+    const auto found = std::ranges::find_if(
+        buttons, [](const auto &button) { return button.role != Alert::Role::destructive; });
+    return found == buttons.end() ? 0 : size_t(found - buttons.begin());
+}
+
+class AlertSheet final : public Sheet
 {
 public:
-    static AlertQueue &of(QWidget &window)
+    /// `answered` is called once, when the sheet has gone.
+    AlertSheet(QWidget &window, const Alert &alert, std::function<void(int)> answered)
+        : Sheet(window, QStringLiteral("AlertSheet"), QAccessible::AlertMessage)
+        , m_answered(std::move(answered))
+        , m_cancelIndex(cancelIndex(alert.buttons))
     {
-        AlertQueue *queue = find(window);
-        return queue ? *queue : *new AlertQueue(window);
-    }
-    static AlertQueue *find(const QWidget &window)
-    {
-        for (QObject *child : window.children())
-            if (auto *queue = dynamic_cast<AlertQueue *>(child))
-                return queue;
-        return nullptr;
+        Q_ASSERT(!alert.buttons.empty());
+        addHeading(alert.title);
+        addBody(alert.body);
+        addNote(alert.note);
+        const bool hasNote = !alert.note.isEmpty();
+        panel().setAccessibleDescription(hasNote ? QString(alert.body + u'\n' + alert.note)
+                                                 : alert.body);
+        addButtons(alert.buttons);
     }
 
-    void add(const Alert &alert, std::function<void(int)> done)
-    {
-        m_waiting.emplace_back(alert, std::move(done));
-        if (!m_isShowing)
-            showNext();
-    }
-    bool isShowing() const { return m_isShowing; }
+protected:
+    void cancel() override { answer(m_cancelIndex); }
 
 private:
-    explicit AlertQueue(QWidget &window)
-        : QObject(&window)
-        , m_window(window)
+    void addButtons(const std::vector<Alert::Button> &buttons)
     {
+        std::vector<TextButton *> made;
+        for (size_t i = 0; i < buttons.size(); ++i) {
+            auto *button = new TextButton(buttons[i].text, kindOf(buttons[i], i == 0));
+            button->setObjectName(QStringLiteral("AlertSheet.Button%1").arg(i));
+            button->setAutoDefault(true);
+            connect(button, &QPushButton::clicked, this, [this, i] { answer(int(i)); });
+            addButton(button);
+            made.push_back(button);
+        }
+        setDefaultButton(made[defaultIndex(buttons)]);
     }
 
-    void showNext()
+    void answer(int button)
     {
-        m_isShowing = !m_waiting.empty();
-        if (!m_isShowing)
+        if (isDismissed())
             return;
-        auto [alert, done] = std::move(m_waiting.front());
-        m_waiting.pop_front();
-        auto *sheet = new SheetOverlay(
-            m_window, alert, [this, done = std::move(done)](int button) { finish(done, button); });
-        sheet->present();
+        const std::function<void(int)> answered = m_answered;
+        dismiss();
+        answered(button);
     }
 
-    void finish(const std::function<void(int)> &done, int button)
-    {
-        const QPointer<AlertQueue> self(this);
-        // Before the next one comes: what it answers may decide about that.
-        m_isShowing = false;
-        done(button);
-        if (self && !m_isShowing)
-            showNext();
-    }
-
-    QWidget &m_window;
-    std::deque<std::pair<Alert, std::function<void(int)>>> m_waiting;
-    bool m_isShowing = false;
+    const std::function<void(int)> m_answered;
+    const int m_cancelIndex;
 };
 
 } // namespace
 
 void presentAlert(QWidget &window, const Alert &alert, std::function<void(int)> done)
 {
-    AlertQueue::of(*window.window()).add(alert, std::move(done));
+    SheetQueue::of(window).add(
+        [&owner = *window.window(), alert, done = std::move(done)](SheetQueue &queue) -> QObject * {
+            auto *sheet = new AlertSheet(owner, alert, [&queue, done](int button) {
+                queue.finish([&done, button] {
+                    if (done)
+                        done(button);
+                });
+            });
+            sheet->present();
+            return sheet;
+        });
 }
 
 bool hasAlertSheet(const QWidget &window)
 {
-    const AlertQueue *queue = AlertQueue::find(*window.window());
+    const SheetQueue *queue = SheetQueue::find(window);
     return queue && queue->isShowing();
 }
 

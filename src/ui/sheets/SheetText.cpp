@@ -3,11 +3,15 @@
 
 #include "ui/sheets/SheetText.h"
 
+#include "ui/style/Palette.h"
+
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
 #include <QTextLayout>
 
 #include <cmath>
+#include <vector>
 
 namespace lorva {
 
@@ -20,45 +24,83 @@ double lineHeight(const QFont &font)
     return std::ceil(QFontMetricsF(font).height() / 1.2 * kLineSpacing);
 }
 
+struct Line
+{
+    QString text;
+    /// It holds more than there is room for.
+    bool isCut = false;
+};
+
+/// White space at a line's end takes no room, at neither side.
+QString trimmedEnd(QString text)
+{
+    while (!text.isEmpty() && text.back().isSpace())
+        text.chop(1);
+    return text;
+}
+
 /// The lines of one paragraph, at most `limit` of them; the last one then holds all the rest.
-void appendLines(QStringList &lines, const QString &paragraph, const QFont &font, double width,
-                 int limit)
+void appendLines(std::vector<Line> &lines, const QString &paragraph, const QFont &font,
+                 double width, int limit)
 {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     QTextLayout layout(paragraph, font);
     layout.setTextOption(option);
     layout.beginLayout();
-    const qsizetype before = lines.size();
+    const size_t before = lines.size();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        const bool isLast = lines.size() + 1 == limit;
-        lines.append(isLast ? paragraph.mid(line.textStart())
-                            : paragraph.mid(line.textStart(), line.textLength()));
+        const QString shown = trimmedEnd(paragraph.mid(line.textStart(), line.textLength()));
+        const QString rest = trimmedEnd(paragraph.mid(line.textStart()));
+        const bool isLast = int(lines.size()) + 1 == limit;
+        lines.push_back({isLast ? rest : shown, isLast && rest.size() > shown.size()});
         if (isLast)
             break;
     }
     layout.endLayout();
     if (lines.size() == before)
-        lines.append(QString());
+        lines.push_back({});
 }
 
-QStringList wrapped(const QString &text, const QFont &font, double width, int maximumLineCount)
+std::vector<Line> linesOf(const WrappedText &wrapped, double width)
 {
-    const int limit = maximumLineCount > 0 ? maximumLineCount : -1;
-    QStringList lines;
-    for (const QString &paragraph : text.split(u'\n')) {
-        if (lines.size() == limit)
+    const int limit = wrapped.maximumLineCount > 0 ? wrapped.maximumLineCount : -1;
+    std::vector<Line> lines;
+    for (const QString &paragraph : wrapped.text.split(u'\n')) {
+        if (int(lines.size()) == limit)
             break;
-        appendLines(lines, paragraph, font, width, limit);
+        appendLines(lines, paragraph, wrapped.font, width, limit);
     }
     return lines;
 }
 
 } // namespace
 
-SheetText::SheetText(const QString &text, const QFont &font, QWidget *parent)
+int WrappedText::heightFor(int width) const
+{
+    return int(std::ceil(double(linesOf(*this, width).size()) * lineHeight(font)));
+}
+
+void WrappedText::draw(QPainter &painter, const QRectF &rect, Qt::LayoutDirection direction) const
+{
+    painter.setFont(font);
+    const QFontMetricsF metrics(font);
+    const double height = lineHeight(font);
+    const auto alignment = Qt::AlignVCenter | QStyle::visualAlignment(direction, Qt::AlignLeft);
+    double y = rect.top();
+    for (const auto &[line, isCut] : linesOf(*this, rect.width())) {
+        const QString shown = isCut ? metrics.elidedText(line, Qt::ElideRight, rect.width()) : line;
+        // Scripts with tall letters may reach over their line.
+        painter.drawText(QRectF(rect.left(), y, rect.width(), height),
+                         int(alignment) | Qt::TextDontClip, shown);
+        y += height;
+    }
+}
+
+SheetText::SheetText(const QString &text, const QFont &font, double alpha, QWidget *parent)
     : QLabel(text, parent)
+    , m_alpha(alpha)
 {
     setTextFormat(Qt::PlainText);
     setFont(font);
@@ -67,24 +109,15 @@ SheetText::SheetText(const QString &text, const QFont &font, QWidget *parent)
 
 int SheetText::heightForWidth(int width) const
 {
-    const auto count = wrapped(text(), font(), width, m_maximumLineCount).size();
-    return int(std::ceil(double(count) * lineHeight(font())));
+    return wrapped().heightFor(width);
 }
 
 void SheetText::paintEvent(QPaintEvent *)
 {
+    const NeutralColors colors = neutralColors(isDarkDesktop());
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    const double height = lineHeight(font());
-    double y = 0;
-    for (const QString &line : wrapped(text(), font(), width(), m_maximumLineCount)) {
-        const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, width());
-        painter.drawText(
-            QRectF(0, y, width(), height),
-            int(Qt::AlignVCenter | QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)),
-            shown);
-        y += height;
-    }
+    painter.setPen(quietColor(colors.text, colors.ground, m_alpha));
+    wrapped().draw(painter, rect(), layoutDirection());
 }
 
 } // namespace lorva

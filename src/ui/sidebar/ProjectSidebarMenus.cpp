@@ -38,12 +38,19 @@ void ProjectSidebarViewController::fillMenu(QMenu &menu, const SidebarItem &item
 {
     const QString &id = item.id();
     switch (item.kind()) {
+    case SidebarItem::Kind::style:
+        addActivation(menu, item);
+        break;
     case SidebarItem::Kind::collection:
+        addActivation(menu, item);
+        menu.addSeparator();
         menu.addAction(tr("Rename Collection…"), this, [this, item] { beginRenaming(item); });
         menu.addAction(tr("Delete Collection"), this,
                        [this, id] { m_delegate->sidebarCollectionDeletionWanted(id); });
         break;
     case SidebarItem::Kind::foundry:
+        addActivation(menu, item);
+        menu.addSeparator();
         fillFoundryMenu(menu, item);
         break;
     case SidebarItem::Kind::organize:
@@ -58,6 +65,35 @@ void ProjectSidebarViewController::fillMenu(QMenu &menu, const SidebarItem &item
     default:
         break;
     }
+}
+
+/// How many families of this computer the row stands for.
+int ProjectSidebarViewController::familyCount(const SidebarItem &item) const
+{
+    const SidebarCounts &counts = m_state.content.counts;
+    switch (item.kind()) {
+    case SidebarItem::Kind::style:
+        return counts.styles.value(item.id());
+    case SidebarItem::Kind::collection:
+        return counts.collections.value(item.id());
+    case SidebarItem::Kind::foundry:
+        return counts.foundries.value(item.id());
+    default:
+        return 0;
+    }
+}
+
+void ProjectSidebarViewController::addActivation(QMenu &menu, const SidebarItem &item)
+{
+    QAction *activate = menu.addAction(tr("Activate Fonts…"), this,
+                                       [this, item] { m_delegate->sidebarActivationWanted(item); });
+    activate->setObjectName(QStringLiteral("SidebarActivate"));
+    QAction *deactivate = menu.addAction(tr("De-activate Fonts"), this, [this, item] {
+        m_delegate->sidebarDeactivationWanted(item);
+    });
+    deactivate->setObjectName(QStringLiteral("SidebarDeactivate"));
+    for (QAction *action : {activate, deactivate})
+        action->setEnabled(familyCount(item) > 0);
 }
 
 void ProjectSidebarViewController::fillFoundryMenu(QMenu &menu, const SidebarItem &item)

@@ -66,6 +66,8 @@ private:
     void rename(const SidebarItem &item, const QString &newName);
     void showMenu(const QModelIndex &index, const QPoint &globalPosition);
     void fillMenu(QMenu &menu, const SidebarItem &item);
+    int familyCount(const SidebarItem &item) const;
+    void addActivation(QMenu &menu, const SidebarItem &item);
     void fillFoundryMenu(QMenu &menu, const SidebarItem &item);
     void addHiddenFoundries(QMenu &menu);
 

@@ -42,6 +42,9 @@ public:
     virtual void sidebarFoundryRenamed(const QString &id, const QString &name) = 0;
     virtual void sidebarFoundryHidingWanted(const QString &id) = 0;
     virtual void sidebarFoundryBroughtBack(const QString &id) = 0;
+    /// Everything in a style category, collection or foundry is to be switched on, or off.
+    virtual void sidebarActivationWanted(const SidebarItem &item) = 0;
+    virtual void sidebarDeactivationWanted(const SidebarItem &item) = 0;
     /// Families dropped on a style category, collection or foundry row.
     virtual void sidebarFamiliesDropped(const SidebarItem &target,
                                         const QStringList &familyNames) = 0;
