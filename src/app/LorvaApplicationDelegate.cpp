@@ -30,6 +30,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -125,11 +126,11 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
     for (const QByteArray &argument : start.arguments)
         arguments.push_back(argument.constData());
     const auto options = parseLaunchOptions(arguments, start.workingFolder);
-    // A question that is open comes first: it is about what is shown now.
-    if (options && m_window && !hasAlertSheet(*m_window)) {
-        applyChoices(*options);
-        if (!options->folders.empty())
-            m_model->addFoldersForThisRun(options->folders);
+    if (options && m_window) {
+        // A question that is open comes first: it is about what is shown now.
+        if (!hasAlertSheet(*m_window))
+            applyChoices(*options);
+        m_model->addFoldersForThisRun(options->folders);
     }
     if (!start.activationToken.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", start.activationToken);
@@ -368,7 +369,12 @@ void LorvaApplicationDelegate::openSheet()
 
 bool LorvaApplicationDelegate::isSheetOpen() const
 {
-    return m_settings ? m_settings->isVisible() : hasAlertSheet(*m_window);
+    if (!m_settings)
+        return hasAlertSheet(*m_window);
+    const std::vector<WatchedFolder> &folders = m_settingsViewModel->folders();
+    return std::ranges::all_of(folders, [this](const WatchedFolder &folder) {
+        return m_settingsViewModel->look(folder.id).has_value();
+    });
 }
 
 void LorvaApplicationDelegate::takeScreenshot()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/SwitchingCommand.h"
+#include "commands/ActivationPlans.h"
+#include "commands/ActivationTexts.h"
 #include "model/records/RecordsJson.h"
 
 namespace lorva::cli {
@@ -49,12 +51,6 @@ Result<InstallMethod> wantedMethod(const Arguments &arguments,
                                   "default is chosen"));
 }
 
-/// Families that are active through the system are left alone, and those that are so as a whole.
-bool takesPart(const std::optional<FamilyActivationState> &state)
-{
-    return !state || (state->method && state->isPartlyInactive);
-}
-
 /// Somebody who gave a file must not be told that it is active when only its name is.
 void refuseStrangeNamesakes(const ActivationSubjects &found, const ActivationBooks &books,
                             FileReasons &failures)
@@ -89,7 +85,7 @@ protected:
                     FileReasons &failures) const override
     {
         refuseStrangeNamesakes(found, books, failures);
-        return chosenFamilies(found, books, takesPart, [&](const FilePath &file) {
+        return chosenFamilies(found, books, takesPartInActivation, [&](const FilePath &file) {
             return books.classify(file) == FileActivationClass::watchedInactive;
         });
     }
@@ -116,10 +112,7 @@ protected:
 
     QString nothingToDo(const QStringList &asked) const override
     {
-        return asked.size() == 1
-            ? QStringLiteral("Every user-controllable font in %1 is already active.")
-                  .arg(asked.front())
-            : QStringLiteral("Every selected font is already active.");
+        return nothingToActivateAlert(asked).body;
     }
 
 private:

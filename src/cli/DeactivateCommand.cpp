@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "base/SystemError.h"
 #include "cli/Commands.h"
 #include "cli/SwitchingCommand.h"
-
-#include <cerrno>
-
+#include "commands/ActivationPlans.h"
+#include "commands/ActivationTexts.h"
 #include "install/InstallationRuns.h"
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace lorva::cli {
 
@@ -53,11 +49,6 @@ Result<std::optional<FilePath>> givenDestination(const Arguments &arguments,
     return destination;
 }
 
-bool takesPart(const std::optional<FamilyActivationState> &state)
-{
-    return state && state->method;
-}
-
 /// The entry that would be removed, if it may be the only copy there is. One that must not be
 /// removed fails in the run, with its own reason.
 std::optional<FilePath> onlyCopy(const FilePath &file, const ActivationBooks &books)
@@ -92,7 +83,7 @@ protected:
     {
         const QString reason = QStringLiteral(
             "Lorva didn't install it, so the original is not known; --to DIR moves it");
-        return chosenFamilies(found, books, takesPart, [&](const FilePath &file) {
+        return chosenFamilies(found, books, takesPartInDeactivation, [&](const FilePath &file) {
             const Class meaning = books.classify(file);
             if (meaning != Class::copied && meaning != Class::registered)
                 return false;
@@ -123,9 +114,7 @@ protected:
 
     QString nothingToDo(const QStringList &asked) const override
     {
-        return asked.size() == 1
-            ? QStringLiteral("No user-controllable active fonts in %1.").arg(asked.front())
-            : QStringLiteral("No user-controllable active fonts in the selection.");
+        return nothingToDeactivateAlert(asked).body;
     }
 
 private:

@@ -5,6 +5,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/RunThen.h"
+#include "commands/ActivationRequest.h"
 #include "commands/ActivationTexts.h"
 #include "commands/HistoryReport.h"
 #include "commands/UndoableDeactivation.h"
@@ -16,87 +17,6 @@
 #include <algorithm>
 
 namespace lorva {
-
-struct ActivationCommands::Request
-{
-    enum class Kind { activate, complete, deactivate };
-
-    Kind kind = Kind::activate;
-    QStringList names;
-    /// Only this one's file.
-    std::optional<FontStyleRecord> style;
-
-    Request about(const QStringList &kept) const { return {kind, kept, style}; }
-};
-
-struct ActivationCommands::Plan
-{
-    std::vector<FontFamilyRecord> families;
-    /// Families that share their files.
-    QStringList others;
-    /// Nothing that a de-activation throws away is the only copy.
-    bool areOriginsKnown = true;
-
-    QStringList names() const
-    {
-        QStringList names;
-        for (const FontFamilyRecord &family : families)
-            names.append(family.familyName);
-        return names;
-    }
-};
-
-namespace {
-
-std::vector<FontFamilyRecord> familiesNamed(const QStringList &names,
-                                            const std::vector<FontFamilyRecord> &catalog)
-{
-    const QSet<QString> wanted(names.begin(), names.end());
-    std::vector<FontFamilyRecord> found;
-    std::ranges::copy_if(catalog, std::back_inserter(found), [&](const FontFamilyRecord &family) {
-        return wanted.contains(family.familyName);
-    });
-    return found;
-}
-
-bool holdsFile(const FontFamilyRecord &family, const std::optional<FilePath> &file)
-{
-    return std::ranges::find(family.styles, file, &FontStyleRecord::fileURL) != family.styles.end();
-}
-
-QStringList familiesHolding(const std::optional<FilePath> &file, const QStringList &but,
-                            const std::vector<FontFamilyRecord> &catalog)
-{
-    QStringList names;
-    for (const FontFamilyRecord &family : catalog)
-        if (!but.contains(family.familyName) && holdsFile(family, file))
-            names.append(family.familyName);
-    return names;
-}
-
-void leaveOnly(const std::optional<FilePath> &file, std::vector<FontFamilyRecord> &families)
-{
-    for (FontFamilyRecord &family : families)
-        std::erase_if(family.styles,
-                      [&](const FontStyleRecord &style) { return style.fileURL != file; });
-    std::erase_if(families, [](const FontFamilyRecord &family) { return family.styles.empty(); });
-}
-
-std::vector<FontStyleRecord> stylesOf(const std::vector<FontFamilyRecord> &families)
-{
-    std::vector<FontStyleRecord> styles;
-    for (const FontFamilyRecord &family : families)
-        styles.insert(styles.end(), family.styles.begin(), family.styles.end());
-    return styles;
-}
-
-/// "Inter Bold": a style's own name says little.
-QString styleName(const QString &familyName, const FontStyleRecord &style)
-{
-    return style.label.isEmpty() ? familyName : QString(familyName % u' ' % style.label);
-}
-
-} // namespace
 
 ActivationCommands::ActivationCommands(LorvaAppModel &model, CommandPresenter &presenter,
                                        QObject *parent)
@@ -136,15 +56,6 @@ void ActivationCommands::deactivateStyle(const QString &familyName, const FontSt
     start({Request::Kind::deactivate, {familyName}, style});
 }
 
-ActivationOffer ActivationCommands::offer(const QStringList &familyNames) const
-{
-    ActivationOffer offer;
-    for (const QString &name : familyNames)
-        if (const FontFamilyRecord *family = m_model.family(name))
-            offer.add(m_model.activation(*family));
-    return offer;
-}
-
 // --- What a request comes to ---
 
 void ActivationCommands::start(const Request &request)
@@ -159,49 +70,41 @@ void ActivationCommands::start(const Request &request)
     });
 }
 
-/// `then` is called if there is something to be done; if not, the user is told.
-void ActivationCommands::makePlan(const Request &request, std::function<void(const Plan &)> then)
+/// `then` is called if there is something to be done; if not, the user is told, and `otherwise` is
+/// called, which may be empty.
+void ActivationCommands::makePlan(const Request &request, std::function<void(const Plan &)> then,
+                                  std::function<void()> otherwise)
 {
     const auto work = [request, catalog = m_model.allFamilies(),
                        books = m_model.installationService()->books(),
                        library = &m_model.fontLibraryService()](const std::stop_token &) {
-        Plan plan;
-        std::vector<FontFamilyRecord> asked = familiesNamed(request.names, *catalog);
-        if (request.style)
-            leaveOnly(request.style->fileURL, asked);
-        switch (request.kind) {
-        case Request::Kind::activate:
-            plan.families = familiesToActivate(asked, *books);
-            break;
-        case Request::Kind::complete:
-            plan.families = familiesToComplete(asked, *books);
-            break;
-        case Request::Kind::deactivate:
-            plan.families = familiesToDeactivate(asked, *books);
-            plan.areOriginsKnown = books->areAllOriginsKnown(stylesOf(plan.families));
-            break;
-        }
-        if (request.style)
-            plan.others = familiesHolding(request.style->fileURL, request.names, *catalog);
-        else if (!plan.families.empty())
-            plan.others = library->familiesSharingFiles(plan.names());
-        return plan;
+        return planFor(request, *catalog, *books, *library);
     };
-    runThen(m_pool, this, work, [this, request, then = std::move(then)](Plan found) {
-        if (m_isFinishing)
-            return;
-        if (found.families.empty()) {
-            m_presenter.showAlert(request.kind == Request::Kind::deactivate
-                                      ? nothingToDeactivateAlert(request.names)
-                                      : nothingToActivateAlert(request.names),
-                                  {});
-            return;
-        }
-        // What is being switched already is not switched twice, and there is nothing to say about.
-        const Plan free = withoutThoseInFlight(std::move(found));
-        if (!free.families.empty())
-            then(free);
-    });
+    runThen(m_pool, this, work,
+            [this, request, then = std::move(then), otherwise = std::move(otherwise)](Plan found) {
+                if (m_isFinishing)
+                    return;
+                const bool isNothing = found.families.empty();
+                // What is being switched already is not switched twice, and there is nothing to say
+                // about.
+                const Plan free = withoutThoseInFlight(std::move(found));
+                if (!free.families.empty()) {
+                    then(free);
+                    return;
+                }
+                if (isNothing)
+                    tellNothing(request);
+                if (otherwise)
+                    otherwise();
+            });
+}
+
+void ActivationCommands::tellNothing(const Request &request)
+{
+    const bool isDeactivation = request.kind == Request::Kind::deactivate;
+    m_presenter.showAlert(isDeactivation ? nothingToDeactivateAlert(request.subjects())
+                                         : nothingToActivateAlert(request.subjects()),
+                          {});
 }
 
 ActivationCommands::Plan ActivationCommands::withoutThoseInFlight(Plan plan) const
@@ -239,11 +142,10 @@ void ActivationCommands::chooseMethod(const Request &request, const Plan &plan)
 void ActivationCommands::runActivation(const Plan &plan, InstallMethod method)
 {
     const QString label = activationLabel(plan.names());
-    const auto begin = [families = plan.families, method](FontInstallationService &service,
-                                                          auto done, auto progress) {
+    const auto begin = [&plan, method](FontInstallationService &service, auto done, auto progress) {
         return method == InstallMethod::copy
-            ? service.activateByCopying(families, std::move(done), std::move(progress))
-            : service.activateInPlace(families, std::move(done), std::move(progress));
+            ? service.activateByCopying(plan.families, std::move(done), std::move(progress))
+            : service.activateInPlace(plan.families, std::move(done), std::move(progress));
     };
     const auto words = [label](int done, int total) {
         return activationProgress(label, done, total);
@@ -267,7 +169,7 @@ void ActivationCommands::confirmDeactivation(const Request &request, const Plan 
 {
     const std::optional<QString> note = deactivationNote(request.names.size(), plan.others);
     const Alert question = request.style
-        ? styleDeactivationQuestion(styleName(request.names.front(), *request.style), note)
+        ? styleDeactivationQuestion(request.subjects().front(), note)
         : deactivationQuestion(request.names, note);
     m_presenter.showAlert(question, [self = QPointer(this), request](int button) {
         if (self && button == 0)
@@ -279,7 +181,7 @@ void ActivationCommands::askDestination(const Request &request, const Plan &plan
 {
     const std::optional<QString> note = deactivationNote(request.names.size(), plan.others);
     const Alert question = request.style
-        ? unknownStyleOriginQuestion(styleName(request.names.front(), *request.style), note)
+        ? unknownStyleOriginQuestion(request.subjects().front(), note)
         : unknownOriginQuestion(request.names, note);
     m_presenter.showAlert(question, [self = QPointer(this), request](int button) {
         if (!self || button != 0)
@@ -301,12 +203,12 @@ void ActivationCommands::deactivateAgain(const Request &request,
             askDestination(request.about(plan.names()), plan);
             return;
         }
-        const QString label = request.style ? styleName(request.names.front(), *request.style)
-                                            : deactivationLabel(plan.names());
+        const Request done = request.about(plan.names());
+        const QString label = deactivationLabel(done.subjects());
         runDeactivation(plan, label, destination,
-                        [this, label, names = plan.names()](const InstallationOutcome &outcome) {
+                        [this, label, done](const InstallationOutcome &outcome) {
                             if (!outcome.withdrawn.isEmpty())
-                                pushUndo(label, names, outcome.withdrawn);
+                                pushUndo(label, done, outcome.withdrawn);
                             m_presenter.showAlert(deactivationAlert(label, outcome), {});
                         });
     });
@@ -315,9 +217,9 @@ void ActivationCommands::deactivateAgain(const Request &request,
 void ActivationCommands::runDeactivation(const Plan &plan, const QString &label,
                                          const std::optional<FilePath> &destination, Outcome then)
 {
-    const auto begin = [families = plan.families, destination](FontInstallationService &service,
-                                                               auto done, auto progress) {
-        return service.deactivate(families, destination, std::move(done), std::move(progress));
+    const auto begin = [&plan, &destination](FontInstallationService &service, auto done,
+                                             auto progress) {
+        return service.deactivate(plan.families, destination, std::move(done), std::move(progress));
     };
     const auto words = [label](int done, int total) {
         return deactivationProgress(label, done, total);
@@ -327,11 +229,11 @@ void ActivationCommands::runDeactivation(const Plan &plan, const QString &label,
 
 // --- Undo ---
 
-void ActivationCommands::pushUndo(const QString &label, const QStringList &names,
+void ActivationCommands::pushUndo(const QString &label, const Request &done,
                                   const WithdrawnFonts &withdrawn)
 {
     const auto record = std::make_shared<DeactivationRecord>(
-        DeactivationRecord{label, names, withdrawn, false, false});
+        DeactivationRecord{label, done.names, withdrawn, false, false});
     const QPointer<ActivationCommands> self(this);
     m_model.undoStack().push(new UndoableDeactivation(
         record,
@@ -339,9 +241,9 @@ void ActivationCommands::pushUndo(const QString &label, const QStringList &names
             if (self)
                 self->restore(record);
         },
-        [self, record] {
+        [self, record, done] {
             if (self)
-                self->repeat(record);
+                self->repeat(record, done);
         }));
 }
 
@@ -357,33 +259,37 @@ void ActivationCommands::restore(const std::shared_ptr<DeactivationRecord> &reco
     };
     run(begin, words, [this, record](const InstallationOutcome &outcome) {
         record->isPending = false;
+        record->withdrawn = stillWithdrawn(std::move(record->withdrawn), outcome);
         if (const std::optional<Alert> alert = restorationAlert(record->label, outcome))
             m_presenter.showAlert(*alert, {});
     });
 }
 
 /// Without asking again, unless something would be lost.
-void ActivationCommands::repeat(const std::shared_ptr<DeactivationRecord> &record)
+void ActivationCommands::repeat(const std::shared_ptr<DeactivationRecord> &record,
+                                const Request &request)
 {
-    record->withdrawn = {};
     record->isPending = true;
-    const Request request{Request::Kind::deactivate, record->names, std::nullopt};
-    makePlan(request, [this, record, request](const Plan &plan) {
+    const auto end = [this, record] {
+        record->isPending = false;
+        dropStaleUndo();
+    };
+    const auto then = [this, record, request, end](const Plan &plan) {
         if (!plan.areOriginsKnown) {
-            record->isPending = false;
-            dropStaleUndo();
+            end();
             askDestination(request.about(plan.names()), plan);
             return;
         }
-        runDeactivation(
-            plan, record->label, std::nullopt, [this, record](const InstallationOutcome &outcome) {
-                record->withdrawn = outcome.withdrawn;
-                record->isPending = false;
-                if (!outcome.failures.empty() || !outcome.filesLeft.empty())
-                    m_presenter.showAlert(deactivationAlert(record->label, outcome), {});
-                dropStaleUndo();
-            });
-    });
+        runDeactivation(plan, record->label, std::nullopt,
+                        [this, record, end](const InstallationOutcome &outcome) {
+                            addWithdrawn(outcome.withdrawn, record->withdrawn);
+                            if (!outcome.failures.empty() || !outcome.filesLeft.empty())
+                                m_presenter.showAlert(deactivationAlert(record->label, outcome),
+                                                      {});
+                            end();
+                        });
+    };
+    makePlan(request, then, end);
 }
 
 void ActivationCommands::refreshUndo()
@@ -402,6 +308,7 @@ void ActivationCommands::refreshUndo()
         return;
     const auto look = [withdrawn](const std::stop_token &) {
         std::vector<bool> gone;
+        gone.reserve(withdrawn.size());
         for (const WithdrawnFonts &each : withdrawn)
             gone.push_back(hasLeftTrash(each));
         return gone;
@@ -461,7 +368,7 @@ void ActivationCommands::ended(const InstallationOutcome &outcome, const Outcome
     if (!outcome.failures.empty())
         m_failures = outcome.failures;
     // Another command was quicker: there is nothing to tell about none.
-    const bool hasTakenPart = !outcome.families.isEmpty();
+    const bool hasTakenPart = !outcome.families.isEmpty() || !outcome.failures.empty();
     if (hasTakenPart && !m_isFinishing)
         then(outcome);
     Q_EMIT changed();

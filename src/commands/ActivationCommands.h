@@ -12,6 +12,8 @@
 namespace lorva {
 
 class LorvaAppModel;
+struct ActivationPlan;
+struct ActivationRequest;
 struct DeactivationRecord;
 
 /// What the user does to switch fonts on and off: decides which families take part, asks what has
@@ -36,9 +38,6 @@ public:
     /// The style's file; other styles in that file go with it.
     void deactivateStyle(const QString &familyName, const FontStyleRecord &style);
 
-    /// By what the model knows; looks at no disk.
-    ActivationOffer offer(const QStringList &familyNames) const;
-
     bool hasFailures() const { return !m_failures.empty(); }
     /// Which files failed when some did last, and why.
     void showFailures();
@@ -59,14 +58,14 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// What is asked for: families by their names, or the file of one style.
-    struct Request;
-    /// What a request comes to on the disk as it is now.
-    struct Plan;
+    using Request = ActivationRequest;
+    using Plan = ActivationPlan;
     using Outcome = std::function<void(const InstallationOutcome &)>;
 
     void start(const Request &request);
-    void makePlan(const Request &request, std::function<void(const Plan &)> then);
+    void makePlan(const Request &request, std::function<void(const Plan &)> then,
+                  std::function<void()> otherwise = {});
+    void tellNothing(const Request &request);
     Plan withoutThoseInFlight(Plan plan) const;
     void chooseMethod(const Request &request, const Plan &plan);
     void runActivation(const Plan &plan, InstallMethod method);
@@ -76,11 +75,12 @@ private:
     void deactivateAgain(const Request &request, const std::optional<FilePath> &destination);
     void runDeactivation(const Plan &plan, const QString &label,
                          const std::optional<FilePath> &destination, Outcome then);
-    void pushUndo(const QString &label, const QStringList &names, const WithdrawnFonts &withdrawn);
+    void pushUndo(const QString &label, const Request &done, const WithdrawnFonts &withdrawn);
     void restore(const std::shared_ptr<DeactivationRecord> &record);
-    void repeat(const std::shared_ptr<DeactivationRecord> &record);
+    void repeat(const std::shared_ptr<DeactivationRecord> &record, const Request &request);
     void dropStaleUndo();
 
+    /// Called before run() returns.
     using Begin = std::function<FontInstallationService::Run(
         FontInstallationService &service, FontInstallationService::Done done,
         FontInstallationService::Progress progress)>;

@@ -60,16 +60,19 @@ Alert failed(const QString &title, const QString &body)
 
 qsizetype filesOf(const InstallationOutcome &outcome)
 {
-    return qsizetype(outcome.filesDone.size() + outcome.filesSkipped.size()
-                     + outcome.filesLeft.size() + outcome.failures.size());
+    const size_t files = outcome.filesDone.size() + outcome.filesSkipped.size()
+        + outcome.filesLeft.size() + outcome.failures.size();
+    return qsizetype(files);
 }
 
 /// "12 of 340 files are …", and what failed of them.
 QString stoppedBody(const char *sentence, const InstallationOutcome &outcome,
                     const QString &failures)
 {
-    const qsizetype done = qsizetype(outcome.filesDone.size() + outcome.filesSkipped.size());
-    QString body = text(sentence).arg(QString::number(done), QString::number(filesOf(outcome)));
+    const size_t done = outcome.filesDone.size() + outcome.filesSkipped.size();
+    const QLocale locale;
+    QString body =
+        text(sentence).arg(locale.toString(qulonglong(done)), locale.toString(filesOf(outcome)));
     if (!outcome.failures.empty())
         body += u' ' + failures;
     return body;
@@ -103,7 +106,7 @@ ProgressState progress(const char *beginning, const char *onTheWay, const QStrin
     if (total <= 0)
         return {about(beginning, label), std::nullopt};
     const QLocale locale;
-    return {text(onTheWay).arg(label, locale.toString(done), locale.toString(total)),
+    return {text(onTheWay).arg(label, locale.toString(qulonglong(done)), locale.toString(total)),
             double(done) / total};
 }
 

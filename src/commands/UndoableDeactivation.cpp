@@ -3,9 +3,12 @@
 
 #include "commands/UndoableDeactivation.h"
 
+#include "model/stores/OrganizationNames.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <set>
 
 #include <sys/stat.h>
 
@@ -18,7 +21,9 @@ constexpr qsizetype kLongestLabel = 60;
 
 QString shortened(const QString &label)
 {
-    return label.size() <= kLongestLabel ? label : QString(label.left(kLongestLabel - 1) % u'…');
+    return label.size() <= kLongestLabel
+        ? label
+        : QString(cutBetweenCharacters(label, kLongestLabel - 1) % u'…');
 }
 
 } // namespace
@@ -54,6 +59,28 @@ std::shared_ptr<DeactivationRecord> UndoableDeactivation::recordOf(const QUndoCo
 {
     const auto *own = dynamic_cast<const UndoableDeactivation *>(command);
     return own ? own->m_record : nullptr;
+}
+
+WithdrawnFonts stillWithdrawn(WithdrawnFonts withdrawn, const InstallationOutcome &outcome)
+{
+    std::set<FilePath> waiting(outcome.filesLeft.begin(), outcome.filesLeft.end());
+    for (const auto &[file, error] : outcome.failures)
+        if (error.code != InstallationError::fileNotFound)
+            waiting.insert(file);
+    std::erase_if(withdrawn.copies,
+                  [&](const auto &copy) { return !waiting.contains(copy.entry); });
+    std::erase_if(withdrawn.registrations,
+                  [&](const FilePath &file) { return !waiting.contains(file); });
+    return withdrawn;
+}
+
+void addWithdrawn(const WithdrawnFonts &more, WithdrawnFonts &withdrawn)
+{
+    withdrawn.copies.insert(withdrawn.copies.end(), more.copies.begin(), more.copies.end());
+    withdrawn.registrations.insert(withdrawn.registrations.end(), more.registrations.begin(),
+                                   more.registrations.end());
+    for (const auto &[family, method] : more.methods)
+        withdrawn.methods.insert_or_assign(family, method);
 }
 
 bool hasLeftTrash(const WithdrawnFonts &withdrawn)

@@ -17,7 +17,7 @@ struct DeactivationRecord
     /// What was acted on, in words.
     QString label;
     QStringList names;
-    /// Of the last time it was done.
+    /// What it has taken away and undoing has not brought back.
     WithdrawnFonts withdrawn;
     /// It is being undone or done again; `withdrawn` is not true while that lasts.
     bool isPending = false;
@@ -45,6 +45,11 @@ private:
     const std::function<void()> m_repeat;
     bool m_isDone = true;
 };
+
+/// What `outcome`, of bringing `withdrawn` back, has left where it was: it was stopped, or files
+/// failed that another try may bring back.
+WithdrawnFonts stillWithdrawn(WithdrawnFonts withdrawn, const InstallationOutcome &outcome);
+void addWithdrawn(const WithdrawnFonts &more, WithdrawnFonts &withdrawn);
 
 /// Nothing of it can be brought back. Looks at the disk.
 bool hasLeftTrash(const WithdrawnFonts &withdrawn);

@@ -44,8 +44,9 @@ struct FontInstallationService::Plan
     /// What it is, for the history.
     ActivationHistoryEntry entry;
     std::vector<FilePath> files;
-    /// On a worker.
-    std::function<InstallationResult(const InstallationTools &)> work;
+    /// On a worker; gets `files`.
+    std::function<InstallationResult(const std::vector<FilePath> &, const InstallationTools &)>
+        work;
     /// False for one that is refused.
     bool belongsToHistory = true;
 };
@@ -58,12 +59,25 @@ struct FontInstallationService::Ended
 
 namespace {
 
+/// So that copies of the work share them.
+std::shared_ptr<const std::vector<FontFamilyRecord>> shared(std::vector<FontFamilyRecord> families)
+{
+    return std::make_shared<const std::vector<FontFamilyRecord>>(std::move(families));
+}
+
+/// Each once. On the main thread, so without copying a whole library.
 std::vector<FilePath> filesOf(const std::vector<FontFamilyRecord> &families)
 {
-    std::vector<FontStyleRecord> styles;
-    for (const FontFamilyRecord &family : families)
-        styles.insert(styles.end(), family.styles.begin(), family.styles.end());
-    return ActivationBooks::filesOf(styles);
+    std::vector<FilePath> files;
+    QSet<FilePath> seen;
+    for (const FontFamilyRecord &family : families) {
+        for (const FontStyleRecord &style : family.styles) {
+            const qsizetype before = seen.size();
+            if (style.fileURL && (seen.insert(*style.fileURL), seen.size() > before))
+                files.push_back(*style.fileURL);
+        }
+    }
+    return files;
 }
 
 bool isSame(const ActivationBooks::Contents &one, const ActivationBooks::Contents &other)
@@ -261,14 +275,17 @@ bool FontInstallationService::finish(Ended &ended, bool hasLock)
 QStringList FontInstallationService::takeOff(std::vector<FontFamilyRecord> &families)
 {
     QStringList names;
+    QSet<QString> own;
     std::erase_if(families, [&](const FontFamilyRecord &family) {
-        const bool isInFlight =
-            m_inFlightFamilies.contains(family.familyName) && !names.contains(family.familyName);
-        if (!isInFlight && !names.contains(family.familyName)) {
-            m_inFlightFamilies.insert(family.familyName);
-            names.append(family.familyName);
-        }
-        return isInFlight;
+        const QString &name = family.familyName;
+        if (own.contains(name))
+            return false;
+        if (m_inFlightFamilies.contains(name))
+            return true;
+        own.insert(name);
+        m_inFlightFamilies.insert(name);
+        names.append(name);
+        return false;
     });
     return names;
 }
@@ -288,20 +305,23 @@ FontInstallationService::Run FontInstallationService::run(Plan plan, Done done, 
     if (progress)
         job.progress =
             std::make_shared<InstallationProgress>(int(plan.files.size()), std::move(progress));
-    job.work = [plan](const InstallationTools &tools) {
+    // Shared: it names every file of what may be a whole library.
+    const auto whole = std::make_shared<const Plan>(std::move(plan));
+    job.work = [whole](const InstallationTools &tools) {
+        const std::vector<FilePath> &files = whole->files;
         InstallationResult result =
-            tools.stop.stop_requested() ? left(plan.files) : plan.work(tools);
-        tools.countAllBut(result.outcome.filesLeft.size(), plan.files.size());
-        if (plan.belongsToHistory)
-            addToHistory(plan.entry, plan.files, result.outcome, tools.folders.activationHistory());
+            tools.stop.stop_requested() ? left(files) : whole->work(files, tools);
+        tools.countAllBut(result.outcome.filesLeft.size(), files.size());
+        if (whole->belongsToHistory)
+            addToHistory(whole->entry, files, result.outcome, tools.folders.activationHistory());
         return result;
     };
-    job.workWithoutLock = [files = plan.files, cancelled = job.cancelled](const Error &why) {
-        return cancelled.stop_requested() ? left(files) : failed(files, why);
+    job.workWithoutLock = [whole, cancelled = job.cancelled](const Error &why) {
+        return cancelled.stop_requested() ? left(whole->files) : failed(whole->files, why);
     };
-    job.end = [this, plan = std::move(plan), stop, shown = job.progress,
+    job.end = [this, whole, stop, shown = job.progress,
                done = std::move(done)](InstallationOutcome outcome, bool) {
-        endRun(plan, stop, shown.get(), std::move(outcome), done);
+        endRun(*whole, stop, shown.get(), std::move(outcome), done);
     };
     enqueue(std::move(job));
     return Run(std::move(stop));
@@ -352,10 +372,10 @@ FontInstallationService::Run FontInstallationService::activateByCopying(
 {
     const QStringList names = takeOff(families);
     Plan plan{{{}, ActivationHistoryEntry::Action::copied, names, {}, {}}, filesOf(families), {}};
-    plan.work = [files = plan.files,
-                 byFamily = filesByFamily(families)](const InstallationTools &tools) {
+    plan.work = [families = shared(std::move(families))](const std::vector<FilePath> &files,
+                                                         const InstallationTools &tools) {
         InstallationResult result = copyToFontsFolder(files, tools);
-        setMethods(byFamily, InstallMethod::copy, result);
+        setMethods(filesByFamily(*families), InstallMethod::copy, result);
         return result;
     };
     return run(std::move(plan), std::move(done), std::move(progress));
@@ -367,10 +387,10 @@ FontInstallationService::Run FontInstallationService::activateInPlace(
     const QStringList names = takeOff(families);
     Plan plan{
         {{}, ActivationHistoryEntry::Action::registered, names, {}, {}}, filesOf(families), {}};
-    plan.work = [files = plan.files,
-                 byFamily = filesByFamily(families)](const InstallationTools &tools) {
+    plan.work = [families = shared(std::move(families))](const std::vector<FilePath> &files,
+                                                         const InstallationTools &tools) {
         InstallationResult result = registerInPlace(files, tools);
-        setMethods(byFamily, InstallMethod::registerInPlace, result);
+        setMethods(filesByFamily(*families), InstallMethod::registerInPlace, result);
         return result;
     };
     return run(std::move(plan), std::move(done), std::move(progress));
@@ -384,10 +404,10 @@ FontInstallationService::Run FontInstallationService::deactivate(
     const QStringList names = takeOff(families);
     const Action action = destination ? Action::moved : Action::deactivated;
     Plan plan{{{}, action, names, destination, {}}, filesOf(families), {}};
-    plan.work = [files = plan.files, byFamily = filesByFamily(families),
-                 destination = std::move(destination)](const InstallationTools &tools) {
+    plan.work = [families = shared(std::move(families)), destination = std::move(destination)](
+                    const std::vector<FilePath> &files, const InstallationTools &tools) {
         InstallationResult result = withdraw(files, destination, tools);
-        removeMethods(byFamily, *tools.books, result);
+        removeMethods(filesByFamily(*families), *tools.books, result);
         return result;
     };
     return run(std::move(plan), std::move(done), std::move(progress));
@@ -409,8 +429,8 @@ FontInstallationService::Run FontInstallationService::restore(WithdrawnFonts wit
     plan.files.insert(plan.files.end(), withdrawn.registrations.begin(),
                       withdrawn.registrations.end());
     plan.belongsToHistory = !isBusy;
-    plan.work = [files = plan.files, withdrawn = std::move(withdrawn), families,
-                 isBusy](const InstallationTools &tools) {
+    plan.work = [withdrawn = std::move(withdrawn), families,
+                 isBusy](const std::vector<FilePath> &files, const InstallationTools &tools) {
         return isBusy ? failed(files, {ErrorKind::cancelled, {}})
                       : restoreWithdrawn(withdrawn, families, tools);
     };

@@ -74,7 +74,9 @@ public:
     // `done`.
 
     using Done = std::function<void(InstallationOutcome)>;
-    /// How many files of how many are dealt with. Thread: main, at most some thirty times a second.
+    /// How many files of how many are dealt with: none when the run begins, and what it came to
+    /// before its `done`. A run that never begins tells nothing. Thread: main, at most some thirty
+    /// times a second.
     using Progress = std::function<void(int done, int total)>;
     /// Ends a run after the file that it is at; what was done by then is in the books, and in the
     /// outcome. Copies stand for the same run. Does nothing for one that has ended.

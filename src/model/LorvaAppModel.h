@@ -122,6 +122,8 @@ public:
     /// Ends the running scan: the catalog stays as it is, and the next load begins from what was
     /// read. Does nothing when none runs.
     void cancelLoad();
+    /// True when what there is has not been found out yet: the first scan was cancelled.
+    bool isFirstLoadCancelled() const;
 
     /// Sorted by name as the user's language sorts, ignoring case.
     FontFamilyList allFamilies() const { return m_catalog->snapshot.families; }
@@ -150,8 +152,9 @@ public:
     {
         /// It can be opened.
         bool isThere = false;
-        /// Of the present catalog, with a file below it.
-        int families = 0;
+        /// The font files below it that the last scan found, also those that are installed as well;
+        /// nothing before the first scan.
+        std::optional<int> fonts;
         bool operator==(const FolderLook &) const = default;
     };
     /// Looks on a worker at the folders of the list, and gives what it found by their ids; a folder
@@ -374,6 +377,7 @@ private:
     /// The snapshot file holds m_catalog, or is being made to.
     bool m_snapshotIsCurrent = false;
     bool m_isLoading = false;
+    bool m_hasCancelledLoad = false;
     /// Its result is installed, but for which families are switched on.
     bool m_loadAwaitsActivations = false;
     /// Something has changed that it may not have seen.

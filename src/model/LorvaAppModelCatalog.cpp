@@ -200,6 +200,12 @@ void LorvaAppModel::whenLoaded(std::function<void(std::optional<int>)> done)
     m_loadWaiters.push_back({familyNames(), std::move(done)});
 }
 
+bool LorvaAppModel::isFirstLoadCancelled() const
+{
+    return m_hasCancelledLoad && !m_isLoading && allFamilies()->empty()
+        && !m_catalog->watchedFontURLs;
+}
+
 void LorvaAppModel::cancelLoad()
 {
     if (!m_isLoading)
@@ -208,6 +214,7 @@ void LorvaAppModel::cancelLoad()
     ++m_loadGeneration;
     m_fontLibraryService->cancelLoad();
     m_isLoading = false;
+    m_hasCancelledLoad = true;
     // If only they were missing, they follow as after any change.
     m_loadAwaitsActivations = false;
     m_loadingText.clear();

@@ -20,18 +20,13 @@ namespace {
 /// After it a folder counts as not there.
 constexpr std::chrono::seconds kPatienceWithFolders{2};
 
-bool hasFileIn(const FontFamilyRecord &family, const FilePath &folder)
-{
-    return std::ranges::any_of(family.styles, [&](const FontStyleRecord &style) {
-        return style.fileURL && style.fileURL->isInside(folder);
-    });
-}
-
 /// Thread: worker.
-int familiesIn(const FontFamilyList &families, const FilePath &folder)
+std::optional<int> fontsIn(const std::optional<QSet<FilePath>> &files, const FilePath &folder)
 {
-    return int(std::ranges::count_if(
-        *families, [&](const FontFamilyRecord &family) { return hasFileIn(family, folder); }));
+    if (!files)
+        return std::nullopt;
+    return int(
+        std::ranges::count_if(*files, [&](const FilePath &file) { return file.isInside(folder); }));
 }
 
 } // namespace
@@ -140,11 +135,12 @@ void LorvaAppModel::lookAtFolders(std::function<void(QHash<QString, FolderLook>)
         paths.push_back(folderURL(folder));
     const auto count = [this, folders = m_watchedFolders,
                         done = std::move(done)](const QSet<FilePath> &there) {
-        const auto work = [folders, there, families = allFamilies()](const std::stop_token &) {
+        const auto work = [folders, there, catalog = m_catalog](const std::stop_token &) {
             QHash<QString, FolderLook> looks;
             for (const WatchedFolder &folder : folders) {
                 const FilePath path = folderURL(folder);
-                looks.insert(folder.id, {there.contains(path), familiesIn(families, path)});
+                looks.insert(folder.id,
+                             {there.contains(path), fontsIn(catalog->watchedFontURLs, path)});
             }
             return looks;
         };

@@ -10,6 +10,7 @@
 #include <QSet>
 
 #include <memory>
+#include <optional>
 
 namespace lorva {
 
@@ -18,7 +19,8 @@ struct ReadyCatalog
 {
     /// Sorted by name.
     CatalogSnapshot snapshot;
-    QSet<FilePath> watchedFontURLs;
+    /// Nothing until a scan has looked: a snapshot does not say.
+    std::optional<QSet<FilePath>> watchedFontURLs;
     PreparedFamilies prepared;
     /// Holds what the catalog before it held.
     bool isAsBefore = false;

@@ -119,6 +119,11 @@ Empty emptySource(const BrowserSource &source, const LorvaAppModel &model)
 
 BrowserEmptyState emptyStateOf(const LorvaAppModel &model)
 {
+    if (model.isFirstLoadCancelled())
+        return {Empty{PaneTexts::tr("Scan Cancelled"),
+                      PaneTexts::tr("Press F5 to look for the fonts of this system and of your "
+                                    "folders again."),
+                      false}};
     const QString query = model.searchQuery().trimmed();
     if (!query.isEmpty())
         return {BrowserEmptyState::NoSearchResults{query}};

@@ -11,6 +11,7 @@
 #include "platform/linux/XdgFolders.h"
 #include "platform/RunLock.h"
 #include "support/FontBuilder.h"
+#include "support/ListedFonts.h"
 #include "support/TestHome.h"
 #include "support/Waiting.h"
 #include "ui/browser/BrowserCollectionView.h"
@@ -32,7 +33,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdio>
 #include <filesystem>
 
 namespace lorva {
@@ -44,15 +44,8 @@ using test::waitUntil;
 /// The names of the files that programs find.
 QStringList listedFiles()
 {
-    QByteArray output;
-    FILE *pipe = ::popen("fc-list --format '%{file}\\n'", "r");
-    char buffer[4096];
-    while (pipe && std::fgets(buffer, sizeof buffer, pipe))
-        output += buffer;
-    if (pipe)
-        ::pclose(pipe);
     QStringList names;
-    for (const QString &file : QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts))
+    for (const QString &file : test::listedFontFiles())
         names.append(file.section(u'/', -1));
     names.removeDuplicates();
     names.sort();
@@ -143,6 +136,15 @@ protected:
         QTest::mouseClick(shown<QAbstractButton>(button), Qt::LeftButton);
         return true;
     }
+    void openMenuOf(const SidebarItem &item)
+    {
+        SidebarOutlineView &outline = root().sidebar().outlineView();
+        const auto &rows = dynamic_cast<const SidebarModel &>(*outline.model());
+        const QPoint place = outline.visualRect(rows.indexOf(item)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                                outline.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(outline.viewport(), &event);
+    }
     bool clickInMenu(const char *item)
     {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
@@ -226,12 +228,14 @@ TEST_F(ActivationJourney, AWholeCollectionFromTheSidebar)
     model().installationService()->setDefaultMethod(InstallMethod::copy);
     ASSERT_TRUE(isReady());
     root().render();
-    root().sidebarActions().sidebarActivationWanted(SidebarItem::collection(id));
+    openMenuOf(SidebarItem::collection(id));
+    ASSERT_TRUE(clickInMenu("SidebarActivate"));
     ASSERT_TRUE(says(QStringLiteral("2 Fonts installed")));
     ASSERT_TRUE(click("AlertSheet.Button0"));
     EXPECT_EQ(listedFiles(), (QStringList{"one-bold.ttf", "one.ttf", "system.ttf", "two.ttf"}));
     ASSERT_TRUE(isReady());
-    root().sidebarActions().sidebarDeactivationWanted(SidebarItem::collection(id));
+    openMenuOf(SidebarItem::collection(id));
+    ASSERT_TRUE(clickInMenu("SidebarDeactivate"));
     ASSERT_TRUE(says(QStringLiteral("De-activate 2 fonts?")));
 }
 

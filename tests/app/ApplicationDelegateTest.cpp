@@ -445,8 +445,11 @@ TEST_F(ApplicationDelegate, TakesTheStartOfAnotherProcessOver)
     presentAlert(*m_delegate->window(),
                  {Alert::Style::informational, QStringLiteral("?"), {}, {{QStringLiteral("OK")}}},
                  [&](int) { ++answered; });
-    m_delegate->takeOver({{"--view", "grid"}, FilePath("/"), {}});
+    const FilePath other = test::TestHome::instance().makeFolder("other");
+    test::writeFile(other, "four.ttf", test::FontBuilder(QStringLiteral("Four")).build());
+    m_delegate->takeOver({{"--view", "grid", "--folder", other.bytes()}, FilePath("/"), {}});
     EXPECT_EQ(model.viewMode(), ViewMode::list) << "a question is open";
+    EXPECT_TRUE(test::waitUntil([&] { return model.allFamilies()->size() == 4; }));
     press(Qt::Key_Escape);
     EXPECT_EQ(answered, 1);
 }

@@ -5,21 +5,24 @@
 // fontconfig lists is the judge.
 
 #include "commands/ActivationCommands.h"
+#include "commands/ActivationTexts.h"
 #include "platform/RunLock.h"
 #include "ScriptedPresenter.h"
 #include "support/LibraryFixture.h"
+#include "support/ListedFonts.h"
 
 #include <gmock/gmock.h>
 
 #include <QDir>
 
-#include <cstdio>
+#include <algorithm>
 #include <filesystem>
 
 namespace lorva {
 namespace {
 
 using test::FontBuilder;
+using test::listedFontFiles;
 using test::readFile;
 using test::ScriptedPresenter;
 using test::waitUntil;
@@ -28,22 +31,6 @@ using test::writeFile;
 bool exists(const FilePath &file)
 {
     return std::filesystem::exists(std::filesystem::symlink_status(file.c_str()));
-}
-
-/// The files that programs find, by the tool that comes with the font manager.
-QStringList listedFiles()
-{
-    QByteArray output;
-    FILE *pipe = ::popen("fc-list --format '%{file}\\n'", "r");
-    char buffer[4096];
-    while (pipe && std::fgets(buffer, sizeof buffer, pipe))
-        output += buffer;
-    if (pipe)
-        ::pclose(pipe);
-    QStringList files = QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts);
-    files.removeDuplicates();
-    files.sort();
-    return files;
 }
 
 /// A watched folder with the families One (two files), Two and Three, and a collection file that
@@ -70,7 +57,7 @@ protected:
         library.restart(test::TestHome::instance().makeFolder("support" + number));
         reload();
         commands = std::make_unique<ActivationCommands>(*library.model, presenter);
-        alone = listedFiles();
+        alone = listedFontFiles();
     }
 
     /// The Fonts folder's files, as a scan finds them.
@@ -123,7 +110,7 @@ protected:
     QStringList active() const
     {
         QStringList names;
-        for (const QString &file : listedFiles())
+        for (const QString &file : listedFontFiles())
             if (!alone.contains(file))
                 names.append(file.section(u'/', -1));
         return names;
@@ -193,6 +180,8 @@ TEST_F(ActivationCommandsTest, TellsWhenNothingIsLeftToDo)
     answered("Nothing to activate", "Every user-controllable font in Three is already active.");
     commands->deactivate({"Three"});
     answered("Nothing to de-activate", "No user-controllable active fonts in Three.");
+    commands->deactivateStyle("Three", library.model->family("Three")->styles.front());
+    answered("Nothing to de-activate", "No user-controllable active fonts in Three Regular.");
     commands->deactivate({"Three", "Nowhere"});
     answered("Nothing to de-activate", "No user-controllable active fonts in the selection.");
     EXPECT_TRUE(presenter.methodQuestions.size() == 1 && presenter.progress.size() == 1)
@@ -204,8 +193,6 @@ TEST_F(ActivationCommandsTest, HandsInWhatIsMissingOfAFamily)
     switchOn({"One"});
     add("one-thin.ttf", FontBuilder("One", "Thin").weightClass(100).build());
     reload();
-    EXPECT_EQ(commands->offer({"One"}), (ActivationOffer{false, true, true}));
-    EXPECT_EQ(commands->offer({"One", "Two"}), (ActivationOffer{true, true, true}));
     presenter.methods.push_back({InstallMethod::copy, false});
     commands->activateRemaining({"One", "Two"});
     ASSERT_TRUE(told("One installed"));
@@ -305,6 +292,74 @@ TEST_F(ActivationCommandsTest, TellsWhichFilesCouldNotBeBroughtBack)
     ASSERT_EQ(presenter.reports.size(), 1U);
     EXPECT_THAT(presenter.reports[0].report.copyText.toStdString(),
                 testing::HasSubstr("one.ttf\t"));
+}
+
+TEST_F(ActivationCommandsTest, DoesAStyleAgainWithoutItsFamily)
+{
+    switchOn({"One"});
+    const auto &styles = library.model->family("One")->styles;
+    const auto bold = std::ranges::find(styles, QString("Bold"), &FontStyleRecord::label);
+    ASSERT_NE(bold, styles.end());
+    presenter.buttons = {0, 0};
+    commands->deactivateStyle("One", *bold);
+    ASSERT_TRUE(told("One Bold removed"));
+    ASSERT_TRUE(settles());
+    QUndoStack &stack = library.model->undoStack();
+    EXPECT_EQ(stack.undoText(), "De-activate One Bold");
+    stack.undo();
+    ASSERT_TRUE(areActive({"one-bold.ttf", "one.ttf"}));
+    ASSERT_TRUE(settles());
+    reload();
+    stack.redo();
+    EXPECT_TRUE(areActive({"one.ttf"}));
+    ASSERT_TRUE(settles());
+}
+
+TEST_F(ActivationCommandsTest, TriesAgainWhatCouldNotBeUndone)
+{
+    switchOn({"One"});
+    presenter.buttons = {0, 0};
+    commands->deactivate({"One"});
+    ASSERT_TRUE(told("One removed"));
+    ASSERT_TRUE(settles());
+    reload();
+    // Another program's files take the names for a while.
+    for (const char *name : {"one.ttf", "one-bold.ttf"})
+        writeFile(fonts, name, "of another program");
+    QUndoStack &stack = library.model->undoStack();
+    stack.undo();
+    ASSERT_TRUE(told("Couldn't fully bring back One"));
+    ASSERT_TRUE(settles());
+    presenter.press(0);
+    for (const char *name : {"one.ttf", "one-bold.ttf"})
+        std::filesystem::remove(copyOf(name).c_str());
+    reload();
+
+    // Nothing is active that could be switched off again, but the Trash still has it.
+    stack.redo();
+    ASSERT_TRUE(told("Nothing to de-activate"));
+    presenter.press(0);
+    ASSERT_TRUE(stack.canUndo());
+    stack.undo();
+    ASSERT_TRUE(settles());
+    EXPECT_TRUE(areActive({"one-bold.ttf", "one.ttf"}));
+    reload();
+
+    // What is back for good leaves nothing behind that could be undone.
+    presenter.buttons = {0, 0};
+    commands->deactivate({"One"});
+    ASSERT_TRUE(told("One removed"));
+    ASSERT_TRUE(settles());
+    reload();
+    std::filesystem::remove_all(fonts.parent().child("Trash").c_str());
+    stack.undo();
+    ASSERT_TRUE(told("Couldn't fully bring back One"));
+    ASSERT_TRUE(settles());
+    stack.redo();
+    ASSERT_TRUE(told("Nothing to de-activate"));
+    EXPECT_TRUE(waitUntil([&] {
+        return !stack.canUndo() || stack.undoText() != "De-activate One";
+    })) << "undoing would do nothing";
 }
 
 TEST_F(ActivationCommandsTest, MovesWhatItDidNotInstall)

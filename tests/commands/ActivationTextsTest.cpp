@@ -136,6 +136,10 @@ TEST(ActivationTexts, HowRunsEnd)
          {"informational", "Activation of A stopped",
           "3 of 8 files are available in every app on your Mac. 1 file failed to activate.",
           "Done"}},
+        {"stopped among many",
+         activationAlert("2000 Fonts", outcomeOf(1234, 0, 8766)),
+         {"informational", "Activation of 2000 Fonts stopped",
+          "1,234 of 10,000 files are available in every app on your Mac.", "Done"}},
         {"off",
          deactivationAlert("3 fonts", outcomeOf(3, 0)),
          {"informational", "3 fonts removed", "No longer available system-wide.", "Done"}},
@@ -185,26 +189,30 @@ TEST(ActivationTexts, WhatIsAskedAndRefused)
         {"off",
          deactivationQuestion({"A"}, note),
          {"informational", "De-activate A?",
-          "The font will no longer be available system-wide. Your original font files are not "
-          "touched.",
+          QString(
+              "The font will no longer be available system-wide. Your original font files are not "
+              "touched."),
           "De-activate", "(Cancel)", u'+' + note}},
         {"two off",
          deactivationQuestion(names(2), {}),
          {"informational", "De-activate 2 fonts?",
-          "The fonts will no longer be available system-wide. Your original font files are not "
-          "touched.",
+          QString(
+              "The fonts will no longer be available system-wide. Your original font files are not "
+              "touched."),
           "De-activate", "(Cancel)"}},
         {"only copy",
          unknownOriginQuestion({"A"}, {}),
          {"informational", "De-activate A?",
-          "Lorva didn't install A, so we don't know where the original font files are. Choose a "
-          "folder to move them to, otherwise you'd lose your only copy.",
+          QString("Lorva didn't install A, so we don't know where the original font files are. "
+                  "Choose a "
+                  "folder to move them to, otherwise you'd lose your only copy."),
           "Choose Folder…", "(Cancel)"}},
         {"some only copies",
          unknownOriginQuestion(names(7), {}),
          {"informational", "De-activate 7 fonts?",
-          "Lorva didn't install some of these fonts, so we don't know where the originals are. "
-          "Choose a folder to move them to, otherwise you'd lose your only copy.",
+          QString(
+              "Lorva didn't install some of these fonts, so we don't know where the originals are. "
+              "Choose a folder to move them to, otherwise you'd lose your only copy."),
           "Choose Folder…", "(Cancel)"}},
         {"a style",
          styleDeactivationQuestion("A Bold", {}),
@@ -213,8 +221,9 @@ TEST(ActivationTexts, WhatIsAskedAndRefused)
         {"a style's only copy",
          unknownStyleOriginQuestion("A Bold", {}),
          {"informational", "De-activate A Bold?",
-          "Lorva didn't install A Bold, so we don't know where the original font file is. Choose a "
-          "folder to move it to, otherwise you'd lose your only copy.",
+          QString("Lorva didn't install A Bold, so we don't know where the original font file is. "
+                  "Choose a "
+                  "folder to move it to, otherwise you'd lose your only copy."),
           "Choose Folder…", "(Cancel)"}},
     };
     for (const auto &row : rows)
@@ -267,13 +276,13 @@ TEST(ActivationTexts, TheHistoryInWords)
     QStringList lines;
     for (const Report::Row &row : report.rows)
         lines << row.title << row.detail;
-    EXPECT_EQ(
-        lines,
-        (QStringList{"Activated A and B", "Registered in place: 1 file", "Activated A",
-                     "Copied to the Fonts folder: 2 files, 1 was there already, 1 failed, 1 "
-                     "left when it was stopped",
-                     "De-activated A, B, C, D, E, and 2 more families", "Moved to /kept: 1 file",
-                     "Brought back A", "De-activation undone: 0 files"}));
+    EXPECT_EQ(lines,
+              (QStringList{
+                  "Activated A and B", "Registered in place: 1 file", "Activated A",
+                  QString("Copied to the Fonts folder: 2 files, 1 was there already, 1 failed, 1 "
+                          "left when it was stopped"),
+                  "De-activated A, B, C, D, E, and 2 more families", "Moved to /kept: 1 file",
+                  "Brought back A", "De-activation undone: 0 files"}));
     EXPECT_FALSE(report.exportLabel.isEmpty());
     EXPECT_TRUE(historyReport({}).exportLabel.isEmpty());
 }

@@ -17,7 +17,6 @@ namespace {
 using test::FontBuilder;
 using test::LibraryFixture;
 using test::ScriptedPresenter;
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 class AddingFolders : public testing::Test

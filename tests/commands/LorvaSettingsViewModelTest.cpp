@@ -16,7 +16,6 @@ namespace {
 using test::FontBuilder;
 using test::LibraryFixture;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 const QString kDefaultMethodKey = QStringLiteral("vantrel.merid.defaultInstallMethod");

@@ -36,13 +36,12 @@ protected:
         process.watch({a, b, c});
         process.copy({familyOf("Copied", {a, b})});
         process.registerInPlace({familyOf("Registered", {c})});
-        ASSERT_TRUE_(process.reconcile({}));
+        EXPECT_TRUE(process.reconcile({}));
         families = {familyOf("Copied", {a, b}), familyOf("Registered", {c}),
                     familyOf("Own", {own})};
         before = process.service.books()->contents();
         outcome = process.deactivate(families);
     }
-    static void ASSERT_TRUE_(bool isTrue) { EXPECT_TRUE(isTrue); }
 
     FilePath inFonts(const QByteArray &name) const { return folders.userFonts.child(name); }
     FilePath placeOf(const FilePath &entry) const

@@ -244,7 +244,7 @@ TEST_F(LibraryLoading, AnAnswerMayBeginTheNextLoadOrEndTheModel)
     EXPECT_THAT(answers, ElementsAre(0)) << "the model has gone first";
 }
 
-TEST_F(LibraryLoading, LooksWhichFoldersAreThereAndHowManyFamiliesTheyHold)
+TEST_F(LibraryLoading, LooksWhichFoldersAreThereAndHowManyFontFilesTheyHold)
 {
     const FilePath home = test::TestHome::instance().makeFolder("look");
     const FilePath full = home.child("fonts");
@@ -257,6 +257,8 @@ TEST_F(LibraryLoading, LooksWhichFoldersAreThereAndHowManyFamiliesTheyHold)
     write(full, "Alpha", "Regular");
     write(full.child("inner"), "Alpha", "Bold");
     write(full, "Beta", "Regular");
+    // A double of what is installed has no family of its own here, but is a file of the folder.
+    test::writeFile(full, "Double.ttf", FontBuilder(QStringLiteral("Beta")).build());
     ::mkdir(namesake.c_str(), 0700);
     ::mkdir(gone.c_str(), 0700);
     std::optional<AddedFolders> added;
@@ -272,7 +274,7 @@ TEST_F(LibraryLoading, LooksWhichFoldersAreThereAndHowManyFamiliesTheyHold)
     std::vector<Look> found;
     for (const WatchedFolder &folder : model().watchedFolders())
         found.push_back(looks->value(folder.id));
-    EXPECT_THAT(found, ElementsAre(Look{true, 2}, Look{true, 0}, Look{false, 0}));
+    EXPECT_THAT(found, ElementsAre(Look{true, 4}, Look{true, 0}, Look{false, 0}));
     EXPECT_EQ(looks->size(), 3);
 }
 

@@ -4,14 +4,17 @@
 #include "ui/sheets/AlertSheet.h"
 #include "commands/OrganizationAlerts.h"
 #include "support/Waiting.h"
+#include "ui/sheets/SheetText.h"
 #include "ui/style/Popover.h"
 #include "ui/style/ReducedMotion.h"
 
 #include <QAccessible>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 
@@ -239,6 +242,38 @@ TEST_F(AlertSheetTest, HasTheFocusAlsoWhileItFadesIn)
     }));
     press(Qt::Key_Return);
     EXPECT_THAT(m_answers, ElementsAre(1));
+}
+
+TEST_F(AlertSheetTest, BoundsTheNamesOfStrangers)
+{
+    const QString huge(1'000'000, u'm');
+    const QString turning = QStringLiteral("Foo\u202Edlob\u2066");
+    const auto heightOf = [](const QString &text, int lines) {
+        return WrappedText{text, QApplication::font(), lines}.heightFor(400);
+    };
+    EXPECT_EQ(heightOf(turning, 0), heightOf(QStringLiteral("Foodlob"), 0));
+    EXPECT_EQ(heightOf(huge, 0), heightOf(huge.left(100'000), 0));
+    EXPECT_LT(heightOf(huge.left(1000), 0), heightOf(huge, 0));
+
+    const int real = QFontDatabase::addApplicationFont(
+        QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"));
+    const QFont letters(QFontDatabase::applicationFontFamilies(real).value(0));
+    const auto picture = [&](const QString &text) {
+        QImage image(400, 60, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        WrappedText{text, letters, 0}.draw(painter, image.rect(), Qt::LeftToRight);
+        return image;
+    };
+    EXPECT_EQ(picture(turning), picture(QStringLiteral("Foodlob")));
+    EXPECT_NE(picture(turning), picture(QStringLiteral("Foobold")));
+    QFontDatabase::removeApplicationFont(real);
+
+    Alert alert = twoWays(Alert::Role::accept, Alert::Role::cancel);
+    alert.title = huge;
+    alert.body = huge;
+    present(alert);
+    EXPECT_TRUE(m_window->rect().contains(part("AlertSheet.Panel")->geometry()));
 }
 
 } // namespace

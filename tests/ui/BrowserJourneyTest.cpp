@@ -9,6 +9,7 @@
 #include "ui/browser/FontCardContentView.h"
 #include "ui/browser/FontCollectionItem.h"
 #include "ui/LorvaRootSplitViewController.h"
+#include "ui/sheets/FontIndexingSheetController.h"
 #include "ui/style/ReducedMotion.h"
 
 #include <QPushButton>
@@ -346,12 +347,31 @@ TEST_F(BrowserJourney, TheFirstLoadShowsThatItRuns)
 {
     library.addFamilies(QStringLiteral("Face"), 3);
     root = std::make_unique<LorvaRootSplitViewController>(*library.model);
+    root->resize(1000, 800);
     root->show();
     library.model->loadCatalog();
     renderNow();
     auto *loading = find<BrowserLoadingView>("BrowserLoadingView");
     EXPECT_TRUE(loading->isVisible());
     EXPECT_FALSE(find<QWidget>("BrowserEmptyStateView")->isVisible());
+    const auto picture = [&] { return loading->grab().toImage(); };
+    const QImage alone = picture();
+    const auto sheet = std::make_unique<FontIndexingSheetController>(*root->window());
+    const QImage covered = picture();
+    EXPECT_NE(covered, alone) << "the sheet says it";
+    loading->setText(QStringLiteral("Other"));
+    EXPECT_EQ(picture(), covered);
+    sheet->dismiss();
+    EXPECT_NE(picture(), covered);
+
+    const auto *reason = find<BrowserEmptyStateView>("BrowserEmptyStateView");
+    library.model->cancelLoad();
+    renderNow();
+    EXPECT_TRUE(reason->isVisible());
+    EXPECT_EQ(reason->title(), QStringLiteral("Scan Cancelled")) << "nobody knows what there is";
+    library.model->loadCatalog();
+    renderNow();
+    EXPECT_FALSE(reason->isVisible());
     ASSERT_TRUE(waitUntil([this] { return root->browser().isSettled(); }));
     EXPECT_FALSE(loading->isVisible());
 

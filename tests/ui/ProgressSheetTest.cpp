@@ -5,6 +5,7 @@
 #include "SheetFixture.h"
 #include "ui/sheets/FontIndexingSheetController.h"
 #include "ui/sheets/ProgressIndicators.h"
+#include "ui/sheets/SheetQueue.h"
 #include "ui/sheets/SheetText.h"
 
 #include <QAccessible>
@@ -172,6 +173,29 @@ TEST_F(ProgressSheetTest, SurvivesItsWindowAndItsFade)
     EXPECT_FALSE(m_presenter.isAvailable());
     EXPECT_FALSE(m_presenter.showProgress(kBusy, {}));
     EXPECT_EQ(m_cancels, 0);
+}
+
+TEST_F(ProgressSheetTest, ShowsNothingMoreInAWindowThatGoes)
+{
+    // As the commands do, which are a part of the window.
+    struct Owner final : QWidget
+    {
+        using QWidget::QWidget;
+        std::unique_ptr<ProgressDisplay> display;
+    };
+    auto window = std::make_unique<QMainWindow>();
+    auto *owner = new Owner(window.get());
+    WindowPresenter presenter(*window, std::chrono::milliseconds(0));
+    window->show();
+    owner->display = presenter.showProgress(kBusy, {});
+    ASSERT_TRUE(test::waitUntil([&] { return hasAlertSheet(*window); }));
+    bool wasShown = false;
+    SheetQueue::of(*window).add([&](SheetQueue &) -> QObject * {
+        wasShown = true;
+        return nullptr;
+    });
+    window.reset();
+    EXPECT_FALSE(wasShown);
 }
 
 TEST_F(ProgressSheetTest, ClosesAMenuThatCouldStillAct)

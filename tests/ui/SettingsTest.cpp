@@ -163,15 +163,15 @@ TEST_F(Settings, SaysWhatItIsAbout)
 {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Settings"));
     EXPECT_EQ(window.width(), 560);
-    EXPECT_EQ(
-        visibleTexts(),
-        (QStringList{"Watched Folders",
-                     "Lorva scans these folders for font files and includes them in your library "
-                     "without installing them on your Mac.",
-                     "Activating Fonts", "When activating fonts:",
-                     "Copying duplicates font files into your user Fonts folder. Registering "
-                     "activates fonts from their current location, but they deactivate if the "
-                     "source moves."}));
+    const QString whatIsScanned =
+        "Lorva scans these folders for font files and includes them in your library without "
+        "installing them on your Mac.";
+    const QString whatMethodsDo =
+        "Copying duplicates font files into your user Fonts folder. Registering activates fonts "
+        "from their current location, but they deactivate if the source moves.";
+    EXPECT_EQ(visibleTexts(),
+              (QStringList{"Watched Folders", whatIsScanned, "Activating Fonts",
+                           "When activating fonts:", whatMethodsDo}));
     EXPECT_EQ(part<QAbstractButton>("Settings.AddFolder")->toolTip(), "Watch Folder");
     EXPECT_EQ(part<QAbstractButton>("Settings.RemoveFolder")->toolTip(), "Remove Folder");
     EXPECT_FALSE(part<QWidget>("Settings.RemoveFolder")->isEnabled()) << "nothing is selected";
@@ -207,6 +207,29 @@ TEST_F(Settings, PlusAddsFoldersAndSaysWhatCameOfIt)
               QString::fromUtf8("“~/Type/file” is not a folder."));
     click("Settings.DismissProblem");
     EXPECT_FALSE(part<QWidget>("Settings.Problem")->isVisible());
+}
+
+TEST_F(Settings, OpensOverTheMiddleOfItsParent)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize size(600, 600);
+    // Whatever its parent hangs over, it does not.
+    for (const QRect &place : {QRect(screen.center() - QPoint(320, 320), size),
+                               QRect(screen.bottomRight() - QPoint(80, 80), size),
+                               QRect(screen.topLeft() - QPoint(520, 520), size)}) {
+        QWidget parent;
+        parent.setGeometry(place);
+        parent.show();
+        SettingsWindow opened(settings, &parent);
+        opened.present();
+        const QPoint off = opened.frameGeometry().center() - parent.frameGeometry().center();
+        EXPECT_TRUE(screen.contains(opened.frameGeometry())) << place.x();
+        EXPECT_EQ(off.manhattanLength() <= 2, screen.contains(place)) << place.x();
+        opened.move(screen.topLeft());
+        opened.close();
+        opened.present();
+        EXPECT_EQ(opened.pos(), screen.topLeft()) << "it stays where the user put it";
+    }
 }
 
 TEST_F(Settings, CancelEndsTheScan)

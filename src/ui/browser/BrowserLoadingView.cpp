@@ -3,6 +3,7 @@
 
 #include "ui/browser/BrowserLoadingView.h"
 
+#include "ui/sheets/FontIndexingSheetController.h"
 #include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
 #include "ui/style/Style.h"
@@ -53,6 +54,9 @@ void BrowserLoadingView::setText(const QString &text)
 
 void BrowserLoadingView::paintEvent(QPaintEvent *)
 {
+    // A sheet that says the same, and better, is not echoed below.
+    if (showsProgressSheet(*window()))
+        return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QFont font =

@@ -182,9 +182,8 @@ void FontBrowserViewController::showCollection()
         return;
     m_collection->show();
     const bool isTyping = qobject_cast<QLineEdit *>(window()->focusWidget());
-    if (m_collectionHadFocus && window()->focusWidget() == m_focusInstead)
-        m_collection->setFocus();
-    else if (std::exchange(m_cardsAwaitFocus, false) && !isTyping)
+    const bool getsItBack = m_collectionHadFocus && window()->focusWidget() == m_focusInstead;
+    if (getsItBack || (std::exchange(m_cardsAwaitFocus, false) && !isTyping))
         m_collection->setFocus();
 }
 

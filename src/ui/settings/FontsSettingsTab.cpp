@@ -43,7 +43,7 @@ WatchedFolderRow rowOf(const WatchedFolder &folder, const LorvaSettingsViewModel
     WatchedFolderRow row{folder.id, folderText(folderURL(folder)), std::nullopt, 0};
     if (const auto look = viewModel.look(folder.id)) {
         row.isThere = look->isThere;
-        row.families = look->families;
+        row.fonts = look->fonts;
     }
     return row;
 }

@@ -10,6 +10,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -22,6 +23,21 @@ namespace {
 constexpr int kWidth = 560;
 constexpr int kNarrowest = 440;
 constexpr int kHeight = 540;
+
+/// Where a window of this size covers the middle of the other, its title bar on the screen.
+QPoint overCentreOf(const QWidget &other, QSize size)
+{
+    const QRect area = other.screen()->availableGeometry();
+    const QRect inner = other.geometry();
+    const QRect outer = other.frameGeometry();
+    const QMargins frame(inner.left() - outer.left(), inner.top() - outer.top(),
+                         outer.right() - inner.right(), outer.bottom() - inner.bottom());
+    QRect place(QPoint(), size.grownBy(frame));
+    place.moveCenter(outer.center());
+    place.moveRight(std::min(place.right(), area.right()));
+    place.moveBottom(std::min(place.bottom(), area.bottom()));
+    return {std::max(place.left(), area.left()), std::max(place.top(), area.top())};
+}
 
 } // namespace
 
@@ -52,6 +68,9 @@ SettingsWindow::~SettingsWindow() = default;
 
 void SettingsWindow::present()
 {
+    // Afterwards it stays where the user leaves it.
+    if (parentWidget() && !testAttribute(Qt::WA_Moved))
+        move(overCentreOf(*parentWidget()->window(), size()));
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();

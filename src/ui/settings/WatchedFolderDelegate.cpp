@@ -27,22 +27,22 @@ constexpr double kHoverFill = 0.04;
 constexpr double kSecondaryAlpha = 0.62;
 constexpr double kPlateAlpha = 0.045;
 
-QString countText(int families)
+QString countText(int fonts)
 {
     QLocale locale;
     locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
-    if (families == 0)
+    if (fonts == 0)
         return WatchedFolderDelegate::tr("No fonts");
-    const QString text = families == 1 ? WatchedFolderDelegate::tr("%1 font")
-                                       : WatchedFolderDelegate::tr("%1 fonts");
-    return text.arg(locale.toString(families));
+    const QString text =
+        fonts == 1 ? WatchedFolderDelegate::tr("%1 font") : WatchedFolderDelegate::tr("%1 fonts");
+    return text.arg(locale.toString(fonts));
 }
 
 QString trailingText(const WatchedFolderRow &row)
 {
-    if (!row.isThere)
-        return {};
-    return *row.isThere ? countText(row.families) : WatchedFolderDelegate::tr("Not there");
+    if (row.isThere == false)
+        return WatchedFolderDelegate::tr("Not there");
+    return row.isThere && row.fonts ? countText(*row.fonts) : QString();
 }
 
 void drawSymbol(QPainter &painter, const QRect &rect, const QString &name, const QColor &color)

@@ -22,7 +22,8 @@ struct WatchedFolderRow
     QString path;
     /// Nothing while that is not known.
     std::optional<bool> isThere;
-    int families = 0;
+    /// Its font files; nothing while they are not counted.
+    std::optional<int> fonts;
 
     bool operator==(const WatchedFolderRow &) const = default;
 };

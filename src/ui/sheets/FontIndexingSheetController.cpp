@@ -10,6 +10,7 @@
 
 #include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace lorva {
@@ -105,6 +106,13 @@ void FontIndexingSheetController::cancel()
     m_cancelButton->setEnabled(false);
     if (const auto cancelled = std::exchange(onCancel, nullptr))
         cancelled();
+}
+
+bool showsProgressSheet(const QWidget &window)
+{
+    const auto sheets =
+        window.findChildren<FontIndexingSheetController *>(QString(), Qt::FindDirectChildrenOnly);
+    return std::ranges::any_of(sheets, [](const Sheet *sheet) { return !sheet->isDismissed(); });
 }
 
 } // namespace lorva

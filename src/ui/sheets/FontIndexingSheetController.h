@@ -50,4 +50,7 @@ private:
     TextButton *m_cancelButton;
 };
 
+/// True while one stands in the window.
+bool showsProgressSheet(const QWidget &window);
+
 } // namespace lorva

@@ -35,6 +35,8 @@ constexpr double kDetailAlpha = 0.6;
 constexpr double kTrailingAlpha = 0.55;
 constexpr double kSelectedFill = 0.08;
 constexpr double kRadius = 8;
+/// No row shows more of a text.
+constexpr qsizetype kLongestText = 1000;
 /// How far the selection's ground reaches over the texts.
 constexpr int kOverhang = spacing::k12;
 
@@ -57,7 +59,10 @@ QFont trailingFont()
 QString elided(const QString &text, const QFont &font, int width)
 {
     const bool isPath = text.contains(u'/');
-    return QFontMetrics(font).elidedText(text, isPath ? Qt::ElideMiddle : Qt::ElideRight, width);
+    const QString shown = text.size() > 2 * kLongestText
+        ? QString(text.left(kLongestText) % u'…' % text.right(kLongestText))
+        : text;
+    return QFontMetrics(font).elidedText(shown, isPath ? Qt::ElideMiddle : Qt::ElideRight, width);
 }
 
 QString joined(QStringList parts, QLatin1String separator)
@@ -168,8 +173,9 @@ public:
         const RowTexts texts = layOut(row, option.rect);
         const bool isWhole = texts.title == row.title && texts.detail == row.detail;
         // Names are no markup.
-        const QString whole =
-            isWhole ? QString() : wholeText(row, QLatin1String("\n")).toHtmlEscaped();
+        const QString whole = isWhole
+            ? QString()
+            : wholeText(row, QLatin1String("\n")).left(4 * kLongestText).toHtmlEscaped();
         QToolTip::showText(event->globalPos(), QString(whole).replace(u'\n', QLatin1String("<br>")),
                            &m_list);
         return true;

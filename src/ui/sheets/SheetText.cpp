@@ -18,10 +18,27 @@ namespace lorva {
 namespace {
 
 constexpr double kLineSpacing = 1.3;
+/// More is somebody's damaged name; laying it out would take seconds.
+constexpr qsizetype kLongestText = 2000;
+
+/// What turns the direction of everything after it.
+bool isDirectionControl(QChar character)
+{
+    return (character >= u'\u202A' && character <= u'\u202E')
+        || (character >= u'\u2066' && character <= u'\u2069');
+}
 
 double lineHeight(const QFont &font)
 {
     return std::ceil(QFontMetricsF(font).height() / 1.2 * kLineSpacing);
+}
+
+/// The names in it are anybody's.
+QString showable(const QString &text)
+{
+    QString shown = text.size() > kLongestText ? QString(text.left(kLongestText) % u'…') : text;
+    shown.removeIf(isDirectionControl);
+    return shown;
 }
 
 struct Line
@@ -67,7 +84,7 @@ std::vector<Line> linesOf(const WrappedText &wrapped, double width)
 {
     const int limit = wrapped.maximumLineCount > 0 ? wrapped.maximumLineCount : -1;
     std::vector<Line> lines;
-    for (const QString &paragraph : wrapped.text.split(u'\n')) {
+    for (const QString &paragraph : showable(wrapped.text).split(u'\n')) {
         if (int(lines.size()) == limit)
             break;
         appendLines(lines, paragraph, wrapped.font, width, limit);

@@ -37,9 +37,13 @@ public:
         m_shared.reset();
         if (!sheet || sheet->isDismissed())
             return;
-        SheetQueue &queue = SheetQueue::of(*sheet);
+        SheetQueue *queue = SheetQueue::find(*sheet);
+        const bool hasWindow = sheet->window()->isVisible();
         sheet->dismiss();
-        queue.finish();
+        // A window that is being destroyed has been hidden before: what waits must not be made in
+        // it any more. For one that is only hidden the sheet's deletion brings it.
+        if (queue && hasWindow)
+            queue->finish();
     }
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
