@@ -29,18 +29,26 @@ QString counted(const char *one, const char *many, qsizetype number)
     return chosen.arg(QLocale().toString(number));
 }
 
+bool cameToAnything(const ActivationHistoryEntry &entry)
+{
+    return std::ranges::any_of(entry.files, [](const ActivationHistoryEntry::File &file) {
+        return file.fate == Fate::done || file.fate == Fate::skipped;
+    });
+}
+
 QString titleOf(const ActivationHistoryEntry &entry)
 {
     const QString names = listOfNames(entry.families);
+    const bool isDone = cameToAnything(entry);
     switch (entry.action) {
     case Action::copied:
     case Action::registered:
-        return text("Activated %1").arg(names);
+        return (isDone ? text("Activated %1") : text("Tried to activate %1")).arg(names);
     case Action::deactivated:
     case Action::moved:
-        return text("De-activated %1").arg(names);
+        return (isDone ? text("De-activated %1") : text("Tried to de-activate %1")).arg(names);
     case Action::restored:
-        return text("Brought back %1").arg(names);
+        return (isDone ? text("Brought back %1") : text("Tried to bring back %1")).arg(names);
     }
     return names;
 }

@@ -282,7 +282,7 @@ TEST(ActivationTexts, TheHistoryInWords)
                   QString("Copied to the Fonts folder: 2 files, 1 was there already, 1 failed, 1 "
                           "left when it was stopped"),
                   "De-activated A, B, C, D, E, and 2 more families", "Moved to /kept: 1 file",
-                  "Brought back A", "De-activation undone: 0 files"}));
+                  "Tried to bring back A", "De-activation undone: 0 files"}));
     EXPECT_FALSE(report.exportLabel.isEmpty());
     EXPECT_TRUE(historyReport({}).exportLabel.isEmpty());
 }
