@@ -12,6 +12,7 @@
 #include "ui/sheets/FontIndexingSheetController.h"
 #include "ui/style/ReducedMotion.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
@@ -337,6 +338,8 @@ TEST_F(BrowserJourney, TheKeysGoBackToTheCardsAfterAnEmptyView)
     ASSERT_TRUE(library.load());
     renderNow();
     ASSERT_TRUE(view().isHidden());
+    EXPECT_TRUE(qobject_cast<BrowserEmptyStateView *>(QApplication::focusWidget()))
+        << "no control was asked for";
     library.fonts->files = files;
     ASSERT_TRUE(library.load());
     renderNow();

@@ -154,9 +154,10 @@ void FontBrowserViewController::apply(const FontBrowserState &state)
     m_loading->setVisible(spins);
     if (isEmpty)
         m_empty->show(*m_state.emptyState);
-    m_empty->setVisible(isEmpty);
-    if (!isEmpty)
+    else
         showCollection();
+    // What has the focus goes when the other is there to take it.
+    m_empty->setVisible(isEmpty);
     m_topBar->apply(m_state);
     applyColors();
     applyItems(previous);
@@ -169,13 +170,15 @@ void FontBrowserViewController::hideCollection()
 {
     if (m_collection->isHidden())
         return;
-    m_collectionHadFocus = m_collection->hasFocus();
+    m_collectionHadFocus = window()->focusWidget() == m_collection;
+    // Not to whatever comes next: a ring would show there that nobody asked for.
+    if (m_collectionHadFocus)
+        m_empty->setFocus(Qt::OtherFocusReason);
     m_collection->hide();
     m_focusInstead = window()->focusWidget();
 }
 
-/// A hidden view loses the focus to whatever comes next; with its cards it gets it back, unless
-/// the user has gone elsewhere.
+/// With its cards the view gets the focus back, unless the user has gone elsewhere.
 void FontBrowserViewController::showCollection()
 {
     if (!m_collection->isHidden())
