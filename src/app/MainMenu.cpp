@@ -62,10 +62,7 @@ QMenu *MainMenu::addMenu(const QString &title, const QString &name)
 {
     QMenu *menu = m_buttonMenu->addMenu(title);
     menu->setObjectName(name);
-    connect(menu, &QMenu::aboutToShow, this, [this] {
-        m_targets.activation.refreshUndo();
-        update();
-    });
+    connect(menu, &QMenu::aboutToShow, this, &MainMenu::update);
     m_menus << menu;
     return menu;
 }
@@ -121,6 +118,7 @@ void MainMenu::buildFileMenu()
 void MainMenu::buildEditMenu()
 {
     QMenu *menu = addMenu(tr("&Edit"), QStringLiteral("Menu.Edit"));
+    connect(menu, &QMenu::aboutToShow, &m_targets.activation, &ActivationCommands::refreshUndo);
     m_undo = add(menu, "Menu.Undo", tr("Undo"), {QKeySequence(Qt::CTRL | Qt::Key_Z)},
                  [this] { undo(); });
     m_redo =

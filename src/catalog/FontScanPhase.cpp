@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "base/GroupedNumber.h"
 #include "catalog/CatalogTypes.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace lorva {
 
@@ -12,14 +12,6 @@ namespace {
 QString translated(const char *text, int count = -1)
 {
     return QCoreApplication::translate("FontScanPhase", text, nullptr, count);
-}
-
-QString grouped(int number)
-{
-    QLocale locale;
-    // The "C" region would otherwise write 1234 without any grouping.
-    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
-    return locale.toString(number);
 }
 
 } // namespace
@@ -31,13 +23,13 @@ QString FontScanPhase::text() const
         if (done == 0)
             return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Finding fonts…"));
         return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Finding fonts… %1"), done)
-            .arg(grouped(done));
+            .arg(groupedNumber(done));
     case Kind::scanning:
         return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Scanning %1 of %2 fonts"), total)
-            .arg(grouped(done), grouped(total));
+            .arg(groupedNumber(done), groupedNumber(total));
     case Kind::identifying:
         return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Identifying fonts… %1 of %2"), total)
-            .arg(grouped(done), grouped(total));
+            .arg(groupedNumber(done), groupedNumber(total));
     case Kind::preparing:
         break;
     }

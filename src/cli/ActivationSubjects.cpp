@@ -223,14 +223,6 @@ QStringList namesOf(const std::vector<FontFamilyRecord> &families)
     return names;
 }
 
-std::vector<FilePath> filesOf(const std::vector<FontFamilyRecord> &families)
-{
-    std::vector<FontStyleRecord> styles;
-    for (const FontFamilyRecord &each : families)
-        styles.insert(styles.end(), each.styles.begin(), each.styles.end());
-    return ActivationBooks::filesOf(styles);
-}
-
 QStringList ActivationSubjects::names() const
 {
     QStringList names;

@@ -51,8 +51,6 @@ struct ActivationSubjects
 };
 
 QStringList namesOf(const std::vector<FontFamilyRecord> &families);
-/// The files of their styles, each once.
-std::vector<FilePath> filesOf(const std::vector<FontFamilyRecord> &families);
 
 /// Finds what the request is about, every family for an empty one, and tells the service which
 /// files lie in watched folders. Members of collections that this machine lacks are left out with a

@@ -104,7 +104,8 @@ protected:
     void act(Families families, UserActivation &activation, ActivationReport &report) const override
     {
         FileReasons toldByTheRun;
-        const Fates fates = fatesOf(filesOf(families), *activation.service().books(), toldByTheRun);
+        const Fates fates = fatesOf(ActivationBooks::filesOf(families),
+                                    *activation.service().books(), toldByTheRun);
         const auto outcome = activation.run([&](FontInstallationService::Done done) {
             activation.service().deactivate(std::move(families), m_destination, std::move(done));
         });

@@ -73,7 +73,7 @@ ActivationReport SwitchingCommand::switchAll(const ActivationSubjects &found, bo
     report.isDryRun = isDryRun;
     report.failures = found.unusableFiles;
     Families families = choose(found, *books, report.failures);
-    const std::vector<FilePath> files = filesOf(families);
+    const std::vector<FilePath> files = ActivationBooks::filesOf(families);
     report.families = namesOf(families);
     report.alsoFamilies = familiesSharing(files, report.families, found.catalog);
     if (isDryRun)

@@ -11,8 +11,6 @@
 #include <QCoreApplication>
 #include <QPointer>
 
-#include <set>
-
 namespace lorva {
 
 namespace {
@@ -59,7 +57,7 @@ struct FolderCommands::Private
     void show(std::function<void()> cancel);
     void hideAfterCancel();
     void join(const std::vector<FilePath> &folders);
-    void take(const Run &run, AddedFolders added, bool hasBegunScan);
+    void take(const Run &run, AddedFolders added);
     void awaitScan(const Run &run);
     void end(const Run &run);
     void cancel(const Run &run);
@@ -99,21 +97,17 @@ void FolderCommands::Private::join(const std::vector<FilePath> &folders)
         show([this, run = addition] { cancel(run); });
     }
     ++addition->requests;
-    const size_t count = std::set<FilePath>(folders.begin(), folders.end()).size();
-    model.addWatchedFolders(folders,
-                            [self = QPointer(&q), run = addition, count](AddedFolders added) {
-                                // Only where all were refused no scan has begun.
-                                const bool hasBegunScan = added.failures.size() < count;
-                                if (self)
-                                    self->d->take(run, std::move(added), hasBegunScan);
-                            });
+    model.addWatchedFolders(folders, [self = QPointer(&q), run = addition](AddedFolders added) {
+        if (self)
+            self->d->take(run, std::move(added));
+    });
 }
 
-void FolderCommands::Private::take(const Run &run, AddedFolders added, bool hasBegunScan)
+void FolderCommands::Private::take(const Run &run, AddedFolders added)
 {
     --run->requests;
     if (run->isCancelled) {
-        if (hasBegunScan)
+        if (added.hasBegunScan)
             model.cancelLoad();
         takeBack(added.records);
         return;
@@ -121,7 +115,7 @@ void FolderCommands::Private::take(const Run &run, AddedFolders added, bool hasB
     run->added.insert(run->added.end(), added.records.begin(), added.records.end());
     run->failures.merge(std::move(added.failures));
     // One that is waited for already hands on to the one that has begun now.
-    if (hasBegunScan && !run->isScanning)
+    if (added.hasBegunScan && !run->isScanning)
         awaitScan(run);
     end(run);
 }

@@ -7,8 +7,6 @@
 
 #include <QPointer>
 
-#include <set>
-
 namespace lorva {
 
 LorvaSettingsViewModel::LorvaSettingsViewModel(LorvaAppModel &model, QObject *parent)
@@ -98,24 +96,22 @@ void LorvaSettingsViewModel::addFolders(const std::vector<FilePath> &folders)
         return;
     beginIndexing();
     m_isAdding = true;
-    const size_t count = std::set<FilePath>(folders.begin(), folders.end()).size();
     m_model.addWatchedFolders(
-        folders, [self = QPointer(this), run = m_indexingRun, count](const AddedFolders &added) {
-            // Only where all were refused no scan has begun.
+        folders, [self = QPointer(this), run = m_indexingRun](const AddedFolders &added) {
             if (self)
-                self->foldersAdded(run, added, added.failures.size() < count);
+                self->foldersAdded(run, added);
         });
     Q_EMIT changed();
 }
 
-void LorvaSettingsViewModel::foldersAdded(int run, const AddedFolders &added, bool hasBegunScan)
+void LorvaSettingsViewModel::foldersAdded(int run, const AddedFolders &added)
 {
     const bool isCurrent = run == m_indexingRun && m_isAdding;
     if (!isCurrent) {
         // Unless it is wanted for what has begun since.
-        if (hasBegunScan && !m_isIndexing)
+        if (added.hasBegunScan && !m_isIndexing)
             m_model.cancelLoad();
-    } else if (!hasBegunScan) {
+    } else if (!added.hasBegunScan) {
         endIndexing(std::nullopt);
     } else {
         m_model.whenLoaded([self = QPointer(this), run](std::optional<int> newFamilies) {

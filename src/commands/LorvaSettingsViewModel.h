@@ -63,7 +63,7 @@ private:
     void lookAtFolders();
     void beginIndexing();
     void endIndexing(std::optional<IndexingCompletion> completion);
-    void foldersAdded(int run, const AddedFolders &added, bool hasBegunScan);
+    void foldersAdded(int run, const AddedFolders &added);
     void showProgress(const FontScanPhase &phase);
 
     LorvaAppModel &m_model;

@@ -3,9 +3,10 @@
 
 #include "commands/ScanProgress.h"
 
+#include "base/GroupedNumber.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QLocale>
 
 #include <algorithm>
 
@@ -25,13 +26,6 @@ bool isCounted(const FontScanPhase &phase)
 {
     return phase.kind == FontScanPhase::Kind::scanning
         || phase.kind == FontScanPhase::Kind::identifying;
-}
-
-QString grouped(int number)
-{
-    QLocale locale;
-    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
-    return locale.toString(number);
 }
 
 /// "%1" is the folder.
@@ -72,7 +66,7 @@ IndexingCompletion indexingCompletion(int newFamilies)
         return {text("No new fonts added"),
                 text("Lorva didn't find any new fonts in the selected location.")};
     const QString title = newFamilies == 1 ? text("Added %1 font") : text("Added %1 fonts");
-    return {title.arg(grouped(newFamilies)), text("You can find them in your library.")};
+    return {title.arg(groupedNumber(newFamilies)), text("You can find them in your library.")};
 }
 
 FolderQuestion watchFoldersQuestion()
@@ -100,7 +94,7 @@ QString refusedFoldersText(const std::map<FilePath, Error> &failures)
             const int rest = int(failures.size() - kMostFoldersNamed);
             lines.append((rest == 1 ? text("%1 more folder could not be added.")
                                     : text("%1 more folders could not be added."))
-                             .arg(grouped(rest)));
+                             .arg(groupedNumber(rest)));
             break;
         }
         lines.append(refusalOf(error).arg(folderText(folder)));

@@ -3,14 +3,13 @@
 
 #include "commands/UndoableDeactivation.h"
 
+#include "install/RunSteps.h"
 #include "model/stores/OrganizationNames.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <set>
-
-#include <sys/stat.h>
 
 namespace lorva {
 
@@ -85,10 +84,7 @@ void addWithdrawn(const WithdrawnFonts &more, WithdrawnFonts &withdrawn)
 
 bool hasLeftTrash(const WithdrawnFonts &withdrawn)
 {
-    const auto isThere = [](const WithdrawnFonts::Copy &copy) {
-        struct stat info;
-        return ::lstat(copy.place.c_str(), &info) == 0;
-    };
+    const auto isThere = [](const WithdrawnFonts::Copy &copy) { return isTaken(copy.place); };
     return withdrawn.registrations.empty() && std::ranges::none_of(withdrawn.copies, isThere);
 }
 

@@ -143,6 +143,23 @@ struct ClassCounts
     std::array<int, 4> counts{};
 };
 
+/// The files of styles, each once, in their order.
+struct DistinctFiles
+{
+    std::vector<FilePath> found;
+    QSet<FilePath> seen;
+
+    void add(const std::vector<FontStyleRecord> &styles)
+    {
+        for (const FontStyleRecord &style : styles) {
+            if (!style.fileURL || seen.contains(*style.fileURL))
+                continue;
+            seen.insert(*style.fileURL);
+            found.push_back(*style.fileURL);
+        }
+    }
+};
+
 } // namespace
 
 std::optional<FamilyActivationState> ActivationBooks::activationState(
@@ -219,15 +236,17 @@ bool ActivationBooks::areAllOriginsKnown(const std::vector<FontStyleRecord> &sty
 
 std::vector<FilePath> ActivationBooks::filesOf(const std::vector<FontStyleRecord> &styles)
 {
-    std::vector<FilePath> files;
-    QSet<FilePath> seen;
-    for (const FontStyleRecord &style : styles) {
-        if (!style.fileURL || seen.contains(*style.fileURL))
-            continue;
-        seen.insert(*style.fileURL);
-        files.push_back(*style.fileURL);
-    }
-    return files;
+    DistinctFiles files;
+    files.add(styles);
+    return std::move(files.found);
+}
+
+std::vector<FilePath> ActivationBooks::filesOf(const std::vector<FontFamilyRecord> &families)
+{
+    DistinctFiles files;
+    for (const FontFamilyRecord &family : families)
+        files.add(family.styles);
+    return std::move(files.found);
 }
 
 } // namespace lorva

@@ -98,6 +98,8 @@ public:
 
     /// The files of `styles`, each once, in their order.
     static std::vector<FilePath> filesOf(const std::vector<FontStyleRecord> &styles);
+    /// Those of all their styles, likewise; copies none of the records.
+    static std::vector<FilePath> filesOf(const std::vector<FontFamilyRecord> &families);
 
 private:
     struct Private;

@@ -65,21 +65,6 @@ std::shared_ptr<const std::vector<FontFamilyRecord>> shared(std::vector<FontFami
     return std::make_shared<const std::vector<FontFamilyRecord>>(std::move(families));
 }
 
-/// Each once. On the main thread, so without copying a whole library.
-std::vector<FilePath> filesOf(const std::vector<FontFamilyRecord> &families)
-{
-    std::vector<FilePath> files;
-    QSet<FilePath> seen;
-    for (const FontFamilyRecord &family : families) {
-        for (const FontStyleRecord &style : family.styles) {
-            const qsizetype before = seen.size();
-            if (style.fileURL && (seen.insert(*style.fileURL), seen.size() > before))
-                files.push_back(*style.fileURL);
-        }
-    }
-    return files;
-}
-
 bool isSame(const ActivationBooks::Contents &one, const ActivationBooks::Contents &other)
 {
     return one.fontsFolder == other.fontsFolder && one.watchedFolders == other.watchedFolders
@@ -367,33 +352,35 @@ void FontInstallationService::cancelRuns()
         run.request_stop();
 }
 
-FontInstallationService::Run FontInstallationService::activateByCopying(
-    std::vector<FontFamilyRecord> families, Done done, Progress progress)
+FontInstallationService::Run FontInstallationService::activate(
+    std::vector<FontFamilyRecord> families, InstallMethod method, Done done, Progress progress)
 {
+    using Action = ActivationHistoryEntry::Action;
+    const bool copies = method == InstallMethod::copy;
     const QStringList names = takeOff(families);
-    Plan plan{{{}, ActivationHistoryEntry::Action::copied, names, {}, {}}, filesOf(families), {}};
-    plan.work = [families = shared(std::move(families))](const std::vector<FilePath> &files,
-                                                         const InstallationTools &tools) {
-        InstallationResult result = copyToFontsFolder(files, tools);
-        setMethods(filesByFamily(*families), InstallMethod::copy, result);
+    const Action action = copies ? Action::copied : Action::registered;
+    Plan plan{{{}, action, names, {}, {}}, ActivationBooks::filesOf(families), {}};
+    plan.work = [families = shared(std::move(families)), method,
+                 copies](const std::vector<FilePath> &files, const InstallationTools &tools) {
+        InstallationResult result =
+            copies ? copyToFontsFolder(files, tools) : registerInPlace(files, tools);
+        setMethods(filesByFamily(*families), method, result);
         return result;
     };
     return run(std::move(plan), std::move(done), std::move(progress));
 }
 
+FontInstallationService::Run FontInstallationService::activateByCopying(
+    std::vector<FontFamilyRecord> families, Done done, Progress progress)
+{
+    return activate(std::move(families), InstallMethod::copy, std::move(done), std::move(progress));
+}
+
 FontInstallationService::Run FontInstallationService::activateInPlace(
     std::vector<FontFamilyRecord> families, Done done, Progress progress)
 {
-    const QStringList names = takeOff(families);
-    Plan plan{
-        {{}, ActivationHistoryEntry::Action::registered, names, {}, {}}, filesOf(families), {}};
-    plan.work = [families = shared(std::move(families))](const std::vector<FilePath> &files,
-                                                         const InstallationTools &tools) {
-        InstallationResult result = registerInPlace(files, tools);
-        setMethods(filesByFamily(*families), InstallMethod::registerInPlace, result);
-        return result;
-    };
-    return run(std::move(plan), std::move(done), std::move(progress));
+    return activate(std::move(families), InstallMethod::registerInPlace, std::move(done),
+                    std::move(progress));
 }
 
 FontInstallationService::Run FontInstallationService::deactivate(
@@ -403,7 +390,7 @@ FontInstallationService::Run FontInstallationService::deactivate(
     using Action = ActivationHistoryEntry::Action;
     const QStringList names = takeOff(families);
     const Action action = destination ? Action::moved : Action::deactivated;
-    Plan plan{{{}, action, names, destination, {}}, filesOf(families), {}};
+    Plan plan{{{}, action, names, destination, {}}, ActivationBooks::filesOf(families), {}};
     plan.work = [families = shared(std::move(families)), destination = std::move(destination)](
                     const std::vector<FilePath> &files, const InstallationTools &tools) {
         InstallationResult result = withdraw(files, destination, tools);

@@ -136,6 +136,8 @@ private:
     bool finish(Ended &ended, bool hasLock);
     void endCancelledJobs();
     Run run(Plan plan, Done done, Progress progress);
+    Run activate(std::vector<FontFamilyRecord> families, InstallMethod method, Done done,
+                 Progress progress);
     void endRun(const Plan &plan, const std::stop_source &stop, InstallationProgress *progress,
                 InstallationOutcome outcome, const Done &done);
     QStringList takeOff(std::vector<FontFamilyRecord> &families);

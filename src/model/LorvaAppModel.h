@@ -43,6 +43,8 @@ struct AddedFolders
     std::vector<WatchedFolder> records;
     /// By the path that was handed in.
     std::map<FilePath, Error> failures;
+    /// Also for folders that were in the list already; not where all were refused.
+    bool hasBegunScan = false;
 };
 
 /// The one object that holds the library and what the user chose about it.

@@ -77,7 +77,8 @@ void LorvaAppModel::addWatchedFolders(std::vector<FilePath> folders,
         [this, done = std::move(done)](const std::pair<std::vector<FilePath>, Resolved> &found) {
             AddedFolders added = addResolved(found.first, found.second);
             // Also for folders that were in the list: whoever adds them wants to see them.
-            if (added.failures.size() < found.second.size())
+            added.hasBegunScan = added.failures.size() < found.second.size();
+            if (added.hasBegunScan)
                 loadCatalog();
             if (done)
                 done(std::move(added));

@@ -3,6 +3,7 @@
 
 #include "ui/settings/WatchedFolderDelegate.h"
 
+#include "base/GroupedNumber.h"
 #include "ui/style/ControlColors.h"
 #include "ui/style/DeviceSpace.h"
 #include "ui/style/Palette.h"
@@ -11,7 +12,6 @@
 
 #include <QFontMetrics>
 #include <QListWidgetItem>
-#include <QLocale>
 #include <QPainter>
 
 namespace lorva {
@@ -29,13 +29,11 @@ constexpr double kPlateAlpha = 0.045;
 
 QString countText(int fonts)
 {
-    QLocale locale;
-    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
     if (fonts == 0)
         return WatchedFolderDelegate::tr("No fonts");
     const QString text =
         fonts == 1 ? WatchedFolderDelegate::tr("%1 font") : WatchedFolderDelegate::tr("%1 fonts");
-    return text.arg(locale.toString(fonts));
+    return text.arg(groupedNumber(fonts));
 }
 
 QString trailingText(const WatchedFolderRow &row)
