@@ -5,54 +5,17 @@
 // for every installed font file. Pages are warm, nothing of the file is in the process. One
 // iteration is one pass over all files; the counters are microseconds per file.
 #include "InstalledFonts.h"
+#include "Samples.h"
 #include "text/FontFile.h"
 #include "text/GlyphPainter.h"
 #include "text/WarmFaces.h"
 
 #include <benchmark/benchmark.h>
 
-#include <time.h>
-
 using namespace lorva;
+using namespace lorva::bench;
 
 namespace {
-
-double threadMicroseconds()
-{
-    timespec now{};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e6 + double(now.tv_nsec) / 1e3;
-}
-
-/// Microseconds per sample; told as median, 95th percentile and worst.
-class Samples
-{
-public:
-    template <class Work>
-    void time(Work work)
-    {
-        const double start = threadMicroseconds();
-        work();
-        m_microseconds.push_back(threadMicroseconds() - start);
-    }
-
-    void report(benchmark::State &state)
-    {
-        std::sort(m_microseconds.begin(), m_microseconds.end());
-        state.counters["median_us"] = at(0.5);
-        state.counters["p95_us"] = at(0.95);
-        state.counters["worst_us"] = at(1);
-    }
-
-private:
-    double at(double share) const
-    {
-        return m_microseconds.empty() ? 0
-                                      : m_microseconds[size_t(share * (m_microseconds.size() - 1))];
-    }
-
-    std::vector<double> m_microseconds;
-};
 
 QImage card()
 {

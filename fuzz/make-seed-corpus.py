@@ -6,11 +6,14 @@
     fuzz/make-seed-corpus.py FOLDER
 
 Real fonts of the installed packages are cut down to a few characters with their layout tables; kinds that
-no package holds are built. Needs python3-fonttools.
+no package holds are built, here and by tests/fonts/make-fonts.py. Each comes once for each of the fuzzer's
+trials, which the last byte chooses. Needs python3-fonttools.
 """
 import pathlib
 import struct
+import subprocess
 import sys
+import tempfile
 
 from fontTools import subset
 from fontTools.fontBuilder import FontBuilder
@@ -19,7 +22,7 @@ from fontTools.pens.ttGlyphPen import TTGlyphPen
 from fontTools.ttLib import TTCollection, TTFont
 
 FONTS = pathlib.Path("/usr/share/fonts")
-TEXT = "Aa 123 office \u05d0\u05d1\u05b8 \u0627\u0644\u0633\u0645 \u0915\u094d\u0937\u093f \u0e01\u0e47 \uac01 \u6c38 e\u0301 ."
+TEXT = "Aa 123 office \u05d0\u05d1\u05b8 \u0627\u0644\u0633\u0645 \u0915\u094d\u0937\u093f \u0e01\u0e47 \uac01 \u6c38 e\u0301 . \U0001f600\u2764"
 REAL = [
     "opentype/fonts-hosny-amiri/Amiri-Regular.ttf",
     "opentype/ebgaramond/EBGaramond12-Regular.otf",
@@ -30,7 +33,15 @@ REAL = [
     "truetype/liberation/LiberationSerif-Regular.ttf",
     "truetype/noto/NotoSansHebrew-Regular.ttf",
     "truetype/noto/NotoSansThai-Regular.ttf",
+    "truetype/noto/NotoColorEmoji.ttf",
+    "opentype/fonts-hosny-amiri/AmiriQuranColored.ttf",
+    "truetype/jetbrains-mono/JetBrainsMono-Regular.ttf",
 ]
+MAKE_FONTS = pathlib.Path(__file__).resolve().parent.parent / "tests/fonts/make-fonts.py"
+# What the fuzzer looks at; larger inputs would be cut there.
+LARGEST = 65536
+# FontTrials.cpp: as many trials.
+TRIALS = 6
 BOX = [(0, 0), (500, 0), (500, 700), (0, 700)]
 
 
@@ -94,23 +105,53 @@ def suitcase(data):
     return head + bytes(240) + body + resource_map
 
 
-def main(folder):
-    folder.mkdir(parents=True, exist_ok=True)
+def add(folder, name, data):
+    """One seed for each trial; what is too large for the fuzzer is told and left out."""
+    if len(data) + 1 > LARGEST:
+        print(f"{name} is too large: {len(data)} bytes; left out", file=sys.stderr)
+        return
+    for trial in range(TRIALS):
+        (folder / f"{name}.{trial}.font").write_bytes(data + bytes([trial]))
+
+
+def real_fonts(scratch):
     for name in REAL:
         if (FONTS / name).exists():
-            cut_down(FONTS / name, folder / (pathlib.Path(name).stem + ".font"))
+            target = scratch / pathlib.Path(name).stem
+            cut_down(FONTS / name, target)
+            yield target.name, target.read_bytes()
         else:
             print(f"{name} is not installed; left out", file=sys.stderr)
+
+
+def built_fonts(scratch):
     built = {"truetype": build(True).font, "cff": build(False).font, "variable": variable(),
              "colored": colored()}
     for name, font in built.items():
-        font.save(folder / f"{name}.font")
+        font.save(scratch / name)
+        yield name, (scratch / name).read_bytes()
     collection = TTCollection()
-    collection.fonts = [TTFont(folder / "truetype.font"), TTFont(folder / "cff.font")]
-    collection.save(folder / "collection.font")
-    data = (folder / "truetype.font").read_bytes()
-    (folder / "suitcase.font").write_bytes(suitcase(data))
-    (folder / "cut.font").write_bytes(data[: len(data) // 2])
+    collection.fonts = [TTFont(scratch / "truetype"), TTFont(scratch / "cff")]
+    collection.save(scratch / "collection")
+    yield "collection", (scratch / "collection").read_bytes()
+    data = (scratch / "truetype").read_bytes()
+    yield "suitcase", suitcase(data)
+    yield "cut", data[: len(data) // 2]
+
+
+def made_fonts(scratch):
+    """Those of the tests: colour of every kind, variations, CFF2."""
+    subprocess.run([sys.executable, str(MAKE_FONTS), str(scratch / "made")], check=True)
+    for path in sorted((scratch / "made").glob("*.[to]t[fc]")):
+        yield path.name, path.read_bytes()
+
+
+def main(folder):
+    folder.mkdir(parents=True, exist_ok=True)
+    with tempfile.TemporaryDirectory() as scratch:
+        for kind in (real_fonts, built_fonts, made_fonts):
+            for name, data in kind(pathlib.Path(scratch)):
+                add(folder, name, data)
 
 
 if __name__ == "__main__":

@@ -19,6 +19,7 @@ import time
 from pathlib import Path
 
 import bench_start
+import bench_text
 import bench_window
 
 EXTENSIONS = {".otf", ".ttf", ".ttc", ".otc", ".dfont"}
@@ -382,6 +383,10 @@ class Bench:
         for key, share, bar in (("median", 0.5, "0.3 ms"), ("p95", 0.95, "1 ms")):
             self.add(f"specimen_{key}", f"never-seen specimen, path to pixels, {key}",
                      specimen[f"{key}_us"] / 1000, f"`hb-view`, {key}", percentile(hb_view, share), bar)
+        try:
+            bench_text.add_rows(self, results)
+        except KeyError as missing:
+            raise Failed(f"no benchmark is called {missing}") from None
         for key, what, figures in zip(("parse_cache", "snapshot"), ("parse cache", "snapshot"), caches):
             self.add_against_bar(key, f"{what} of {figures['faces']:,.0f} faces read", figures["ms"], 100)
         self.add("records", "100,000 faces read from JSON", records[0], "`QJsonDocument`", records[1],

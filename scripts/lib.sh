@@ -25,13 +25,16 @@ packages_build="
   libsqlite3-dev        keeps the preferences
   libsimdjson-dev       reads JSON
   libexpected-dev       Result<T>
+  zlib1g-dev            inflates the SVG documents of fonts
+  librsvg2-dev          draws SVG glyphs
 "
 packages_test="
   git                   the checks ask it which files are ours
   python3               the check of the floors
   libgtest-dev          runs every test
   libgmock-dev          matchers
-  libharfbuzz-bin       hb-shape, whose answers shaping is compared with
+  libharfbuzz-bin       hb-shape and hb-view, whose answers shaping and outlines are compared with
+  python3-fonttools     makes fonts of kinds that no package brings
   dbus-daemon           a private session bus for the second start
   xvfb                  a display for the journey in a desktop session
   openbox               its window manager
@@ -61,6 +64,7 @@ packages_bench="
   rapidjson-dev         another reader of JSON, to compare ours with
   fontconfig            fc-scan, to compare the scan with
   libharfbuzz-bin       hb-view, to compare the specimen with
+  libfreetype-dev       FreeType, to compare specimens and the opening of files with
   python3               runs both and writes the table
   xvfb                  an X server for the window that is used
   xdotool               uses it

@@ -1,23 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/Specimen.h"
+#include "cli/SpecimenOptions.h"
 
 namespace lorva::cli {
 
 namespace {
 
 constexpr char kHelp[] =
-    "Usage: lorvactl specimen FILE -o PNG [OPTION]...\n"
+    "Usage: lorvactl specimen FILE -o PICTURE [OPTION]...\n"
     "\n"
-    "Draws a line of text in a face of a font file.\n"
+    "Draws text in a face of a font file. In an SVG or PDF the letters are outlines; no font is\n"
+    "embedded.\n"
     "\n"
-    "  -o PNG             the picture to write; never a font file\n"
+    "  -o PICTURE         what to write, a .png, .svg or .pdf by its name; never a font file\n"
     "  --text TEXT        what to draw; a pangram if not given\n"
     "  --face N           which face of a collection, from 0\n"
     "  --instance NAME    a named instance of a variable face\n"
+    "  --variations LIST  values of axes: wght=650,wdth=80\n"
+    "  --features LIST    OpenType features: smcp,onum=0,ss01=1,-liga,+dlig\n"
+    "  --palette N        which palette of a colour font, from 0\n"
+    "  --language TAG     for forms of that language: ja, zh-Hant, sr (BCP 47)\n"
+    "  --direction ltr | rtl | auto\n"
+    "                     of the text; auto, by its first letter, if not given\n"
+    "  --letter-spacing N pixels after each letter, -1000 to 1000\n"
     "  --size N           pixels per em, 1 to 4096; 48 if not given\n"
     "  --width N          pixels, 1 to 16384; the text wraps. As wide as the text if not given\n"
     "  --height N         pixels, 1 to 16384; as high as the text if not given\n"
@@ -25,17 +32,6 @@ constexpr char kHelp[] =
     "  --background #RRGGBB | transparent\n"
     "                     white if not given\n"
     "  --help             show this help\n";
-
-Result<QColor> color(QByteArrayView option, const QByteArray &value)
-{
-    const QColor parsed = QColor::fromString(QString::fromUtf8(value));
-    if (value.size() != 7 || !value.startsWith('#') || !parsed.isValid()) {
-        return failure(
-            ErrorKind::usage,
-            QStringLiteral("%1 takes a colour as #RRGGBB").arg(QString::fromUtf8(option)));
-    }
-    return parsed;
-}
 
 /// Reads options into a request one after the other; the first failure sticks.
 class RequestReader
@@ -71,17 +67,20 @@ Result<SpecimenRequest> specimenRequest(const Arguments &arguments)
         return failure(ErrorKind::usage, QStringLiteral("specimen takes one font file"));
     if (arguments.value("-o").value_or(QByteArray()).isEmpty())
         return failure(ErrorKind::usage,
-                       QStringLiteral("specimen needs a picture to write: -o PNG"));
+                       QStringLiteral("specimen needs a picture to write: -o PICTURE"));
     const auto within = [](int most) {
         return [most](QByteArrayView option, const QByteArray &value) {
             return wholeNumber(option, value, 1, most);
         };
     };
-    const auto faceIndex = [](QByteArrayView option, const QByteArray &value) {
+    const auto index = [](QByteArrayView option, const QByteArray &value) {
         return wholeNumber(option, value, 0, 65535);
     };
     const auto size = [](QByteArrayView option, const QByteArray &value) {
         return number(option, value, 1, kMaxSpecimenSize);
+    };
+    const auto letterSpacing = [](QByteArrayView option, const QByteArray &value) {
+        return number(option, value, -kMaxSpecimenLetterSpacing, kMaxSpecimenLetterSpacing);
     };
     const auto background = [](QByteArrayView option, const QByteArray &value) {
         return value == "transparent" ? Result<QColor>(QColor(Qt::transparent))
@@ -93,8 +92,14 @@ Result<SpecimenRequest> specimenRequest(const Arguments &arguments)
     request.picture = FilePath::absolute(*arguments.value("-o"));
     RequestReader reader(arguments);
     reader.read("--text", request.text, text);
-    reader.read("--face", request.faceIndex, faceIndex);
+    reader.read("--face", request.faceIndex, index);
     reader.read("--instance", request.instance, text);
+    reader.read("--variations", request.variations, variationList);
+    reader.read("--features", request.features, featureList);
+    reader.read("--palette", request.palette, index);
+    reader.read("--language", request.language, languageTag);
+    reader.read("--direction", request.direction, textDirection);
+    reader.read("--letter-spacing", request.letterSpacing, letterSpacing);
     reader.read("--size", request.pixelsPerEm, size);
     reader.read("--width", request.width, within(kMaxSpecimenSide));
     reader.read("--height", request.height, within(kMaxSpecimenSide));
@@ -117,6 +122,12 @@ int runSpecimenCommand(std::span<const QByteArray> words)
                                                           {"--text"},
                                                           {"--face"},
                                                           {"--instance"},
+                                                          {"--variations"},
+                                                          {"--features"},
+                                                          {"--palette"},
+                                                          {"--language"},
+                                                          {"--direction"},
+                                                          {"--letter-spacing"},
                                                           {"--size"},
                                                           {"--width"},
                                                           {"--height"},
@@ -131,8 +142,11 @@ int runSpecimenCommand(std::span<const QByteArray> words)
     const Result<SpecimenRequest> request = specimenRequest(*arguments);
     if (!request)
         return failUsage("specimen", request.error().detail);
-    if (const Result<void> written = writeSpecimen(*request); !written)
+    const Result<std::vector<QString>> written = writeSpecimen(*request);
+    if (!written)
         return fail(written.error().detail);
+    for (const QString &note : *written)
+        warn(note);
     return finish();
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "text/Font.h"
 
-#include <hb-ot.h>
 #include <hb.h>
 
 #include <algorithm>
@@ -20,16 +19,11 @@ constexpr double kMaxVerticalEms = 8;
 const std::shared_ptr<const FontFace> kNoFace;
 const std::vector<VariationSetting> kNoVariations;
 const std::vector<FeatureSetting> kNoFeatures;
+const PaletteChoice kFirstPalette;
 
 double usablePointSize(double size)
 {
     return std::isfinite(size) ? std::clamp(size, 0.0, kMaxPointSize) : 0;
-}
-
-double metricOr(hb_font_t *font, hb_ot_metrics_tag_t tag, double otherwise)
-{
-    hb_position_t value = 0;
-    return hb_ot_metrics_get_position(font, tag, &value) ? value : otherwise;
 }
 
 } // namespace
@@ -40,6 +34,7 @@ struct Font::Data
     double pointSize = 0;
     std::vector<VariationSetting> variations;
     std::vector<FeatureSetting> features;
+    PaletteChoice palette;
     bool isStandIn = false;
 
     double toPoints(double units) const
@@ -97,45 +92,34 @@ QString Font::name() const
     return name;
 }
 
-double Font::variedMetric(quint32 tag, double ownInstanceUnits) const
+double Font::metric(double FaceMetrics::*member) const
 {
-    if (m_data->variations.empty())
-        return m_data->toPoints(ownInstanceUnits);
-    const std::shared_ptr<hb_font_t> font = shapingFont();
-    return m_data->toPoints(metricOr(font.get(), hb_ot_metrics_tag_t(tag), ownInstanceUnits));
+    return m_data ? m_data->toPoints(m_data->face->metricsAt(m_data->variations).*member) : 0;
 }
 
 double Font::capHeight() const
 {
-    return m_data ? variedMetric(HB_OT_METRICS_TAG_CAP_HEIGHT, m_data->face->metrics().capHeight)
-                  : 0;
+    return metric(&FaceMetrics::capHeight);
 }
 
 double Font::xHeight() const
 {
-    return m_data ? variedMetric(HB_OT_METRICS_TAG_X_HEIGHT, m_data->face->metrics().xHeight) : 0;
+    return metric(&FaceMetrics::xHeight);
 }
 
 double Font::ascent() const
 {
-    return m_data
-        ? variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER, m_data->face->metrics().ascender)
-        : 0;
+    return metric(&FaceMetrics::ascender);
 }
 
 double Font::descent() const
 {
-    return m_data
-        ? -variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER, m_data->face->metrics().descender)
-        : 0;
+    return -metric(&FaceMetrics::descender);
 }
 
 double Font::lineGap() const
 {
-    return m_data ? std::max(
-               0.0,
-               variedMetric(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP, m_data->face->metrics().lineGap))
-                  : 0;
+    return std::max(0.0, metric(&FaceMetrics::lineGap));
 }
 
 bool Font::hasGlyphFor(char32_t scalar) const
@@ -180,6 +164,16 @@ Font Font::withFeatures(std::vector<FeatureSetting> features) const
     return changed([&](Data &data) { data.features = std::move(features); });
 }
 
+const PaletteChoice &Font::palette() const
+{
+    return m_data ? m_data->palette : kFirstPalette;
+}
+
+Font Font::withPalette(PaletteChoice palette) const
+{
+    return changed([&](Data &data) { data.palette = std::move(palette); });
+}
+
 std::shared_ptr<hb_font_t> Font::shapingFont() const
 {
     if (!m_data)
@@ -196,6 +190,7 @@ bool Font::operator==(const Font &other) const
     return m_data->face == other.m_data->face && m_data->pointSize == other.m_data->pointSize
         && m_data->variations == other.m_data->variations
         && m_data->features == other.m_data->features
+        && m_data->palette == other.m_data->palette
         && m_data->isStandIn == other.m_data->isStandIn;
 }
 

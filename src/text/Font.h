@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "text/ColorPalette.h"
 #include "text/FontFace.h"
 
 namespace lorva {
@@ -42,6 +43,9 @@ public:
     Font withPointSize(double pointSize) const;
     Font withVariations(std::vector<VariationSetting> variations) const;
     Font withFeatures(std::vector<FeatureSetting> features) const;
+    /// Which colours a colour font is drawn in; the font's first palette if never set.
+    const PaletteChoice &palette() const;
+    Font withPalette(PaletteChoice palette) const;
 
     /// The HarfBuzz font with this font's variations, scaled to unitsPerEm. Not kept, so that a
     /// Font of a face that nobody draws with does not hold its tables in memory. Never null. Engine
@@ -52,8 +56,8 @@ public:
 
 private:
     struct Data;
-    /// Points of a metric that the font's variations may move (OpenType `MVAR`).
-    double variedMetric(quint32 tag, double ownInstanceUnits) const;
+    /// Points of a metric, which the font's variations may move.
+    double metric(double FaceMetrics::*member) const;
     template <class Change>
     Font changed(Change change) const;
 

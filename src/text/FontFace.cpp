@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/FontFace.h"
 
+#include "text/CharacterMapWork.h"
 #include "text/FaceDescribing.h"
 #include "text/FontFaceData.h"
 #include "text/FontLimits.h"
@@ -10,6 +11,7 @@
 #include <hb-ot.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace lorva {
 
@@ -115,7 +117,8 @@ std::vector<hb_variation_t> mergedVariations(std::span<const VariationSetting> o
     std::vector<hb_variation_t> merged;
     for (const auto &settings : {own, wanted})
         for (const VariationSetting &setting : settings)
-            merged.push_back({setting.tag, float(setting.value)});
+            if (!std::isnan(setting.value))
+                merged.push_back({setting.tag, float(setting.value)});
     return merged;
 }
 
@@ -193,6 +196,8 @@ bool mapsAnyCharacter(const std::shared_ptr<const FontFile::Data> &file,
 {
     // Not among the faces kept warm: describing a face does not mean that it will be drawn.
     const WarmFace face(file, directory);
+    if (!isCharacterMapWorkable(face.face()))
+        return false;
     const std::unique_ptr<hb_set_t, decltype(&hb_set_destroy)> characters(hb_set_create(),
                                                                           hb_set_destroy);
     hb_face_collect_unicodes(face.face(), characters.get());
@@ -240,6 +245,14 @@ const FaceMetrics &FontFace::metrics() const
     return m_data->metrics;
 }
 
+FaceMetrics FontFace::metricsAt(std::span<const VariationSetting> variations) const
+{
+    if (variations.empty())
+        return metrics();
+    const auto merged = mergedVariations(m_data->coordinates, variations);
+    return readMetrics(fontOf(warmFace(*m_data), merged).get());
+}
+
 int FontFace::glyphCount() const
 {
     return m_data->glyphCount;
@@ -253,6 +266,13 @@ int FontFace::formatNumber() const
 const std::vector<VariationAxis> &FontFace::axes() const
 {
     return detailsOf(*m_data).axes;
+}
+
+std::optional<VariationAxis> FontFace::axis(FontTag tag) const
+{
+    const auto found = std::find_if(axes().begin(), axes().end(),
+                                    [tag](const VariationAxis &each) { return each.tag == tag; });
+    return found == axes().end() ? std::nullopt : std::optional(*found);
 }
 
 const std::vector<NamedInstance> &FontFace::namedInstances() const

@@ -107,12 +107,16 @@ public:
     const FaceNames &names() const;
     FaceTraits traits() const;
     const FaceMetrics &metrics() const;
+    /// metrics() with other variations (OpenType `MVAR`). Not kept.
+    FaceMetrics metricsAt(std::span<const VariationSetting> variations) const;
     int glyphCount() const;
-    /// 1 glyf outlines without layout tables, 2 bare PostScript, 3 `OTTO`, 4 glyf outlines with
-    /// GSUB or GPOS, 5 bitmap only.
+    /// 1 glyf outlines without layout tables, 2 bare PostScript, 3 `OTTO` (`CFF ` or `CFF2`),
+    /// 4 glyf outlines with GSUB or GPOS, 5 without outlines (bitmaps only).
     int formatNumber() const;
     /// Axes of a variable face in `fvar` order; empty otherwise.
     const std::vector<VariationAxis> &axes() const;
+    /// The first axis of that tag; nothing if the face has none.
+    std::optional<VariationAxis> axis(FontTag tag) const;
     const std::vector<NamedInstance> &namedInstances() const;
     /// Coordinates of this face's own instance; empty for the default.
     const std::vector<VariationSetting> &coordinates() const;
@@ -124,10 +128,14 @@ public:
     std::optional<quint32> glyphFor(char32_t scalar) const;
 
     /// Shapes and outlines for the type engine's own files: an immutable HarfBuzz font scaled to
-    /// unitsPerEm with this face's coordinates and then `variations` applied. Never null.
+    /// unitsPerEm with this face's coordinates and then `variations` applied: of several values for
+    /// an axis the last one counts, values outside the axis count as its ends, values that are no
+    /// number and tags that the face lacks are passed over. Never null.
     std::shared_ptr<hb_font_t> shapingFont(std::span<const VariationSetting> variations) const;
 
+    /// For the type engine's own files.
     struct Data;
+    const Data &data() const { return *m_data; }
     explicit FontFace(std::unique_ptr<Data> data);
 
 private:

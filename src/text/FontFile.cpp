@@ -30,10 +30,6 @@ tl::unexpected<Error> judged(const OpenedFile &opened, const FilePath &path, con
     return opened.hasFailed() ? notRead(path) : named(path, error);
 }
 
-/// The largest maps of real fonts take half a megabyte. Reading much larger ones for each of 256
-/// faces of a collection would take seconds.
-constexpr quint32 kMaxCharacterMapBytes = 4 << 20;
-
 const TableEntry *characterMap(const SfntDirectory &directory)
 {
     const TableEntry *map = directory.find(fontTag('c', 'm', 'a', 'p'));

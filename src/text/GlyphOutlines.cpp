@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/GlyphOutlines.h"
 
+#include "text/ColorGlyphs.h"
 #include "text/FontLimits.h"
 
 #include <hb.h>
@@ -112,15 +113,50 @@ void drawGlyph(hb_font_t *font, quint32 glyph, OutlinePen &pen)
 #endif
 }
 
-using OutlineVisitor = std::function<void(const LayoutLine &line, const QPainterPath &outline)>;
+/// The hollow box that stands for a missing glyph of a face that draws none itself.
+QPainterPath missingGlyphBox(const Font &font, QPointF at, double advance)
+{
+    // Shares of the advance, of the em, and again of the em.
+    constexpr double kBearing = 0.1;
+    constexpr double kCapHeight = 0.7;
+    constexpr double kStroke = 0.05;
+    const double capHeight =
+        font.capHeight() > 0 ? font.capHeight() : kCapHeight * font.pointSize();
+    const QRectF box(at.x() + kBearing * advance, at.y() - capHeight, (1 - 2 * kBearing) * advance,
+                     capHeight);
+    const double stroke = std::min({kStroke * font.pointSize(), box.width() / 4, box.height() / 4});
+    QPainterPath hole;
+    hole.addRect(box.adjusted(stroke, stroke, -stroke, -stroke));
+    QPainterPath path;
+    path.addRect(box);
+    path.addPath(hole.toReversed());
+    return path;
+}
 
-/// The outlines of a layout, within one budget of segments. Glyphs of a line whose boxes touch are
-/// gathered into one path.
-class LayoutOutliner
+enum class ColorGlyphUse { pictures, outlines };
+
+/// One of the fonts of a layout.
+struct RunFont
+{
+    RunFont(const Font &font, ColorGlyphUse use)
+        : outliner(font)
+    {
+        if (use == ColorGlyphUse::pictures && !font.isNull() && mayHaveColor(*font.face()))
+            colors.emplace(font);
+    }
+
+    GlyphOutliner outliner;
+    /// Only for a font that may have some.
+    std::optional<ColorGlyphs> colors;
+};
+
+/// Goes through a layout within one budget of segments.
+class LayoutWalker
 {
 public:
-    explicit LayoutOutliner(const OutlineVisitor &visit)
-        : m_visit(visit)
+    LayoutWalker(InkVisitor &visitor, ColorGlyphUse use)
+        : m_visitor(visitor)
+        , m_use(use)
     {
     }
 
@@ -132,22 +168,46 @@ public:
     }
 
 private:
+    /// Lines go back and forth between a few fonts; sources of pictures are costly to make anew.
+    RunFont &fontOf(const GlyphRun &run)
+    {
+        const auto found = std::find_if(m_fonts.begin(), m_fonts.end(), [&](const auto &candidate) {
+            return candidate->outliner.font() == run.font;
+        });
+        if (found != m_fonts.end())
+            return **found;
+        m_fonts.push_back(std::make_unique<RunFont>(run.font, m_use));
+        return *m_fonts.back();
+    }
+
     void addRun(const LayoutLine &line, const GlyphRun &run)
     {
-        if (!m_outliner || m_outliner->font() != run.font)
-            m_outliner.emplace(run.font);
+        RunFont &font = fontOf(run);
         for (const PositionedGlyph &glyph : run.glyphs) {
             if (m_budget <= 0)
                 return;
-            QPainterPath outline;
-            m_budget -= m_outliner->append(outline, glyph.glyph, line.origin + glyph.position);
-            if (!outline.isEmpty())
-                addOutline(line, outline);
+            if (!font.colors || !showPicture(line, *font.colors, glyph))
+                addOutline(line, font.outliner, glyph);
         }
     }
 
-    void addOutline(const LayoutLine &line, const QPainterPath &outline)
+    bool showPicture(const LayoutLine &line, ColorGlyphs &colors, const PositionedGlyph &glyph)
     {
+        if (!colors.has(glyph.glyph))
+            return false;
+        flush(line);
+        return m_visitor.picture(line, colors, glyph.glyph, line.origin + glyph.position);
+    }
+
+    void addOutline(const LayoutLine &line, GlyphOutliner &outliner, const PositionedGlyph &glyph)
+    {
+        const QPointF at = line.origin + glyph.position;
+        QPainterPath outline;
+        m_budget -= outliner.append(outline, glyph.glyph, at);
+        if (outline.isEmpty() && glyph.glyph == 0 && glyph.advance > 0)
+            outline = missingGlyphBox(outliner.font(), at, outliner.missingAdvance(glyph.advance));
+        if (outline.isEmpty())
+            return;
         const QRectF box = outline.controlPointRect();
         if (!m_group.isEmpty() && !m_box.intersects(box))
             flush(line);
@@ -159,17 +219,64 @@ private:
     void flush(const LayoutLine &line)
     {
         if (!m_group.isEmpty())
-            m_visit(line, m_group);
+            m_visitor.outline(line, m_group);
         m_group = {};
         m_box = {};
     }
 
-    const OutlineVisitor &m_visit;
-    std::optional<GlyphOutliner> m_outliner;
+    InkVisitor &m_visitor;
+    const ColorGlyphUse m_use;
+    std::vector<std::unique_ptr<RunFont>> m_fonts;
     int m_budget = kMaxLayoutSegments;
     QPainterPath m_group;
     QRectF m_box;
 };
+
+using OutlineVisit = std::function<void(const LayoutLine &line, const QPainterPath &outline)>;
+
+class OutlineVisitor : public InkVisitor
+{
+public:
+    explicit OutlineVisitor(const OutlineVisit &visit)
+        : m_visit(visit)
+    {
+    }
+
+    void outline(const LayoutLine &line, const QPainterPath &outline) override
+    {
+        m_visit(line, outline);
+    }
+    bool picture(const LayoutLine &, ColorGlyphs &, quint32, QPointF) override { return false; }
+
+private:
+    const OutlineVisit &m_visit;
+};
+
+class BoundsVisitor : public InkVisitor
+{
+public:
+    void outline(const LayoutLine &, const QPainterPath &outline) override
+    {
+        bounds |= outline.boundingRect();
+    }
+
+    bool picture(const LayoutLine &, ColorGlyphs &glyphs, quint32 glyph, QPointF at) override
+    {
+        const QRectF box = glyphs.bounds(glyph);
+        if (!box.isEmpty())
+            bounds |= box.translated(at);
+        return true;
+    }
+
+    QRectF bounds;
+};
+
+void visitLayout(const TextLayout &layout, InkVisitor &visitor, ColorGlyphUse use)
+{
+    LayoutWalker walker(visitor, use);
+    for (const LayoutLine &line : layout.lines())
+        walker.visitLine(line);
+}
 
 } // namespace
 
@@ -199,13 +306,28 @@ int GlyphOutliner::append(QPainterPath &path, quint32 glyph, QPointF at)
     return pen.segments;
 }
 
-void forEachOutline(
-    const TextLayout &layout,
-    const std::function<void(const LayoutLine &line, const QPainterPath &outline)> &visit)
+double GlyphOutliner::missingAdvance(double otherwise) const
 {
-    LayoutOutliner outliner(visit);
-    for (const LayoutLine &line : layout.lines())
-        outliner.visitLine(line);
+    const double own = hb_font_get_glyph_h_advance(m_shapingFont.get(), 0) * m_pointsPerUnit;
+    return own > 0 && own <= m_reach ? own : otherwise;
+}
+
+void visitInk(const TextLayout &layout, InkVisitor &visitor)
+{
+    visitLayout(layout, visitor, ColorGlyphUse::pictures);
+}
+
+void forEachOutline(const TextLayout &layout, const OutlineVisit &visit)
+{
+    OutlineVisitor visitor(visit);
+    visitLayout(layout, visitor, ColorGlyphUse::outlines);
+}
+
+QRectF inkBoundsOf(const TextLayout &layout)
+{
+    BoundsVisitor visitor;
+    visitInk(layout, visitor);
+    return visitor.bounds;
 }
 
 } // namespace lorva

@@ -25,6 +25,8 @@ public:
     /// Appends the glyph with its origin at `at`; gives the number of segments that this took,
     /// drawn or not.
     int append(QPainterPath &path, quint32 glyph, QPointF at);
+    /// Points that the face's missing glyph takes by itself, without letter spacing.
+    double missingAdvance(double otherwise) const;
 
 private:
     Font m_font;
@@ -36,12 +38,35 @@ private:
     double m_reach = 0;
 };
 
-/// The outlines of all that has ink, in the layout's coordinates, with non-zero winding. Neighbours
-/// whose boxes touch come as one path, so that joined scripts are filled without a seam; others
-/// apart, because the cost of filling grows steeply with the length of a path. Ends early when the
-/// whole takes more segments than any text does.
+class ColorGlyphs;
+
+/// What shows of a layout, in the visual order of its lines. Coordinates are the layout's.
+class InkVisitor
+{
+public:
+    virtual ~InkVisitor() = default;
+
+    /// Outlines with non-zero winding. Neighbours whose boxes touch come as one path, so that
+    /// joined scripts are filled without a seam; others apart, because the cost of filling grows
+    /// steeply with the length of a path.
+    virtual void outline(const LayoutLine &line, const QPainterPath &outline) = 0;
+    /// A coloured picture of `glyph` that has its origin at `at`. False if it could not be drawn:
+    /// the glyph's outline follows.
+    virtual bool picture(const LayoutLine &line, ColorGlyphs &glyphs, quint32 glyph,
+                         QPointF at) = 0;
+};
+
+/// Visits coloured pictures where glyphs have one, else outlines, and a hollow box for missing
+/// glyphs whose face has no ink for them. Ends early when the whole takes more segments than any
+/// text does.
+void visitInk(const TextLayout &layout, InkVisitor &visitor);
+
+/// As visitInk(), the outlines of all glyphs, coloured or not.
 void forEachOutline(
     const TextLayout &layout,
     const std::function<void(const LayoutLine &line, const QPainterPath &outline)> &visit);
+
+/// The box around what visitInk() visits; null when nothing shows.
+QRectF inkBoundsOf(const TextLayout &layout);
 
 } // namespace lorva

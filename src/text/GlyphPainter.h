@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QPainterPath>
 
+class QPainter;
+
 namespace lorva {
 
 /// Fills glyph outlines into images.
@@ -22,6 +24,11 @@ public:
     /// so that the feet of letters are sharp. The image must be of format ARGB32_Premultiplied or
     /// RGB32.
     static void paint(QImage &image, const TextLayout &layout, QPointF origin, const QColor &color);
+
+    /// Paints on any device: widgets, PDF, SVG. Outlines stay outlines, and colour glyphs vectors
+    /// where the device can show them. Nothing is moved to pixel edges.
+    static void paint(QPainter &painter, const TextLayout &layout, QPointF origin,
+                      const QColor &color);
 
     /// The outlines of the whole layout as one path (points, y down, non-zero winding).
     static QPainterPath path(const TextLayout &layout);

@@ -59,7 +59,7 @@ void justify(BrokenLine &line, QStringView paragraph, double width)
     visitSpaces(line, paragraph, [&](ShapedGlyph &glyph) { glyph.advance += missing / spaces; });
 }
 
-LayoutLine assembleLine(BrokenLine line, const LinePlace &place, const Font &font)
+LayoutLine assembleLine(BrokenLine line, const LinePlace &place, const TextFonts &fonts)
 {
     LayoutLine result;
     result.width = place.inset + visibleWidth(line.runs, line.visibleEnd);
@@ -69,10 +69,11 @@ LayoutLine assembleLine(BrokenLine line, const LinePlace &place, const Font &fon
     result.isTruncated = line.hasEllipsis;
     // White space at the end of a right-to-left line hangs over its left edge.
     double pen = place.isRightToLeft ? -hangingWidth(line) : place.inset;
+    result.runsLeft = pen;
     for (const int index : visualRunOrder(line.runs)) {
         const ShapedRun &run = line.runs[size_t(index)];
         if (!run.glyphs.empty())
-            result.runs.push_back(placeRun(run, font, place.paragraphStart, pen));
+            result.runs.push_back(placeRun(run, fonts.font(run.item), place.paragraphStart, pen));
     }
     return result;
 }

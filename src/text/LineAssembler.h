@@ -22,6 +22,6 @@ void justify(BrokenLine &line, QStringView paragraph, double width);
 
 /// Puts the runs of a line in visual order and its glyphs at their places; `runs` are moved from.
 /// The line's origin is left at 0.
-LayoutLine assembleLine(BrokenLine line, const LinePlace &place, const Font &font);
+LayoutLine assembleLine(BrokenLine line, const LinePlace &place, const TextFonts &fonts);
 
 } // namespace lorva

@@ -3,7 +3,6 @@
 #include "text/LineBreaker.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace lorva {
 
@@ -14,53 +13,7 @@ constexpr double kTolerance = 1.0 / 256;
 /// Shaping a cut line anew can widen it; after so many earlier breaks it may stand out a little.
 constexpr int kMaxRetries = 8;
 
-using BreakIteratorPtr = std::unique_ptr<UBreakIterator, decltype(&ubrk_close)>;
-
-BreakIteratorPtr openIterator(UBreakIteratorType type)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    return {ubrk_open(type, "", nullptr, 0, &status), &ubrk_close};
-}
-
-UBreakIterator *bound(UBreakIterator *iterator, QStringView text)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    if (iterator)
-        ubrk_setText(iterator, reinterpret_cast<const UChar *>(text.utf16()), int32_t(text.size()),
-                     &status);
-    return U_SUCCESS(status) ? iterator : nullptr;
-}
-
-/// Without ICU's data there are no iterators: every unit is then a boundary.
-int following(UBreakIterator *iterator, int index, int end)
-{
-    const int next = iterator ? ubrk_following(iterator, index) : index + 1;
-    return next == UBRK_DONE ? end : std::min(next, end);
-}
-
-int preceding(UBreakIterator *iterator, int index)
-{
-    const int previous = iterator ? ubrk_preceding(iterator, index) : index - 1;
-    return previous == UBRK_DONE ? 0 : previous;
-}
-
 } // namespace
-
-UBreakIterator *LineBreaker::words()
-{
-    thread_local const BreakIteratorPtr iterator = openIterator(UBRK_LINE);
-    if (!m_words)
-        m_words = bound(iterator.get(), m_paragraph.text());
-    return m_words;
-}
-
-UBreakIterator *LineBreaker::graphemes()
-{
-    thread_local const BreakIteratorPtr iterator = openIterator(UBRK_CHARACTER);
-    if (!m_graphemes)
-        m_graphemes = bound(iterator.get(), m_paragraph.text());
-    return m_graphemes;
-}
 
 BrokenLine LineBreaker::line(int start, int lineEnd) const
 {
@@ -88,7 +41,7 @@ int LineBreaker::lastFittingWordBreak(int start, double available)
 {
     int best = start;
     for (int at = start; at < end();) {
-        const int next = following(words(), at, end());
+        const int next = m_words.following(at);
         const int visibleEnd = m_paragraph.trimmedEnd(at, next);
         if (m_paragraph.width(start, visibleEnd) > available + kTolerance)
             break;
@@ -101,7 +54,7 @@ int LineBreaker::lastFittingGraphemeBreak(int start, double available)
 {
     int best = start;
     for (int at = start; at < end();) {
-        const int next = following(graphemes(), at, end());
+        const int next = m_graphemes.following(at);
         if (m_paragraph.width(start, next) > available + kTolerance
             && m_paragraph.trimmedEnd(at, next) > at)
             break;
@@ -113,8 +66,8 @@ int LineBreaker::lastFittingGraphemeBreak(int start, double available)
 /// The last break of a line before `index`: between words if there is one, else between graphemes.
 int LineBreaker::breakBefore(int start, int index)
 {
-    const int word = preceding(words(), index);
-    return word > start ? word : std::max(start, preceding(graphemes(), index));
+    const int word = m_words.preceding(index);
+    return word > start ? word : std::max(start, m_graphemes.preceding(index));
 }
 
 BrokenLine LineBreaker::wrap(int start, double available)
@@ -123,7 +76,7 @@ BrokenLine LineBreaker::wrap(int start, double available)
     if (lineEnd <= start)
         lineEnd = lastFittingGraphemeBreak(start, available);
     if (lineEnd <= start)
-        lineEnd = following(graphemes(), start, end());
+        lineEnd = m_graphemes.following(start);
     BrokenLine broken = line(start, lineEnd);
     for (int retry = 0; retry < kMaxRetries && isTooWide(broken, available); ++retry) {
         const int earlier = breakBefore(start, broken.end);
@@ -145,7 +98,7 @@ BrokenLine LineBreaker::truncate(int start, double available)
     BrokenLine broken = line(start, m_paragraph.trimmedEnd(start, cut));
     for (int retry = 0; retry < kMaxRetries && broken.end > start && isTooWide(broken, room);
          ++retry) {
-        cut = std::max(start, preceding(graphemes(), broken.end));
+        cut = std::max(start, m_graphemes.preceding(broken.end));
         broken = line(start, m_paragraph.trimmedEnd(start, cut));
     }
     broken.runs.push_back(m_paragraph.ellipsisAt(broken.end));

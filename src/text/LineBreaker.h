@@ -3,8 +3,7 @@
 #pragma once
 
 #include "text/ShapedParagraph.h"
-
-#include <unicode/ubrk.h>
+#include "text/TextBoundaries.h"
 
 namespace lorva {
 
@@ -22,13 +21,14 @@ struct BrokenLine
 /// Cuts a shaped paragraph into lines: between words (UAX #14), else between grapheme clusters (UAX
 /// #29).
 ///
-/// Thread: any, one paragraph at a time per thread, for the break iterators are the thread's.
-/// Neither is touched while text fits. Widths in points.
+/// Thread: any, one at a time per object. No break is looked for while text fits. Widths in points.
 class LineBreaker
 {
 public:
     explicit LineBreaker(const ShapedParagraph &paragraph)
         : m_paragraph(paragraph)
+        , m_words(TextBoundaries::Kind::line, paragraph.text())
+        , m_graphemes(TextBoundaries::Kind::grapheme, paragraph.text())
     {
     }
 
@@ -47,12 +47,10 @@ private:
     int lastFittingWordBreak(int start, double available);
     int lastFittingGraphemeBreak(int start, double available);
     int breakBefore(int start, int index);
-    UBreakIterator *words();
-    UBreakIterator *graphemes();
 
     const ShapedParagraph &m_paragraph;
-    UBreakIterator *m_words = nullptr;
-    UBreakIterator *m_graphemes = nullptr;
+    TextBoundaries m_words;
+    TextBoundaries m_graphemes;
 };
 
 } // namespace lorva

@@ -3,6 +3,7 @@
 #include "text/NameTable.h"
 
 #include "text/FontLimits.h"
+#include "text/NameText.h"
 
 #include <algorithm>
 #include <tuple>
@@ -67,53 +68,6 @@ bool isSelected(quint16 id, NameSelection selection)
         return false;
     }
 }
-
-bool isControl(char16_t unit)
-{
-    constexpr char16_t kByteOrderMark = 0xFEFF;
-    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0) || unit == kByteOrderMark || unit >= 0xFFFE;
-}
-
-/// Keeps text to one line of well-formed UTF-16 without control characters.
-class TextCleaner
-{
-public:
-    explicit TextCleaner(qsizetype expected) { m_text.reserve(expected); }
-
-    void append(char16_t unit)
-    {
-        if (m_pendingHigh && QChar::isLowSurrogate(unit)) {
-            m_text.append(QChar(m_pendingHigh)).append(QChar(unit));
-            m_pendingHigh = 0;
-            return;
-        }
-        flush();
-        if (QChar::isHighSurrogate(unit))
-            m_pendingHigh = unit;
-        else if (QChar::isLowSurrogate(unit))
-            m_text.append(QChar::ReplacementCharacter);
-        else if (unit == 0x2028 || unit == 0x2029)
-            m_text.append(u' ');
-        else if (!isControl(unit))
-            m_text.append(QChar(unit));
-    }
-    QString take()
-    {
-        flush();
-        return m_text.trimmed();
-    }
-
-private:
-    void flush()
-    {
-        if (m_pendingHigh)
-            m_text.append(QChar::ReplacementCharacter);
-        m_pendingHigh = 0;
-    }
-
-    QString m_text;
-    char16_t m_pendingHigh = 0;
-};
 
 } // namespace
 
@@ -192,7 +146,7 @@ QString NameTable::decode(const Record &record, int maxBytes) const
 {
     const QByteArrayView bytes =
         m_table.bytes(record.offset, std::min<quint64>(record.length, quint64(maxBytes)));
-    TextCleaner cleaner(bytes.size());
+    NameText cleaner(bytes.size());
     if (record.isMacRoman) {
         for (const char byte : bytes)
             cleaner.append(macRomanToUnicode(quint8(byte)));

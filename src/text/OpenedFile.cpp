@@ -3,6 +3,7 @@
 #include "text/OpenedFile.h"
 
 #include "text/FontLimits.h"
+#include "text/GuardedMapping.h"
 
 #include <cerrno>
 #include <cstring>
@@ -42,6 +43,17 @@ FileIdentity identityOf(const struct stat &info)
             qint64(info.st_mtim.tv_sec) * 1'000'000'000 + info.st_mtim.tv_nsec};
 }
 
+/// Whether others keep the file, and we cannot write it. Root can write everything; there it is the
+/// folder of packages that counts.
+bool isInstalled(const FilePath &path, const struct stat &info)
+{
+    if (info.st_mode & (S_IWGRP | S_IWOTH))
+        return false;
+    const uid_t user = ::geteuid();
+    return user == 0 ? info.st_uid == 0 && path.bytes().startsWith("/usr/share/")
+                     : info.st_uid != user;
+}
+
 } // namespace
 
 std::optional<FileIdentity> currentIdentity(const FilePath &path)
@@ -65,6 +77,7 @@ Result<std::shared_ptr<const OpenedFile>> OpenedFile::open(const FilePath &path)
     if (info.st_size > kMaxFileSize)
         return failure(ErrorKind::tooLarge, path.displayText() + u": is larger than any font");
     file->m_identity = identityOf(info);
+    file->m_isInstalled = isInstalled(path, info);
     file->readFirstPage();
     return file;
 }
@@ -111,6 +124,13 @@ QByteArray OpenedFile::bytes(quint64 offset, quint64 length) const
         return {};
     QByteArray out(qsizetype(length), Qt::Uninitialized);
     return read(offset, out.data(), length) ? out : QByteArray();
+}
+
+std::unique_ptr<GuardedMapping> OpenedFile::map(quint64 offset, quint32 length) const
+{
+    if (!m_isInstalled || offset > size() || length > size() - offset)
+        return nullptr;
+    return GuardedMapping::map(m_fd, offset, length);
 }
 
 } // namespace lorva

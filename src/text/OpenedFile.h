@@ -12,6 +12,8 @@
 
 namespace lorva {
 
+class GuardedMapping;
+
 /// Tells whether a path still leads to the very bytes that were looked at before.
 struct FileIdentity
 {
@@ -28,8 +30,8 @@ std::optional<FileIdentity> currentIdentity(const FilePath &path);
 /// One opening of a font file: a descriptor, closed at the end of its scope, and the file's first
 /// page, which nearly always holds the whole table directory.
 ///
-/// Thread: any; reads carry their own position. A file that shrinks meanwhile gives failed reads,
-/// never a signal: nothing is mapped.
+/// Thread: any; reads carry their own position. A file that shrinks meanwhile gives failed reads or
+/// zeros, never a signal.
 class OpenedFile
 {
 public:
@@ -50,6 +52,10 @@ public:
     bool read(quint64 offset, char *out, quint64 length) const;
     /// Exactly `length` bytes, or a null array.
     QByteArray bytes(quint64 offset, quint64 length) const;
+    /// A mapping of bytes that are looked at in pieces; null where they had better be read. Only
+    /// files that this user cannot write are mapped: what packages have installed is replaced as a
+    /// whole, never rewritten under the eyes of a reader.
+    std::unique_ptr<GuardedMapping> map(quint64 offset, quint32 length) const;
 
 private:
     explicit OpenedFile(int fd)
@@ -60,6 +66,7 @@ private:
 
     int m_fd;
     mutable std::atomic<bool> m_hasFailed = false;
+    bool m_isInstalled = false;
     FileIdentity m_identity;
     quint64 m_firstPageSize = 0;
     std::array<char, 4096> m_firstPage;

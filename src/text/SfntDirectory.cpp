@@ -162,7 +162,9 @@ int SfntDirectory::formatNumber() const
     if (version == kOpenTypeCff || has(fontTag('C', 'F', 'F', ' '))
         || has(fontTag('C', 'F', 'F', '2')))
         return 3;
-    if (!has(fontTag('g', 'l', 'y', 'f')))
+    // Some bitmap fonts bring an outline table without any bytes.
+    const TableEntry *outlines = find(fontTag('g', 'l', 'y', 'f'));
+    if (!outlines || outlines->length == 0)
         return 5;
     return has(fontTag('G', 'S', 'U', 'B')) || has(fontTag('G', 'P', 'O', 'S')) ? 4 : 1;
 }

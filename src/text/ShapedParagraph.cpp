@@ -41,15 +41,16 @@ bool isSafeCut(const ShapedRun &run, int index)
 
 } // namespace
 
-ShapedParagraph::ShapedParagraph(QStringView text, TextDirection direction,
-                                 const TextShaper &shaper)
+ShapedParagraph::ShapedParagraph(QStringView text, TextDirection direction, TextFonts &fonts)
     : m_text(text)
-    , m_shaper(shaper)
-    , m_itemized(itemize(text, direction))
+    , m_fonts(fonts)
 {
-    m_runs.reserve(m_itemized.items.size());
-    for (const TextItem &item : m_itemized.items)
-        m_runs.push_back(shaper.shape(text, item));
+    ItemizedParagraph itemized = itemize(text, direction);
+    m_baseLevel = itemized.baseLevel;
+    const std::vector<TextItem> items = fonts.assign(text, std::move(itemized.items));
+    m_runs.reserve(items.size());
+    for (const TextItem &item : items)
+        m_runs.push_back(fonts.shaper(item).shape(text, item));
     measure();
 }
 
@@ -105,7 +106,7 @@ ShapedRun ShapedParagraph::cutRun(const ShapedRun &run, int start, int end, quin
     const bool isWhole = item.start == run.item.start && item.end == run.item.end;
     const bool turns = item.isRightToLeft() != run.item.isRightToLeft();
     if (turns || (!isWhole && (!isSafeCut(run, start) || !isSafeCut(run, end))))
-        return m_shaper.shape(m_text, item);
+        return m_fonts.shaper(item).shape(m_text, item);
     const auto glyphs = glyphsBetween(run, item.start, item.end);
     return {item, Glyphs(glyphs.begin(), glyphs.end())};
 }
@@ -128,7 +129,7 @@ ShapedRun ShapedParagraph::ellipsisAt(int at) const
 {
     auto run = runAt(std::max(0, at - 1));
     const quint32 script = run == m_runs.end() ? quint32(HB_SCRIPT_COMMON) : run->item.script;
-    return m_shaper.shapeEllipsis({at, at, baseLevel(), script});
+    return m_fonts.mainShaper().shapeEllipsis({at, at, baseLevel(), script, script});
 }
 
 double visibleWidth(std::span<const ShapedRun> runs, int trimmedEnd)

@@ -170,9 +170,68 @@ private:
     size_t m_depth = 0;
 };
 
+/// Finds emoji, which are shaped apart from the writing around them: a script's own rules would
+/// tear their sequences apart.
+class EmojiScanner
+{
+public:
+    explicit EmojiScanner(QStringView text)
+        : m_text(text)
+    {
+    }
+
+    /// Whether the character that ends at `end` is part of an emoji.
+    bool next(UChar32 c, int end)
+    {
+        m_isInside = begins(c, end) || (m_isInside && continues(c));
+        m_previous = c;
+        return m_isInside;
+    }
+
+private:
+    static constexpr UChar32 kJoiner = 0x200D;
+    static constexpr UChar32 kTextSelector = 0xFE0E;
+    static constexpr UChar32 kEmojiSelector = 0xFE0F;
+    static constexpr UChar32 kKeycap = 0x20E3;
+
+    UChar32 at(int index) const
+    {
+        UChar32 c = 0;
+        if (index < m_text.size())
+            U16_GET(units(m_text), 0, index, int(m_text.size()), c);
+        return c;
+    }
+
+    bool begins(UChar32 c, int end) const
+    {
+        constexpr UChar32 kFirst = 0x203C;
+        constexpr UChar32 kLastBelowPlanes = 0x3299;
+        if (c < kFirst)
+            return c < 0x40 && at(end) == kEmojiSelector && at(end + 1) == kKeycap;
+        if ((c > kLastBelowPlanes && c < 0x1F000) || !u_hasBinaryProperty(c, UCHAR_EMOJI))
+            return false;
+        const UChar32 following = at(end);
+        if (following == kTextSelector)
+            return false;
+        return c >= 0x1F000 || u_hasBinaryProperty(c, UCHAR_EMOJI_PRESENTATION)
+            || following == kEmojiSelector || u_hasBinaryProperty(following, UCHAR_EMOJI_MODIFIER);
+    }
+
+    bool continues(UChar32 c) const
+    {
+        const bool isTag = c >= 0xE0020 && c <= 0xE007F;
+        return isTag || c == kJoiner || c == kEmojiSelector || c == kKeycap
+            || (m_previous == kJoiner && u_hasBinaryProperty(c, UCHAR_EMOJI));
+    }
+
+    QStringView m_text;
+    UChar32 m_previous = 0;
+    bool m_isInside = false;
+};
+
 hb_script_t shapingScript(UScriptCode script)
 {
-    if (script <= USCRIPT_INHERITED)
+    if (script <= USCRIPT_INHERITED || script == USCRIPT_SYMBOLS_EMOJI)
         return HB_SCRIPT_COMMON;
     return hb_script_from_string(uscript_getShortName(script), -1);
 }
@@ -187,11 +246,12 @@ std::vector<ScriptRun> resolveScripts(QStringView text)
 {
     std::vector<ScriptRun> runs;
     ScriptScanner scanner;
+    EmojiScanner emoji(text);
     const int length = int(text.size());
     for (int at = 0; at < length;) {
         UChar32 c = 0;
         U16_NEXT(units(text), at, length, c);
-        const UScriptCode script = scanner.next(c);
+        const UScriptCode script = emoji.next(c, at) ? USCRIPT_SYMBOLS_EMOJI : scanner.next(c);
         // What precedes the first letter joins it.
         if (!runs.empty() && runs.back().script == USCRIPT_COMMON)
             runs.back().script = script;
@@ -201,6 +261,26 @@ std::vector<ScriptRun> resolveScripts(QStringView text)
             runs.push_back({at, script});
     }
     return runs;
+}
+
+bool tellsLanguage(quint32 script)
+{
+    return script == HB_SCRIPT_HIRAGANA || script == HB_SCRIPT_KATAKANA
+        || script == HB_SCRIPT_HANGUL || script == HB_SCRIPT_BOPOMOFO;
+}
+
+/// Ideographs are written in the language of what stands before them, else of what follows.
+void settleIdeographs(std::vector<TextItem> &items)
+{
+    quint32 writing = 0;
+    const auto settle = [&](TextItem &item) {
+        if (tellsLanguage(item.script))
+            writing = item.script;
+        else if (item.script == HB_SCRIPT_HAN && item.writing == HB_SCRIPT_HAN && writing != 0)
+            item.writing = writing;
+    };
+    std::for_each(items.begin(), items.end(), settle);
+    std::for_each(items.rbegin(), items.rend(), settle);
 }
 
 bool isParagraphSeparator(char16_t u)
@@ -236,13 +316,16 @@ ItemizedParagraph itemize(QStringView paragraph, TextDirection direction)
     auto script = scripts.begin();
     for (int at = 0; at < paragraph.size();) {
         const int end = std::min(level->end, script->end);
-        result.items.push_back({at, end, level->level, shapingScript(script->script)});
+        const quint32 tag = shapingScript(script->script);
+        result.items.push_back({at, end, level->level, tag, tag});
         at = end;
         if (level->end == end)
             ++level;
         if (script->end == end)
             ++script;
     }
+    if (result.items.size() > 1)
+        settleIdeographs(result.items);
     return result;
 }
 

@@ -11,7 +11,7 @@
 
 namespace lorva {
 
-/// A stretch of a paragraph with one embedding level and one script, in UTF-16 units.
+/// A stretch of a paragraph with one embedding level, script and font, in UTF-16 units.
 struct TextItem
 {
     int start = 0;
@@ -20,6 +20,11 @@ struct TextItem
     quint8 level = 0;
     /// OpenType script, as the ISO 15924 tag (hb_script_t).
     quint32 script = 0;
+    /// The script that tells the language: of ideographs that of the kana, hangul or bopomofo near
+    /// them, else `script`.
+    quint32 writing = 0;
+    /// Index into the layout's TextFonts.
+    int font = 0;
 
     bool isRightToLeft() const { return level & 1; }
 };
@@ -43,7 +48,8 @@ struct TextParagraph
 std::vector<TextParagraph> splitParagraphs(QStringView text);
 
 /// Levels (UAX #9, by ICU) and scripts (UAX #24: common and inherited characters join the run that
-/// they stand in, a closing bracket the run of its opening one) of one paragraph.
+/// they stand in, a closing bracket the run of its opening one; emoji are runs of no script) of one
+/// paragraph; all in the main font.
 ItemizedParagraph itemize(QStringView paragraph, TextDirection direction);
 
 /// Rule L2 of UAX #9: which item stands first, second … from the left, by their levels.

@@ -36,6 +36,20 @@ QString layoutText(const QString &text)
     return result;
 }
 
+struct Extents
+{
+    double ascent = 0;
+    double descent = 0;
+};
+
+Extents fontExtents(const Font &font)
+{
+    const Extents extents{font.ascent(), font.descent()};
+    if (extents.ascent + extents.descent > 0)
+        return extents;
+    return {kFallbackAscent * font.pointSize(), kFallbackDescent * font.pointSize()};
+}
+
 bool isBlank(QStringView text)
 {
     return text.trimmed().isEmpty();
@@ -63,7 +77,7 @@ public:
         , m_options(sanitized(options))
         , m_truncates(options.lineBreakMode == LineBreakMode::truncateTail)
         , m_onePerParagraph(m_truncates && options.maximumLines <= 0)
-        , m_shaper(font, options.letterSpacing, options.language)
+        , m_fonts(font, options)
     {
     }
 
@@ -92,7 +106,7 @@ private:
     void setParagraph(const TextParagraph &range)
     {
         const QStringView text = QStringView(m_text).mid(range.start, range.end - range.start);
-        const ShapedParagraph paragraph(text, m_options.direction, m_shaper);
+        const ShapedParagraph paragraph(text, m_options.direction, m_fonts);
         LineBreaker breaker(paragraph);
         int start = 0;
         do {
@@ -132,26 +146,38 @@ private:
             justify(line, paragraph.text(), available());
         const LinePlace at{paragraphStart, paragraph.isRightToLeft(), paragraph.baseLevel(),
                            inset()};
-        m_lines.push_back(assembleLine(std::move(line), at, m_font));
+        m_lines.push_back(assembleLine(std::move(line), at, m_fonts));
     }
 
     /// Gives every line its baseline and its left end.
     void place()
     {
-        double ascent = m_font.ascent();
-        double descent = m_font.descent();
-        if (ascent + descent <= 0) {
-            ascent = kFallbackAscent * m_font.pointSize();
-            descent = kFallbackDescent * m_font.pointSize();
-        }
+        const Extents own = fontExtents(m_font);
+        const double lineGap = m_font.lineGap();
         const double box = boxWidth();
         double top = 0;
         for (LayoutLine &line : m_lines) {
+            const auto [ascent, descent] = extentsOf(line, own);
             line.ascent = ascent;
             line.descent = descent;
             line.origin = QPointF((box - line.width) * leftShare(line), top + ascent);
-            top += ascent + descent + m_font.lineGap();
+            top += ascent + descent + lineGap;
         }
+    }
+
+    /// A line is as high as the main font, or as the highest one that stands in on it, so that
+    /// lines never overlap.
+    Extents extentsOf(const LayoutLine &line, Extents own) const
+    {
+        Extents extents = own;
+        for (const GlyphRun &run : line.runs) {
+            if (!m_options.fallback || run.font == m_font)
+                continue;
+            const Extents other = fontExtents(run.font);
+            extents = {std::max(extents.ascent, other.ascent),
+                       std::max(extents.descent, other.descent)};
+        }
+        return extents;
     }
 
     double boxWidth() const
@@ -187,7 +213,7 @@ private:
     const TextLayoutOptions m_options;
     const bool m_truncates;
     const bool m_onePerParagraph;
-    const TextShaper m_shaper;
+    TextFonts m_fonts;
     std::vector<LayoutLine> m_lines;
 };
 
@@ -211,11 +237,7 @@ bool TextLayout::isTruncated() const
 
 QRectF TextLayout::inkBounds() const
 {
-    QRectF bounds;
-    forEachOutline(*this, [&](const LayoutLine &, const QPainterPath &outline) {
-        bounds = bounds.united(outline.boundingRect());
-    });
-    return bounds;
+    return inkBoundsOf(*this);
 }
 
 } // namespace lorva

@@ -15,6 +15,8 @@
 
 namespace lorva {
 
+class FontFallback;
+
 enum class TextAlignment { left, right, center, justified, natural };
 /// wordWrap: lines break between words (UAX #14), a word wider than the line between grapheme
 /// clusters. truncateTail: what does not fit is replaced by an ellipsis (U+2026, three full stops
@@ -38,12 +40,18 @@ struct TextLayoutOptions
     /// Points left free before the first line's text (a logo stands there); moves and wraps with
     /// it. In a right-to-left paragraph it lies at the line's right end.
     double firstLineInset = 0;
-    /// Points after every cluster. Common ligatures are off when it is not 0, unless the font's
-    /// features ask for them.
+    /// Points after every cluster, but not between letters of a joined script (Arabic, Syriac,
+    /// Mongolian …): a gap there would cut the stroke that joins them. Common ligatures are off
+    /// when it is not 0, unless the font's features ask for them.
     double letterSpacing = 0;
-    /// BCP 47, for the face's language-specific forms (OpenType `locl`). Empty: the process's
-    /// locale, or what the script implies (kana, hangul, bopomofo).
+    /// BCP 47, for the face's language-specific forms (OpenType `locl`) and the choice of fallback
+    /// fonts. Empty: what the script implies (kana, hangul, bopomofo, and ideographs beside them),
+    /// else the process's locale.
     QByteArray language;
+    /// Where other fonts come from for characters that the face lacks: whole grapheme clusters, at
+    /// the same size, without the font's feature settings. Lines grow with a font that is higher.
+    /// Null: they show as the face's missing glyph.
+    std::shared_ptr<const FontFallback> fallback;
 };
 
 struct PositionedGlyph
@@ -72,6 +80,9 @@ struct LayoutLine
     /// The left end of the line's width on the layout's canvas: x after alignment, y of the
     /// baseline.
     QPointF origin;
+    /// Where the pen begins for the leftmost run, from the origin: the inset, or what hangs over
+    /// the left end.
+    double runsLeft = 0;
     /// Advance width without trailing white space (which hangs over the line's end), the first
     /// line's inset included.
     double width = 0;
@@ -92,7 +103,7 @@ struct LayoutLine
 /// A value, immutable once made. Thread: any.
 /// Units: points, y down, origin at the top left of the layout's box.
 /// Hostile fonts and texts: work is bounded by kMaxLayoutCharacters; an empty or null font sets no
-/// glyphs but still has lines.
+/// glyphs but still has lines. A soft hyphen is a place to break and never drawn.
 class TextLayout
 {
 public:

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "text/TextShaper.h"
 
+#include <unicode/uchar.h>
+#include <unicode/utf16.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -41,6 +44,53 @@ std::vector<hb_feature_t> shapingFeatures(const Font &font, double letterSpacing
     return features;
 }
 
+QByteArrayView impliedLanguage(quint32 writing)
+{
+    switch (writing) {
+    case HB_SCRIPT_HIRAGANA:
+    case HB_SCRIPT_KATAKANA:
+        return "ja";
+    case HB_SCRIPT_HANGUL:
+        return "ko";
+    case HB_SCRIPT_BOPOMOFO:
+        return "zh-Hant";
+    default:
+        return {};
+    }
+}
+
+/// Scripts whose letters are joined by strokes that no space may cut.
+bool isCursive(quint32 script)
+{
+    switch (script) {
+    case HB_SCRIPT_ARABIC:
+    case HB_SCRIPT_SYRIAC:
+    case HB_SCRIPT_MONGOLIAN:
+    case HB_SCRIPT_NKO:
+    case HB_SCRIPT_MANDAIC:
+    case HB_SCRIPT_PHAGS_PA:
+    case HB_SCRIPT_MANICHAEAN:
+    case HB_SCRIPT_PSALTER_PAHLAVI:
+    case HB_SCRIPT_ADLAM:
+    case HB_SCRIPT_HANIFI_ROHINGYA:
+    case HB_SCRIPT_SOGDIAN:
+    case HB_SCRIPT_CHORASMIAN:
+    case HB_SCRIPT_OLD_UYGHUR:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isLetter(QStringView text, int index)
+{
+    if (index < 0 || index >= text.size())
+        return false;
+    UChar32 c = 0;
+    U16_GET(reinterpret_cast<const UChar *>(text.utf16()), 0, index, int(text.size()), c);
+    return u_isalpha(c);
+}
+
 double totalAdvance(std::span<const ShapedGlyph> glyphs)
 {
     double sum = 0;
@@ -57,6 +107,7 @@ TextShaper::TextShaper(const Font &font, double letterSpacing, const QByteArray 
     , m_letterSpacing(std::isfinite(letterSpacing)
                           ? std::clamp(letterSpacing, -kMaxLetterSpacing, kMaxLetterSpacing)
                           : 0)
+    , m_languageTag(language)
 {
     m_features = shapingFeatures(font, m_letterSpacing);
     if (!font.isNull())
@@ -71,21 +122,19 @@ double TextShaper::toPoints(hb_position_t units) const
     return std::clamp(units * m_pointsPerUnit, -limit, limit);
 }
 
-hb_language_t TextShaper::languageFor(quint32 script) const
+QByteArray TextShaper::languageTag(const TextItem &item) const
+{
+    const QByteArrayView implied = impliedLanguage(item.writing);
+    return m_languageTag.isEmpty() ? implied.toByteArray() : m_languageTag;
+}
+
+hb_language_t TextShaper::languageFor(const TextItem &item) const
 {
     if (m_language != HB_LANGUAGE_INVALID)
         return m_language;
-    switch (script) {
-    case HB_SCRIPT_HIRAGANA:
-    case HB_SCRIPT_KATAKANA:
-        return hb_language_from_string("ja", -1);
-    case HB_SCRIPT_HANGUL:
-        return hb_language_from_string("ko", -1);
-    case HB_SCRIPT_BOPOMOFO:
-        return hb_language_from_string("zh-Hant", -1);
-    default:
-        return hb_language_get_default();
-    }
+    const QByteArrayView implied = impliedLanguage(item.writing);
+    return implied.isEmpty() ? hb_language_get_default()
+                             : hb_language_from_string(implied.data(), int(implied.size()));
 }
 
 std::vector<ShapedGlyph> TextShaper::glyphsIn(hb_buffer_t *buffer) const
@@ -116,28 +165,35 @@ ShapedRun TextShaper::shape(QStringView paragraph, const TextItem &item) const
                         int(paragraph.size()), unsigned(item.start), item.end - item.start);
     hb_buffer_set_direction(buffer, item.isRightToLeft() ? HB_DIRECTION_RTL : HB_DIRECTION_LTR);
     hb_buffer_set_script(buffer, hb_script_t(item.script));
-    hb_buffer_set_language(buffer, languageFor(item.script));
+    hb_buffer_set_language(buffer, languageFor(item));
     hb_shape(m_shapingFont.get(), buffer, m_features.data(), unsigned(m_features.size()));
     run.glyphs = glyphsIn(buffer);
-    addLetterSpacing(run);
+    addLetterSpacing(paragraph, run);
     return run;
 }
 
 /// Space follows a cluster in reading direction; clusters without width (joiners, lone marks) get
-/// none.
-void TextShaper::addLetterSpacing(ShapedRun &run) const
+/// none, nor do letters of a joined script that other letters follow.
+void TextShaper::addLetterSpacing(QStringView paragraph, ShapedRun &run) const
 {
     if (m_letterSpacing == 0)
         return;
+    const bool falls = run.item.isRightToLeft();
+    const bool joins = isCursive(run.item.script);
     std::span<ShapedGlyph> glyphs(run.glyphs);
+    int clusterBefore = run.item.end;
     for (size_t start = 0; start < glyphs.size();) {
         size_t end = start + 1;
         while (end < glyphs.size() && glyphs[end].cluster == glyphs[start].cluster)
             ++end;
-        ShapedGlyph &edge = run.item.isRightToLeft() ? glyphs[start] : glyphs[end - 1];
-        if (totalAdvance(glyphs.subspan(start, end - start)) != 0) {
+        const int cluster = glyphs[start].cluster;
+        const int following = end < glyphs.size() ? glyphs[end].cluster : run.item.end;
+        const int next = falls ? std::exchange(clusterBefore, cluster) : following;
+        const bool isJoined = joins && isLetter(paragraph, cluster) && isLetter(paragraph, next);
+        ShapedGlyph &edge = falls ? glyphs[start] : glyphs[end - 1];
+        if (!isJoined && totalAdvance(glyphs.subspan(start, end - start)) != 0) {
             edge.advance += m_letterSpacing;
-            if (run.item.isRightToLeft())
+            if (falls)
                 edge.offset.rx() += m_letterSpacing;
         }
         start = end;
@@ -151,7 +207,8 @@ ShapedRun TextShaper::shapeEllipsis(const TextItem &item) const
         text = u"\u2026";
     else if (m_font.hasGlyphFor(U'.'))
         text = u"...";
-    ShapedRun run = shape(text, {0, int(text.size()), item.level, item.script});
+    ShapedRun run =
+        shape(text, {0, int(text.size()), item.level, item.script, item.writing, item.font});
     run.item = item;
     for (ShapedGlyph &glyph : run.glyphs)
         glyph.cluster = item.start;

@@ -39,6 +39,8 @@ public:
     TextShaper(const Font &font, double letterSpacing, const QByteArray &language);
 
     const Font &font() const { return m_font; }
+    /// BCP 47: what was asked for, else what the item's writing implies, else empty.
+    QByteArray languageTag(const TextItem &item) const;
     /// The glyphs of `item`, joined to the text around it as that stands in `paragraph`.
     ShapedRun shape(QStringView paragraph, const TextItem &item) const;
     /// The ellipsis that the face can draw, in the item's direction and script, with every cluster
@@ -47,15 +49,16 @@ public:
 
 private:
     double toPoints(hb_position_t units) const;
-    hb_language_t languageFor(quint32 script) const;
+    hb_language_t languageFor(const TextItem &item) const;
     std::vector<ShapedGlyph> glyphsIn(hb_buffer_t *buffer) const;
-    void addLetterSpacing(ShapedRun &run) const;
+    void addLetterSpacing(QStringView paragraph, ShapedRun &run) const;
 
     Font m_font;
     std::shared_ptr<hb_font_t> m_shapingFont;
     std::vector<hb_feature_t> m_features;
     double m_letterSpacing = 0;
     double m_pointsPerUnit = 0;
+    QByteArray m_languageTag;
     hb_language_t m_language = HB_LANGUAGE_INVALID;
 };
 

@@ -3,9 +3,11 @@
 #include "text/WarmFaces.h"
 
 #include "text/FontLimits.h"
+#include "text/TableBytes.h"
 
 #include <hb-ot.h>
 
+#include <algorithm>
 #include <atomic>
 #include <limits>
 #include <map>
@@ -15,29 +17,10 @@ namespace lorva {
 
 namespace {
 
-std::atomic<qint64> tableByteCount = 0;
+/// HarfBuzz's own objects of all faces that live.
+std::atomic<qint64> overheadBytes = 0;
 
-/// The bytes of one table, counted as long as they live.
-class LoadedTable
-{
-public:
-    explicit LoadedTable(QByteArray bytes)
-        : m_bytes(std::move(bytes))
-    {
-        tableByteCount += m_bytes.size();
-    }
-    ~LoadedTable() { tableByteCount -= m_bytes.size(); }
-    LoadedTable(const LoadedTable &) = delete;
-    LoadedTable &operator=(const LoadedTable &) = delete;
-
-    const char *data() const { return m_bytes.constData(); }
-    unsigned size() const { return unsigned(m_bytes.size()); }
-
-private:
-    QByteArray m_bytes;
-};
-
-using SharedTable = std::shared_ptr<const LoadedTable>;
+using SharedTable = std::shared_ptr<const TableBytes>;
 
 /// The large tables in memory, so that the ten faces of a CJK collection hold their common outlines
 /// once. Thread: any.
@@ -68,13 +51,24 @@ private:
     }
 
     std::mutex m_mutex;
-    std::map<Key, std::weak_ptr<const LoadedTable>> m_tables;
+    std::map<Key, std::weak_ptr<const TableBytes>> m_tables;
 };
 
 LargeTables &largeTables()
 {
     static LargeTables tables;
     return tables;
+}
+
+/// Outlines and pictures are looked at glyph by glyph.
+TableUse useOf(FontTag tag)
+{
+    constexpr FontTag kOfGlyphs[]{fontTag('g', 'l', 'y', 'f'), fontTag('C', 'F', 'F', ' '),
+                                  fontTag('C', 'F', 'F', '2'), fontTag('C', 'B', 'D', 'T'),
+                                  fontTag('s', 'b', 'i', 'x'), fontTag('S', 'V', 'G', ' ')};
+    return std::find(std::begin(kOfGlyphs), std::end(kOfGlyphs), tag) != std::end(kOfGlyphs)
+        ? TableUse::pieces
+        : TableUse::whole;
 }
 
 /// HarfBuzz's own objects of one face, lookup accelerators included; about.
@@ -89,19 +83,21 @@ struct WarmFace::TableSource
         : file(std::move(fontFile))
         , directory(std::move(tables))
     {
-        tableByteCount += kFaceOverhead;
+        overheadBytes += kFaceOverhead;
     }
-    ~TableSource() { tableByteCount -= kFaceOverhead; }
+    ~TableSource() { overheadBytes -= kFaceOverhead; }
     TableSource(const TableSource &) = delete;
     TableSource &operator=(const TableSource &) = delete;
 
     SharedTable load(FontTag tag);
-    SharedTable read(const TableEntry &entry) const;
+    SharedTable find(const TableEntry &entry, FontTag tag) const;
+    SharedTable read(const TableEntry &entry, FontTag tag) const;
 
     const std::shared_ptr<const FontFile::Data> file;
     const SfntDirectory directory;
     /// Of this face, so that a file of overlapping giant tables cannot fill the memory.
     std::atomic<qint64> loadedBytes = 0;
+    std::atomic<qint64> loadedWeight = 0;
 };
 
 SharedTable WarmFace::TableSource::load(FontTag tag)
@@ -111,23 +107,28 @@ SharedTable WarmFace::TableSource::load(FontTag tag)
         return nullptr;
     if (loadedBytes.fetch_add(entry->length) + entry->length > kMaxFaceBytes)
         return nullptr;
-    if (entry->length < LargeTables::kSmallest)
-        return read(*entry);
-    if (SharedTable known = largeTables().find(file->identity, *entry))
-        return known;
-    SharedTable table = read(*entry);
+    const SharedTable table = find(*entry, tag);
     if (table)
-        largeTables().insert(file->identity, *entry, table);
+        loadedWeight += table->weight();
     return table;
 }
 
-SharedTable WarmFace::TableSource::read(const TableEntry &entry) const
+SharedTable WarmFace::TableSource::find(const TableEntry &entry, FontTag tag) const
+{
+    if (entry.length < LargeTables::kSmallest)
+        return read(entry, tag);
+    if (SharedTable known = largeTables().find(file->identity, entry))
+        return known;
+    SharedTable table = read(entry, tag);
+    if (table)
+        largeTables().insert(file->identity, entry, table);
+    return table;
+}
+
+SharedTable WarmFace::TableSource::read(const TableEntry &entry, FontTag tag) const
 {
     const auto opened = file->reopen();
-    if (!opened)
-        return nullptr;
-    QByteArray bytes = (*opened)->bytes(entry.offset, entry.length);
-    return bytes.isNull() ? nullptr : std::make_shared<const LoadedTable>(std::move(bytes));
+    return opened ? TableBytes::load(**opened, entry.offset, entry.length, useOf(tag)) : nullptr;
 }
 
 hb_blob_t *WarmFace::referenceTable(hb_face_t *, hb_tag_t tag, void *source)
@@ -185,7 +186,7 @@ void WarmFace::readForDrawing() const
 
 qint64 WarmFace::bytes() const
 {
-    return kFaceOverhead + m_source->loadedBytes;
+    return kFaceOverhead + m_source->loadedWeight;
 }
 
 WarmFaces &WarmFaces::instance()
@@ -229,7 +230,7 @@ std::shared_ptr<const WarmFace> WarmFaces::insert(Key key, std::shared_ptr<const
 /// Tables are read after a face is inserted, so the bytes are weighed when the next one comes.
 void WarmFaces::evictIdle(qint64 budget, size_t count, Entries &evicted)
 {
-    qint64 excess = tableByteCount - budget;
+    qint64 excess = tableBytes() - budget;
     for (auto entry = m_entries.end();
          (excess > 0 || m_entries.size() > count) && entry != m_entries.begin();) {
         --entry;
@@ -245,7 +246,7 @@ void WarmFaces::evictIdle(qint64 budget, size_t count, Entries &evicted)
 
 qint64 WarmFaces::tableBytes()
 {
-    return tableByteCount;
+    return TableBytes::total() + overheadBytes;
 }
 
 void WarmFaces::clear()

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "text/GlyphPainter.h"
 
-#include "text/LayoutSupport.h"
+#include "text/ColorSupport.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
 
 #include <thread>
 
@@ -127,6 +130,123 @@ TEST(GlyphPainter, ThePathIsWhatIsPainted)
     const QPainterPath path = GlyphPainter::path(layout);
     EXPECT_EQ(path.fillRule(), Qt::WindingFill);
     EXPECT_EQ(path.boundingRect(), layout.inkBounds());
+}
+
+/// "A" of a face that maps it to nothing and whose own missing glyph is empty, on an em of advance.
+TextLayout missingGlyph(double letterSpacing = 0)
+{
+    TextLayoutOptions options;
+    options.letterSpacing = letterSpacing;
+    return TextLayout(QStringLiteral("?"), colorFont("colr0.ttf"), options);
+}
+
+TEST(GlyphPainter, MissingGlyphsShowAsAHollowBox)
+{
+    const TextLayout layout = missingGlyph();
+    // Between side bearings, as high as capitals.
+    EXPECT_EQ(layout.inkBounds(), QRectF(10, 10, 80, 70));
+    EXPECT_EQ(missingGlyph(50).inkBounds(), layout.inkBounds());
+    EXPECT_EQ(GlyphPainter::path(layout).boundingRect(), layout.inkBounds());
+    const QImage image = drawnCharacter(colorFont("colr0.ttf"), U'?', 2);
+    EXPECT_EQ(colorAt(image, 120, 350), 0u);
+    EXPECT_EQ(colorAt(image, 500, 20), 0u);
+    EXPECT_EQ(colorAt(image, 500, 350), 0xFFFFFFu);
+    EXPECT_EQ(colorAt(image, 50, 350), 0xFFFFFFu);
+}
+
+TEST(GlyphPainter, TheBoxStandsOnlyWhereAGlyphIsMissing)
+{
+    const auto faceWithAdvance = [](int units, const QByteArray &name) {
+        // Metrics of one glyph that all others share.
+        const QByteArray metrics = QByteArray::fromHex(units ? "02580000" : "00000000");
+        QByteArray all;
+        for (int i = 0; i < 2; ++i)
+            all += metrics;
+        return openFace(writeFont(FontBuilder("Bare")
+                                      .codePoints(U"A")
+                                      .table("hmtx", all)
+                                      .table("glyf", {})
+                                      .table("loca", QByteArray(12, '\0'))
+                                      .build(),
+                                  name));
+    };
+    const QString missing = QStringLiteral("?");
+    EXPECT_TRUE(
+        TextLayout(missing, Font(faceWithAdvance(0, "bare0.ttf"), 20)).inkBounds().isNull());
+    const Font wide(faceWithAdvance(600, "bare600.ttf"), 20);
+    EXPECT_FALSE(TextLayout(missing, wide).inkBounds().isNull());
+    EXPECT_TRUE(TextLayout(QStringLiteral("A"), wide).inkBounds().isNull());
+}
+
+TEST(GlyphPainter, ColorGlyphsStandInTheVisualOrderOfTheLine)
+{
+    // Each em holds a box of 80 points; drawn half an em apart, the later covers the earlier.
+    TextLayoutOptions options;
+    options.letterSpacing = -50;
+    const auto drawn = [&](const QString &text) {
+        QImage image = canvas(1, QSize(300, 100));
+        GlyphPainter::paint(image, TextLayout(text, colorFont("colr0.ttf"), options), QPointF(0, 0),
+                            QColor(0, 128, 0));
+        return image;
+    };
+    // A is red with a blue left half, B is of the text's colour, the mark is an outline.
+    const QImage colors = drawn(QStringLiteral("AB"));
+    EXPECT_EQ(colors.pixel(30, 40), qRgb(0, 0, 255));
+    EXPECT_EQ(colors.pixel(80, 40), qRgb(0, 128, 0));
+    EXPECT_EQ(drawn(QStringLiteral("BA")).pixel(80, 40), qRgb(0, 0, 255));
+    EXPECT_EQ(drawn(QStringLiteral("?A")).pixel(87, 40), qRgb(0, 0, 255));
+    EXPECT_EQ(drawn(QStringLiteral("A?")).pixel(62, 40), qRgb(0, 128, 0));
+}
+
+TEST(GlyphPainter, ColorGlyphsCountAsInkAndKeepTheirOutlines)
+{
+    const TextLayout layout(QStringLiteral("A"), colorFont("colr0.ttf"));
+    EXPECT_EQ(layout.inkBounds(), QRectF(10, 0, 80, 80));
+    EXPECT_EQ(GlyphPainter::path(layout).boundingRect(), QRectF(40, 30, 20, 20));
+}
+
+TEST(GlyphPainter, PaintsOnAnyPainterWhereItStandsAndLeavesItAsItWas)
+{
+    QImage image = canvas(1, QSize(300, 300));
+    QPainter painter(&image);
+    painter.translate(20, 10);
+    painter.scale(2, 2);
+    const QTransform before = painter.transform();
+    GlyphPainter::paint(painter, TextLayout(QStringLiteral("A"), colorFont("colr0.ttf")),
+                        QPointF(5, 5), Qt::black);
+    EXPECT_EQ(painter.transform(), before);
+    EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
+    EXPECT_EQ(image.pixel(20 + 2 * (5 + 30), 10 + 2 * (5 + 40)), qRgb(0, 0, 255));
+    EXPECT_EQ(image.pixel(20 + 2 * (5 + 70), 10 + 2 * (5 + 40)), qRgb(255, 0, 0));
+    EXPECT_EQ(image.pixel(20 + 2 * (5 + 95), 10 + 2 * (5 + 40)), qRgb(255, 255, 255));
+    GlyphPainter::paint(painter, TextLayout(QStringLiteral("A"), Font()), QPointF(), Qt::black);
+}
+
+QByteArray pdfOf(char32_t character)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        QPainter painter(&writer);
+        GlyphPainter::paint(painter,
+                            TextLayout(QString::fromUcs4(&character, 1), colorFont("colr1.ttf")),
+                            QPointF(100, 100), Qt::black);
+    }
+    return buffer.data();
+}
+
+TEST(GlyphPainter, VectorDevicesGetVectorsWhereTheyCanShowThem)
+{
+    // Plain and layered colours, pad gradients, the text's colour, turned and moved ones.
+    for (const char32_t character : U"ABCDGHMNSTUVWdfiqrx") {
+        const bool isVector = character == 0 || !pdfOf(character).contains("/Subtype /Image");
+        // Alpha that changes along a gradient is interpolated another way there.
+        EXPECT_EQ(isVector, character != U'f') << char(character);
+    }
+    for (const char32_t character : U"EFIJKXYbelmtsu")
+        EXPECT_TRUE(character == 0 || pdfOf(character).contains("/Subtype /Image"))
+            << char(character);
 }
 
 QImage specimen(const std::vector<std::shared_ptr<const FontFace>> &faces)

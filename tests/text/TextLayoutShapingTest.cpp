@@ -17,6 +17,9 @@ struct ShapingRow
     const char *features = "";
     const char *variations = "";
     const char *language = "";
+    /// Stretches in visual order, "L:abc |R:אב", where the reference shaper must be told them one
+    /// by one.
+    const char *stretches = nullptr;
 };
 
 /// "liga=0,wght=700" as tags and values.
@@ -32,7 +35,7 @@ std::vector<Setting> settings(const char *text)
 }
 
 /// What the reference shaper prints: "[12+600|7@-3,0+0]", in font units.
-QString referenceGlyphs(const ShapingRow &row)
+QString referenceGlyphs(const ShapingRow &row, const QString &text, const char *direction)
 {
     QStringList arguments{QStringLiteral("--no-glyph-names"), QStringLiteral("--no-clusters")};
     if (*row.features)
@@ -41,11 +44,26 @@ QString referenceGlyphs(const ShapingRow &row)
         arguments << QStringLiteral("--variations=%1").arg(QLatin1String(row.variations));
     if (*row.language)
         arguments << QStringLiteral("--language=%1").arg(QLatin1String(row.language));
-    arguments << realFont(row.font).displayText() << QString::fromUtf8(row.text);
+    if (*direction)
+        arguments << QStringLiteral("--direction=%1").arg(QLatin1String(direction));
+    arguments << realFont(row.font).displayText() << text;
     QProcess process;
     process.start(QStringLiteral("hb-shape"), arguments);
     process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    QString glyphs = QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    return glyphs;
+}
+
+QString referenceGlyphs(const ShapingRow &row)
+{
+    if (!row.stretches)
+        return referenceGlyphs(row, QString::fromUtf8(row.text), "");
+    QStringList glyphs;
+    for (const QString &stretch : QString::fromUtf8(row.stretches).split(u'|')) {
+        const bool isRightToLeft = stretch.startsWith(u'R');
+        glyphs << referenceGlyphs(row, stretch.mid(2), isRightToLeft ? "rtl" : "ltr");
+    }
+    return glyphs.join(QString()).replace(QStringLiteral("]["), QStringLiteral("|"));
 }
 
 QString laidOutGlyphs(const ShapingRow &row)
@@ -88,21 +106,44 @@ constexpr char kAmiri[] = "opentype/fonts-hosny-amiri/Amiri-Regular.ttf";
 constexpr char kLohit[] = "truetype/lohit-devanagari/Lohit-Devanagari.ttf";
 constexpr char kGaramond[] = "opentype/ebgaramond/EBGaramond12-Regular.otf";
 constexpr char kInter[] = "truetype/inter-vf/Inter-roman.var.ttf";
+constexpr char kHebrew[] = "truetype/noto/NotoSansHebrew-Regular.ttf";
+constexpr char kThai[] = "truetype/noto/NotoSansThai-Regular.ttf";
+constexpr char kKhmer[] = "truetype/noto/NotoSansKhmer-Regular.ttf";
+constexpr char kLibertine[] = "opentype/linux-libertine/LinLibertine_R.otf";
 constexpr char kCjk[] = "opentype/noto/NotoSansCJK-Regular.ttc";
 
 INSTANTIATE_TEST_SUITE_P(
     Fonts, Shaping,
-    ::testing::Values(ShapingRow{kAmiri, "السلام عليكم"}, ShapingRow{kAmiri, "مُحَمَّدٌ ﷽"},
-                      ShapingRow{kLohit, "अक्षि र्क त्र ह्म"}, ShapingRow{kLohit, "हिन्दी में"},
-                      ShapingRow{kGaramond, "AVATAR office fjord"},
-                      ShapingRow{kGaramond, "Office 1234", "smcp=1,onum=1,liga=0"},
-                      ShapingRow{kInter, "Hamburgefonstiv", "", "wght=850"},
-                      ShapingRow{kInter, "0 -> 1", "zero=1,calt=0", "wght=250"},
-                      ShapingRow{kCjk, "永和直骨", "", "", "ja"},
-                      ShapingRow{kCjk, "永和直骨", "", "", "zh-hans"},
-                      ShapingRow{kCjk, "永和直骨", "", "", "zh-hant"},
-                      ShapingRow{"truetype/noto/NotoSansHebrew-Regular.ttf", "שָׁלוֹם עֲלֵיכֶם"},
-                      ShapingRow{"truetype/firacode/FiraCode-Regular.ttf", "!= => www"}));
+    ::testing::Values(
+        ShapingRow{kAmiri, "السلام عليكم"}, ShapingRow{kAmiri, "مُحَمَّدٌ ﷽"},
+        ShapingRow{kLohit, "अक्षि र्क त्र ह्म"}, ShapingRow{kLohit, "हिन्दी में"},
+        ShapingRow{kGaramond, "AVATAR office fjord"},
+        ShapingRow{kGaramond, "Office 1234", "smcp=1,onum=1,liga=0"},
+        ShapingRow{kInter, "Hamburgefonstiv", "", "wght=850"},
+        ShapingRow{kInter, "0 -> 1", "zero=1,calt=0", "wght=250"},
+        ShapingRow{kCjk, "永和直骨", "", "", "ja"}, ShapingRow{kCjk, "永和直骨", "", "", "zh-hans"},
+        ShapingRow{kCjk, "永和直骨", "", "", "zh-hant"}, ShapingRow{kHebrew, "שָׁלוֹם עֲלֵיכֶם"},
+        ShapingRow{"truetype/firacode/FiraCode-Regular.ttf", "!= => www"},
+        ShapingRow{kHebrew, "שלום 12", "", "", "", "L:12|R:שלום "},
+        ShapingRow{kHebrew, "(שָׁלוֹם)", "", "", "", "R:(שָׁלוֹם)"},
+        ShapingRow{kAmiri, "abc سلام def", "", "", "", "L:abc |R:سلام|L: |L:def"},
+        ShapingRow{kAmiri, "لا إله ١٢٣", "", "", "", "L:١٢٣|R:لا إله "},
+        ShapingRow{kAmiri, "سـلام", "ss01=1,liga=0"},
+        ShapingRow{kLohit,
+                   "श्री क्ष्म्य र्द्ध्र ज्ञान ऱ्य "
+                   "क्‍ष "
+                   "क्‌ष"},
+        ShapingRow{kThai, "กำ น้ำ ปู่ ญี่ปุ่น ฎูฐิ"}, ShapingRow{kKhmer, "ខ្មែរ ស្ត្រី ក្រោម"},
+        ShapingRow{"truetype/noto/NotoSansMyanmar-Regular.ttf", "မြန်မာ ကျွန်ုပ်"},
+        ShapingRow{"truetype/noto/NotoSansTamil-Regular.ttf", "தமிழ் க்ஷௌ"},
+        ShapingRow{"truetype/noto/NotoColorEmoji.ttf",
+                   "👩‍👩‍👧 🇩🇪 1️⃣ 👍🏽"},
+        ShapingRow{kCjk, "日本語、「漢字」。", "palt=1", "", "ja"},
+        ShapingRow{kCjk, "각하", "", "", "ko"}, ShapingRow{kCjk, "骨直", "", "", "ko"},
+        ShapingRow{kInter, "Type 1/2 (A)", "frac=1,case=1,ss01=1,cv11=1"},
+        ShapingRow{"truetype/inter-vf/Inter.var.ttf", "AVAhog", "", "wght=333,slnt=-7"},
+        ShapingRow{kLibertine, "ſtaff Qu fi ffl", "dlig=1,hlig=1"},
+        ShapingRow{kLibertine, "0123", "lnum=0,onum=1,tnum=0,pnum=1"}));
 
 TEST(TextLayoutShaping, MixedScriptsAreShapedInTheirOwnDirections)
 {
@@ -144,6 +185,76 @@ TEST(TextLayoutShaping, LetterSpacingKeepsClustersWholeAndSwitchesLigaturesOff)
     const Font devanagari = realFontAt(kLohit, 30);
     const double plain = TextLayout(conjuncts, devanagari).size().width();
     EXPECT_NEAR(TextLayout(conjuncts, devanagari, spaced).size().width(), plain + 15, 0.01);
+}
+
+/// Whatever script stands before them, emoji sequences are one glyph.
+TEST(TextLayoutShaping, EmojiAreShapedApartFromTheTextAround)
+{
+    const Font font = realFontAt("truetype/noto/NotoColorEmoji.ttf", 20);
+    for (const char *before : {"", "a ", "ខ្មែ", "س", "क्"}) {
+        for (const char *emoji :
+             {"👩‍👩‍👧", "❤️‍🔥", "☝🏽", "🇩🇪", "1️⃣",
+              "👁️‍🗨️", "🏳️‍🌈", "🏴󠁧󠁢󠁥󠁮󠁧󠁿"}) {
+            const QString lead = QString::fromUtf8(before);
+            std::set<quint32> glyphs;
+            for (const PositionedGlyph &glyph :
+                 glyphsOf(TextLayout(lead + QString::fromUtf8(emoji), font))) {
+                if (glyph.cluster >= lead.size() && glyph.advance > 0)
+                    glyphs.insert(glyph.glyph);
+            }
+            EXPECT_EQ(glyphs.size(), 1u) << before << emoji;
+            EXPECT_FALSE(glyphs.contains(0)) << before << emoji;
+        }
+    }
+}
+
+TEST(TextLayoutShaping, LetterSpacingNeverCutsJoinedLetters)
+{
+    struct Row
+    {
+        const char *font;
+        const char *text;
+        /// How often the spacing is added.
+        int gaps;
+    };
+    for (const Row &row :
+         std::initializer_list<Row>{{kAmiri, "سلام", 1},
+                                    {kAmiri, "سَلَامٌ دار", 3},
+                                    {kAmiri, "ab سلام 12", 7},
+                                    {"truetype/noto/NotoSansMongolian-Regular.ttf", "ᠮᠣᠩᠭᠣᠯ", 1},
+                                    {kHebrew, "שלום", 4},
+                                    {kThai, "น้ำใจ", 3}}) {
+        TextLayoutOptions spaced;
+        spaced.letterSpacing = 5;
+        const QString text = QString::fromUtf8(row.text);
+        const Font font = realFontAt(row.font, 30);
+        EXPECT_NEAR(TextLayout(text, font, spaced).size().width(),
+                    TextLayout(text, font).size().width() + 5 * row.gaps, 0.01)
+            << row.text;
+    }
+}
+
+/// The same ideographs have forms of their own in each language, and the language may stand in the
+/// text itself.
+TEST(TextLayoutShaping, IdeographsTakeTheFormsOfTheLanguage)
+{
+    const Font font = realFontAt(kCjk, 20);
+    const auto formOf = [&](const char *text, const char *language) {
+        TextLayoutOptions options;
+        options.language = language;
+        return glyphsOf(TextLayout(QString::fromUtf8(text), font, options)).front().glyph;
+    };
+    for (const char *ideograph : {"骨", "直"}) {
+        std::set<quint32> forms;
+        for (const char *language : {"ja", "ko", "zh-Hans", "zh-Hant"})
+            forms.insert(formOf(ideograph, language));
+        EXPECT_GE(forms.size(), 2u) << ideograph;
+        EXPECT_NE(formOf(ideograph, "ja"), formOf(ideograph, "zh-Hans")) << ideograph;
+    }
+    EXPECT_EQ(formOf("骨ガ", ""), formOf("骨", "ja"));
+    EXPECT_EQ(formOf("骨 뼈", ""), formOf("骨", "ko"));
+    EXPECT_EQ(formOf("骨ㄍ", ""), formOf("骨", "zh-Hant"));
+    EXPECT_EQ(formOf("骨ガ", "zh-Hans"), formOf("骨", "zh-Hans"));
 }
 
 /// Cutting inside a kerned or joined stretch must leave the widths that the parts have by

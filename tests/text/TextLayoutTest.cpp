@@ -48,6 +48,21 @@ INSTANTIATE_TEST_SUITE_P(
         LinesRow{"天地。玄", 12, "天|地。|玄"}, LinesRow{"aaa bbb", 42, "aaa |bbb", 20},
         LinesRow{"e\u0301e\u0301", 1, "e\u0301|e\u0301"}));
 
+/// UAX #14. Every character is 6 points wide, so that a width of 1 shows all that may break between
+/// words and the rest between clusters: these rows are wide enough for their longest word.
+INSTANTIATE_TEST_SUITE_P(
+    LineBreaks, Wrapping,
+    ::testing::Values(
+        LinesRow{"ภาษาไทยง่าย", 24, "ภาษา|ไทย|ง่าย"}, LinesRow{"「天地」、玄", 18, "「天|地」、|玄"},
+        LinesRow{"天ー地ッ玄", 12, "天ー|地ッ|玄"}, LinesRow{"10 km 5%, $7", 18, "10 |km |5%, |$7"},
+        LinesRow{"10\u00a0km ab", 30, "10\u00a0km |ab"}, LinesRow{"3,141.59 a", 48, "3,141.59 |a"},
+        LinesRow{"\"ab\" (cd)", 24, "\"ab\" |(cd)"}, LinesRow{"a\u2011b c", 18, "a\u2011b |c"},
+        LinesRow{"ab\u200bcd", 12, "ab\u200b|cd"}, LinesRow{"ab\u2060cd ef", 24, "ab\u2060cd |ef"},
+        LinesRow{"co\u00adop", 12, "co\u00ad|op"},
+        LinesRow{"http://a.b/cc/dd", 54, "http://|a.b/cc/dd"}, LinesRow{"a/b-c d", 30, "a/b-c |d"},
+        LinesRow{"ab — cd", 24, "ab — |cd"}, LinesRow{"a…b !", 18, "a…|b !"},
+        LinesRow{"각나다 라", 18, "각나다 |라"}, LinesRow{"ខ្ញុំទៅសាលា", 24, "ខ្ញុំ|ទៅ|សាលា"}));
+
 struct TruncationRow
 {
     const char *text;
@@ -86,6 +101,12 @@ INSTANTIATE_TEST_SUITE_P(
                       TruncationRow{"ab\ncd", 100, 1, "ab…"},
                       TruncationRow{"ab\n \n", 100, 1, "ab"},
                       TruncationRow{"abcdefgh\nab", 30, 0, "abcd…|ab"},
+                      // Conjuncts, jamo syllables and stacked consonants go as a whole.
+                      TruncationRow{"अक्षत्र", 18, 1, "अ…"},
+                      TruncationRow{"a\u1100\u1161\u11A8"
+                                    "b",
+                                    18, 1, "a…"},
+                      TruncationRow{"aខ្ញុំbcd", 12, 1, "a…"},
                       TruncationRow{"a\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA9", 12, 1, "a…"}));
 
 TEST(TextLayout, TruncatesWithWhatTheFaceCanDraw)

@@ -5,7 +5,7 @@
 #include "support/AdverseSystem.h"
 #include "ui/display/JpegScan.h"
 #include "ui/display/SafeSvg.h"
-#include "ui/display/SvgStyleText.h"
+#include "base/SvgStyleText.h"
 
 #include <QBuffer>
 #include <QColor>

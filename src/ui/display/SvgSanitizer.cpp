@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "base/SvgReferences.h"
+#include "base/SvgStyleText.h"
 #include "ui/display/SafeImage.h"
 #include "ui/display/SafeSvg.h"
-#include "ui/display/SvgReferences.h"
-#include "ui/display/SvgStyleText.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -269,7 +269,7 @@ private:
         if (!m_hrefs.isNull())
             m_writer.writeAttribute(QStringLiteral("xlink:href"), m_hrefs);
         m_hrefs = QString();
-        m_references.begin(id, repeated, bytes);
+        m_references.begin(id, {repeated}, {.elements = 1, .bytes = double(bytes)});
     }
 
     static bool isReference(const QString &key)

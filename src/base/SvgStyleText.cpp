@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "ui/display/SvgStyleText.h"
+#include "base/SvgStyleText.h"
 
 namespace lorva {
 
