@@ -7,7 +7,7 @@
 #include "FreeTypeSpecimen.h"
 #include "InstalledFonts.h"
 #include "Samples.h"
-#include "text/ColorGlyphSource.h"
+#include "text/color/ColorGlyphSource.h"
 #include "text/FontFile.h"
 #include "text/GlyphPainter.h"
 #include "text/WarmFaces.h"

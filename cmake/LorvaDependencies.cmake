@@ -10,7 +10,7 @@ pkg_check_modules(SQLITE REQUIRED IMPORTED_TARGET sqlite3)
 pkg_check_modules(SIMDJSON REQUIRED IMPORTED_TARGET simdjson)
 find_package(tl-expected REQUIRED)
 find_package(ZLIB REQUIRED)
-# Its headers alone: the library is loaded when the first SVG glyph is drawn (text/SvgLibrary.h).
+# Its headers alone: the library is loaded when the first SVG glyph is drawn (text/color/SvgLibrary.h).
 pkg_check_modules(RSVG REQUIRED librsvg-2.0>=2.52)
 
 if(LORVA_BUILD_TESTS)

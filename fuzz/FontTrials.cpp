@@ -4,7 +4,7 @@
 
 #include "platform/FallbackFontLocator.h"
 #include "text/CharacterSet.h"
-#include "text/ColorGlyphs.h"
+#include "text/color/ColorGlyphs.h"
 #include "text/FaceInformation.h"
 #include "text/FontFallback.h"
 #include "text/FontFeatures.h"

@@ -5,7 +5,7 @@
 #include "text/Font.h"
 #include "text/FontFaceData.h"
 #include "text/FontLimits.h"
-#include "text/NameTable.h"
+#include "text/names/NameTable.h"
 
 #include <hb-ot.h>
 #include <hb.h>

@@ -5,8 +5,8 @@
 #include "text/FontFaceData.h"
 #include "text/FontLimits.h"
 #include "text/LayoutLanguages.h"
-#include "text/NameListing.h"
-#include "text/NameTable.h"
+#include "text/names/NameListing.h"
+#include "text/names/NameTable.h"
 #include "text/OpenedFile.h"
 #include "text/StyleAttributes.h"
 

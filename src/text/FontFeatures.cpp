@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "text/FontFeatures.h"
 
-#include "text/AatFeatures.h"
-#include "text/FeatureRegistry.h"
-#include "text/FeatureTables.h"
+#include "text/features/AatFeatures.h"
+#include "text/features/FeatureRegistry.h"
+#include "text/features/FeatureTables.h"
 #include "text/FontLimits.h"
 
 #include <algorithm>

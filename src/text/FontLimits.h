@@ -73,8 +73,8 @@ constexpr qint64 kWarmTableBytes = qint64(48) << 20;
 /// And so many of them: three screens of small fonts, whose tables weigh less than what HarfBuzz
 /// builds over them.
 constexpr size_t kWarmFaces = 160;
-/// Tables that are mapped instead of read, all together: one for each of those faces, and as many in
-/// use.
+/// Tables that are mapped instead of read, all together: one for each of those faces, and as many
+/// in use.
 constexpr size_t kMaxMappings = 320;
 
 /// Feature records of one layout table. Noto's CJK fonts, with a language system for everyone, have
@@ -157,9 +157,9 @@ constexpr double kMaxSvgDocumentElements = 50'000;
 constexpr double kMaxSvgElements = 5000;
 /// And bytes of attributes; intricate emoji have some 200 KB.
 constexpr double kMaxSvgAttributeBytes = 6e5;
-/// And crossings of its outlines with themselves, which drawn ones hardly have. Measured, a million
-/// take half a second to find and twice as long to fill.
-constexpr double kMaxSvgCrossings = 2e6;
+/// And crossings of its outlines with themselves, of which drawn ones have few. Measured, so many
+/// take half a second at the largest size, and time grows with them.
+constexpr double kMaxSvgCrossings = 250'000;
 /// And parts that are composed apart, each in a picture of its own.
 constexpr double kMaxSvgLayers = 256;
 /// Of a document's style sheets; drawing programs write one for each look, some hundred.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/GlyphOutlines.h"
 
-#include "text/ColorGlyphs.h"
+#include "text/color/ColorGlyphs.h"
 #include "text/FontLimits.h"
 
 #include <hb.h>

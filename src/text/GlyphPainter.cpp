@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/GlyphPainter.h"
 
-#include "text/ColorGlyphs.h"
+#include "text/color/ColorGlyphs.h"
 #include "text/GlyphOutlines.h"
 
 #include <QPainter>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "text/FaceInformation.h"
-#include "text/NameTable.h"
+#include "text/names/NameTable.h"
 
 namespace lorva {
 

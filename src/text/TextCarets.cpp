@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "text/TextCarets.h"
 
-#include "text/CaretMap.h"
-#include "text/TextBoundaries.h"
+#include "text/layout/CaretMap.h"
+#include "text/layout/TextBoundaries.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 
 #include "text/FontLimits.h"
 #include "text/GlyphOutlines.h"
-#include "text/LineAssembler.h"
+#include "text/layout/LineAssembler.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "text/GlyphPicture.h"
+#include "text/color/GlyphPicture.h"
 #include "text/MadeFonts.h"
 #include "text/PictureSupport.h"
 

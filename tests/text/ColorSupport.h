@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "text/ColorGlyphs.h"
+#include "text/color/ColorGlyphs.h"
 #include "text/GlyphPainter.h"
 
 #include "text/LayoutSupport.h"

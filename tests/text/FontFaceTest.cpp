@@ -288,9 +288,16 @@ TEST_F(WarmFacesTest, LetIdleFacesGoAndMakeThemAnew)
     EXPECT_TRUE(face->glyphFor(U'永'));
 }
 
+/// A copy of our own of an installed font: its outlines are read, not mapped.
+FilePath ownCopy(const QByteArray &name)
+{
+    return writeFile(TestHome::instance().makeFolder("own"), name.mid(name.lastIndexOf('/') + 1),
+                     readFile(realFont(name)));
+}
+
 TEST_F(WarmFacesTest, ShareTheOutlinesOfACollection)
 {
-    const FilePath path = realFont("opentype/noto/NotoSansCJK-Regular.ttc");
+    const FilePath path = ownCopy("opentype/noto/NotoSansCJK-Regular.ttc");
     const auto first = openFace(path, {0, -1})->shapingFont({});
     const qint64 one = WarmFaces::tableBytes();
     const auto second = openFace(path, {1, -1})->shapingFont({});
@@ -304,10 +311,9 @@ TEST_F(WarmFacesTest, StayWithinTheirBudgetOverManyFaces)
     for (const char *name :
          {"opentype/noto/NotoSansCJK-Regular.ttc", "opentype/noto/NotoSansCJK-Bold.ttc",
           "opentype/noto/NotoSerifCJK-Regular.ttc", "opentype/noto/NotoSerifCJK-Bold.ttc",
-          "truetype/lxgw-wenkai/LXGWWenKai-Regular.ttf",
-          "truetype/lxgw-wenkai/LXGWWenKai-Bold.ttf"}) {
+          "truetype/lxgw-wenkai/LXGWWenKai-Regular.ttf"}) {
         const qint64 before = WarmFaces::tableBytes();
-        faces.push_back(openFace(realFont(name)));
+        faces.push_back(openFace(ownCopy(name)));
         EXPECT_TRUE(faces.back()->shapingFont({}));
         largest = std::max(largest, WarmFaces::tableBytes() - before);
         EXPECT_LE(WarmFaces::tableBytes(), kWarmTableBytes + largest);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "text/FontLimits.h"
-#include "text/NameTable.h"
+#include "text/names/NameTable.h"
 #include "text/ReadingSupport.h"
 
 #include <gmock/gmock.h>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "text/ColorGlyphSource.h"
+#include "text/color/ColorGlyphSource.h"
 #include "text/ReadingSupport.h"
 
 #include <QPainter>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "text/color/SvgDocument.h"
+#include "text/color/SvgDocumentReader.h"
+#include "text/color/SvgLibrary.h"
 #include "text/FontLimits.h"
 #include "text/MadeFonts.h"
 #include "text/PictureSupport.h"
-#include "text/SvgDocument.h"
-#include "text/SvgDocumentReader.h"
-#include "text/SvgLibrary.h"
 
 #include <QBuffer>
 #include <QPdfWriter>
@@ -414,6 +414,29 @@ QByteArray masks(int count)
     return glyphSvg("<rect width='900' height='900' mask='url(#m0)'/>", defs);
 }
 
+/// A path of `count` lines from edge to edge that cross almost all the others.
+QByteArray tangle(int count, const QByteArray &command, int points)
+{
+    QByteArray path = "M0 0";
+    for (int i = 0; i < count; ++i) {
+        path += command;
+        for (int k = 0; k < points; ++k)
+            path += QByteArray::number((i * 7919 + k * 104'729) % 997) + " -"
+                + QByteArray::number((i * 6101 + k * 3571) % 991) + " ";
+    }
+    return path;
+}
+
+/// So many small squares, none of which touches another.
+QByteArray dots(int across)
+{
+    QByteArray path;
+    for (int i = 0; i < across * across; ++i)
+        path += "M" + QByteArray::number(i % across * 8) + " -" + QByteArray::number(i / across * 8)
+            + "h4v4h-4z";
+    return path;
+}
+
 TEST(SvgGlyphs, RefusesWhatCostsTooMuch)
 {
     const QByteArray rect = "<rect width='9' height='9'/>";
@@ -452,6 +475,18 @@ TEST(SvgGlyphs, RefusesWhatCostsTooMuch)
         {"no SVG", "<html><svg id='glyph1'/></html>"},
         {"another glyph", glyphSvg(rect).replace("glyph1", "glyph2")},
         {"empty", ""},
+        {"a tangle", glyphSvg("<path d='" + tangle(4000, "L", 1) + "'/>")},
+        {"a tangle of curves", glyphSvg("<path d='" + tangle(2000, "C", 3) + "'/>")},
+        {"a tangle of points", glyphSvg("<polygon points='" + tangle(4000, " ", 1).mid(1) + "'/>")},
+        {"a tangle in a corner",
+         glyphSvg("<path d='M-9e5 -9e5L9e5 9e5" + tangle(4000, "L", 1) + "'/>")},
+        {"a tangled clip",
+         glyphSvg("<rect width='9' height='9' clip-path='url(#c)'/>",
+                  "<clipPath id='c'><path d='" + tangle(4000, "L", 1) + "'/></clipPath>")},
+        {"a stroke that turns back",
+         glyphSvg("<path stroke='red' d='M0 0" + QByteArray("h900h-900").repeated(2000) + "'/>")},
+        {"arcs over arcs",
+         glyphSvg("<path d='M0 0" + QByteArray("a300 200 9 11.1.1").repeated(2000) + "'/>")},
         {"large pictures",
          glyphSvg(
              QByteArray("<image href='" + pictureData({2000, 1900}, Qt::red) + "'/>").repeated(2))},
@@ -500,6 +535,7 @@ TEST(SvgGlyphs, DrawsHardDocumentsWithinBounds)
         {"a knot",
          glyphSvg("<path d='M0 0" + QByteArray("L0 -900L900 0L900 -900").repeated(20'000) + "'/>"),
          {}},
+        {"ten thousand dots", glyphSvg("<path d='" + dots(100) + "'/>"), {}},
         {"no transform", glyphSvg("<rect " + kSquare + " transform='matrix(0 0 0 0 0 0)'/>"), {}},
         {"a box without size",
          svg("<rect " + kSquare + " fill='red'/>", "id='glyph1' viewBox='0 0 0 nan'"),
