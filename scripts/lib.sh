@@ -58,6 +58,7 @@ packages_fonts="
   fonts-league-mono     width and weight in the style names
   fonts-linuxlibertine  OpenType with PostScript outlines
   fonts-nanum           Korean
+  fonts-noto-color-emoji  coloured bitmaps, sequences of emoji
 "
 packages_bench="
   libbenchmark-dev      times functions

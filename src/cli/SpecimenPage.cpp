@@ -34,7 +34,10 @@ SpecimenPage layOutSpecimen(const SpecimenRequest &request, const Font &font)
     };
     SpecimenPage page;
     page.layout = layOut(request.width ? *request.width : std::numeric_limits<double>::infinity());
-    const auto fitted = [&](double length) { return int(std::ceil(length + 2 * margin)); };
+    // A hostile font's advances add up to more than a whole number holds.
+    const auto fitted = [&](double length) {
+        return int(std::min(std::ceil(length + 2 * margin), 1e9));
+    };
     if (!request.width && fitted(page.layout.size().width()) > kMaxSpecimenSide)
         page.layout = layOut(kMaxSpecimenSide);
     const QSizeF text = page.layout.size();

@@ -3,7 +3,7 @@
 #include "text/CharacterMapWork.h"
 
 #include "text/FontLimits.h"
-#include "text/TableView.h"
+#include "text/HeldTable.h"
 
 #include <hb.h>
 
@@ -59,12 +59,9 @@ quint64 subtableWork(const TableView &subtable)
 
 bool isCharacterMapWorkable(hb_face_t *face)
 {
-    const std::unique_ptr<hb_blob_t, decltype(&hb_blob_destroy)> blob(
-        hb_face_reference_table(face, HB_TAG('c', 'm', 'a', 'p')), hb_blob_destroy);
-    unsigned length = 0;
-    const char *bytes = hb_blob_get_data(blob.get(), &length);
-    const TableView cmap(QByteArrayView(bytes, qsizetype(length)));
-    if (length > kMaxCharacterMapBytes)
+    const HeldTable held(face, fontTag('c', 'm', 'a', 'p'));
+    const TableView &cmap = held.view();
+    if (cmap.size() > kMaxCharacterMapBytes)
         return false;
     const int count = std::min<int>(cmap.u16(2), kMaxCharacterMaps);
     for (int i = 0; i < count; ++i)

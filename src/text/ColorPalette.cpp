@@ -5,6 +5,7 @@
 #include "text/Font.h"
 #include "text/FontFaceData.h"
 #include "text/FontLimits.h"
+#include "text/HeldTable.h"
 #include "text/names/NameTable.h"
 
 #include <hb-ot.h>
@@ -15,8 +16,6 @@
 namespace lorva {
 
 namespace {
-
-using BlobPtr = std::unique_ptr<hb_blob_t, decltype(&hb_blob_destroy)>;
 
 std::vector<QRgb> colorsOf(hb_face_t *face, unsigned palette)
 {
@@ -36,12 +35,9 @@ class PaletteNames
 {
 public:
     explicit PaletteNames(hb_face_t *face)
-        : m_blob(hb_face_reference_table(face, HB_TAG('n', 'a', 'm', 'e')), &hb_blob_destroy)
+        : m_table(face, fontTag('n', 'a', 'm', 'e'))
+        , m_names(m_table.bytes(kMaxNameTableBytes), NameSelection::all)
     {
-        unsigned length = 0;
-        const char *const bytes = hb_blob_get_data(m_blob.get(), &length);
-        const qint64 usable = std::min<qint64>(length, kMaxNameTableBytes);
-        m_names = NameTable(QByteArrayView(bytes, usable), NameSelection::all);
     }
 
     QString text(hb_ot_name_id_t id) const
@@ -50,7 +46,7 @@ public:
     }
 
 private:
-    BlobPtr m_blob;
+    HeldTable m_table;
     NameTable m_names;
 };
 

@@ -189,8 +189,7 @@ bool Font::operator==(const Font &other) const
         return false;
     return m_data->face == other.m_data->face && m_data->pointSize == other.m_data->pointSize
         && m_data->variations == other.m_data->variations
-        && m_data->features == other.m_data->features
-        && m_data->palette == other.m_data->palette
+        && m_data->features == other.m_data->features && m_data->palette == other.m_data->palette
         && m_data->isStandIn == other.m_data->isStandIn;
 }
 

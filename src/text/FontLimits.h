@@ -152,6 +152,11 @@ constexpr qsizetype kMaxSvgDocumentBytes = qsizetype(4) << 20;
 /// Documents that a font keeps at hand; each serves many glyphs.
 constexpr qsizetype kMaxKeptSvgBytes = qsizetype(8) << 20;
 constexpr int kMaxSvgDepth = 64;
+/// Documents read for one text; those of a page of different emoji have some 10 MB.
+constexpr qsizetype kMaxSvgBytesPerText = qsizetype(64) << 20;
+/// And drawn, counted in glyphs that cost as much as one may: a page of emoji comes to two or
+/// three.
+constexpr double kMaxSvgWorkPerText = 16;
 constexpr double kMaxSvgDocumentElements = 50'000;
 /// Of one glyph, all that it repeats counted each time; intricate emoji have some 500 elements.
 constexpr double kMaxSvgElements = 5000;

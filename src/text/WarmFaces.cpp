@@ -56,8 +56,9 @@ private:
 
 LargeTables &largeTables()
 {
-    static LargeTables tables;
-    return tables;
+    // Never destroyed, as the faces that ask for them.
+    static auto *tables = new LargeTables;
+    return *tables;
 }
 
 /// Outlines and pictures are looked at glyph by glyph.
@@ -155,7 +156,6 @@ WarmFace::WarmFace(const std::shared_ptr<const FontFile::Data> &file,
     hb_font_make_immutable(m_font.get());
 }
 
-/// Opening the file anew for each of some fifteen tables would cost as much as shaping a line.
 std::optional<quint32> WarmFace::glyphFor(char32_t scalar) const
 {
     hb_codepoint_t glyph = 0;
@@ -164,6 +164,7 @@ std::optional<quint32> WarmFace::glyphFor(char32_t scalar) const
     return glyph;
 }
 
+/// Opening the file anew for each of some fifteen tables would cost as much as shaping a line.
 void WarmFace::readForDrawing() const
 {
     std::call_once(m_readOnce, [this] {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "catalog/StyleWeight.h"
 
+#include "support/RowNames.h"
+
 #include <gtest/gtest.h>
 
 namespace lorva {
@@ -13,6 +15,11 @@ struct LabelCase
     /// 0: the label names none.
     int weight;
 };
+
+void PrintTo(const LabelCase &row, std::ostream *out)
+{
+    *out << test::nameText(row.label);
+}
 
 class LabelWeight : public testing::TestWithParam<LabelCase>
 {

@@ -96,6 +96,11 @@ struct Damage
     std::function<QByteArray(QByteArray)> apply;
 };
 
+void PrintTo(const Damage &row, std::ostream *out)
+{
+    *out << row.what;
+}
+
 class DamagedPreferences : public SqlitePreferenceStoreTest,
                            public testing::WithParamInterface<Damage>
 {
@@ -263,6 +268,11 @@ struct Permissions
     mode_t folder;
     mode_t file;
 };
+
+void PrintTo(const Permissions &row, std::ostream *out)
+{
+    *out << row.what;
+}
 
 class LockedAwayPreferences : public SqlitePreferenceStoreTest,
                               public testing::WithParamInterface<Permissions>

@@ -24,6 +24,11 @@ struct Row
     const char *applicationSupport;
 };
 
+void PrintTo(const Row &row, std::ostream *out)
+{
+    *out << row.what;
+}
+
 class XdgDataHome : public testing::TestWithParam<Row>
 {
 };

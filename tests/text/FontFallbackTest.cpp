@@ -3,6 +3,7 @@
 #include "text/FontFallback.h"
 
 #include "platform/FallbackFontLocator.h"
+#include "support/RowNames.h"
 #include "text/GlyphPainter.h"
 #include "text/LayoutSupport.h"
 #include "text/WarmFaces.h"
@@ -113,6 +114,11 @@ struct FallbackRow
     const char *runs;
     const char *language = "";
 };
+
+void PrintTo(const FallbackRow &row, std::ostream *out)
+{
+    *out << nameText(row.text) << ' ' << row.language;
+}
 
 class Fallback : public ::testing::TestWithParam<FallbackRow>
 {

@@ -468,6 +468,9 @@ TEST(SvgGlyphs, RefusesWhatCostsTooMuch)
         {"rules without end",
          svg("<style>" + QByteArray("*{fill:red}").repeated(9000) + "</style><g id='glyph1'>"
              + rect.repeated(2000) + "</g>")},
+        {"a long rule for all",
+         svg("<style>*{fill:" + QByteArray(3'000'000, 'x') + "}</style><g id='glyph1'>"
+             + QByteArray("<g/>").repeated(4000) + rect + "</g>")},
         {"entities", "<!DOCTYPE svg [<!ENTITY a 'b'>]>" + glyphSvg(rect)},
         {"expanding", gzipped(svg(QByteArray(8 << 20, ' ') + "<g id='glyph1'>" + rect + "</g>"))},
         {"cut", glyphSvg(rect).chopped(9)},
@@ -537,6 +540,10 @@ TEST(SvgGlyphs, DrawsHardDocumentsWithinBounds)
          {}},
         {"ten thousand dots", glyphSvg("<path d='" + dots(100) + "'/>"), {}},
         {"no transform", glyphSvg("<rect " + kSquare + " transform='matrix(0 0 0 0 0 0)'/>"), {}},
+        {"references without end",
+         glyphSvg("<rect " + kSquare + " fill='red' clip-path='"
+                  + QByteArray("url(#").repeated(400'000) + "'/>"),
+         {}},
         {"a box without size",
          svg("<rect " + kSquare + " fill='red'/>", "id='glyph1' viewBox='0 0 0 nan'"),
          {{{20, 16}, kRed}}},
@@ -550,6 +557,67 @@ TEST(SvgGlyphs, DrawsHardDocumentsWithinBounds)
             const QImage picture = pictureOf(*glyphs, 1, ratio);
             if (!one.expected.empty())
                 expectColors(picture, one.expected);
+        }
+    }
+}
+
+/// One document for each glyph from 1 on.
+QByteArray svgTableOf(const QList<QByteArray> &documents)
+{
+    QByteArray records;
+    QByteArray all;
+    const qsizetype listSize = 2 + 12 * documents.size();
+    for (qsizetype i = 0; i < documents.size(); ++i) {
+        records += bigEndian(quint16(i + 1)) + bigEndian(quint16(i + 1))
+            + bigEndian(quint32(listSize + all.size())) + bigEndian(quint32(documents[i].size()));
+        all += documents[i];
+    }
+    return bigEndian(quint16(0)) + bigEndian(quint32(10)) + bigEndian(quint32(0))
+        + bigEndian(quint16(documents.size())) + records + all;
+}
+
+/// Each glyph alone would be drawn.
+TEST(SvgGlyphs, DrawsNoMoreOfATextThanATextMayCost)
+{
+    const QByteArray square = "<rect " + kSquare + " fill='red'/>";
+    std::u32string characters;
+    for (char32_t c = 0x4E00; characters.size() < 81; ++c)
+        characters += c;
+    const QByteArray bomb = gzipped(svg(QByteArray(5 << 20, ' ')));
+    QList<QByteArray> bombs;
+    QList<QByteArray> heaps;
+    for (int i = 1; i <= 80; ++i) {
+        bombs << bomb;
+        heaps << gzipped(svg(square + "<path d='M0 0" + QByteArray(580'000, ' ') + "'/>",
+                             "id='glyph" + QByteArray::number(i) + "'"));
+    }
+    bombs << glyphSvg(square).replace("glyph1", "glyph81");
+    for (const auto &[documents, last] : {std::pair(bombs, 81U), std::pair(heaps, 80U)}) {
+        FontBuilder builder("Costly");
+        builder.codePoints(characters).table("SVG ", svgTableOf(documents));
+        const Font font(builtFace(builder), kPointSize);
+        auto spent = makeSvgGlyphs(font);
+        for (quint32 glyph = 1; glyph < last; ++glyph)
+            spent->has(glyph);
+        EXPECT_FALSE(spent->has(last));
+        spent.reset();
+        EXPECT_TRUE(makeSvgGlyphs(font)->has(last));
+    }
+}
+
+/// What one text leaves to the next must not hold its colours, its size or its limits.
+TEST(SvgGlyphs, AreTheFontsOwnWhenKeptForTheNextText)
+{
+    FontBuilder builder("Kept");
+    builder.codePoints(U"A").table(
+        "SVG ", svgTable(glyphSvg("<rect " + kSquare + " fill='currentColor'/>"), 1, 1));
+    const auto face = builtFace(builder);
+    for (const double size : {kPointSize, kPointSize / 2., double(kPointSize)}) {
+        for (const QColor &color : {QColor(Qt::red), QColor(Qt::blue)}) {
+            const auto glyphs = makeSvgGlyphs(Font(face, size));
+            const QImage picture = pictureOf(*glyphs, 1, 1, color);
+            expectColors(picture, {{{size * 0.5, size * 0.4}, color.rgba()}});
+            EXPECT_EQ(colorAt(picture, {size * 1.05, size * 0.4}), colorText(kNothing));
         }
     }
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/TextCarets.h"
 
+#include "support/RowNames.h"
 #include "text/FontLimits.h"
 #include "text/LayoutSupport.h"
 
@@ -55,6 +56,11 @@ struct PlacesRow
     const char *places;
     TextLayoutOptions options = {};
 };
+
+void PrintTo(const PlacesRow &row, std::ostream *out)
+{
+    *out << nameText(row.text) << ' ' << nameText(row.places);
+}
 
 class Places : public ::testing::TestWithParam<PlacesRow>
 {

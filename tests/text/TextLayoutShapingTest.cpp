@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "support/RowNames.h"
 #include "text/LayoutSupport.h"
 
 #include <QProcess>
@@ -21,6 +22,13 @@ struct ShapingRow
     /// by one.
     const char *stretches = nullptr;
 };
+
+void PrintTo(const ShapingRow &row, std::ostream *out)
+{
+    *out << nameText(QString::fromLatin1(row.font).section(u'/', -1)) << ' ' << nameText(row.text)
+         << ' ' << nameText(row.features) << ' ' << nameText(row.variations) << ' '
+         << nameText(row.language);
+}
 
 /// "liga=0,wght=700" as tags and values.
 template <class Setting>

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "support/RowNames.h"
 #include "text/LayoutSupport.h"
 
 #include <gmock/gmock.h>
@@ -18,6 +19,11 @@ struct LinesRow
     const char *lines;
     double inset = 0;
 };
+
+void PrintTo(const LinesRow &row, std::ostream *out)
+{
+    *out << nameText(row.text) << ' ' << row.width << ' ' << row.inset;
+}
 
 class Wrapping : public ::testing::TestWithParam<LinesRow>
 {
@@ -70,6 +76,11 @@ struct TruncationRow
     int maximumLines;
     const char *lines;
 };
+
+void PrintTo(const TruncationRow &row, std::ostream *out)
+{
+    *out << nameText(row.text) << ' ' << row.width << ' ' << row.maximumLines;
+}
 
 class Truncation : public ::testing::TestWithParam<TruncationRow>
 {
@@ -152,6 +163,11 @@ struct RunsRow
     const char *runs;
     double width = std::numeric_limits<double>::infinity();
 };
+
+void PrintTo(const RunsRow &row, std::ostream *out)
+{
+    *out << nameText(row.text) << ' ' << int(row.direction) << ' ' << row.width;
+}
 
 class Runs : public ::testing::TestWithParam<RunsRow>
 {

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/display/SafeImage.h"
 
+#include "base/SvgStyleText.h"
 #include "support/AdverseSystem.h"
 #include "ui/display/JpegScan.h"
 #include "ui/display/SafeSvg.h"
-#include "base/SvgStyleText.h"
 
 #include <QBuffer>
 #include <QColor>

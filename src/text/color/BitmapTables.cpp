@@ -2,22 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "text/color/BitmapTables.h"
 
-#include <hb.h>
-
 #include <algorithm>
 #include <numeric>
 
 namespace lorva {
-
-HeldTable::HeldTable(const Font &font, FontTag tag)
-    : m_blob(hb_face_reference_table(hb_font_get_face(font.shapingFont().get()), tag),
-             &hb_blob_destroy)
-{
-    unsigned length = 0;
-    const char *const data = hb_blob_get_data(m_blob.get(), &length);
-    if (length > 0)
-        m_view = TableView(QByteArrayView(data, qsizetype(length)));
-}
 
 std::vector<size_t> bySuitability(const std::vector<double> &pixelsPerEm, double wanted)
 {

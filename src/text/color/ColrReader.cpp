@@ -23,13 +23,6 @@ ColrPaint paintOf(std::shared_ptr<const ColrGradient> gradient)
     return paint;
 }
 
-TableView bytesOf(hb_blob_t *blob)
-{
-    unsigned length = 0;
-    const char *const data = hb_blob_get_data(blob, &length);
-    return TableView(QByteArrayView(data, qsizetype(length)));
-}
-
 std::vector<int> normalizedCoordinates(hb_font_t *font)
 {
     unsigned count = 0;
@@ -66,10 +59,8 @@ quint64 findRecord(TableView records, quint64 count, quint64 size, quint32 glyph
 ColrReader::ColrReader(const Font &font)
 {
     const std::shared_ptr<hb_font_t> shaping = font.shapingFont();
-    m_blob.reset(
-        hb_face_reference_table(hb_font_get_face(shaping.get()), HB_TAG('C', 'O', 'L', 'R')),
-        &hb_blob_destroy);
-    m_table = bytesOf(m_blob.get());
+    m_held = HeldTable(hb_font_get_face(shaping.get()), fontTag('C', 'O', 'L', 'R'));
+    m_table = m_held.view();
     m_palette = chosenColors(font);
     if (m_table.u16(0) >= 1)
         m_variations = ColrVariations(subtable(m_table, 30), subtable(m_table, 26),

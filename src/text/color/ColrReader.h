@@ -4,11 +4,9 @@
 
 #include "text/color/ColrPaint.h"
 #include "text/color/ColrVariations.h"
-#include "text/Font.h"
+#include "text/HeldTable.h"
 
 #include <optional>
-
-struct hb_blob_t;
 
 namespace lorva {
 
@@ -60,7 +58,7 @@ private:
     quint64 offset24(quint64 at) const;
     bool spendNode();
 
-    std::shared_ptr<hb_blob_t> m_blob;
+    HeldTable m_held;
     TableView m_table;
     ColrVariations m_variations;
     std::vector<QRgb> m_palette;

@@ -183,7 +183,9 @@ QSize glyphPictureSize(QByteArrayView bytes)
         return {};
     QByteArray held = QByteArray::fromRawData(bytes.data(), bytes.size());
     QBuffer buffer(&held);
-    const QSize size = QImageReader(&buffer, "jpeg").size();
+    QImageReader reader(&buffer, "jpeg");
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
     return usableSize(quint32(std::max(0, size.width())), quint32(std::max(0, size.height())));
 }
 

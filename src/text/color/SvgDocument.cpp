@@ -13,6 +13,8 @@ namespace {
 
 /// Percentages and lengths in other units are at most so much longer than their figures.
 constexpr double kLongestUnit = 100;
+/// So many characters of a declaration are read in the time that it takes to find it.
+constexpr double kCharactersPerTrial = 8;
 
 /// Of what an element draws along; colours and the like count too, which does no harm.
 double outlineLength(const SvgDeclaration &attribute)
@@ -74,10 +76,10 @@ bool SvgDocument::weigh(size_t index)
          m_sheet.declarationsFor(element.name, element.id, element.classes)) {
         own.layers += isSvgLayer(declaration->name, declaration->value) ? 1 : 0;
         element.references += svgUrlIds(declaration->value);
-        ++m_matches;
+        m_matches += 1 + double(declaration->value.size()) / kCharactersPerTrial;
+        if (m_matches > kMaxSvgRuleTrials)
+            return false;
     }
-    if (m_matches > kMaxSvgRuleTrials)
-        return false;
     element.references.removeDuplicates();
     m_references.begin(element.id, element.references, own);
     for (const size_t child : element.children) {

@@ -36,13 +36,6 @@ QString withoutPrefix(QStringView name)
     return (name.startsWith(prefix) ? name.sliced(prefix.size()) : name).toString();
 }
 
-bool isPlainId(QStringView id)
-{
-    return !id.isEmpty() && std::all_of(id.begin(), id.end(), [](QChar c) {
-        return c.isLetterOrNumber() || QStringView(u"-_.:").contains(c);
-    });
-}
-
 void addSize(SvgDocument::Element &element, const QString &name, int length)
 {
     const bool isGiven = std::any_of(element.attributes.begin(), element.attributes.end(),
@@ -170,7 +163,7 @@ void SvgDocumentReader::addAttribute(SvgDocument::Element &element, const QStrin
     if (!isSvgAttribute(key) || hasOutsideUrl(value) || value.contains(u'\\'))
         return;
     if (key == QLatin1String("id"))
-        element.id = isPlainId(value) ? value : QString();
+        element.id = isPlainSvgId(value) ? value : QString();
     else if (key == QLatin1String("class"))
         element.classes = value;
     else if (key == QLatin1String("style"))
@@ -187,7 +180,7 @@ void SvgDocumentReader::addReference(SvgDocument::Element &element, const QStrin
     QString kept;
     if (element.name == QLatin1String("image"))
         kept = carriedPicture(element, target);
-    else if (target.startsWith(u'#') && isPlainId(QStringView(target).sliced(1)))
+    else if (target.startsWith(u'#') && isPlainSvgId(QStringView(target).sliced(1)))
         kept = target;
     if (kept.isEmpty())
         return;

@@ -11,6 +11,8 @@
 #include <QPainter>
 
 #include <cmath>
+#include <mutex>
+#include <numeric>
 #include <unordered_map>
 
 namespace lorva {
@@ -35,6 +37,11 @@ constexpr double kMaxFilledPixels = 2e8;
 constexpr double kMaxLayerPixels = 3.2e7;
 constexpr double kMaxOutlineRows = 2.5e8;
 
+// Other work for a glyph at its bounds, as shares of such a drawing.
+constexpr double kCrossingsShare = 0.5;
+constexpr double kMeasuringShare = 0.25;
+constexpr double kWritingShare = 0.02;
+
 /// The largest side of a picture that such a glyph may take.
 double affordableSide(const SvgReferences::Weight &weight)
 {
@@ -42,6 +49,22 @@ double affordableSide(const SvgReferences::Weight &weight)
     const double byLayers = std::sqrt(kMaxLayerPixels / std::max(1.0, weight.layers));
     const double byOutlines = kMaxOutlineRows / std::max(1.0, weight.bytes);
     return std::min({double(kMaxGlyphPictureSide), byFill, byLayers, byOutlines});
+}
+
+/// What a picture of so many pixels costs; 1 is the most that one may.
+double drawingWork(const SvgReferences::Weight &weight, QSize pixels)
+{
+    const double area = double(pixels.width()) * pixels.height();
+    return weight.elements * area / kMaxFilledPixels + weight.layers * area / kMaxLayerPixels
+        + weight.bytes * pixels.height() / kMaxOutlineRows
+        + kCrossingsShare * weight.crossings / kMaxSvgCrossings;
+}
+
+double measuringWork(const SvgReferences::Weight &weight, qsizetype documentBytes)
+{
+    return kMeasuringShare
+        * std::max(weight.elements / kMaxSvgElements, weight.bytes / kMaxSvgAttributeBytes)
+        + kWritingShare * double(documentBytes) / double(kMaxSvgDocumentBytes);
 }
 
 /// Documents of a font, read when first asked for; each serves a range of glyphs (OpenType `SVG `).
@@ -55,6 +78,13 @@ public:
     }
 
     bool isEmpty() const { return m_list.u16(0) == 0; }
+    void beginText() { m_bytesLeft = kMaxSvgBytesPerText; }
+    bool isUsedUp() const { return m_bytesLeft <= 0; }
+    qsizetype bytesKept() const
+    {
+        return std::accumulate(m_kept.begin(), m_kept.end(), qsizetype(0),
+                               [](qsizetype sum, const Kept &kept) { return sum + kept.bytes(); });
+    }
 
     /// Null when there is none that can be drawn from. Good until the next call.
     SvgDocument *find(quint32 glyph)
@@ -68,7 +98,7 @@ public:
         if (known != m_kept.end())
             m_kept.splice(m_kept.begin(), m_kept, known);
         else
-            keep(offset, SvgDocument::read(m_list.bytes(offset, m_list.u32(*record + 8))));
+            keep(offset, read(m_list.bytes(offset, m_list.u32(*record + 8))));
         return m_kept.front().document ? &*m_kept.front().document : nullptr;
     }
 
@@ -77,7 +107,19 @@ private:
     {
         quint32 offset = 0;
         Result<SvgDocument> document;
+
+        qsizetype bytes() const { return document ? document->size() : 0; }
     };
+
+    /// What cannot be read was inflated for nothing, as far as may be.
+    Result<SvgDocument> read(QByteArrayView bytes)
+    {
+        if (isUsedUp())
+            return failure(ErrorKind::tooLarge, QStringLiteral("the text takes too many drawings"));
+        Result<SvgDocument> document = SvgDocument::read(bytes);
+        m_bytesLeft -= document ? document->size() : kMaxSvgDocumentBytes;
+        return document;
+    }
 
     std::optional<quint64> findRecord(quint32 glyph) const
     {
@@ -101,7 +143,7 @@ private:
         m_kept.push_front({offset, std::move(document)});
         qsizetype bytes = 0;
         for (auto it = m_kept.begin(); it != m_kept.end(); ++it) {
-            bytes += it->document ? it->document->size() : 0;
+            bytes += it->bytes();
             if (bytes > kMaxKeptSvgBytes && it != m_kept.begin()) {
                 m_kept.erase(it, m_kept.end());
                 return;
@@ -112,6 +154,7 @@ private:
     HeldTable m_table;
     TableView m_list;
     std::list<Kept> m_kept;
+    qsizetype m_bytesLeft = kMaxSvgBytesPerText;
 };
 
 /// What is known of a glyph once it was asked for.
@@ -132,27 +175,42 @@ struct PictureRequest
     QRgb foreground = 0;
 };
 
-class SvgGlyphs final : public ColorGlyphSource
+class SvgGlyphs
 {
 public:
     explicit SvgGlyphs(const Font &font)
-        : m_documents(font)
+        : m_font(font)
+        , m_documents(font)
         , m_palette(chosenColors(font))
         , m_unitsPerEm(std::max(1, font.face()->metrics().unitsPerEm))
         , m_pointsPerUnit(font.pointSize() / SvgDocument::kEmSide)
     {
     }
 
+    const Font &font() const { return m_font; }
     bool isEmpty() const { return m_documents.isEmpty(); }
-    bool has(quint32 glyph) override { return known(glyph).isDrawable; }
+    /// Whether the next text would find the same in them as in new ones, in little memory.
+    bool mayServeAgain() const
+    {
+        return m_documents.bytesKept() <= kMaxSvgDocumentBytes && !m_documents.isUsedUp()
+            && m_work <= kMaxSvgWorkPerText;
+    }
+    void beginText()
+    {
+        m_ready.clear();
+        m_documents.beginText();
+        m_work = 0;
+    }
 
-    QRectF bounds(quint32 glyph) override
+    bool has(quint32 glyph) { return known(glyph).isDrawable; }
+
+    QRectF bounds(quint32 glyph)
     {
         const QRectF ink = known(glyph).ink;
         return {ink.topLeft() * m_pointsPerUnit, ink.size() * m_pointsPerUnit};
     }
 
-    bool paint(QPainter &painter, quint32 glyph, const QColor &foreground) override
+    bool paint(QPainter &painter, quint32 glyph, const QColor &foreground)
     {
         const KnownGlyph &what = known(glyph);
         if (!what.isDrawable)
@@ -181,13 +239,15 @@ private:
 
     KnownGlyph look(quint32 glyph)
     {
-        SvgDocument *const document = m_documents.find(glyph);
+        SvgDocument *const document =
+            m_work <= kMaxSvgWorkPerText ? m_documents.find(glyph) : nullptr;
         if (document == nullptr)
             return {};
         const QByteArray id = elementId(glyph);
         const Result<SvgReferences::Weight> weight = document->weight(QString::fromLatin1(id));
         if (!weight)
             return {};
+        m_work += measuringWork(*weight, document->size());
         const SvgDocument::Written written = document->write(
             QString::fromLatin1(id), {.unitsPerEm = m_unitsPerEm, .isToBeMeasured = true},
             {m_palette, qRgb(0, 0, 0)});
@@ -263,6 +323,8 @@ private:
 
     QImage drawn(const PictureRequest &request, const QRectF &ink)
     {
+        if (m_work > kMaxSvgWorkPerText)
+            return {};
         const SvgDrawing *const drawing = readyDrawing(request.glyph, request.foreground, ink);
         if (drawing == nullptr)
             return {};
@@ -273,6 +335,7 @@ private:
                      QImage::Format_ARGB32_Premultiplied);
         if (image.isNull())
             return {};
+        m_work += drawingWork(known(request.glyph).weight, image.size());
         image.fill(Qt::transparent);
         const QPointF at = request.phase + QPointF(kMarginPx, kMarginPx);
         return drawing->render(image, elementId(request.glyph), at, size) ? image : QImage();
@@ -307,6 +370,7 @@ private:
         std::unique_ptr<SvgDrawing> drawing;
     };
 
+    const Font m_font;
     SvgDocuments m_documents;
     const std::vector<QRgb> m_palette;
     const double m_unitsPerEm;
@@ -314,6 +378,73 @@ private:
     std::unordered_map<quint32, KnownGlyph> m_known;
     std::list<Ready> m_ready;
     PictureCache m_pictures{kMaxKeptPictureBytes};
+    double m_work = 0;
+};
+
+/// The glyphs of the fonts that were drawn last. A specimen is measured and then painted; reading
+/// its documents for each would take twice as long. Thread: any.
+class IdleSvgGlyphs
+{
+public:
+    static IdleSvgGlyphs &instance()
+    {
+        // Never destroyed: workers may still be drawing while the process ends.
+        static auto *idle = new IdleSvgGlyphs;
+        return *idle;
+    }
+
+    std::unique_ptr<SvgGlyphs> take(const Font &font)
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = std::find_if(m_idle.begin(), m_idle.end(),
+                                        [&](const auto &glyphs) { return glyphs->font() == font; });
+        if (found == m_idle.end())
+            return nullptr;
+        std::unique_ptr<SvgGlyphs> glyphs = std::move(*found);
+        m_idle.erase(found);
+        return glyphs;
+    }
+
+    void keep(std::unique_ptr<SvgGlyphs> glyphs)
+    {
+        if (!glyphs->mayServeAgain())
+            return;
+        glyphs->beginText();
+        std::list<std::unique_ptr<SvgGlyphs>> dropped; // freed after the lock
+        const std::lock_guard lock(m_mutex);
+        m_idle.push_front(std::move(glyphs));
+        if (m_idle.size() > kMost)
+            dropped.splice(dropped.begin(), m_idle, std::prev(m_idle.end()));
+    }
+
+private:
+    static constexpr size_t kMost = 2;
+
+    std::mutex m_mutex;
+    std::list<std::unique_ptr<SvgGlyphs>> m_idle;
+};
+
+/// Has the glyphs for as long as one text takes.
+class BorrowedSvgGlyphs final : public ColorGlyphSource
+{
+public:
+    explicit BorrowedSvgGlyphs(std::unique_ptr<SvgGlyphs> glyphs)
+        : m_glyphs(std::move(glyphs))
+    {
+    }
+    ~BorrowedSvgGlyphs() override { IdleSvgGlyphs::instance().keep(std::move(m_glyphs)); }
+    BorrowedSvgGlyphs(const BorrowedSvgGlyphs &) = delete;
+    BorrowedSvgGlyphs &operator=(const BorrowedSvgGlyphs &) = delete;
+
+    bool has(quint32 glyph) override { return m_glyphs->has(glyph); }
+    QRectF bounds(quint32 glyph) override { return m_glyphs->bounds(glyph); }
+    bool paint(QPainter &painter, quint32 glyph, const QColor &foreground) override
+    {
+        return m_glyphs->paint(painter, glyph, foreground);
+    }
+
+private:
+    std::unique_ptr<SvgGlyphs> m_glyphs;
 };
 
 } // namespace
@@ -322,8 +453,10 @@ std::unique_ptr<ColorGlyphSource> makeSvgGlyphs(const Font &font)
 {
     if (font.isNull() || !font.face()->data().directory.has(fontTag('S', 'V', 'G', ' ')))
         return nullptr;
-    auto glyphs = std::make_unique<SvgGlyphs>(font);
-    return glyphs->isEmpty() ? nullptr : std::move(glyphs);
+    std::unique_ptr<SvgGlyphs> glyphs = IdleSvgGlyphs::instance().take(font);
+    if (!glyphs)
+        glyphs = std::make_unique<SvgGlyphs>(font);
+    return glyphs->isEmpty() ? nullptr : std::make_unique<BorrowedSvgGlyphs>(std::move(glyphs));
 }
 
 } // namespace lorva

@@ -73,6 +73,11 @@ bool contains(const auto &names, QStringView name)
                        [name](const char *known) { return name == QLatin1String(known); });
 }
 
+bool isIdCharacter(QChar c)
+{
+    return c.isLetterOrNumber() || QStringView(u"-_.:").contains(c);
+}
+
 /// Past the parenthesis that closes the one before `at`.
 qsizetype endOfParentheses(QStringView text, qsizetype at)
 {
@@ -129,21 +134,28 @@ std::vector<SvgDeclaration> svgDeclarations(const QString &text)
     return declarations;
 }
 
+bool isPlainSvgId(QStringView id)
+{
+    return !id.isEmpty() && std::all_of(id.begin(), id.end(), isIdCharacter);
+}
+
 QStringList svgUrlIds(QStringView value)
 {
     QStringList ids;
     constexpr QLatin1String start("url(");
+    // Each goes on behind the one before it, so that a text of nothing else takes no longer.
     for (qsizetype at = value.indexOf(start, 0, Qt::CaseInsensitive); at >= 0;
          at = value.indexOf(start, at, Qt::CaseInsensitive)) {
         at += start.size();
-        const qsizetype end = endOfParentheses(value, at);
-        QStringView id = value.sliced(at, end - at);
-        while (!id.isEmpty() && QStringView(u"\"'() ").contains(id.front()))
-            id = id.sliced(1);
-        while (!id.isEmpty() && QStringView(u"\"'() ").contains(id.back()))
-            id.chop(1);
-        if (id.startsWith(u'#'))
-            ids.append(id.sliced(1).toString());
+        while (at < value.size()
+               && (value[at].isSpace() || QStringView(u"\"'(").contains(value[at])))
+            ++at;
+        if (at >= value.size() || value[at] != u'#')
+            continue;
+        const auto *const begin = value.begin() + at + 1;
+        const auto *const end = std::find_if_not(begin, value.end(), isIdCharacter);
+        ids.append(QStringView(begin, end).toString());
+        at = end - value.begin();
     }
     return ids;
 }

@@ -29,6 +29,8 @@ struct SvgDeclaration
 /// The declarations of a style attribute or of a rule that may stand.
 std::vector<SvgDeclaration> svgDeclarations(const QString &text);
 
+/// Letters, digits and a few signs: no other ids are kept.
+bool isPlainSvgId(QStringView id);
 /// The ids in a value's "url(#id)".
 QStringList svgUrlIds(QStringView value);
 /// Whether the element is composed apart with that value.

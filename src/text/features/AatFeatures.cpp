@@ -4,7 +4,7 @@
 
 #include "text/features/FeatureRegistry.h"
 #include "text/FontLimits.h"
-#include "text/TableView.h"
+#include "text/HeldTable.h"
 
 #include <hb-aat.h>
 
@@ -16,20 +16,6 @@ namespace lorva {
 
 namespace {
 
-using BlobPtr = std::unique_ptr<hb_blob_t, decltype(&hb_blob_destroy)>;
-
-BlobPtr tableBlob(hb_face_t *face, FontTag tag)
-{
-    return BlobPtr(hb_face_reference_table(face, tag), &hb_blob_destroy);
-}
-
-TableView viewOf(const BlobPtr &blob)
-{
-    unsigned length = 0;
-    const char *bytes = hb_blob_get_data(blob.get(), &length);
-    return TableView(QByteArrayView(bytes, qsizetype(length)));
-}
-
 /// Which pairs leave the subtables switched as they are at the start (`morx`, or the older `mort`):
 /// the pairs that are on by themselves.
 class ChainDefaults
@@ -37,11 +23,11 @@ class ChainDefaults
 public:
     explicit ChainDefaults(hb_face_t *face)
     {
-        const BlobPtr extended = tableBlob(face, fontTag('m', 'o', 'r', 'x'));
-        if (hb_blob_get_length(extended.get()) > 0)
-            readChains(viewOf(extended), 16);
+        const HeldTable extended(face, fontTag('m', 'o', 'r', 'x'));
+        if (!extended.view().isEmpty())
+            readChains(extended.view(), 16);
         else
-            readChains(viewOf(tableBlob(face, fontTag('m', 'o', 'r', 't'))), 12);
+            readChains(HeldTable(face, fontTag('m', 'o', 'r', 't')).view(), 12);
     }
 
     std::optional<bool> isOn(FeaturePair pair) const

@@ -3,6 +3,7 @@
 #include "text/features/FeatureReach.h"
 #include "text/features/LayoutLookups.h"
 #include "text/FontLimits.h"
+#include "text/HeldTable.h"
 
 #include <QSet>
 
@@ -15,23 +16,13 @@ namespace {
 
 constexpr size_t kMaxLigaturesTold = 200;
 
-template <auto destroy>
-struct Destroy
-{
-    template <class T>
-    void operator()(T *object) const
-    {
-        destroy(object);
-    }
-};
-using SetPtr = std::unique_ptr<hb_set_t, Destroy<hb_set_destroy>>;
-using BlobPtr = std::unique_ptr<hb_blob_t, Destroy<hb_blob_destroy>>;
+using SetPtr = std::unique_ptr<hb_set_t, decltype(&hb_set_destroy)>;
 
 /// The lookups of a feature in one table, whatever script and language; at most
 /// kMaxFeatureLookups.
 std::vector<quint32> lookupsOf(const FeatureTables &tables, hb_tag_t table, FontTag tag)
 {
-    const SetPtr lookups(hb_set_create());
+    const SetPtr lookups(hb_set_create(), &hb_set_destroy);
     for (const FeatureTables::Record &record : tables.records()) {
         if (record.table != table || record.tag != tag)
             continue;
@@ -95,10 +86,8 @@ private:
         const std::vector<quint32> lookups = lookupsOf(m_tables, table, m_tag);
         if (lookups.empty())
             return;
-        const BlobPtr blob(hb_face_reference_table(m_tables.face(), table));
-        unsigned length = 0;
-        const char *bytes = hb_blob_get_data(blob.get(), &length);
-        LayoutLookups reader(QByteArrayView(bytes, qsizetype(length)), kind, m_face.glyphCount());
+        const HeldTable held(m_tables.face(), table);
+        LayoutLookups reader(held.bytes(held.view().size()), kind, m_face.glyphCount());
         for (const quint32 lookup : lookups) {
             reader.forEachInput(lookup, [this](quint32 glyph) { touch(glyph); });
             if (kind != LayoutLookups::Kind::substitution)

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-// Friendly names as the OpenType specification registers them (Registered features).
+// Friendly names as OpenType registers them ("Registered features").
 
 namespace lorva {
 

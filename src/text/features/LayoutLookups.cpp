@@ -25,6 +25,10 @@ constexpr int kContextPositioning = 7;
 constexpr int kChainedPositioning = 8;
 constexpr int kPositioningExtension = 9;
 
+constexpr size_t kClasses = 0x10000;
+/// Room for marks of all classes takes as long to make as so many glyphs to visit.
+constexpr quint64 kStepsToMarkClasses = 64;
+
 } // namespace
 
 LayoutLookups::LayoutLookups(QByteArrayView table, Kind kind, int glyphCount)
@@ -151,7 +155,8 @@ void LayoutLookups::visitPositioning(const Subtable &subtable, const Visit &visi
 void LayoutLookups::visitPairs(const TableView &subtable, const Visit &visit)
 {
     if (subtable.u16(0) == 2) {
-        visitClasses(subtable.from(subtable.u16(10)), std::vector<bool>(0x10000, true), visit);
+        static const std::vector<bool> all(kClasses, true);
+        visitClasses(subtable.from(subtable.u16(10)), all, visit);
         return;
     }
     const int values = std::popcount(subtable.u16(4)) + std::popcount(subtable.u16(6));
@@ -176,8 +181,8 @@ void LayoutLookups::visitContext(const TableView &subtable, bool isChained, cons
     visitCoverage(subtable, 2, visit);
     if (format == 1) {
         visitRules(subtable, 4, isChained, visit);
-    } else if (format == 2) {
-        std::vector<bool> wanted(0x10000);
+    } else if (format == 2 && step(kStepsToMarkClasses)) {
+        std::vector<bool> wanted(kClasses);
         visitRules(subtable, isChained ? 10 : 6, isChained,
                    [&](quint32 number) { wanted[number & 0xFFFF] = true; });
         visitClasses(subtable.from(subtable.u16(isChained ? 6 : 4)), wanted, visit);

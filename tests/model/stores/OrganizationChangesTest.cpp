@@ -296,6 +296,11 @@ struct Undoing
     Change expected;
 };
 
+void PrintTo(const Undoing &row, std::ostream *out)
+{
+    *out << row.what;
+}
+
 class UndoAfterOthers : public testing::TestWithParam<Undoing>
 {
 };

@@ -179,6 +179,11 @@ struct Loading
     bool forgetsClassification;
 };
 
+void PrintTo(const Loading &row, std::ostream *out)
+{
+    *out << row.what;
+}
+
 class StyleLoading : public testing::TestWithParam<Loading>
 {
 };

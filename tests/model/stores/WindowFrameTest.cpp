@@ -17,6 +17,11 @@ struct Opening
     QRect expected;
 };
 
+void PrintTo(const Opening &row, std::ostream *out)
+{
+    *out << row.what;
+}
+
 class MainWindowFrame : public testing::TestWithParam<Opening>
 {
 };
