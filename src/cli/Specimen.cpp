@@ -46,6 +46,8 @@ Result<std::vector<QString>> writeSpecimen(const SpecimenRequest &request)
             ErrorKind::tooLarge,
             QStringLiteral("the text needs %1 pixels of height; give a --height up to %2")
                 .arg(QString::number(page.size.height()), QString::number(kMaxSpecimenSide)));
+    if (page.isCropped)
+        notes.push_back(QStringLiteral("the picture is too small for all of the text"));
     const Result<QByteArray> bytes = (*encode)(page);
     if (!bytes)
         return tl::unexpected(bytes.error());

@@ -18,6 +18,8 @@ struct SpecimenPage
     QColor color;
     QColor background;
     QString title;
+    /// Something of the text lies outside the picture.
+    bool isCropped = false;
 };
 SpecimenPage layOutSpecimen(const SpecimenRequest &request, const Font &font);
 

@@ -124,7 +124,8 @@ QPainterPath missingGlyphBox(const Font &font, QPointF at, double advance)
         font.capHeight() > 0 ? font.capHeight() : kCapHeight * font.pointSize();
     const QRectF box(at.x() + kBearing * advance, at.y() - capHeight, (1 - 2 * kBearing) * advance,
                      capHeight);
-    const double stroke = std::min({kStroke * font.pointSize(), box.width() / 4, box.height() / 4});
+    const double stroke =
+        std::min({std::max(1.0, kStroke * font.pointSize()), box.width() / 4, box.height() / 4});
     QPainterPath hole;
     hole.addRect(box.adjusted(stroke, stroke, -stroke, -stroke));
     QPainterPath path;

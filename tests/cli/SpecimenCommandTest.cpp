@@ -212,6 +212,21 @@ TEST(SpecimenCommand, WritesPdfOfPathsOfThePicturesSize)
     EXPECT_NE(pdf, pictureOf(kGaramond, "b.pdf", options + QStringList{"--features", "-liga"}));
 }
 
+TEST(SpecimenCommand, MakesRoomForInkBeyondTheText)
+{
+    const QString dejavu = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
+    const QString stacked = "A" + QString(8, QChar(0x0301));
+    const QImage whole = imageOf(dejavu, {"--text", stacked});
+    const Ink ink = inkOf(whole);
+    EXPECT_GT(ink.box.top(), 0);
+    EXPECT_LT(ink.box.bottom(), whole.height() - 1);
+    EXPECT_GT(whole.height(), imageOf(dejavu, {"--text", "A"}).height());
+
+    const Outcome cropped = specimen(dejavu, "low.png", {"--text", stacked, "--height", "60"});
+    EXPECT_EQ(cropped.exitCode, 0);
+    EXPECT_EQ(cropped.error, "lorvactl: the picture is too small for all of the text\n");
+}
+
 TEST(SpecimenCommand, SaysWhatItCannotDo)
 {
     const QString plain = path(test::writeFile(TestHome::instance().root().child("fonts"),
