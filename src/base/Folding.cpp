@@ -223,4 +223,9 @@ QByteArray NameCollator::sortKey(QStringView text) const
     }
 }
 
+bool isDefaultIgnorable(char32_t scalar)
+{
+    return u_hasBinaryProperty(UChar32(scalar), UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
+}
+
 } // namespace lorva

@@ -42,4 +42,8 @@ private:
     std::shared_ptr<const Impl> m_impl;
 };
 
+/// Whether a character only says how others look (joiners, variation selectors), so that a font
+/// need not have a glyph for it: Unicode Default_Ignorable_Code_Point. Thread: any.
+bool isDefaultIgnorable(char32_t scalar);
+
 } // namespace lorva

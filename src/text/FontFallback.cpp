@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "text/FontFallback.h"
 
+#include "base/Folding.h"
 #include "platform/FallbackFontLocator.h"
 
 #include <QHash>
-
-#include <unicode/uchar.h>
 
 #include <algorithm>
 #include <cmath>
@@ -73,10 +72,9 @@ int weightOf(const Font &font)
     return nearest;
 }
 
-/// Joiners and selectors say how other characters look; a font need not have glyphs for them.
 bool needsGlyph(char32_t c)
 {
-    return !u_hasBinaryProperty(UChar32(c), UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
+    return !isDefaultIgnorable(c);
 }
 
 bool hasAll(const FontFace &face, std::span<const char32_t> characters)

@@ -5,6 +5,8 @@
 #include <QByteArrayView>
 #include <QtEndian>
 
+#include <optional>
+
 namespace lorva {
 
 /// Big-endian numbers of a table that may lie about its own size: what lies outside reads as 0.
@@ -48,5 +50,23 @@ private:
 
     QByteArrayView m_bytes;
 };
+
+/// Of `count` records of `size` bytes that are sorted by the 16-bit number that each begins with,
+/// the place of the one for `number`; nothing when there is none.
+inline std::optional<quint64> findRecord(TableView records, quint64 count, quint64 size,
+                                         quint32 number)
+{
+    quint64 low = 0;
+    quint64 high = count;
+    while (low < high) {
+        const quint64 middle = low + (high - low) / 2;
+        if (records.u16(middle * size) < number)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    const bool isThere = low < count && records.has(low * size, size);
+    return isThere && records.u16(low * size) == number ? std::optional(low) : std::nullopt;
+}
 
 } // namespace lorva

@@ -30,6 +30,18 @@ inline Font realFontAt(const QByteArray &path, double pointSize)
     return Font(openFace(realFont(path)), pointSize);
 }
 
+/// "liga=0,wght=700" as tags and values.
+template <class Setting>
+std::vector<Setting> settings(const char *text)
+{
+    std::vector<Setting> result;
+    for (const QString &part : QString::fromLatin1(text).split(u',', Qt::SkipEmptyParts)) {
+        const auto tag = tagFromText(QStringView(part).left(4));
+        result.push_back({tag.value_or(0), decltype(Setting::value)(part.mid(5).toDouble())});
+    }
+    return result;
+}
+
 /// The lines' own text, "|" between lines and "…" where an ellipsis stands.
 inline QString linesText(const QString &text, const TextLayout &layout)
 {

@@ -22,18 +22,6 @@ struct SettingRow
     int faceIndex = 0;
 };
 
-/// "liga=0,wght=700" as tags and values.
-template <class Setting>
-std::vector<Setting> settings(const char *text)
-{
-    std::vector<Setting> result;
-    for (const QString &part : QString::fromLatin1(text).split(u',', Qt::SkipEmptyParts)) {
-        const auto tag = tagFromText(QStringView(part).left(4));
-        result.push_back({tag.value_or(0), decltype(Setting::value)(part.mid(5).toDouble())});
-    }
-    return result;
-}
-
 constexpr char kAmiri[] = "opentype/fonts-hosny-amiri/Amiri-Regular.ttf";
 constexpr char kLohit[] = "truetype/lohit-devanagari/Lohit-Devanagari.ttf";
 constexpr char kGaramond[] = "opentype/ebgaramond/EBGaramond12-Regular.otf";

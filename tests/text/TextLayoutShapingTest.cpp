@@ -30,18 +30,6 @@ void PrintTo(const ShapingRow &row, std::ostream *out)
          << nameText(row.language);
 }
 
-/// "liga=0,wght=700" as tags and values.
-template <class Setting>
-std::vector<Setting> settings(const char *text)
-{
-    std::vector<Setting> result;
-    for (const QString &part : QString::fromLatin1(text).split(u',', Qt::SkipEmptyParts)) {
-        const auto tag = tagFromText(QStringView(part).left(4));
-        result.push_back({tag.value_or(0), decltype(Setting::value)(part.mid(5).toDouble())});
-    }
-    return result;
-}
-
 /// What the reference shaper prints: "[12+600|7@-3,0+0]", in font units.
 QString referenceGlyphs(const ShapingRow &row, const QString &text, const char *direction)
 {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/FontconfigFallbackFonts.h"
 
+#include "base/Folding.h"
 #include "platform/linux/FontconfigHandles.h"
 
 #include <QHash>
@@ -198,7 +199,7 @@ private:
 /// Joiners and selectors tell how other characters look; fonts need not list them.
 bool isMissed(char32_t c)
 {
-    return !u_hasBinaryProperty(UChar32(c), UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
+    return !isDefaultIgnorable(c);
 }
 
 std::vector<Location> choose(const Order &order, std::span<const char32_t> characters)

@@ -43,23 +43,6 @@ int signedByteAt(QByteArrayView bytes, qsizetype at)
     return qint8(bytes[at]);
 }
 
-/// Of a list of numbers in ascending order, each in a record of `step` bytes.
-std::optional<quint32> findNumber(const TableView &list, quint32 count, quint64 step,
-                                  quint32 number)
-{
-    quint32 low = 0;
-    quint32 high = count;
-    while (low < high) {
-        const quint32 middle = low + (high - low) / 2;
-        if (list.u16(step * middle) < number)
-            low = middle + 1;
-        else
-            high = middle;
-    }
-    const bool isThere = low < count && list.has(step * low, 2) && list.u16(step * low) == number;
-    return isThere ? std::optional(low) : std::nullopt;
-}
-
 class ColorBitmaps final : public BitmapStrikes
 {
 public:
@@ -125,14 +108,13 @@ private:
             return between(subtable, subtable.u16(8 + 2 * quint64(index)),
                            subtable.u16(10 + 2 * quint64(index)));
         case 4: {
-            const auto entry = findNumber(subtable.from(12), subtable.u32(8), 4, glyph);
+            const auto entry = findRecord(subtable.from(12), subtable.u32(8), 4, glyph);
             if (!entry)
                 return std::nullopt;
-            return between(subtable, subtable.u16(14 + 4 * quint64(*entry)),
-                           subtable.u16(18 + 4 * quint64(*entry)));
+            return between(subtable, subtable.u16(14 + 4 * *entry), subtable.u16(18 + 4 * *entry));
         }
         case 5: {
-            const auto entry = findNumber(subtable.from(24), subtable.u32(20), 2, glyph);
+            const auto entry = findRecord(subtable.from(24), subtable.u32(20), 2, glyph);
             return entry ? sameSized(subtable, *entry) : std::nullopt;
         }
         default:

@@ -37,23 +37,6 @@ TableView subtable(TableView table, quint64 field)
     return offset ? table.from(offset) : TableView();
 }
 
-/// Of records of `size` bytes that are sorted by the glyph they begin with, the one for `glyph`;
-/// `count` when there is none.
-quint64 findRecord(TableView records, quint64 count, quint64 size, quint32 glyph)
-{
-    quint64 low = 0;
-    quint64 high = count;
-    while (low < high) {
-        const quint64 middle = low + (high - low) / 2;
-        if (records.u16(middle * size) < glyph)
-            low = middle + 1;
-        else
-            high = middle;
-    }
-    const bool isThere = low < count && records.has(low * size, size);
-    return isThere && records.u16(low * size) == glyph ? low : count;
-}
-
 } // namespace
 
 ColrReader::ColrReader(const Font &font)
@@ -89,12 +72,11 @@ std::optional<ColrPaint> ColrReader::read(quint32 glyph)
 std::optional<ColrPaint> ColrReader::readLayersOfVersion0(quint32 glyph)
 {
     const TableView records = subtable(m_table, 4);
-    const quint64 count = m_table.u16(2);
-    const quint64 found = findRecord(records, count, 6, glyph);
-    if (found == count)
+    const auto found = findRecord(records, m_table.u16(2), 6, glyph);
+    if (!found)
         return std::nullopt;
-    const quint64 first = records.u16(found * 6 + 2);
-    const quint64 last = std::min<quint64>(first + records.u16(found * 6 + 4), m_table.u16(12));
+    const quint64 first = records.u16(*found * 6 + 2);
+    const quint64 last = std::min<quint64>(first + records.u16(*found * 6 + 4), m_table.u16(12));
     const TableView layerRecords = subtable(m_table, 8);
     ColrPaint result;
     result.kind = ColrPaint::Kind::layers;
@@ -113,8 +95,8 @@ quint64 ColrReader::positionOf(quint32 glyph) const
     const quint64 list = m_table.u32(14);
     const TableView records = list ? m_table.from(list + 4) : TableView();
     const quint64 count = list ? m_table.u32(list) : 0;
-    const quint64 found = findRecord(records, count, 6, glyph);
-    const quint32 offset = found == count ? 0 : records.u32(found * 6 + 2);
+    const auto found = findRecord(records, count, 6, glyph);
+    const quint32 offset = found ? records.u32(*found * 6 + 2) : 0;
     return offset ? list + offset : 0;
 }
 

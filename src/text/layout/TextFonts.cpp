@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "text/layout/TextFonts.h"
 
+#include "base/Folding.h"
 #include "text/FontFallback.h"
 #include "text/layout/TextBoundaries.h"
 
@@ -42,7 +43,7 @@ bool isMissed(char32_t c)
     case U_PARAGRAPH_SEPARATOR:
         return false;
     default:
-        return !u_hasBinaryProperty(UChar32(c), UCHAR_DEFAULT_IGNORABLE_CODE_POINT);
+        return !isDefaultIgnorable(c);
     }
 }
 
@@ -72,7 +73,7 @@ std::u32string charactersOf(QStringView cluster)
 {
     std::u32string characters;
     forEachCharacter(cluster, [&](char32_t c) {
-        if (isMissed(c) || u_hasBinaryProperty(UChar32(c), UCHAR_DEFAULT_IGNORABLE_CODE_POINT))
+        if (isMissed(c) || isDefaultIgnorable(c))
             characters += c;
         return characters.size() < kMaxClusterCharacters;
     });
