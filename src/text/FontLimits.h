@@ -133,10 +133,10 @@ constexpr qint64 kMaxColorImagePixels = qint64(4) << 20;
 /// All layers of one glyph that are in memory together: 64 MB.
 constexpr qint64 kMaxColorLayerPixels = qint64(16) << 20;
 /// How often each pixel of a colour glyph may be painted over; real glyphs do so some 50 times.
-constexpr qint64 kMaxPaintsPerPixel = 400;
+constexpr qint64 kMaxPaintsPerPixel = 100;
 /// How often each pixel of a whole image may be, and the same for devices of unknown size.
 constexpr qint64 kMaxPaintsPerImagePixel = 1000;
-constexpr qint64 kMaxPaintedPixels = qint64(4) << 30;
+constexpr qint64 kMaxPaintedPixels = qint64(1) << 30;
 
 /// Pictures of glyphs: the largest in use have 1,024 pixels a side.
 constexpr int kMaxGlyphPictureSide = 2048;
