@@ -130,6 +130,8 @@ constexpr qint64 kMaxPaintDeltaSteps = 64'000'000;
 constexpr qint64 kMaxColorSegments = 64'000'000;
 /// The picture of one colour glyph: 2,048 by 2,048 pixels. Larger ones are scaled up.
 constexpr qint64 kMaxColorImagePixels = qint64(4) << 20;
+/// And of one on a page: 600 dots an inch up to 120 points.
+constexpr qint64 kMaxVectorImagePixels = qint64(1) << 20;
 /// All layers of one glyph that are in memory together: 64 MB.
 constexpr qint64 kMaxColorLayerPixels = qint64(16) << 20;
 /// How often each pixel of a colour glyph may be painted over; real glyphs do so some 50 times.

@@ -66,8 +66,9 @@ Raster rasterFor(const QPainter &painter, const QRectF &bounds)
     // Written so that what is no number fails too.
     if (!(area(box) > 0) || !raster.pointsToPixels.isInvertible())
         return raster;
-    if (area(box) > double(kMaxColorImagePixels)) {
-        const double shrink = std::sqrt(double(kMaxColorImagePixels) / area(box));
+    const auto most = double(isDevicePixels ? kMaxColorImagePixels : kMaxVectorImagePixels);
+    if (area(box) > most) {
+        const double shrink = std::sqrt(most / area(box));
         raster.pointsToPixels *= QTransform::fromScale(shrink, shrink);
         box = QTransform::fromScale(shrink, shrink).mapRect(box);
         raster.isExact = false;
