@@ -22,11 +22,8 @@ bool hasExtent(const ClosedRange &range)
 
 std::optional<VariableWeight> weightOf(const FontFace &face, const FontStyleRecord &style)
 {
-    const std::vector<VariationAxis> &axes = face.axes();
-    const auto found = std::find_if(axes.begin(), axes.end(), [](const VariationAxis &axis) {
-        return axis.tag == kWeightAxis;
-    });
-    if (found == axes.end())
+    const std::optional<VariationAxis> found = face.axis(kWeightAxis);
+    if (!found)
         return std::nullopt;
     const ClosedRange axis{found->minValue, found->maxValue};
     const ClosedRange range{std::max(axis.lower, kSliderWeights.lower),

@@ -61,11 +61,8 @@ tl::unexpected<Error> unknownAxis(const FontFace &face, FontTag tag)
 Result<VariationSetting> reachable(const FontFace &face, VariationSetting setting,
                                    std::vector<QString> &notes)
 {
-    const std::vector<VariationAxis> &axes = face.axes();
-    const auto axis = std::find_if(axes.begin(), axes.end(), [&](const VariationAxis &each) {
-        return each.tag == setting.tag;
-    });
-    if (axis == axes.end())
+    const std::optional<VariationAxis> axis = face.axis(setting.tag);
+    if (!axis)
         return unknownAxis(face, setting.tag);
     const double value = std::clamp(setting.value, axis->minValue, axis->maxValue);
     if (value != setting.value) {

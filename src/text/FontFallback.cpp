@@ -102,13 +102,12 @@ FacePtr openedFace(const FallbackFontLocator::Location &location)
 std::vector<VariationSetting> variationsFor(const FontFace &face, int weight)
 {
     const bool isOwnInstance = !face.coordinates().empty();
-    for (const VariationAxis &axis : face.axes()) {
-        if (axis.tag == kWeightAxis && !isOwnInstance)
-            return {{kWeightAxis,
-                     std::clamp<double>(weight, std::min(axis.minValue, axis.maxValue),
-                                        std::max(axis.minValue, axis.maxValue))}};
-    }
-    return {};
+    const std::optional<VariationAxis> axis = face.axis(kWeightAxis);
+    if (!axis || isOwnInstance)
+        return {};
+    return {{kWeightAxis,
+             std::clamp<double>(weight, std::min(axis->minValue, axis->maxValue),
+                                std::max(axis->minValue, axis->maxValue))}};
 }
 
 } // namespace
