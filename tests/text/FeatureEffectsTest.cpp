@@ -14,8 +14,6 @@ namespace {
 
 using test::madeFont;
 using test::openFace;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 FontTag tag(const char *text)
 {

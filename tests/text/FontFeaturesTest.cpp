@@ -322,7 +322,7 @@ TEST(FontFeatures, SurvivesDamage)
                 qToBigEndian(kept, cut.data() + record + 12);
                 expectAnswers(cut, kept / 7);
                 QByteArray wild = sound;
-                wild[qsizetype(start + kept)] = char(0xFF);
+                wild[qsizetype(start) + qsizetype(kept)] = char(0xFF);
                 expectAnswers(wild, kept / 7);
             }
         }

@@ -40,14 +40,13 @@ TableView subtable(TableView table, quint64 field)
 } // namespace
 
 ColrReader::ColrReader(const Font &font)
+    : m_held(font, fontTag('C', 'O', 'L', 'R'))
+    , m_table(m_held.view())
+    , m_palette(chosenColors(font))
 {
-    const std::shared_ptr<hb_font_t> shaping = font.shapingFont();
-    m_held = HeldTable(hb_font_get_face(shaping.get()), fontTag('C', 'O', 'L', 'R'));
-    m_table = m_held.view();
-    m_palette = chosenColors(font);
     if (m_table.u16(0) >= 1)
         m_variations = ColrVariations(subtable(m_table, 30), subtable(m_table, 26),
-                                      normalizedCoordinates(shaping.get()));
+                                      normalizedCoordinates(font.shapingFont().get()));
 }
 
 ColrReader::~ColrReader() = default;
