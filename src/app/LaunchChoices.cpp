@@ -79,14 +79,17 @@ Result<void> LaunchChoices::apply(const LaunchOptions &options)
     m_wantedSource = options.source;
     m_sourceBefore = m_model.selectedSource();
     m_wantedFamily = options.selectedFamily;
+    m_wantedDetail = options.detailFamily;
     catchUp();
     return logo;
 }
 
 void LaunchChoices::catchUp()
 {
-    if (selectSource())
-        selectFamily();
+    if (!selectSource())
+        return;
+    selectFamily();
+    openDetail();
 }
 
 /// True once the source is the wanted one, or is not wanted any more.
@@ -111,6 +114,14 @@ void LaunchChoices::selectFamily()
     if (!m_wantedFamily || !m_model.family(*m_wantedFamily))
         return;
     m_model.selectFamily(std::exchange(m_wantedFamily, std::nullopt));
+}
+
+void LaunchChoices::openDetail()
+{
+    if (!m_wantedDetail || !m_model.family(*m_wantedDetail))
+        return;
+    m_model.selectFamily(m_wantedDetail);
+    m_model.openDetail(std::exchange(m_wantedDetail, std::nullopt));
 }
 
 } // namespace lorva

@@ -32,12 +32,14 @@ public:
 private:
     bool selectSource();
     void selectFamily();
+    void openDetail();
 
     LorvaAppModel &m_model;
     std::optional<LaunchSource> m_wantedSource;
     /// Selected when the wanted one was asked for.
     BrowserSource m_sourceBefore;
     std::optional<QString> m_wantedFamily;
+    std::optional<QString> m_wantedDetail;
 };
 
 } // namespace lorva

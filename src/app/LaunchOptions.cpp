@@ -68,6 +68,26 @@ Result<LaunchSheet> parseSheet(const QByteArray &value)
     return usage(QStringLiteral("--sheet takes activate, deactivate, history or settings"));
 }
 
+Result<DetailStage> parseStage(const QByteArray &value)
+{
+    if (value == "text")
+        return DetailStage::text;
+    if (value == "waterfall")
+        return DetailStage::waterfall;
+    if (value == "comparison")
+        return DetailStage::comparison;
+    return usage(QStringLiteral("--stage takes text, waterfall or comparison"));
+}
+
+Result<FontInspectorViewController::Tab> parseInspectorTab(const QByteArray &value)
+{
+    if (value == "features")
+        return FontInspectorViewController::Tab::features;
+    if (value == "info")
+        return FontInspectorViewController::Tab::info;
+    return usage(QStringLiteral("--inspector takes features or info"));
+}
+
 Result<bool> parseAppearance(const QByteArray &value)
 {
     if (value == "light" || value == "dark")
@@ -177,6 +197,9 @@ constexpr Option kOptions[]{
     {"--source", parsed<parseSource, &LaunchOptions::source>},
     {"--search", parsed<parseText, &LaunchOptions::searchText>},
     {"--select", parsed<parseText, &LaunchOptions::selectedFamily>},
+    {"--detail", parsed<parseText, &LaunchOptions::detailFamily>},
+    {"--stage", parsed<parseStage, &LaunchOptions::detailStage>},
+    {"--inspector", parsed<parseInspectorTab, &LaunchOptions::inspectorTab>},
     {"--view", parsed<parseViewMode, &LaunchOptions::viewMode>},
     {"--color", parsed<parseColorMode, &LaunchOptions::colorMode>},
     {"--image", parsed<parseImage, &LaunchOptions::backgroundImageID>},
@@ -238,6 +261,9 @@ Shows every font of this computer as a live specimen.
   --source SOURCE       start in all, active, inactive, style:ID, collection:NAME or foundry:ID
   --search TEXT         start with this text in the search field
   --select NAME         start with this family selected
+  --detail NAME         open this family in the detail view
+  --stage STAGE         show it as text, waterfall or comparison there
+  --inspector TAB       show its features or info beside it
   --view grid|list      start in this view
   --point-size N        start with specimens of this size, in points
   --weight N            start with specimens of this weight, 100 to 900

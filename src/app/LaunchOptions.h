@@ -6,6 +6,7 @@
 #include "base/Result.h"
 #include "model/records/BrowserSource.h"
 #include "model/records/DisplayRecords.h"
+#include "ui/inspector/FontInspectorViewController.h"
 
 #include <QSize>
 
@@ -45,6 +46,10 @@ struct LaunchOptions
     std::optional<LaunchSource> source;
     std::optional<QString> searchText;
     std::optional<QString> selectedFamily;
+    /// Opened in the detail view.
+    std::optional<QString> detailFamily;
+    std::optional<DetailStage> detailStage;
+    std::optional<FontInspectorViewController::Tab> inspectorTab;
     std::optional<ViewMode> viewMode;
     std::optional<ColorMode> colorMode;
     /// One of builtInBackgroundImages().

@@ -11,8 +11,9 @@
 #include "catalog/CatalogCache.h"
 #include "commands/LorvaSettingsViewModel.h"
 #include "model/stores/WindowGeometry.h"
+#include "platform/linux/FontconfigOrthographies.h"
+#include "platform/linux/XdgDesktopOpener.h"
 #include "platform/linux/XdgFolders.h"
-#include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/FontBrowserViewController.h"
 #include "ui/display/BackgroundImageStore.h"
 #include "ui/LorvaRootSplitViewController.h"
@@ -96,6 +97,7 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
         setReducedMotionOverride(true);
     applyChoices(m_options);
     buildWindow();
+    applyDetailChoices(m_options);
     placeWindow();
     watchFirstScreen();
     m_root->browser().focusCards();
@@ -120,6 +122,14 @@ void LorvaApplicationDelegate::applyChoices(const LaunchOptions &options)
         std::fprintf(stderr, "lorva: %s\n", qPrintable(applied.error().detail));
 }
 
+void LorvaApplicationDelegate::applyDetailChoices(const LaunchOptions &options)
+{
+    if (options.detailStage)
+        m_root->detailActions().detailStageChanged(*options.detailStage);
+    if (options.inspectorTab)
+        m_root->showInspectorTab(*options.inspectorTab);
+}
+
 void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
 {
     std::vector<const char *> arguments;
@@ -128,8 +138,10 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
     const auto options = parseLaunchOptions(arguments, start.workingFolder);
     if (options && m_window) {
         // A question that is open comes first: it is about what is shown now.
-        if (!hasAlertSheet(*m_window))
+        if (!hasAlertSheet(*m_window)) {
             applyChoices(*options);
+            applyDetailChoices(*options);
+        }
         m_model->addFoldersForThisRun(options->folders);
     }
     if (!start.activationToken.isEmpty())
@@ -150,7 +162,10 @@ void LorvaApplicationDelegate::buildWindow()
     m_window->setContextMenuPolicy(Qt::NoContextMenu);
     const auto images = std::make_shared<BackgroundImageStore>(
         xdgFolders().applicationSupport.child("background-images"));
-    m_root = new LorvaRootSplitViewController(*m_model, images, m_window.get());
+    m_root = new LorvaRootSplitViewController(
+        *m_model,
+        {images, std::make_shared<FontconfigOrthographies>(), std::make_shared<XdgDesktopOpener>()},
+        m_window.get());
     m_backgroundHostingView = &m_root->backgroundView();
     m_window->setCentralWidget(m_root);
     buildMenu();
@@ -159,17 +174,31 @@ void LorvaApplicationDelegate::buildWindow()
     traceFrames(*m_window);
 }
 
+DetailCommands LorvaApplicationDelegate::detailCommands()
+{
+    DetailActions &actions = m_root->detailActions();
+    return {[this] { return m_root->isDetailOpen(); },
+            [&actions] { actions.detailClosed(); },
+            [&actions](int step) { actions.detailNeighbourWanted(step); },
+            [&actions] { actions.detailInspectorToggled(); },
+            [this] { return m_root->showsInspector(); },
+            [&actions](DetailStage stage) { actions.detailStageChanged(stage); },
+            [&actions] { return actions.session().pointSize; },
+            [&actions](double size) { actions.setPointSize(size); },
+            [this] { m_root->exportDetail(); },
+            [this] { m_root->copyDetailAsCss(); }};
+}
+
 void LorvaApplicationDelegate::buildMenu()
 {
     const TraceStage stage("start: menu");
     m_menu = std::make_unique<MainMenu>(MainMenu::Targets{
         *m_model, *m_updaterController, *m_window,
         [this] { m_root->sidebar().beginCreatingCollection(); },
-        [this] { m_root->folders().addFolders(); },
-        [this] { m_root->browser().topBar().focusSearch(); },
+        [this] { m_root->folders().addFolders(); }, [this] { m_root->focusSearch(); },
         [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); },
         [this] { showSettings(); }, m_root->activation(),
-        [this] { return m_root->browser().selectedNames(); }});
+        [this] { return m_root->selectedNames(); }, detailCommands()});
     m_root->setMainMenu(m_menu->buttonMenu());
     // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
     connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),
@@ -248,7 +277,7 @@ bool LorvaApplicationDelegate::eventFilter(QObject *watched, QEvent *event)
 void LorvaApplicationDelegate::windowRendered()
 {
     // Names come from fonts, and a display closes the connection on a title of megabytes.
-    m_window->setWindowTitle(m_root->browser().state().title.left(kLongestTitle));
+    m_window->setWindowTitle(m_root->title().left(kLongestTitle));
     m_menu->update();
     m_choices.catchUp();
 }
@@ -305,11 +334,12 @@ void LorvaApplicationDelegate::watchFirstScreen()
         look->start();
     });
     connect(look, &QTimer::timeout, this, [this, look] {
-        if (m_root->browser().isDrawn() && !std::exchange(m_specimensAreDrawn, true)) {
+        if (!m_root->isDetailOpen() && m_root->browser().isDrawn()
+            && !std::exchange(m_specimensAreDrawn, true)) {
             m_window->repaint();
             traceMoment("specimens drawn");
         }
-        if (!m_root->browser().isSettled())
+        if (!m_root->isDetailOpen() && !m_root->browser().isSettled())
             return;
         reportFirstScreen();
         if (m_options.screenshot && !isReadyForScreenshot())

@@ -4,6 +4,7 @@
 
 #include "app/LaunchChoices.h"
 #include "app/LaunchOptions.h"
+#include "app/MainMenu.h"
 #include "app/ProgramServices.h"
 #include "model/stores/WindowFrameStore.h"
 #include "platform/SingleInstance.h"
@@ -19,7 +20,6 @@ namespace lorva {
 class LorvaRootSplitViewController;
 class LorvaSettingsViewModel;
 class LorvaWindowBackgroundView;
-class MainMenu;
 class SettingsWindow;
 
 /// Builds the program's objects in their order, opens the one main window, and ends with it.
@@ -67,8 +67,10 @@ protected:
 
 private:
     void applyChoices(const LaunchOptions &options);
+    void applyDetailChoices(const LaunchOptions &options);
     void buildWindow();
     void buildMenu();
+    DetailCommands detailCommands();
     void showSettings();
     bool closesNow();
     void placeWindow();

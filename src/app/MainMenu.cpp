@@ -8,8 +8,10 @@
 #include "commands/ActivationCommands.h"
 #include "model/LorvaAppModel.h"
 #include "platform/UpdaterController.h"
+#include "ui/DetailActions.h"
 #include "ui/sheets/AlertSheet.h"
 #include "ui/style/MenuLook.h"
+#include "ui/style/TextEditing.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -17,6 +19,9 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+
+#include <optional>
+#include <utility>
 
 namespace lorva {
 
@@ -34,6 +39,30 @@ QString commandText(const QString &withName, const QString &bare, const QString 
     QString shown = name;
     shown.replace(u'&', QStringLiteral("&&"));
     return name.isEmpty() ? bare : withName.arg(shown);
+}
+
+/// What the focused widget can undo and redo of what was typed in it; nothing where one does not
+/// type.
+std::optional<std::pair<bool, bool>> typingHistory(const QWidget *focused)
+{
+    if (const auto *field = qobject_cast<const QLineEdit *>(focused))
+        return std::pair(field->isUndoAvailable(), field->isRedoAvailable());
+    if (const auto *text = dynamic_cast<const TextEditing *>(focused))
+        return std::pair(text->canUndo(), text->canRedo());
+    return std::nullopt;
+}
+
+/// A text that has the keyboard sees to its own. False: there is none.
+template <class Act>
+bool passToText(QWidget *focused, Act act)
+{
+    if (auto *field = qobject_cast<QLineEdit *>(focused))
+        act(*field);
+    else if (auto *text = dynamic_cast<TextEditing *>(focused))
+        act(*text);
+    else
+        return false;
+    return true;
 }
 
 } // namespace
@@ -111,6 +140,10 @@ void MainMenu::buildFileMenu()
     add(menu, "Menu.Rescan", tr("Scan Folders Again"), {QKeySequence(Qt::Key_F5)},
         [this] { m_targets.model.loadCatalog(); });
     menu->addSeparator();
+    m_detailActions << add(menu, "Menu.Export", tr("Export Specimen…"),
+                           {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
+                           m_targets.detail.exportPage);
+    menu->addSeparator();
     add(menu, "Menu.Close", tr("Close"), {QKeySequence(Qt::CTRL | Qt::Key_W)},
         [this] { m_targets.window.close(); });
 }
@@ -127,6 +160,9 @@ void MainMenu::buildEditMenu()
             [this] { redo(); });
     menu->addSeparator();
     add(menu, "Menu.Copy", tr("Copy"), {QKeySequence(Qt::CTRL | Qt::Key_C)}, [this] { copy(); });
+    m_detailActions << add(menu, "Menu.CopyAsCss", tr("Copy as CSS"),
+                           {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C)},
+                           m_targets.detail.copyAsCss);
     add(menu, "Menu.SelectAll", tr("Select All"), {QKeySequence(Qt::CTRL | Qt::Key_A)},
         [this] { selectAll(); });
     menu->addSeparator();
@@ -160,6 +196,8 @@ void MainMenu::buildViewMenu()
     menu->addSeparator();
     addSizeActions(menu);
     menu->addSeparator();
+    addDetailActions(menu);
+    menu->addSeparator();
     QList<QKeySequence> fullScreen{QKeySequence(Qt::Key_F11)};
     for (const QKeySequence &key : QKeySequence::keyBindings(QKeySequence::FullScreen))
         if (!fullScreen.contains(key))
@@ -184,16 +222,72 @@ void MainMenu::addModeActions(QMenu *menu)
 
 void MainMenu::addSizeActions(QMenu *menu)
 {
-    LorvaAppModel &model = m_targets.model;
     m_larger = add(menu, "Menu.Larger", tr("Larger Specimens"),
                    {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
-                   [&model] { model.setPointSize(largerSpecimenSize(model.browserPointSize())); });
+                   [this] { setPointSize(largerSpecimenSize(pointSize())); });
     m_smaller =
         add(menu, "Menu.Smaller", tr("Smaller Specimens"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
-            [&model] { model.setPointSize(smallerSpecimenSize(model.browserPointSize())); });
+            [this] { setPointSize(smallerSpecimenSize(pointSize())); });
     add(menu, "Menu.StandardSize", tr("Standard Specimen Size"),
-        {QKeySequence(Qt::CTRL | Qt::Key_0)},
-        [&model] { model.setPointSize(DisplayValues().browserPointSize); });
+        {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] {
+            setPointSize(m_targets.detail.isOpen() ? DetailSession::kStandardPointSize
+                                                   : DisplayValues().browserPointSize);
+        });
+}
+
+/// Of the specimens that are shown: the cards', or the open family's.
+double MainMenu::pointSize() const
+{
+    return m_targets.detail.isOpen() ? m_targets.detail.pointSize()
+                                     : m_targets.model.browserPointSize();
+}
+
+void MainMenu::setPointSize(double pointSize)
+{
+    if (m_targets.detail.isOpen())
+        m_targets.detail.setPointSize(pointSize);
+    else
+        m_targets.model.setPointSize(pointSize);
+}
+
+void MainMenu::addDetailActions(QMenu *menu)
+{
+    const DetailCommands &detail = m_targets.detail;
+    const auto addDetail = [&](const char *name, const QString &text,
+                               const QList<QKeySequence> &shortcuts, std::function<void()> act) {
+        m_detailActions << add(menu, name, text, shortcuts, std::move(act));
+        return m_detailActions.constLast();
+    };
+    addDetail("Menu.CloseDetail", tr("Back to All Cards"), {QKeySequence(Qt::ALT | Qt::Key_Left)},
+              detail.close);
+    addDetail("Menu.NextFamily", tr("Next Family"), {QKeySequence(Qt::CTRL | Qt::Key_PageDown)},
+              [&detail] { detail.step(1); });
+    addDetail("Menu.PreviousFamily", tr("Previous Family"),
+              {QKeySequence(Qt::CTRL | Qt::Key_PageUp)}, [&detail] { detail.step(-1); });
+    menu->addSeparator();
+    const struct
+    {
+        const char *name;
+        QString text;
+        Qt::Key key;
+        DetailStage stage;
+    } stages[]{{"Menu.StageText", tr("Show Text"), Qt::Key_3, DetailStage::text},
+               {"Menu.StageWaterfall", tr("Show Waterfall"), Qt::Key_4, DetailStage::waterfall},
+               {"Menu.StageComparison", tr("Compare"), Qt::Key_5, DetailStage::comparison}};
+    for (const auto &entry : stages)
+        addDetail(entry.name, entry.text, {QKeySequence(Qt::CTRL | entry.key)},
+                  [&detail, stage = entry.stage] { detail.showStage(stage); });
+    m_inspector = addDetail("Menu.Inspector", tr("Inspector"), {QKeySequence(Qt::CTRL | Qt::Key_I)},
+                            detail.toggleInspector);
+    m_inspector->setCheckable(true);
+}
+
+void MainMenu::updateDetailActions()
+{
+    const bool isOpen = m_targets.detail.isOpen();
+    for (QAction *action : m_detailActions)
+        action->setEnabled(isOpen);
+    m_inspector->setChecked(m_targets.detail.showsInspector());
 }
 
 void MainMenu::makeMenuBar()
@@ -210,17 +304,20 @@ void MainMenu::makeMenuBar()
 void MainMenu::update()
 {
     const QUndoStack &stack = m_targets.model.undoStack();
-    const auto *field = qobject_cast<const QLineEdit *>(m_focused.data());
-    m_undo->setText(field ? tr("Undo") : commandText(tr("Undo %1"), tr("Undo"), stack.undoText()));
-    m_redo->setText(field ? tr("Redo") : commandText(tr("Redo %1"), tr("Redo"), stack.redoText()));
+    const auto typing = typingHistory(m_focused);
+    m_undo->setText(typing ? tr("Undo") : commandText(tr("Undo %1"), tr("Undo"), stack.undoText()));
+    m_redo->setText(typing ? tr("Redo") : commandText(tr("Redo %1"), tr("Redo"), stack.redoText()));
     // A de-activation that is being undone cannot be done again before that has ended.
     const bool isIdle = !m_targets.activation.isRunning();
-    m_undo->setEnabled(field ? field->isUndoAvailable() : isIdle && stack.canUndo());
-    m_redo->setEnabled(field ? field->isRedoAvailable() : isIdle && stack.canRedo());
+    m_undo->setEnabled(typing ? typing->first : isIdle && stack.canUndo());
+    m_redo->setEnabled(typing ? typing->second : isIdle && stack.canRedo());
 
-    const double size = m_targets.model.browserPointSize();
-    m_larger->setEnabled(size < LorvaAppModel::kMaximumPointSize);
-    m_smaller->setEnabled(size > LorvaAppModel::kMinimumPointSize);
+    const bool isDetail = m_targets.detail.isOpen();
+    m_larger->setEnabled(pointSize() < (isDetail ? DetailSession::kMaximumPointSize
+                                                 : LorvaAppModel::kMaximumPointSize));
+    m_smaller->setEnabled(pointSize() > (isDetail ? DetailSession::kMinimumPointSize
+                                                  : LorvaAppModel::kMinimumPointSize));
+    updateDetailActions();
     (m_targets.model.viewMode() == ViewMode::grid ? m_grid : m_list)->setChecked(true);
     m_checkForUpdates->setVisible(m_targets.updater.canCheckForUpdates());
     updateFontActions();
@@ -254,33 +351,25 @@ void MainMenu::remember(QWidget *focused)
 
 void MainMenu::undo()
 {
-    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
-        field->undo();
-    else
+    if (!passToText(m_focused, [](auto &text) { text.undo(); }))
         m_targets.model.undoStack().undo();
 }
 
 void MainMenu::redo()
 {
-    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
-        field->redo();
-    else
+    if (!passToText(m_focused, [](auto &text) { text.redo(); }))
         m_targets.model.undoStack().redo();
 }
 
 void MainMenu::copy()
 {
-    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
-        field->copy();
-    else
+    if (!passToText(m_focused, [](auto &text) { text.copy(); }))
         m_targets.copy();
 }
 
 void MainMenu::selectAll()
 {
-    if (auto *field = qobject_cast<QLineEdit *>(m_focused.data()))
-        field->selectAll();
-    else
+    if (!passToText(m_focused, [](auto &text) { text.selectAll(); }))
         m_targets.selectAll();
 }
 

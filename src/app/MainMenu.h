@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/detail/FontDetailState.h"
+
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
@@ -21,6 +23,22 @@ class ActivationCommands;
 class LorvaAppModel;
 class MenuBarReveal;
 class UpdaterController;
+
+/// What the menus do with the family that is open in the detail view. Without one they do nothing.
+struct DetailCommands
+{
+    std::function<bool()> isOpen;
+    std::function<void()> close;
+    /// The next (1) or previous (−1) family.
+    std::function<void(int step)> step;
+    std::function<void()> toggleInspector;
+    std::function<bool()> showsInspector;
+    std::function<void(DetailStage stage)> showStage;
+    std::function<double()> pointSize;
+    std::function<void(double pointSize)> setPointSize;
+    std::function<void()> exportPage;
+    std::function<void()> copyAsCss;
+};
 
 /// The program's commands: menus, their shortcuts, and where they are found.
 ///
@@ -48,6 +66,7 @@ public:
         ActivationCommands &activation;
         /// The families whose cards are chosen.
         std::function<QStringList()> selectedNames;
+        DetailCommands detail;
     };
 
     explicit MainMenu(Targets targets);
@@ -71,6 +90,10 @@ private:
     void buildFontsMenu();
     void buildViewMenu();
     void addSizeActions(QMenu *menu);
+    void addDetailActions(QMenu *menu);
+    void updateDetailActions();
+    double pointSize() const;
+    void setPointSize(double pointSize);
     void addModeActions(QMenu *menu);
     void updateFontActions();
     void remember(QWidget *focused);
@@ -100,6 +123,9 @@ private:
     QAction *m_larger = nullptr;
     QAction *m_smaller = nullptr;
     QAction *m_fullScreen = nullptr;
+    QAction *m_inspector = nullptr;
+    /// Those that need an open family.
+    QList<QAction *> m_detailActions;
 };
 
 } // namespace lorva

@@ -14,18 +14,17 @@ struct LanguageCoverage
     QByteArray language;
     /// How many it is written with.
     int characters = 0;
-    /// How many of them the face lacks,
-    int missingCount = 0;
-    /// and the lowest of those, at most kMostMissingListed.
+    /// Those that the face lacks, ascending; none where it supports the language.
     std::vector<char32_t> missing;
     bool operator==(const LanguageCoverage &) const = default;
 };
 
-inline constexpr int kMostMissingListed = 100;
+/// A face that lacks more of a language does not nearly support it.
+inline constexpr size_t kMostMissing = 20;
 
 /// The languages that a face with these characters supports whole, then those that it nearly does:
-/// at most a tenth of whose characters, and at most 20 of them, are missing. Thread: any; some
-/// milliseconds for large faces.
+/// at most a tenth of whose characters, and at most kMostMissing of them, are missing; both in the
+/// given order. Thread: any; about a millisecond.
 std::vector<LanguageCoverage> languageCoverage(const std::vector<Orthography> &orthographies,
                                                const CharacterSet &characters);
 

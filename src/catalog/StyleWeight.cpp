@@ -40,12 +40,29 @@ constexpr std::array kWeightWords{
     WeightWord{"roman"_L1, {}, 400},
 };
 
+using Neutral = NeutralStyleWord::Kind;
+
 /// Words that say nothing about weight: a label of these alone is a regular weight.
 constexpr std::array kNeutralWords{
-    "standard"_L1, "trial"_L1,      "display"_L1,   "text"_L1,       "caption"_L1,
-    "headline"_L1, "micro"_L1,      "banner"_L1,    "plus"_L1,       "variable"_L1,
-    "mono"_L1,     "monospaced"_L1, "condensed"_L1, "compressed"_L1, "extended"_L1,
-    "expanded"_L1, "wide"_L1,       "narrow"_L1,    "compact"_L1,
+    NeutralStyleWord{"compressed"_L1, Neutral::width, 60},
+    NeutralStyleWord{"condensed"_L1, Neutral::width, 75},
+    NeutralStyleWord{"narrow"_L1, Neutral::width, 82},
+    NeutralStyleWord{"compact"_L1, Neutral::width, 90},
+    NeutralStyleWord{"wide"_L1, Neutral::width, 115},
+    NeutralStyleWord{"extended"_L1, Neutral::width, 125},
+    NeutralStyleWord{"expanded"_L1, Neutral::width, 125},
+    NeutralStyleWord{"micro"_L1, Neutral::opticalSize, 6},
+    NeutralStyleWord{"caption"_L1, Neutral::opticalSize, 8},
+    NeutralStyleWord{"text"_L1, Neutral::opticalSize, 12},
+    NeutralStyleWord{"headline"_L1, Neutral::opticalSize, 24},
+    NeutralStyleWord{"display"_L1, Neutral::opticalSize, 36},
+    NeutralStyleWord{"banner"_L1, Neutral::opticalSize, 72},
+    NeutralStyleWord{"mono"_L1, Neutral::spacing},
+    NeutralStyleWord{"monospaced"_L1, Neutral::spacing},
+    NeutralStyleWord{"standard"_L1},
+    NeutralStyleWord{"trial"_L1},
+    NeutralStyleWord{"plus"_L1},
+    NeutralStyleWord{"variable"_L1},
 };
 
 /// Word characters as regular expressions over Unicode text know them.
@@ -132,8 +149,7 @@ bool hasOnlyNeutralWords(const QString &text)
         return true;
     const QList<QStringView> words = QStringView(simplified).split(u' ');
     for (qsizetype i = 0; i < words.size(); ++i) {
-        const auto isWord = [&](QLatin1StringView neutral) { return words[i] == neutral; };
-        if (std::any_of(kNeutralWords.begin(), kNeutralWords.end(), isWord))
+        if (neutralStyleWord(words[i]))
             continue;
         // The one neutral name of two words.
         const bool isSemiMono =
@@ -189,6 +205,13 @@ int styleWeight(QStringView label, const FaceTraits &traits)
     if (const std::optional<int> named = weightFromStyleLabel(label))
         return *named;
     return weightFromTrait(traits.weight);
+}
+
+const NeutralStyleWord *neutralStyleWord(QStringView word)
+{
+    const auto found = std::ranges::find_if(
+        kNeutralWords, [&](const NeutralStyleWord &neutral) { return word == neutral.word; });
+    return found == kNeutralWords.end() ? nullptr : &*found;
 }
 
 bool isItalicStyle(QStringView label, const FaceTraits &traits)

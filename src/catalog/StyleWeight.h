@@ -4,6 +4,7 @@
 
 #include "text/FontFile.h"
 
+#include <QLatin1StringView>
 #include <QStringView>
 
 #include <optional>
@@ -26,5 +27,20 @@ int styleWeight(QStringView label, const FaceTraits &traits);
 
 /// True when the face leans, carries the italic bit, or says so in its label as a word of its own.
 bool isItalicStyle(QStringView label, const FaceTraits &traits);
+
+/// A word of a style label that says nothing about weight, but may say how wide the style is or for
+/// which size it was drawn.
+struct NeutralStyleWord
+{
+    enum class Kind { width, opticalSize, spacing, other };
+
+    QLatin1StringView word;
+    Kind kind = Kind::other;
+    /// Per cent of the usual width; points of the size.
+    int measure = 0;
+};
+
+/// `word` in lower case and without modifiers; null for any other word.
+const NeutralStyleWord *neutralStyleWord(QStringView word);
 
 } // namespace lorva

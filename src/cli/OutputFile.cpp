@@ -3,17 +3,15 @@
 #include "cli/OutputFile.h"
 
 #include "install/FontFolderWalk.h"
-#include "text/FontFile.h"
+#include "text/PictureFile.h"
 
 namespace lorva::cli {
 
 Result<void> refuseFontFile(const FilePath &output)
 {
-    if (!isFontFileName(output) && !FontFile::open(output))
-        return {};
-    return failure(
-        ErrorKind::invalidValue,
-        QString(output.displayText() + QStringLiteral(": refusing to write over a font file")));
+    if (isFontFileName(output))
+        return fontFileRefused(output);
+    return refuseFontContent(output);
 }
 
 } // namespace lorva::cli

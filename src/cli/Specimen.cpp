@@ -9,33 +9,13 @@
 
 namespace lorva::cli {
 
-namespace {
-
-using Encoder = Result<QByteArray> (*)(const SpecimenPage &);
-
-Result<Encoder> encoderFor(const FilePath &picture)
-{
-    const QByteArray name = picture.fileName().toLower();
-    if (name.endsWith(".png"))
-        return &pngPicture;
-    if (name.endsWith(".svg"))
-        return &svgPicture;
-    if (name.endsWith(".pdf"))
-        return &pdfPicture;
-    return failure(ErrorKind::invalidValue,
-                   QStringLiteral("%1: the name of a picture ends in .png, .svg or .pdf")
-                       .arg(picture.displayText()));
-}
-
-} // namespace
-
 Result<std::vector<QString>> writeSpecimen(const SpecimenRequest &request)
 {
     if (Result<void> checked = refuseFontFile(request.picture); !checked)
         return tl::unexpected(checked.error());
-    const Result<Encoder> encode = encoderFor(request.picture);
-    if (!encode)
-        return tl::unexpected(encode.error());
+    const Result<PictureFormat> format = pictureFormat(request.picture);
+    if (!format)
+        return tl::unexpected(format.error());
     std::vector<QString> notes;
     const Result<Font> font = specimenFont(request, notes);
     if (!font)
@@ -48,7 +28,7 @@ Result<std::vector<QString>> writeSpecimen(const SpecimenRequest &request)
                 .arg(QString::number(page.size.height()), QString::number(kMaxSpecimenSide)));
     if (page.isCropped)
         notes.push_back(QStringLiteral("the picture is too small for all of the text"));
-    const Result<QByteArray> bytes = (*encode)(page);
+    const Result<QByteArray> bytes = encodedSpecimen(page, *format);
     if (!bytes)
         return tl::unexpected(bytes.error());
     if (const Result<void> written = writeFileAtomically(request.picture, *bytes); !written)

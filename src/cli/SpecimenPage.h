@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/Specimen.h"
+#include "text/PictureFile.h"
 
 #include <QSize>
 
@@ -23,11 +24,7 @@ struct SpecimenPage
 };
 SpecimenPage layOutSpecimen(const SpecimenRequest &request, const Font &font);
 
-/// The bytes of a picture file.
-Result<QByteArray> pngPicture(const SpecimenPage &page);
-/// Outlines as paths, no fonts. The same bytes for the same page.
-Result<QByteArray> svgPicture(const SpecimenPage &page);
-/// As svgPicture(); one pixel is one point, 1/72 inch.
-Result<QByteArray> pdfPicture(const SpecimenPage &page);
+/// The bytes of a picture file, letters as paths where it has no pixels. See encodedPicture().
+Result<QByteArray> encodedSpecimen(const SpecimenPage &page, PictureFormat format);
 
 } // namespace lorva::cli

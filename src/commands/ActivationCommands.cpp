@@ -51,6 +51,11 @@ void ActivationCommands::deactivate(const QStringList &familyNames)
     start({Request::Kind::deactivate, familyNames, std::nullopt});
 }
 
+void ActivationCommands::activateStyle(const QString &familyName, const FontStyleRecord &style)
+{
+    start({Request::Kind::activate, {familyName}, style});
+}
+
 void ActivationCommands::deactivateStyle(const QString &familyName, const FontStyleRecord &style)
 {
     start({Request::Kind::deactivate, {familyName}, style});
@@ -120,12 +125,12 @@ ActivationCommands::Plan ActivationCommands::withoutThoseInFlight(Plan plan) con
 
 void ActivationCommands::chooseMethod(const Request &request, const Plan &plan)
 {
+    const QString label = activationLabel(request.subjects());
     if (const auto method = m_model.installationService()->defaultMethod()) {
-        runActivation(plan, *method);
+        runActivation(plan, label, *method);
         return;
     }
-    const InstallMethodQuestion question{activationLabel(request.names),
-                                         activationNote(request.names.size(), plan.others)};
+    const InstallMethodQuestion question{label, activationNote(request.names.size(), plan.others)};
     m_presenter.askInstallMethod(
         question,
         [self = QPointer(this), request](std::optional<InstallMethod> method, bool remember) {
@@ -134,14 +139,15 @@ void ActivationCommands::chooseMethod(const Request &request, const Plan &plan)
             if (remember)
                 self->m_model.installationService()->setDefaultMethod(method);
             // The library may have become another one while the sheet was open.
-            self->makePlan(request,
-                           [self, method](const Plan &now) { self->runActivation(now, *method); });
+            self->makePlan(request, [self, request, method](const Plan &now) {
+                const Request about = request.about(now.names());
+                self->runActivation(now, activationLabel(about.subjects()), *method);
+            });
         });
 }
 
-void ActivationCommands::runActivation(const Plan &plan, InstallMethod method)
+void ActivationCommands::runActivation(const Plan &plan, const QString &label, InstallMethod method)
 {
-    const QString label = activationLabel(plan.names());
     const auto begin = [&plan, method](FontInstallationService &service, auto done, auto progress) {
         return method == InstallMethod::copy
             ? service.activateByCopying(plan.families, std::move(done), std::move(progress))

@@ -36,6 +36,8 @@ public:
     void activateRemaining(const QStringList &familyNames);
     void deactivate(const QStringList &familyNames);
     /// The style's file; other styles in that file go with it.
+    void activateStyle(const QString &familyName, const FontStyleRecord &style);
+    /// The style's file; other styles in that file go with it.
     void deactivateStyle(const QString &familyName, const FontStyleRecord &style);
 
     bool hasFailures() const { return !m_failures.empty(); }
@@ -68,7 +70,7 @@ private:
     void tellNothing(const Request &request);
     Plan withoutThoseInFlight(Plan plan) const;
     void chooseMethod(const Request &request, const Plan &plan);
-    void runActivation(const Plan &plan, InstallMethod method);
+    void runActivation(const Plan &plan, const QString &label, InstallMethod method);
     void askDeactivation(const Request &request, const Plan &plan);
     void confirmDeactivation(const Request &request, const Plan &plan);
     void askDestination(const Request &request, const Plan &plan);

@@ -307,10 +307,16 @@ int GlyphOutliner::append(QPainterPath &path, quint32 glyph, QPointF at)
     return pen.segments;
 }
 
+double GlyphOutliner::advance(quint32 glyph) const
+{
+    const double own = hb_font_get_glyph_h_advance(m_shapingFont.get(), glyph) * m_pointsPerUnit;
+    return own > 0 && own <= m_reach ? own : 0;
+}
+
 double GlyphOutliner::missingAdvance(double otherwise) const
 {
-    const double own = hb_font_get_glyph_h_advance(m_shapingFont.get(), 0) * m_pointsPerUnit;
-    return own > 0 && own <= m_reach ? own : otherwise;
+    const double own = advance(0);
+    return own > 0 ? own : otherwise;
 }
 
 void visitInk(const TextLayout &layout, InkVisitor &visitor)

@@ -25,6 +25,9 @@ public:
     /// Appends the glyph with its origin at `at`; gives the number of segments that this took,
     /// drawn or not.
     int append(QPainterPath &path, quint32 glyph, QPointF at);
+    /// Points that the pen moves on after the glyph when it stands alone; 0 for one that claims to
+    /// reach further than any type does.
+    double advance(quint32 glyph) const;
     /// Points that the face's missing glyph takes by itself, without letter spacing.
     double missingAdvance(double otherwise) const;
 

@@ -5,15 +5,23 @@
 
 #include "base/Trace.h"
 #include "commands/OrganizationAlerts.h"
+#include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/FontBrowserViewController.h"
+#include "ui/detail/DetailMenu.h"
+#include "ui/detail/DetailTopBar.h"
+#include "ui/detail/FontDetailViewController.h"
 #include "ui/display/LogoImage.h"
 #include "ui/display/LorvaWindowBackgroundView.h"
 #include "ui/PaneStates.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/sidebar/SidebarFooter.h"
 
-#include <QEvent>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QResizeEvent>
 #include <QStyle>
+
+#include <utility>
 
 namespace lorva {
 
@@ -23,18 +31,21 @@ constexpr int kSidebarWidth = ProjectSidebarViewController::kWidth;
 
 } // namespace
 
-LorvaRootSplitViewController::LorvaRootSplitViewController(
-    LorvaAppModel &model, const std::shared_ptr<const BackgroundImageStore> &images,
-    QWidget *parent)
+LorvaRootSplitViewController::LorvaRootSplitViewController(LorvaAppModel &model,
+                                                           const PaneServices &services,
+                                                           QWidget *parent)
     : QWidget(parent)
     , m_model(model)
+    , m_services(services)
     , m_presenter(*this)
     , m_activation(model, m_presenter)
     , m_folders(model, m_presenter)
-    , m_browserActions(model, images)
+    , m_browserActions(model, services.images)
     , m_sidebarActions(model)
+    , m_detailActions(model, m_browserActions)
+    , m_export(*this)
     , m_logo(new LogoImage(this))
-    , m_background(new LorvaWindowBackgroundView(images, this))
+    , m_background(new LorvaWindowBackgroundView(services.images, this))
     , m_sidebar(new ProjectSidebarViewController(this))
     , m_footer(new SidebarFooter(this))
     , m_browser(new FontBrowserViewController(makeFontResolver(model.fontLibraryService()), this))
@@ -68,12 +79,30 @@ void LorvaRootSplitViewController::connectActions()
     };
     m_sidebarActions.onActivationWanted = activate;
     m_sidebarActions.onDeactivationWanted = deactivate;
+    connectDetail();
+}
+
+void LorvaRootSplitViewController::connectDetail()
+{
+    m_detailActions.onChange = [this] { scheduleRender(); };
+    m_detailActions.onStyleActivationWanted = [this](const QString &family,
+                                                     const FontStyleRecord &style) {
+        m_activation.activateStyle(family, style);
+    };
+    m_detailActions.onStyleDeactivationWanted = [this](const QString &family,
+                                                       const FontStyleRecord &style) {
+        m_activation.deactivateStyle(family, style);
+    };
+    m_detailActions.onFaceShown = [this](const DisplayedFace &face) { showFaceInInspector(face); };
+    m_export.onFailed = [this](const QString &reason) { tellRefused(reason); };
 }
 
 LorvaRootSplitViewController::~LorvaRootSplitViewController()
 {
     m_model.onChange = nullptr;
     // They report to members that go before the children do.
+    delete m_detail;
+    delete m_inspector;
     delete m_browser;
     delete m_sidebar;
 }
@@ -93,8 +122,152 @@ void LorvaRootSplitViewController::render()
     const FontBrowserState state = browserState();
     applyGround(state);
     m_sidebar->apply(sidebarStateOf(m_model));
-    m_browser->apply(state);
+    if (const FontFamilyRecord *family = openFamily())
+        renderDetail(state, *family);
+    else {
+        m_browser->apply(state);
+        closeDetailPane();
+    }
     Q_EMIT rendered();
+}
+
+/// A family that the last scan did not find any more is closed.
+const FontFamilyRecord *LorvaRootSplitViewController::openFamily()
+{
+    const std::optional<QString> name = m_model.detailFamilyName();
+    if (!name)
+        return nullptr;
+    const FontFamilyRecord *family = m_model.family(*name);
+    if (!family && !m_model.isLoading())
+        m_model.openDetail(std::nullopt);
+    return family;
+}
+
+/// Made when a family is opened for the first time: starting goes without.
+void LorvaRootSplitViewController::ensureDetail()
+{
+    if (m_detail)
+        return;
+    m_detail = new FontDetailViewController(makeFontResolver(m_model.fontLibraryService()), this);
+    m_detail->setDelegate(&m_detailActions);
+    m_detail->setMenuMaker([this](QWidget *parent) { return makeDetailMenu(parent); });
+    m_detail->hide();
+    m_inspector = new FontInspectorViewController(m_services.orthographies, this);
+    m_inspector->setDelegate(this);
+    m_inspector->hide();
+}
+
+void LorvaRootSplitViewController::showInspectorTab(FontInspectorViewController::Tab tab)
+{
+    ensureDetail();
+    m_inspector->setSelectedTab(tab);
+}
+
+bool LorvaRootSplitViewController::showsInspector() const
+{
+    return m_isDetailOpen && !m_inspector->isHidden();
+}
+
+QString LorvaRootSplitViewController::title() const
+{
+    return m_isDetailOpen ? m_detail->state().family.familyName : m_browser->state().title;
+}
+
+void LorvaRootSplitViewController::renderDetail(const FontBrowserState &state,
+                                                const FontFamilyRecord &family)
+{
+    ensureDetail();
+    m_detailActions.setNarrow(width() < kInspectorWidth);
+    const FontDetailState detail = detailStateOf(m_model, family, state, m_detailActions.session());
+    m_inspector->setVisible(detail.showsInspector);
+    layOut();
+    m_detail->setFamilies(FontFamilySubset(m_model.allFamilies()));
+    m_detail->apply(detail);
+    showFaceInInspector(m_detail->displayedFace());
+    openDetailPane();
+}
+
+/// The cards keep what they show; nobody sees them.
+void LorvaRootSplitViewController::openDetailPane()
+{
+    if (std::exchange(m_isDetailOpen, true))
+        return;
+    m_detail->show();
+    m_detail->focusPage();
+    m_browser->hide();
+}
+
+void LorvaRootSplitViewController::closeDetailPane()
+{
+    if (!std::exchange(m_isDetailOpen, false))
+        return;
+    m_browser->show();
+    m_browser->focusCards();
+    m_browser->revealSelection();
+    m_detail->hide();
+    m_inspector->hide();
+}
+
+void LorvaRootSplitViewController::showFaceInInspector(const DisplayedFace &face)
+{
+    const FontFamilyRecord *family = m_model.family(face.familyName);
+    m_inspector->showFace(face, family ? m_model.activation(*family) : std::nullopt);
+}
+
+QMenu *LorvaRootSplitViewController::makeDetailMenu(QWidget *parent)
+{
+    return makeDetailMenuFor({m_detail->state(), m_detailActions, [this] { exportDetail(); },
+                              [this] { copyDetailAsCss(); }},
+                             parent);
+}
+
+void LorvaRootSplitViewController::exportDetail()
+{
+    if (m_isDetailOpen)
+        m_export.ask(m_detail->page(), m_detail->pageBackground(), m_detail->exportName());
+}
+
+void LorvaRootSplitViewController::copyDetailAsCss()
+{
+    if (m_isDetailOpen)
+        QGuiApplication::clipboard()->setText(m_detail->css());
+}
+
+QStringList LorvaRootSplitViewController::selectedNames() const
+{
+    return m_isDetailOpen ? QStringList(m_detail->state().family.familyName)
+                          : m_browser->selectedNames();
+}
+
+void LorvaRootSplitViewController::focusSearch()
+{
+    if (m_isDetailOpen)
+        m_detail->focusSearch();
+    else
+        m_browser->topBar().focusSearch();
+}
+
+void LorvaRootSplitViewController::inspectorFeaturesChanged(
+    const std::optional<std::vector<FeaturePair>> &enabled)
+{
+    m_detail->setFeatureSettings(enabled);
+}
+
+void LorvaRootSplitViewController::inspectorAxesChanged(const std::vector<VariationSetting> &values)
+{
+    m_detail->setVariationAxes(values);
+}
+
+void LorvaRootSplitViewController::inspectorFileWanted(const FilePath &file)
+{
+    if (m_services.desktop)
+        m_services.desktop->showFile(file);
+}
+
+void LorvaRootSplitViewController::inspectorLinkWanted(const QUrl &link)
+{
+    if (m_services.desktop)
+        m_services.desktop->openLink(link);
 }
 
 void LorvaRootSplitViewController::applyGround(const FontBrowserState &state)
@@ -119,7 +292,9 @@ void LorvaRootSplitViewController::scheduleRender()
 
 bool LorvaRootSplitViewController::isSettled() const
 {
-    return m_browser->isSettled() && !m_logo->isWaiting() && !m_background->isWaiting();
+    const bool panesAreSettled =
+        m_isDetailOpen ? m_detail->isSettled() && m_inspector->isSettled() : m_browser->isSettled();
+    return panesAreSettled && !m_logo->isWaiting() && !m_background->isWaiting();
 }
 
 void LorvaRootSplitViewController::setMainMenu(QMenu *menu)
@@ -151,11 +326,33 @@ void LorvaRootSplitViewController::layOut()
     place(m_footer, {0, height() - footerHeight, kSidebarWidth, footerHeight});
     place(m_background, pane);
     place(m_browser, pane);
+    layOutPanes(pane);
 }
 
-void LorvaRootSplitViewController::resizeEvent(QResizeEvent *)
+/// In a narrow window the inspector lies over the page, which keeps its width.
+void LorvaRootSplitViewController::layOutPanes(const QRect &pane)
+{
+    if (!m_detail)
+        return;
+    const bool isBeside = width() >= kInspectorWidth && !m_inspector->isHidden();
+    const int inspectorWidth = std::min(FontInspectorViewController::kWidth, pane.width());
+    const int top = isBeside ? 0 : DetailTopBar::kHeight;
+    const auto place = [this](QWidget *widget, const QRect &logical) {
+        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), logical));
+    };
+    place(m_detail, pane.adjusted(0, 0, isBeside ? -inspectorWidth : 0, 0));
+    place(
+        m_inspector,
+        {pane.right() + 1 - inspectorWidth, top, inspectorWidth, std::max(pane.height() - top, 0)});
+    m_inspector->raise();
+}
+
+void LorvaRootSplitViewController::resizeEvent(QResizeEvent *event)
 {
     layOut();
+    const bool isNarrow = width() < kInspectorWidth;
+    if (m_isDetailOpen && isNarrow != (event->oldSize().width() < kInspectorWidth))
+        scheduleRender();
 }
 
 void LorvaRootSplitViewController::changeEvent(QEvent *event)

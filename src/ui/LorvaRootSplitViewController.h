@@ -4,7 +4,12 @@
 
 #include "commands/ActivationCommands.h"
 #include "commands/FolderCommands.h"
+#include "platform/DesktopOpener.h"
+#include "platform/OrthographyBook.h"
 #include "ui/BrowserActions.h"
+#include "ui/DetailActions.h"
+#include "ui/inspector/FontInspectorViewController.h"
+#include "ui/PageExport.h"
 #include "ui/sheets/WindowPresenter.h"
 #include "ui/SidebarActions.h"
 
@@ -17,23 +22,34 @@ class QMenu;
 namespace lorva {
 
 class FontBrowserViewController;
+class FontDetailViewController;
 class LogoImage;
 class LorvaWindowBackgroundView;
 class ProjectSidebarViewController;
 class SidebarFooter;
 
+/// What the panes need besides the model. Any of it may be null: what it is for cannot be had then.
+struct PaneServices
+{
+    /// The user's background images.
+    std::shared_ptr<const BackgroundImageStore> images = nullptr;
+    std::shared_ptr<const OrthographyBook> orthographies = nullptr;
+    std::shared_ptr<DesktopOpener> desktop = nullptr;
+};
+
 /// The content of the main window: builds the panes' states from the model and hands the panes'
 /// actions to it. Several changes of the model within one turn of the event loop are rendered once.
 ///
 /// Does not own the model, which must outlive it. Thread: main.
-class LorvaRootSplitViewController final : public QWidget
+class LorvaRootSplitViewController final : public QWidget, private FontInspectorDelegate
 {
     Q_OBJECT
 public:
-    /// `images` may be null: the user has no background images.
-    explicit LorvaRootSplitViewController(
-        LorvaAppModel &model, const std::shared_ptr<const BackgroundImageStore> &images = nullptr,
-        QWidget *parent = nullptr);
+    /// Narrower windows have the inspector over the detail pane, not beside it.
+    static constexpr int kInspectorWidth = 1100;
+
+    explicit LorvaRootSplitViewController(LorvaAppModel &model, const PaneServices &services = {},
+                                          QWidget *parent = nullptr);
     ~LorvaRootSplitViewController() override;
 
     /// The browser's whole state, computed from the model as it is now.
@@ -45,6 +61,25 @@ public:
     /// What the panes report to; also for whoever acts in the user's place.
     BrowserActions &browserActions() { return m_browserActions; }
     SidebarActions &sidebarActions() { return m_sidebarActions; }
+    DetailActions &detailActions() { return m_detailActions; }
+    /// Null until a family is opened for the first time.
+    FontDetailViewController *detail() { return m_detail; }
+    FontInspectorViewController *inspector() { return m_inspector; }
+    void showInspectorTab(FontInspectorViewController::Tab tab);
+    /// The inspector is open beside the family, or over it.
+    bool showsInspector() const;
+    /// Of what is shown: the source or the family.
+    QString title() const;
+    /// A family is open in the detail view.
+    bool isDetailOpen() const { return m_isDetailOpen; }
+    /// The family that is open, else those whose cards are chosen.
+    QStringList selectedNames() const;
+    /// Gives the keyboard to the search field of the pane that is shown.
+    void focusSearch();
+    /// Asks for a file and writes what the detail view shows there. Nothing while it is closed, as
+    /// for the next.
+    void exportDetail();
+    void copyDetailAsCss();
     LorvaWindowBackgroundView &backgroundView() { return *m_background; }
     /// Everything that is shown is there: specimens, logo, background.
     bool isSettled() const;
@@ -65,6 +100,19 @@ protected:
 
 private:
     void connectActions();
+    void connectDetail();
+    void ensureDetail();
+    void renderDetail(const FontBrowserState &state, const FontFamilyRecord &family);
+    void openDetailPane();
+    void closeDetailPane();
+    const FontFamilyRecord *openFamily();
+    void showFaceInInspector(const DisplayedFace &face);
+    QMenu *makeDetailMenu(QWidget *parent);
+    void layOutPanes(const QRect &pane);
+    void inspectorFeaturesChanged(const std::optional<std::vector<FeaturePair>> &enabled) override;
+    void inspectorAxesChanged(const std::vector<VariationSetting> &values) override;
+    void inspectorFileWanted(const FilePath &file) override;
+    void inspectorLinkWanted(const QUrl &link) override;
     void scheduleRender();
     void layOut();
     void applyGround(const FontBrowserState &state);
@@ -72,16 +120,22 @@ private:
     void tellRefused(const QString &reason);
 
     LorvaAppModel &m_model;
+    const PaneServices m_services;
     WindowPresenter m_presenter;
     ActivationCommands m_activation;
     FolderCommands m_folders;
     BrowserActions m_browserActions;
     SidebarActions m_sidebarActions;
+    DetailActions m_detailActions;
+    PageExport m_export;
     LogoImage *m_logo;
     LorvaWindowBackgroundView *m_background;
     ProjectSidebarViewController *m_sidebar;
     SidebarFooter *m_footer;
     FontBrowserViewController *m_browser;
+    FontDetailViewController *m_detail = nullptr;
+    FontInspectorViewController *m_inspector = nullptr;
+    bool m_isDetailOpen = false;
     bool m_renderIsScheduled = false;
 };
 

@@ -3,6 +3,10 @@
 
 #include "ui/PaneStates.h"
 
+#include "catalog/FontVariants.h"
+#include "ui/browser/MembershipOptions.h"
+#include "ui/DetailNeighbours.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -165,6 +169,34 @@ void takeDisplay(FontBrowserState &state, const LorvaAppModel &model, const Pane
                      pictures.userThumbnail};
 }
 
+void takeDisplay(FontDetailState &state, const FontBrowserState &browser)
+{
+    state.fontWeight = browser.fontWeight;
+    state.foregroundColorHex = browser.foregroundColorHex;
+    state.backgroundColorHex = browser.backgroundColorHex;
+    state.colorMode = browser.colorMode;
+    state.customForegroundColorHex = browser.customForegroundColorHex;
+    state.customBackgroundColorHex = browser.customBackgroundColorHex;
+    state.imageForegroundColorHex = browser.imageForegroundColorHex;
+    state.backgroundImageID = browser.backgroundImageID;
+    state.backgroundImageUserFilename = browser.backgroundImageUserFilename;
+    state.sampleText = browser.sampleText;
+    state.logoImage = browser.logoImage;
+    state.logoSizeRatio = browser.logoSizeRatio;
+    state.logoSpacing = browser.logoSpacing;
+    state.display = browser.display;
+}
+
+void takeSession(FontDetailState &state, const DetailSession &session)
+{
+    state.selectedVariantLabel = session.selectedVariantLabel;
+    state.pointSize = session.pointSize;
+    state.letterSpacing = session.letterSpacing;
+    state.stage = session.stage;
+    state.showsInspector =
+        session.isNarrow ? session.showsInspectorOverPage : session.showsInspector;
+}
+
 } // namespace
 
 SidebarState sidebarStateOf(LorvaAppModel &model)
@@ -209,6 +241,24 @@ FontBrowserState browserStateOf(LorvaAppModel &model, const PanePictures &pictur
     state.loadingText = model.loadingText();
     if (state.families.empty() && !state.isLoading)
         state.emptyState = emptyStateOf(model);
+    return state;
+}
+
+FontDetailState detailStateOf(LorvaAppModel &model, const FontFamilyRecord &family,
+                              const FontBrowserState &browser, const DetailSession &session)
+{
+    FontDetailState state;
+    state.family = family;
+    state.variants = variantsOf(family);
+    takeDisplay(state, browser);
+    takeSession(state, session);
+    const QStringList names(family.familyName);
+    state.styleOptions = styleOptions(browser, names);
+    state.collectionOptions = collectionOptions(browser, names);
+    state.foundryOptions = foundryOptions(browser, names);
+    state.familyActivation = model.activation(family);
+    state.hasPrevious = detailNeighbour(browser.families, family.familyName, -1).has_value();
+    state.hasNext = detailNeighbour(browser.families, family.familyName, 1).has_value();
     return state;
 }
 

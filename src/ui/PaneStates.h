@@ -3,6 +3,8 @@
 #pragma once
 
 #include "ui/browser/FontBrowserState.h"
+#include "ui/detail/FontDetailState.h"
+#include "ui/DetailActions.h"
 #include "ui/sidebar/SidebarState.h"
 
 namespace lorva {
@@ -24,5 +26,9 @@ struct PanePictures
 
 /// The state refers to the model, which must outlive it.
 FontBrowserState browserStateOf(LorvaAppModel &model, const PanePictures &pictures);
+
+/// `family` is the model's; `browser` what the browser shows at the same moment.
+FontDetailState detailStateOf(LorvaAppModel &model, const FontFamilyRecord &family,
+                              const FontBrowserState &browser, const DetailSession &session);
 
 } // namespace lorva

@@ -36,6 +36,7 @@ void SidebarActions::tell(const Result<void> &outcome) const
 
 void SidebarActions::sidebarSelected(const BrowserSource &source)
 {
+    m_model.openDetail(std::nullopt);
     m_model.select(source);
 }
 

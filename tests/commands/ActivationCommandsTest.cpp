@@ -119,6 +119,13 @@ protected:
     {
         return waitUntil([&] { return active() == names; });
     }
+    FontStyleRecord styleOf(const QString &family, const QString &label) const
+    {
+        const auto &styles = library.model->family(family)->styles;
+        const auto found = std::ranges::find(styles, label, &FontStyleRecord::label);
+        EXPECT_NE(found, styles.end()) << label.toStdString();
+        return found == styles.end() ? FontStyleRecord() : *found;
+    }
     FilePath copyOf(const QByteArray &name) const { return fonts.child(name); }
     void switchOn(const QStringList &names, InstallMethod method = InstallMethod::copy)
     {
@@ -223,6 +230,31 @@ TEST_F(ActivationCommandsTest, NamesWhatSharesAFile)
     EXPECT_TRUE(areActive({}));
 }
 
+TEST_F(ActivationCommandsTest, SwitchesAStyleOnByItself)
+{
+    const FontStyleRecord bold = styleOf("One", "Bold");
+    commands->activateStyle("One", bold);
+    ASSERT_TRUE(waitUntil([&] { return presenter.methodQuestions.size() == 1; }));
+    EXPECT_EQ(presenter.methodQuestions.back().familyName, "One Bold");
+    EXPECT_FALSE(presenter.methodQuestions.back().coResidentNote) << "nobody shares its file";
+    presenter.chooseMethod(InstallMethod::copy);
+    ASSERT_TRUE(told("One Bold installed"));
+    presenter.press(0);
+    ASSERT_TRUE(settles());
+    EXPECT_EQ(active(), QStringList("one-bold.ttf"));
+    reload();
+
+    commands->activateStyle("One", bold);
+    ASSERT_TRUE(told("Nothing to activate"));
+    EXPECT_EQ(presenter.lastAlert().body,
+              "Every user-controllable font in One Bold is already active.");
+    presenter.press(0);
+    library.installation->setDefaultMethod(InstallMethod::registerInPlace);
+    commands->activateStyle("Four", styleOf("Four", "Regular"));
+    ASSERT_TRUE(told("Four Regular installed"));
+    EXPECT_EQ(active().size(), 2) << "the collection's file, once";
+}
+
 TEST_F(ActivationCommandsTest, DeactivatesAndBringsBack)
 {
     switchOn({"One"});
@@ -297,11 +329,8 @@ TEST_F(ActivationCommandsTest, TellsWhichFilesCouldNotBeBroughtBack)
 TEST_F(ActivationCommandsTest, DoesAStyleAgainWithoutItsFamily)
 {
     switchOn({"One"});
-    const auto &styles = library.model->family("One")->styles;
-    const auto bold = std::ranges::find(styles, QString("Bold"), &FontStyleRecord::label);
-    ASSERT_NE(bold, styles.end());
     presenter.buttons = {0, 0};
-    commands->deactivateStyle("One", *bold);
+    commands->deactivateStyle("One", styleOf("One", "Bold"));
     ASSERT_TRUE(told("One Bold removed"));
     ASSERT_TRUE(settles());
     QUndoStack &stack = library.model->undoStack();

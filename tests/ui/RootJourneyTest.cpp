@@ -49,7 +49,7 @@ protected:
         folder = test::TestHome::instance().makeFolder("root" + QByteArray::number(++cases));
         images = std::make_shared<const BackgroundImageStore>(folder.child("images"));
         library.addFamilies(QStringLiteral("Face"), 6);
-        root = std::make_unique<LorvaRootSplitViewController>(*library.model, images);
+        root = std::make_unique<LorvaRootSplitViewController>(*library.model, PaneServices{images});
         root->resize(1300, 900);
         root->show();
         root->activateWindow();

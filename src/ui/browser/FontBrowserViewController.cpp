@@ -16,6 +16,7 @@
 #include "ui/browser/LetterJump.h"
 #include "ui/browser/LetterOverlayView.h"
 #include "ui/preview/SpecimenImage.h"
+#include "ui/style/PaneColors.h"
 
 #include <QClipboard>
 #include <QDrag>
@@ -27,22 +28,6 @@
 #include <algorithm>
 
 namespace lorva {
-
-namespace {
-
-QColor foregroundOf(const FontBrowserState &state)
-{
-    return QColor(state.colorMode == ColorMode::image ? state.imageForegroundColorHex
-                                                      : state.foregroundColorHex);
-}
-
-QColor backgroundOf(const FontBrowserState &state)
-{
-    return state.colorMode == ColorMode::image ? QColor(Qt::transparent)
-                                               : QColor(state.backgroundColorHex);
-}
-
-} // namespace
 
 FontBrowserViewController::FontBrowserViewController(std::shared_ptr<FontResolver> resolver,
                                                      QWidget *parent)
@@ -192,18 +177,13 @@ void FontBrowserViewController::showCollection()
 
 void FontBrowserViewController::applyColors()
 {
-    const QColor foreground = foregroundOf(m_state);
-    const QColor background = backgroundOf(m_state);
+    const QColor foreground = paneColorsOf(m_state).foreground;
+    const QColor background = paneColorsOf(m_state).background;
     m_topBar->setColors(foreground, background);
     m_collection->setColors(foreground, background);
     m_empty->setColors(foreground, background);
     m_loading->setForeground(foreground);
-    setAutoFillBackground(background.alpha() == 255);
-    if (palette().color(QPalette::Window) == background)
-        return;
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, background);
-    setPalette(colors);
+    fillPane(*this, background);
 }
 
 void FontBrowserViewController::applyItems(const FontBrowserState &previous)
@@ -240,8 +220,8 @@ void FontBrowserViewController::scrollForSearch()
 {
     const bool isOver = m_state.searchQuery.isEmpty();
     m_collection->setScrollOffset(isOver ? m_offsetBeforeSearch : 0);
-    if (const int chosen = m_collection->selection().current(); isOver && chosen >= 0)
-        m_collection->scrollToItem(chosen);
+    if (isOver)
+        revealSelection();
 }
 
 /// Only where the eye can follow: a list that shrinks in place, as it does under a search.
@@ -277,8 +257,8 @@ FontCardConfiguration FontBrowserViewController::cardConfiguration(int index) co
     card.catalogGeneration = m_state.catalogGeneration;
     card.isFirstColumn = m_collection->isFirstColumn(index);
     card.isFirstRow = index < m_collection->arrangement().columns();
-    card.foregroundColor = foregroundOf(m_state);
-    card.backgroundColor = backgroundOf(m_state);
+    card.foregroundColor = paneColorsOf(m_state).foreground;
+    card.backgroundColor = paneColorsOf(m_state).background;
     card.logoImage = m_state.logoImage;
     card.logoSizeRatio = m_state.logoSizeRatio;
     card.logoSpacing = m_state.logoSpacing;
@@ -334,6 +314,12 @@ void FontBrowserViewController::focusCards()
     m_cardsAwaitFocus = m_collection->isHidden();
 }
 
+void FontBrowserViewController::revealSelection()
+{
+    if (const int chosen = m_collection->selection().current(); chosen >= 0)
+        m_collection->scrollToItem(chosen);
+}
+
 void FontBrowserViewController::openSelection()
 {
     const QStringList names = selectedNames();
@@ -359,7 +345,8 @@ void FontBrowserViewController::dragSelection()
     auto *drag = new QDrag(m_collection->viewport());
     drag->setMimeData(familyMimeData(m_state.families, indices).release());
     if (const auto *item = m_collection->visibleItem(m_collection->selection().current())) {
-        const DragColors colors{foregroundOf(m_state), backgroundOf(m_state)};
+        const PaneColors pane = paneColorsOf(m_state);
+        const DragColors colors{pane.foreground, pane.background};
         drag->setPixmap(familyDragPixmap(*item, int(indices.size()), colors));
         drag->setHotSpot(kFamilyDragHotSpot);
     }
@@ -368,9 +355,9 @@ void FontBrowserViewController::dragSelection()
 
 void FontBrowserViewController::openMenu(QPoint globalPosition)
 {
-    if (m_menu)
+    if (m_menu || !m_delegate)
         return;
-    m_menu = makeCardMenu(m_state, selectedNames(), m_delegate, this);
+    m_menu = makeCardMenu(m_state, selectedNames(), *m_delegate, this);
     // A menu that is closed is done for; its actions run after that.
     connect(m_menu, &QMenu::aboutToHide, m_menu, [menu = m_menu.data(), this] {
         m_menu.clear();
@@ -389,7 +376,7 @@ void FontBrowserViewController::jumpTo(const QString &letter)
         m_collection->setSelection(selection);
     }
     delete m_letterOverlay;
-    m_letterOverlay = new LetterOverlayView(letter, foregroundOf(m_state), this);
+    m_letterOverlay = new LetterOverlayView(letter, paneColorsOf(m_state).foreground, this);
 }
 
 void FontBrowserViewController::editSampleText()
@@ -419,7 +406,7 @@ void FontBrowserViewController::placeInlineEdit()
     const QRect specimen = FontCardContentView::previewRect(card.size()).translated(card.topLeft());
     const bool isList = m_state.viewMode == ViewMode::list;
     m_inlineEdit->setPlace({specimen, isList ? Qt::AlignLeft | Qt::AlignAbsolute : Qt::AlignHCenter,
-                            foregroundOf(m_state), backgroundOf(m_state)});
+                            paneColorsOf(m_state).foreground, paneColorsOf(m_state).background});
 }
 
 /// The next screen first: libraries are read downwards.

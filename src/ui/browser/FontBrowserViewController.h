@@ -60,6 +60,8 @@ public:
     void editSampleText();
     /// Gives the cards the keyboard, as soon as there are any.
     void focusCards();
+    /// Brings the current card into sight.
+    void revealSelection();
 
     /// Runs a drag to its end and takes it over; a test's own.
     std::function<void(QDrag *drag)> runDrag;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/browser/MoreSlidersPanel.h"
 
-#include "ui/browser/SpecimenSlider.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
@@ -20,7 +19,7 @@ constexpr double kCaptionAlpha = 0.55;
 
 } // namespace
 
-MoreSlidersPanel::MoreSlidersPanel(bool hasSize, QWidget *parent)
+MoreSlidersPanel::MoreSlidersPanel(const std::vector<SpecimenSlider::Kind> &kinds, QWidget *parent)
     : QWidget(parent)
 {
     auto *column = new QVBoxLayout(this);
@@ -28,9 +27,8 @@ MoreSlidersPanel::MoreSlidersPanel(bool hasSize, QWidget *parent)
     column->setSpacing(spacing::k12 + kCaptionHeight);
     column->setSizeConstraint(QLayout::SetMinimumSize);
     column->addSpacing(kCaptionHeight - column->spacing());
-    if (hasSize)
-        m_sliders.push_back(new SpecimenSlider(SpecimenSlider::Kind::size, this));
-    m_sliders.push_back(new SpecimenSlider(SpecimenSlider::Kind::weight, this));
+    for (const SpecimenSlider::Kind kind : kinds)
+        m_sliders.push_back(new SpecimenSlider(kind, this));
     for (SpecimenSlider *slider : m_sliders)
         column->addWidget(slider);
     takeColors();
@@ -58,14 +56,12 @@ void MoreSlidersPanel::paintEvent(QPaintEvent *)
     painter.setPen(quietColor(neutral.text, neutral.ground, kCaptionAlpha));
     for (const SpecimenSlider *slider : m_sliders) {
         const QRect place = slider->geometry();
-        const QString name =
-            slider->kind() == SpecimenSlider::Kind::size ? tr("Size") : tr("Weight");
         const QRect caption(place.left(), place.top() - kCaptionHeight, place.width(),
                             kCaptionHeight);
         painter.drawText(
             caption,
             int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter)),
-            name);
+            slider->label());
     }
 }
 

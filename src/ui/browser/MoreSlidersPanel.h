@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/browser/SpecimenSlider.h"
+
 #include <QWidget>
 
 #include <vector>
 
 namespace lorva {
-
-class SpecimenSlider;
 
 /// The sliders that found no room in the bar, one below the other with their names, for a popover.
 /// Neutral colours. Thread: main.
@@ -16,7 +16,8 @@ class MoreSlidersPanel final : public QWidget
 {
     Q_OBJECT
 public:
-    explicit MoreSlidersPanel(bool hasSize, QWidget *parent = nullptr);
+    explicit MoreSlidersPanel(const std::vector<SpecimenSlider::Kind> &kinds,
+                              QWidget *parent = nullptr);
 
     const std::vector<SpecimenSlider *> &sliders() const { return m_sliders; }
 

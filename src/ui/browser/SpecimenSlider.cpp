@@ -7,8 +7,13 @@
 #include "ui/style/PointSlider.h"
 #include "ui/style/Style.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QStyle>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace lorva {
 
@@ -23,6 +28,33 @@ constexpr int kHeight = spacing::k28;
 constexpr int kWeightStep = 10;
 constexpr int kWeightStop = 100;
 constexpr int kSizePage = 10;
+/// Ems.
+constexpr double kTightest = -0.1;
+constexpr double kWidest = 0.5;
+constexpr double kSpacingStep = 0.01;
+constexpr int kSpacingPage = 5;
+/// So many steps around 0 are 0 to a knob that is held: about three points of its way.
+constexpr int kStickySteps = 2;
+constexpr double kUsualDetailSize = 96;
+/// No value is out here, and all of them are whole numbers.
+constexpr double kFarthest = 1e6;
+
+/// Sizes as one would choose them: the larger, the farther apart.
+const std::vector<int> kDetailSizes = [] {
+    std::vector<int> sizes;
+    for (const auto &[end, step] : {std::pair(48, 1), {100, 2}, {200, 4}, {401, 8}}) {
+        for (int size = sizes.empty() ? 12 : sizes.back() + step; size < end; size += step)
+            sizes.push_back(size);
+        if (end < 400)
+            sizes.push_back(end);
+    }
+    return sizes;
+}();
+
+constexpr double kGapHeight = 9;
+constexpr double kNarrowGap = 3;
+constexpr double kWideGap = 9;
+constexpr double kGapStroke = 1.2;
 
 } // namespace
 
@@ -33,35 +65,78 @@ SpecimenSlider::SpecimenSlider(Kind kind, QWidget *parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setUpSlider();
-    connect(m_slider, &QSlider::valueChanged, this, [this](int value) {
-        if (!m_suppressCallbacks)
-            Q_EMIT valueChosen(value);
-    });
+    connect(m_slider, &QSlider::valueChanged, this, &SpecimenSlider::moved);
     connect(m_slider, &QSlider::sliderPressed, this, [this] { Q_EMIT holdChanged(true); });
     connect(m_slider, &QSlider::sliderReleased, this, [this] { Q_EMIT holdChanged(false); });
+}
+
+QString SpecimenSlider::label() const
+{
+    switch (m_kind) {
+    case Kind::size:
+    case Kind::detailSize:
+        return tr("Size");
+    case Kind::weight:
+        return tr("Weight");
+    case Kind::letterSpacing:
+        break;
+    }
+    return tr("Letter Spacing");
 }
 
 void SpecimenSlider::setUpSlider()
 {
     static const DisplayValues defaults;
-    if (m_kind == Kind::size) {
+    m_slider->setToolTip(label());
+    switch (m_kind) {
+    case Kind::size:
         m_slider->setObjectName(QStringLiteral("pointSizeSlider"));
         m_slider->setAccessibleName(tr("Specimen size"));
-        m_slider->setToolTip(tr("Size"));
-        m_slider->setRange(int(SourceDisplay::kMinimumPointSize),
-                           int(SourceDisplay::kMaximumPointSize));
         m_slider->setPageStep(kSizePage);
-        m_slider->setDefaultValue(qRound(defaults.browserPointSize));
-        m_slider->setValue(qRound(defaults.browserPointSize));
-        return;
+        return setUpRange(SourceDisplay::kMinimumPointSize, SourceDisplay::kMaximumPointSize,
+                          defaults.browserPointSize);
+    case Kind::weight:
+        m_slider->setObjectName(QStringLiteral("fontWeightSlider"));
+        m_slider->setAccessibleName(tr("Specimen weight"));
+        m_slider->setStops(kWeightStep, kWeightStop);
+        return setUpRange(SourceDisplay::kMinimumWeight, SourceDisplay::kMaximumWeight,
+                          defaults.browserFontWeight);
+    case Kind::detailSize:
+        m_slider->setObjectName(QStringLiteral("detailSizeSlider"));
+        m_slider->setAccessibleName(tr("Preview size"));
+        m_slider->setPageStep(kSizePage);
+        return setUpRange(kDetailSizes.front(), kDetailSizes.back(), kUsualDetailSize);
+    case Kind::letterSpacing:
+        m_slider->setObjectName(QStringLiteral("letterSpacingSlider"));
+        m_slider->setAccessibleName(tr("Letter spacing"));
+        m_slider->setPageStep(kSpacingPage);
+        return setUpRange(kTightest, kWidest, 0);
     }
-    m_slider->setObjectName(QStringLiteral("fontWeightSlider"));
-    m_slider->setAccessibleName(tr("Specimen weight"));
-    m_slider->setToolTip(tr("Weight"));
-    m_slider->setRange(int(SourceDisplay::kMinimumWeight), int(SourceDisplay::kMaximumWeight));
-    m_slider->setStops(kWeightStep, kWeightStop);
-    m_slider->setDefaultValue(qRound(defaults.browserFontWeight));
-    m_slider->setValue(qRound(defaults.browserFontWeight));
+}
+
+void SpecimenSlider::setUpRange(double least, double most, double usual)
+{
+    m_slider->setRange(positionOf(least), positionOf(most));
+    m_slider->setDefaultValue(positionOf(usual));
+    setValue(usual);
+}
+
+int SpecimenSlider::positionOf(double value) const
+{
+    if (m_kind == Kind::letterSpacing)
+        return qRound(std::clamp(value, kTightest, kWidest) / kSpacingStep);
+    if (m_kind != Kind::detailSize)
+        return qRound(std::clamp(value, -kFarthest, kFarthest));
+    const auto nearest = std::ranges::min_element(kDetailSizes, {},
+                                                  [&](int size) { return std::abs(size - value); });
+    return int(nearest - kDetailSizes.begin());
+}
+
+double SpecimenSlider::valueAt(int position) const
+{
+    if (m_kind == Kind::letterSpacing)
+        return position * kSpacingStep;
+    return m_kind == Kind::detailSize ? kDetailSizes[size_t(position)] : position;
 }
 
 void SpecimenSlider::setValue(double value)
@@ -69,8 +144,37 @@ void SpecimenSlider::setValue(double value)
     if (m_slider->isSliderDown())
         return;
     m_suppressCallbacks = true;
-    m_slider->setValue(qRound(std::clamp<double>(value, m_slider->minimum(), m_slider->maximum())));
+    m_slider->setValue(positionOf(value));
     m_suppressCallbacks = false;
+    m_position = m_slider->value();
+    describe();
+}
+
+void SpecimenSlider::moved(int position)
+{
+    if (m_suppressCallbacks)
+        return;
+    const bool sticks = m_kind == Kind::letterSpacing && m_slider->isSliderDown();
+    if (sticks && std::abs(position) <= kStickySteps) {
+        m_suppressCallbacks = true;
+        m_slider->setValue(0);
+        m_suppressCallbacks = false;
+        position = 0;
+    }
+    if (std::exchange(m_position, position) == position)
+        return;
+    describe();
+    Q_EMIT valueChosen(valueAt(position));
+}
+
+/// Where a position is not the value itself.
+void SpecimenSlider::describe()
+{
+    const QLocale locale;
+    if (m_kind == Kind::detailSize)
+        m_slider->setAccessibleDescription(tr("%1 points").arg(valueAt(m_position)));
+    if (m_kind == Kind::letterSpacing)
+        m_slider->setAccessibleDescription(tr("%1 em").arg(locale.toString(valueAt(m_position))));
 }
 
 void SpecimenSlider::setColors(const QColor &foreground, const QColor &background)
@@ -95,7 +199,7 @@ void SpecimenSlider::resizeEvent(QResizeEvent *)
 
 QFont SpecimenSlider::letterFont(bool isLarge) const
 {
-    if (m_kind == Kind::size)
+    if (m_kind != Kind::weight)
         return interfaceFont(isLarge ? InterfaceSize::title : InterfaceSize::tag);
     QFont font = interfaceFont(InterfaceSize::label);
     // A specimen of what the slider does, not a text of the interface.
@@ -103,18 +207,34 @@ QFont SpecimenSlider::letterFont(bool isLarge) const
     return font;
 }
 
+/// Two strokes, near each other or far apart.
+void SpecimenSlider::paintGap(QPainter &painter, const QRectF &room, bool isWide) const
+{
+    const double half = (isWide ? kWideGap : kNarrowGap) / 2;
+    const QPointF center = room.center();
+    for (const double x : {center.x() - half, center.x() + half}) {
+        const QRectF stroke(x - kGapStroke / 2, center.y() - kGapHeight / 2, kGapStroke,
+                            kGapHeight);
+        painter.fillRect(stroke, painter.pen().color());
+    }
+}
+
 void SpecimenSlider::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
     const QColor ground = blended(m_background, Qt::white);
     painter.setPen(quietColor(controlColor(m_foreground, m_background), ground, kLetterAlpha));
-    const QString letter = m_kind == Kind::size ? QStringLiteral("A") : QStringLiteral("W");
+    const QString letter = m_kind == Kind::weight ? QStringLiteral("W") : QStringLiteral("A");
     for (const bool isLarge : {false, true}) {
         const int x = isLarge ? width() - kLetterWidth : 0;
         const QRect logical(x, 0, kLetterWidth, height());
+        const QRect room = QStyle::visualRect(layoutDirection(), rect(), logical);
         painter.setFont(letterFont(isLarge));
-        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), logical),
-                         Qt::AlignCenter | Qt::TextDontClip, letter);
+        if (m_kind == Kind::letterSpacing)
+            paintGap(painter, room, isLarge);
+        else
+            painter.drawText(room, Qt::AlignCenter | Qt::TextDontClip, letter);
     }
 }
 

@@ -2,58 +2,44 @@
 // SPDX-License-Identifier: MIT
 #include "ui/browser/TopBarLayout.h"
 
-#include "ui/style/Style.h"
-
 #include <QStyle>
 
 namespace lorva {
 
+using namespace barspace;
+
+BarRow::BarRow(int width, Qt::LayoutDirection direction)
+    : m_bar(0, 0, width, kTopBarHeight)
+    , m_direction(direction)
+    , m_edge(width - kPadding)
+{
+}
+
+QRect BarRow::place(QSize size, int gap, int room)
+{
+    m_edge -= gap - room - m_roomBehind + size.width();
+    m_roomBehind = room;
+    return visual(QRect(m_edge, (kTopBarHeight - size.height()) / 2, size.width(), size.height()));
+}
+
+int BarRow::restWidth(int start, int gap) const
+{
+    return m_edge + m_roomBehind - gap - start;
+}
+
+QRect BarRow::rest(int start, int gap) const
+{
+    return visual(QRect(start, 0, std::max(restWidth(start, gap), 0), kTopBarHeight));
+}
+
+QRect BarRow::visual(const QRect &logical) const
+{
+    return QStyle::visualRect(m_direction, m_bar, logical);
+}
+
 namespace {
 
-constexpr int kPadding = spacing::k24;
-constexpr int kGroupGap = 22;
-/// Parts are larger than what is seen of them: room for rings and for the pointer.
-constexpr int kButtonRoom = 6;
-constexpr int kChipRoom = 4;
 constexpr int kSmallestSearch = 96;
-
-/// Places parts one before the other, from the trailing edge.
-class Row
-{
-public:
-    Row(int width, Qt::LayoutDirection direction)
-        : m_bar(0, 0, width, kTopBarHeight)
-        , m_direction(direction)
-        , m_edge(width - kPadding)
-    {
-    }
-
-    /// `gap`: to the part behind, as the eye sees it; `room`: what of the part is not seen on
-    /// either side.
-    QRect place(QSize size, int gap, int room = 0)
-    {
-        m_edge -= gap - room - m_roomBehind + size.width();
-        m_roomBehind = room;
-        return visual(
-            QRect(m_edge, (kTopBarHeight - size.height()) / 2, size.width(), size.height()));
-    }
-    QRect rest() const
-    {
-        const int end = m_edge + m_roomBehind - kGroupGap;
-        return visual(QRect(kPadding, 0, std::max(end - kPadding, 0), kTopBarHeight));
-    }
-
-private:
-    QRect visual(const QRect &logical) const
-    {
-        return QStyle::visualRect(m_direction, m_bar, logical);
-    }
-
-    const QRect m_bar;
-    const Qt::LayoutDirection m_direction;
-    int m_edge;
-    int m_roomBehind = 0;
-};
 
 /// What search loses when the narrowest form does not fit.
 QSize searchSize(int width, const TopBarParts &parts)
@@ -69,12 +55,11 @@ QSize searchSize(int width, const TopBarParts &parts)
 TopBarLayout layOutTopBar(int width, const TopBarParts &parts, Qt::LayoutDirection direction)
 {
     TopBarLayout layout;
-    Row row(width, direction);
+    BarRow row(width, direction);
     layout.search = row.place(searchSize(width, parts), 0);
     layout.mode = row.place(parts.mode, kGroupGap);
     layout.sampleText = row.place(parts.button, kGroupGap, kButtonRoom);
-    // The two buttons stand side by side, as wide as they are to the pointer.
-    layout.logo = row.place(parts.button, 2 * kButtonRoom, kButtonRoom);
+    layout.logo = row.place(parts.button, kButtonGap, kButtonRoom);
     layout.chips = row.place(parts.chips, kGroupGap, kChipRoom);
     if (width < kTopBarWeightWidth)
         layout.more = row.place(parts.button, kGroupGap, kButtonRoom);
@@ -82,7 +67,7 @@ TopBarLayout layOutTopBar(int width, const TopBarParts &parts, Qt::LayoutDirecti
         layout.weight = row.place(parts.slider, kGroupGap);
     if (width >= kTopBarSizeWidth)
         layout.size = row.place(parts.slider, kGroupGap);
-    layout.title = row.rest();
+    layout.title = row.rest(kPadding, kGroupGap);
     return layout;
 }
 

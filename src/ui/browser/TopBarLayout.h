@@ -8,6 +8,42 @@
 
 namespace lorva {
 
+/// A row of groups, 22 points apart as the eye sees them.
+namespace barspace {
+inline constexpr int kPadding = 24;
+inline constexpr int kGroupGap = 22;
+/// Parts are larger than what is seen of them: room for rings and for the pointer.
+inline constexpr int kButtonRoom = 6;
+inline constexpr int kChipRoom = 4;
+/// Between the parts of two buttons that stand side by side, as wide as they are to the pointer.
+inline constexpr int kButtonGap = 2 * kButtonRoom;
+} // namespace barspace
+
+inline constexpr int kTopBarHeight = 52;
+
+/// Places the parts of a bar one before the other, from the trailing edge. Units: points.
+class BarRow
+{
+public:
+    BarRow(int width, Qt::LayoutDirection direction);
+
+    /// `gap`: to the part behind, as the eye sees it; `room`: what of the part is not seen on
+    /// either side.
+    QRect place(QSize size, int gap, int room = 0);
+    /// What is left from `start` on, `gap` before the part that was placed last.
+    QRect rest(int start, int gap) const;
+    /// How wide that is; below 0: so much is missing.
+    int restWidth(int start, int gap) const;
+    /// A rectangle as it would be from left to right.
+    QRect visual(const QRect &logical) const;
+
+private:
+    const QRect m_bar;
+    const Qt::LayoutDirection m_direction;
+    int m_edge;
+    int m_roomBehind = 0;
+};
+
 /// Where the parts of the bar over the cards lie: a row of groups, 22 points apart as the eye sees
 /// them, at the trailing edge; the title has the rest.
 ///
@@ -27,7 +63,6 @@ struct TopBarLayout
     QRect search;
 };
 
-inline constexpr int kTopBarHeight = 52;
 /// Narrower bars have no weight slider,
 inline constexpr int kTopBarWeightWidth = 1008;
 /// and these no size slider.

@@ -2,12 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "text/Font.h"
+#include "ui/detail/CharacterCells.h"
 #include "ui/detail/DetailSection.h"
 
 #include <QColor>
+#include <QPointer>
+#include <QTimer>
+
+class QLabel;
 
 namespace lorva {
+
+class CharacterCellsView;
+class CharacterTrayView;
+class Popover;
+class QuietSpinner;
+class SegmentedControl;
 
 /// Every character that a face can draw, or every glyph that it has, in cells.
 ///
@@ -35,6 +45,55 @@ public:
     void setVisibleBand(int top, int bottom) override;
     /// What is in sight is painted.
     bool isSettled() const;
+
+    const CharacterGridModel &model() const { return m_model; }
+    /// Of a click or a key on a cell; null while none is open.
+    Popover *characterPopover() const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void takeListing();
+    void takeCells();
+    void showState();
+    QString countText() const;
+    /// What stands in place of cells; empty where there are some.
+    QString message() const;
+    int bodyHeight(int width) const;
+    void placeParts();
+    void placeTray();
+    QColor groundColor() const;
+
+    void openPopover(CellIndex cell, Qt::FocusReason reason);
+    void closePopover();
+    void openMenu(CellIndex cell, const QPoint &globalPosition);
+    void copy(const QString &text);
+    void copyCell(CellIndex cell);
+    void collect(const QString &character);
+
+    CharacterGridModel m_model;
+    CharacterFinder m_finder;
+    Font m_previewFace;
+    QColor m_foreground = Qt::black;
+    QColor m_background = Qt::white;
+    QLabel *m_count;
+    QuietSpinner *m_spinner;
+    SegmentedControl *m_kind;
+    CharacterCellsView *m_cells;
+    CharacterTrayView *m_tray;
+    QPointer<Popover> m_characterPopover;
+    /// What was copied last, told for a moment.
+    QString m_note;
+    QTimer m_noteEnd;
+    QTimer m_spinnerStart;
+    /// Kept while other characters are on the way, so that the page does not jump.
+    int m_bodyHeightBefore = 0;
+    int m_bandTop = 0;
+    int m_bandBottom = 0;
 };
 
 } // namespace lorva

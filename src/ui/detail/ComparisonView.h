@@ -4,15 +4,26 @@
 
 #include "model/records/FontFamilySubset.h"
 #include "ui/detail/DetailSection.h"
+#include "ui/detail/ComparisonFaces.h"
+#include "ui/detail/ComparisonPage.h"
 #include "ui/detail/DetailSpecimen.h"
-#include "ui/detail/SpecimenPage.h"
-#include "ui/preview/FontResolver.h"
+#include "ui/detail/TextInk.h"
+
+#include <QPointer>
+
+#include <vector>
 
 namespace lorva {
 
+class IconButton;
+class PaneButton;
+class Popover;
+class SegmentedControl;
+
 /// The style that is shown beside up to three other families on the same text, or laid over them.
 ///
-/// Thread: main. Units: points.
+/// A family that is compared with itself is not shown, but comes back when another one is shown.
+/// Nothing is set or painted while it is hidden. Thread: main. Units: points.
 class ComparisonView final : public DetailSection
 {
     Q_OBJECT
@@ -33,6 +44,48 @@ public:
     SpecimenPage page() const;
     int heightFor(int width) const override;
     bool isSettled() const;
+
+Q_SIGNALS:
+    /// By the user.
+    void otherFamiliesChanged(const QStringList &names);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void setUpControls();
+    void change();
+    void refresh();
+    void placeControls(int width) const;
+    int headerHeight(int width) const;
+    void applyColors();
+    void placeButtons();
+    Comparison comparison() const;
+    /// Those of the compared that are not the family that is shown.
+    std::vector<const ComparisonFaces::Face *> shownFaces() const;
+    const ComparisonPage &pageFor(int width) const;
+    void openPicker();
+    void choose(const QString &name);
+    void takeOut(size_t shownFace);
+    void userChose(const QStringList &names);
+
+    DetailSpecimen m_specimen;
+    ComparisonFaces m_faces;
+    ComparisonMode m_shownMode = ComparisonMode::beside;
+    bool m_matchesXHeight = false;
+    SegmentedControl *m_mode;
+    SegmentedControl *m_match;
+    PaneButton *m_add;
+    std::vector<IconButton *> m_removers;
+    QPointer<Popover> m_popover;
+    /// The page of m_pageWidth; −1 when something changed since.
+    mutable ComparisonPage m_page;
+    mutable int m_pageWidth = -1;
+    std::vector<TextInk> m_inks;
+    int m_toldHeight = -1;
 };
 
 } // namespace lorva

@@ -2,16 +2,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/browser/BarDisplayControls.h"
 #include "ui/detail/FontDetailState.h"
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class QMenu;
 
 namespace lorva {
+
+class BarSearch;
+class SegmentedControl;
 
 /// The bar over the detail page: back, the family's name, what sets the preview's look, and the
 /// search for characters.
@@ -42,6 +48,35 @@ Q_SIGNALS:
     void searchChanged(const QString &query);
     /// The user is done with the search field: the characters take the keyboard.
     void searchLeft();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void setUpNames();
+    void connectParts();
+    void connectWays();
+    void valueChosen(BarDisplayControls::Kind kind, double value);
+    void takeDirection();
+    void layOut();
+    void openMenu();
+
+    FontDetailDelegate *m_delegate = nullptr;
+    IconButton *m_back;
+    IconButton *m_previous;
+    IconButton *m_next;
+    std::unique_ptr<BarDisplayControls> m_controls;
+    SegmentedControl *m_stages;
+    IconButton *m_inspector;
+    IconButton *m_menuButton;
+    BarSearch *m_search;
+    QPointer<QMenu> m_menu;
+    QString m_title;
+    QRect m_titleRect;
+    QColor m_foreground = Qt::black;
+    QColor m_background = Qt::white;
 };
 
 } // namespace lorva

@@ -42,20 +42,47 @@ struct SpecimenPage
         QImage image;
         QRectF rect;
     };
+    /// A hairline across, along the rectangle's lower edge.
+    struct Rule
+    {
+        QRectF rect;
+        QColor color;
+    };
+    /// A filled ellipse.
+    struct Dot
+    {
+        QRectF rect;
+        QColor color;
+    };
 
     QSizeF size;
     std::vector<Text> texts;
     std::vector<Caption> captions;
     std::vector<Picture> pictures;
+    std::vector<Rule> rules;
+    std::vector<Dot> dots;
+    /// Of the document, where a file has one.
+    QString title;
 };
 
-/// Paints all of it. Thread: any.
-void paintPage(QPainter &painter, const SpecimenPage &page);
+/// Room around a page in a file: a page's own edges are the pane's, where ink may hang over.
+inline constexpr double kFileMargin = 48;
+/// Sides of a page in a file, with its margins: what PDF takes.
+inline constexpr double kLongestFileSide = 14400;
+/// A PNG beyond this is refused: it would take a quarter of a gigabyte to make.
+inline constexpr double kMostFilePixels = 64e6;
 
-/// Writes it as PNG (twice as many pixels as points), SVG or PDF (outlines, no fonts inside), by
-/// the ending of the file's name; `background` transparent: none. The file is replaced at once or
-/// not at all. Fails with usage for another ending, tooLarge, and what writing gives; the detail is
-/// fit to be shown. Thread: any.
+/// Paints all of it. On pixels captions are set as the interface sets its texts; on a page without
+/// pixels they are outlines. Thread: any.
+void paintPage(QPainter &painter, const SpecimenPage &page);
+/// Paints all but texts and pictures: what a view draws around specimens that it keeps as images.
+void paintPageFurniture(QPainter &painter, const SpecimenPage &page);
+
+/// Writes it with a margin around it as PNG (twice as many pixels as points), SVG or PDF (outlines,
+/// no fonts inside), by the ending of the file's name; `background` transparent: none. The same
+/// page gives the same bytes. The file is replaced at once or not at all, and a font file not at
+/// all. Fails with usage for another ending, tooLarge, invalidValue for an empty page or a font
+/// file, and what writing gives; the detail is fit to be shown. Thread: any.
 Result<void> writePage(const SpecimenPage &page, const QColor &background, const FilePath &target);
 
 } // namespace lorva

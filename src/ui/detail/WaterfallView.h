@@ -4,13 +4,17 @@
 
 #include "ui/detail/DetailSection.h"
 #include "ui/detail/DetailSpecimen.h"
-#include "ui/detail/SpecimenPage.h"
+#include "ui/detail/TextInk.h"
+#include "ui/detail/WaterfallRows.h"
+
+#include <optional>
+#include <vector>
 
 namespace lorva {
 
-/// The same line in falling sizes.
+/// The same line in falling sizes. Only what is in sight is set and painted.
 ///
-/// Thread: main. Units: points.
+/// Owns the pixels of the lines in and near sight. Thread: main. Units: points.
 class WaterfallView final : public DetailSection
 {
     Q_OBJECT
@@ -23,6 +27,22 @@ public:
     SpecimenPage page() const;
     int heightFor(int width) const override;
     void setVisibleBand(int top, int bottom) override;
+    /// How many lines hold pixels.
+    int paintedLines() const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void forgetLines();
+    TextInk &line(size_t index);
+
+    DetailSpecimen m_specimen;
+    std::vector<WaterfallRow> m_rows;
+    /// For each row; absent until it is painted.
+    std::vector<std::optional<TextInk>> m_lines;
 };
 
 } // namespace lorva

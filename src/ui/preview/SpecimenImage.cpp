@@ -6,28 +6,18 @@
 #include "text/GlyphPainter.h"
 #include "ui/preview/PreviewText.h"
 
-#include <QPainter>
-
 #include <cmath>
 
 namespace lorva {
 
 namespace {
 
-/// A logo scaled beyond this is painted straight onto the canvas, so that no ratio can ask for
-/// gigabytes.
-constexpr double kMaxScaledLogoDevicePx = 4096;
 /// Antialiasing reaches this far beyond the outlines.
 constexpr int kInkOutsetDevicePx = 2;
 
 bool hasLogo(const FontPreviewConfiguration &configuration)
 {
     return configuration.logoImage.has_value();
-}
-
-double logoGap(const FontPreviewConfiguration &configuration, const Font &font)
-{
-    return std::max(0.0, configuration.logoSpacing * font.pointSize());
 }
 
 TextLayoutOptions layoutOptions(const FontPreviewConfiguration &configuration, double width,
@@ -41,16 +31,6 @@ TextLayoutOptions layoutOptions(const FontPreviewConfiguration &configuration, d
     options.maximumLines = configuration.singleLine ? 1 : 0;
     options.firstLineInset = inset;
     return options;
-}
-
-/// The logo's place in the layout's box: at the leading edge of the first line, centred on the cap
-/// height.
-QRectF logoRectInLayout(const LayoutLine &line, QSizeF size, double capHeight)
-{
-    const double left = line.origin.x() + (line.isRightToLeft ? line.width - size.width() : 0.0);
-    const double bottomAboveBaseline = (capHeight - size.height()) * 0.5;
-    const double top = line.origin.y() - bottomAboveBaseline - size.height();
-    return QRectF(QPointF(left, top), size);
 }
 
 /// The line box, which stands in for the ink of a text that has none.
@@ -68,13 +48,6 @@ bool isCenteredOnInk(const FontPreviewConfiguration &configuration, const TextLa
         && !layout.isTruncated();
 }
 
-/// Stems are upright and bars level: a baseline between two pixel rows would blur every bar of the
-/// line.
-double snapped(double points, double devicePixelRatio)
-{
-    return std::round(points * devicePixelRatio) / devicePixelRatio;
-}
-
 QPointF specimenOrigin(const FontPreviewConfiguration &configuration, const TextLayout &layout,
                        const QRectF &ink, const SpecimenCanvas &canvas)
 {
@@ -83,8 +56,9 @@ QPointF specimenOrigin(const FontPreviewConfiguration &configuration, const Text
     if (isCenteredOnInk(configuration, layout))
         x = canvas.size.width() / 2.0 - box.center().x();
     const double baseline = layout.lines().empty() ? 0.0 : layout.lines().front().origin.y();
+    // A baseline between two pixel rows would blur every bar of the line.
     const double y = canvas.size.height() / 2.0 - box.center().y();
-    return QPointF(x, snapped(y + baseline, canvas.devicePixelRatio) - baseline);
+    return QPointF(x, snappedToPixel(y + baseline, canvas.devicePixelRatio) - baseline);
 }
 
 /// The whole device pixels of the view that the ink touches.
@@ -111,49 +85,7 @@ Font weighted(const Font &font, const FontPreviewConfiguration &configuration)
     return variable ? withWeight(font, weightWithin(variable->axis, *configuration.weight)) : font;
 }
 
-/// The logo's shape in the text's colour.
-QImage tinted(QImage logo, const QColor &color)
-{
-    logo.convertTo(QImage::Format_ARGB32_Premultiplied);
-    logo.setDevicePixelRatio(1.0);
-    QPainter painter(&logo);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(logo.rect(), color);
-    return logo;
-}
-
-/// Scaled with a filter that reads every pixel: a painter's own would drop rows of a large logo.
-QImage scaledForCanvas(const QImage &logo, QSizeF size, double devicePixelRatio)
-{
-    const QSizeF wanted = size * devicePixelRatio;
-    if (std::max(wanted.width(), wanted.height()) > kMaxScaledLogoDevicePx)
-        return logo;
-    const QSize devicePx(std::max(1, qRound(wanted.width())), std::max(1, qRound(wanted.height())));
-    return logo.scaled(devicePx, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-void paintLogo(QImage &image, const QImage &logo, const QRectF &rect, const QColor &color)
-{
-    if (logo.isNull() || rect.isEmpty())
-        return;
-    const double ratio = image.devicePixelRatio();
-    const QImage shape = scaledForCanvas(logo, rect.size(), ratio);
-    // On whole device pixels, so that the scaled pixels are not filtered a second time.
-    const QPointF corner(snapped(rect.left(), ratio), snapped(rect.top(), ratio));
-    const bool isScaled = shape.size() != logo.size();
-    const QRectF target(corner, isScaled ? QSizeF(shape.size()) / ratio : rect.size());
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, tinted(shape, color), QRectF(shape.rect()));
-}
-
 } // namespace
-
-QSizeF logoSize(QSizeF imageSize, double capHeight, double sizeRatio)
-{
-    const double height = std::max(0.0, capHeight * sizeRatio);
-    return QSizeF(height * imageSize.width() / std::max(1.0, imageSize.height()), height);
-}
 
 Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Font &face,
                         const SpecimenCanvas &canvas)
@@ -168,7 +100,8 @@ Specimen layOutSpecimen(const FontPreviewConfiguration &configuration, const Fon
     if (hasLogo(configuration))
         logo = logoSize(configuration.logoImage->size(), font.capHeight(),
                         configuration.logoSizeRatio);
-    const double inset = hasLogo(configuration) ? logo.width() + logoGap(configuration, font) : 0.0;
+    const double inset =
+        hasLogo(configuration) ? logoInset(logo, configuration.logoSpacing, font.pointSize()) : 0.0;
     const QString text = configuration.singleLine
         ? lineExcerpt(specimen.text, canvas.size.width(), font.pointSize())
         : specimen.text;

@@ -4,6 +4,7 @@
 
 #include "text/TextLayout.h"
 #include "ui/preview/FontPreviewConfiguration.h"
+#include "ui/preview/SpecimenLogo.h"
 
 #include <QImage>
 #include <QRectF>
@@ -49,10 +50,6 @@ struct SpecimenImage
     /// The image's top left, in device pixels from the view's.
     QPoint devicePosition;
 };
-
-/// The size at which a logo of `imageSize` stands beside type of `capHeight`; heights under 1 count
-/// as 1.
-QSizeF logoSize(QSizeF imageSize, double capHeight, double sizeRatio);
 
 /// Sets the specimen: single lines within the margins, centred on their ink (not on their line
 /// box), the logo centred on the cap height. A null face gives an empty specimen.

@@ -10,10 +10,8 @@
 #include "ui/style/SymbolImage.h"
 
 #include <QFocusEvent>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QProxyStyle>
-#include <QStyleHints>
 
 namespace lorva {
 
@@ -28,7 +26,6 @@ constexpr double kSymbolAlpha = 0.7;
 constexpr double kSymbolSize = 16;
 constexpr int kClearSide = 22;
 constexpr double kCaretWidth = 1.5;
-constexpr double kCaretContrast = 3.0;
 constexpr double kDisabledOpacity = 0.4;
 
 /// A text field's own caret has the text's colour, so it is switched off and drawn by us.
@@ -56,6 +53,7 @@ public:
 
 LineField::LineField(QWidget *parent)
     : QLineEdit(parent)
+    , m_blink([this] { update(); })
 {
     setStyle(CaretlessStyle::shared());
     setFrame(false);
@@ -70,11 +68,6 @@ LineField::LineField(QWidget *parent)
     });
     connect(this, &QLineEdit::cursorPositionChanged, this, &LineField::restartCaret);
     connect(this, &QLineEdit::selectionChanged, this, qOverload<>(&QWidget::update));
-    m_blink.setTimerType(Qt::CoarseTimer);
-    connect(&m_blink, &QTimer::timeout, this, [this] {
-        m_caretIsLit = !m_caretIsLit;
-        update();
-    });
     takeColors();
     placeParts();
 }
@@ -226,26 +219,20 @@ void LineField::focusOutEvent(QFocusEvent *event)
 
 void LineField::restartCaret()
 {
-    m_caretIsLit = true;
-    const int flashMs = QGuiApplication::styleHints()->cursorFlashTime();
-    if (hasFocus() && flashMs >= 2)
-        m_blink.start(flashMs / 2);
-    else
-        m_blink.stop();
+    m_blink.restart(hasFocus());
     update();
 }
 
 void LineField::paintCaret(QPainter &painter) const
 {
-    if (!hasFocus() || isReadOnly() || !m_caretIsLit || hasSelectedText())
+    if (!hasFocus() || isReadOnly() || !m_blink.isLit() || hasSelectedText())
         return;
     const QColor ink = palette().color(QPalette::Text);
     const QColor ground = blended(colors().background, Qt::white);
-    const bool isSeen = contrastRatio(accentColor(), ground) >= kCaretContrast;
     const QRectF around(cursorRect());
     painter.fillRect(
         QRectF(around.center().x() - kCaretWidth / 2, around.top(), kCaretWidth, around.height()),
-        isSeen ? accentColor() : ink);
+        caretColor(ink, ground));
 }
 
 void LineField::paintEvent(QPaintEvent *event)

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/Caret.h"
+
 #include <QColor>
 #include <QLineEdit>
-#include <QTimer>
 
 #include <optional>
 
@@ -62,12 +63,11 @@ private:
     QColor m_bed;
     QString m_symbol;
     IconButton *m_clear = nullptr;
-    QTimer m_blink;
+    CaretBlink m_blink;
     /// What was told last.
     QString m_settledText;
     bool m_isComposing = false;
     bool m_takesColors = false;
-    bool m_caretIsLit = true;
     bool m_showsFocus = false;
 };
 

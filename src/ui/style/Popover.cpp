@@ -77,22 +77,39 @@ private:
 
 Popover *Popover::open(QWidget *content, QWidget *anchor, const QString &name)
 {
-    [[maybe_unused]] static const bool once = (QAccessible::installFactory(&makeAccessible), true);
-    auto *popover = new Popover(content, anchor);
-    popover->setAccessibleName(name);
-    popover->place();
-    popover->m_shadow->show();
-    popover->show();
-    popover->raise();
-    popover->fadeIn();
-    popover->takeFocus();
+    auto *popover = new Popover(content, anchor, {});
+    // A press does not give our controls the focus; where the anchor has it, the keyboard opened
+    // this.
+    const bool isByKeyboard = popover->m_focusBefore == anchor;
+    popover->open(name, isByKeyboard ? Qt::TabFocusReason : Qt::OtherFocusReason);
     return popover;
 }
 
-Popover::Popover(QWidget *content, QWidget *anchor)
+Popover *Popover::openAt(QWidget *content, QWidget *anchor, const QRect &part, const QString &name,
+                         Qt::FocusReason reason)
+{
+    auto *popover = new Popover(content, anchor, part);
+    popover->open(name, reason);
+    return popover;
+}
+
+void Popover::open(const QString &name, Qt::FocusReason reason)
+{
+    [[maybe_unused]] static const bool once = (QAccessible::installFactory(&makeAccessible), true);
+    setAccessibleName(name);
+    place();
+    m_shadow->show();
+    show();
+    raise();
+    fadeIn();
+    takeFocus(reason);
+}
+
+Popover::Popover(QWidget *content, QWidget *anchor, const QRect &part)
     : QWidget(anchor->window())
     , m_content(content)
     , m_anchor(anchor)
+    , m_part(part)
     , m_focusBefore(anchor->window()->focusWidget())
     , m_shadow(new Shadow(anchor->window()))
     , m_scroll(new QScrollArea(this))
@@ -138,19 +155,41 @@ void Popover::close()
     Q_EMIT closed();
 }
 
+void Popover::setColors(const QColor &ink, const QColor &ground)
+{
+    m_colors = std::pair(ink, ground);
+    update();
+}
+
+/// In the window's points.
+QRect Popover::anchorRect() const
+{
+    const QRect rect = m_part.isNull() ? m_anchor->rect() : m_part;
+    return {m_anchor->mapTo(parentWidget(), rect.topLeft()), rect.size()};
+}
+
+bool Popover::isAnchorInSight() const
+{
+    if (!m_anchor || !m_anchor->isVisible())
+        return false;
+    QRect seen = m_part.isNull() ? m_anchor->rect() : m_part;
+    for (const QWidget *at = m_anchor; at != parentWidget(); at = at->parentWidget())
+        seen = seen.intersected(at->rect()).translated(at->pos());
+    return m_part.isNull() || !seen.isEmpty();
+}
+
 void Popover::place()
 {
     if (m_isClosed || !m_anchor || !m_content)
         return;
     const QRect room = parentWidget()->rect().adjusted(kWindowMargin, kWindowMargin, -kWindowMargin,
                                                        -kWindowMargin);
-    const QRect anchor(m_anchor->mapTo(parentWidget(), QPoint()), m_anchor->size());
     QSize wanted = m_content->sizeHint().expandedTo(m_content->minimumSize());
     if (m_content->hasHeightForWidth())
         wanted.setHeight(m_content->heightForWidth(wanted.width()));
     if (wanted.height() > room.height())
         wanted.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
-    setGeometry(placeBeside(anchor, wanted, room));
+    setGeometry(placeBeside(anchorRect(), wanted, room));
     m_scroll->setGeometry(rect());
     if (m_shadow)
         m_shadow->surround(geometry());
@@ -162,7 +201,7 @@ void Popover::placeLater()
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (m_anchor && m_anchor->isVisible())
+            if (isAnchorInSight())
                 place();
             else
                 close();
@@ -191,17 +230,14 @@ void Popover::fadeIn()
     }
 }
 
-void Popover::takeFocus()
+void Popover::takeFocus(Qt::FocusReason reason)
 {
-    // A press does not give our controls the focus; where the anchor has it, the keyboard opened
-    // this.
-    const bool isByKeyboard = m_anchor && m_focusBefore == m_anchor;
     QWidget *first = neighbourInside(this, true);
     if (!first) {
         setFocusPolicy(Qt::StrongFocus);
         first = this;
     }
-    first->setFocus(isByKeyboard ? Qt::TabFocusReason : Qt::OtherFocusReason);
+    first->setFocus(reason);
 }
 
 void Popover::giveFocusBack()
@@ -234,6 +270,14 @@ bool Popover::isOnAnchor(const QObject *watched) const
     return m_anchor && widget && (widget == m_anchor || m_anchor->isAncestorOf(widget));
 }
 
+/// What is scrolled moves the anchor without telling it.
+bool Popover::isAroundAnchor(const QObject *watched) const
+{
+    const auto *widget = qobject_cast<const QWidget *>(watched);
+    return m_anchor && widget && widget != parentWidget()
+        && (widget == m_anchor || widget->isAncestorOf(m_anchor));
+}
+
 bool Popover::eventFilter(QObject *watched, QEvent *event)
 {
     if (m_isClosed)
@@ -245,7 +289,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
             break;
         close();
         // The anchor would only open it again.
-        return isOnAnchor(watched);
+        return m_part.isNull() && isOnAnchor(watched);
     case QEvent::Resize:
         if (watched == parentWidget())
             placeLater();
@@ -256,7 +300,7 @@ bool Popover::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::Move:
     case QEvent::Hide:
-        if (watched == m_anchor)
+        if (isAroundAnchor(watched))
             placeLater();
         break;
     default:
@@ -313,11 +357,13 @@ bool Popover::focusNextPrevChild(bool next)
 void Popover::paintEvent(QPaintEvent *)
 {
     const NeutralColors neutral = neutralColors(isDarkDesktop());
+    const QColor ink = m_colors ? m_colors->first : neutral.text;
+    const QColor ground = m_colors ? m_colors->second : neutral.ground;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double hair = 1.0 / devicePixelRatioF();
-    painter.setPen(QPen(blended(withAlpha(neutral.text, kLineAlpha), neutral.ground), hair));
-    painter.setBrush(neutral.ground);
+    painter.setPen(QPen(blended(withAlpha(ink, kLineAlpha), ground), hair));
+    painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(hair / 2, hair / 2, -hair / 2, -hair / 2),
                             kRadius, kRadius);
 }

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QPointer>
 #include <QWidget>
+
+#include <optional>
+#include <utility>
 
 class QScrollArea;
 
@@ -21,9 +25,16 @@ class Popover final : public QWidget
 public:
     /// Takes `content` over and opens below (or above) `anchor`. `name`: for assistive technology.
     static Popover *open(QWidget *content, QWidget *anchor, const QString &name);
+    /// Hangs from a part of the anchor (in its coordinates) and ends when that is scrolled out of
+    /// sight. A press on the anchor, which may concern another part, is not swallowed. `reason`: how
+    /// the focus comes to it.
+    static Popover *openAt(QWidget *content, QWidget *anchor, const QRect &part,
+                           const QString &name, Qt::FocusReason reason);
     ~Popover() override;
 
     QWidget *content() const { return m_content; }
+    /// Instead of the neutral ones.
+    void setColors(const QColor &ink, const QColor &ground);
     void close();
 
 Q_SIGNALS:
@@ -40,22 +51,29 @@ protected:
 private:
     class Shadow;
 
-    Popover(QWidget *content, QWidget *anchor);
+    Popover(QWidget *content, QWidget *anchor, const QRect &part);
+    QRect anchorRect() const;
+    bool isAnchorInSight() const;
     void place();
     void placeLater();
     void fadeIn();
-    void takeFocus();
+    void open(const QString &name, Qt::FocusReason reason);
+    void takeFocus(Qt::FocusReason reason);
     void giveFocusBack();
     void followFocus(QWidget *now);
     bool isOutside(const QObject *watched) const;
     bool isOnAnchor(const QObject *watched) const;
+    bool isAroundAnchor(const QObject *watched) const;
     QWidget *neighbourInside(QWidget *from, bool next) const;
 
     QPointer<QWidget> m_content;
     QPointer<QWidget> m_anchor;
+    /// Null: the whole anchor.
+    QRect m_part;
     QPointer<QWidget> m_focusBefore;
     QPointer<Shadow> m_shadow;
     QScrollArea *m_scroll;
+    std::optional<std::pair<QColor, QColor>> m_colors;
     bool m_isClosed = false;
 };
 

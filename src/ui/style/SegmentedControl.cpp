@@ -13,6 +13,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+#include <numeric>
 
 namespace lorva {
 
@@ -24,6 +28,13 @@ constexpr int kPadding = 2;
 constexpr double kRadius = 7;
 constexpr double kSegmentRadius = kRadius - kPadding;
 constexpr double kSymbolSize = 16;
+/// A variant's name comes from a font.
+constexpr int kWidestText = 200;
+
+QFont textFont()
+{
+    return interfaceFont(InterfaceSize::label, InterfaceWeight::medium);
+}
 
 bool isKeyboardFocus(Qt::FocusReason reason)
 {
@@ -48,8 +59,8 @@ public:
         setFocusPolicy(Qt::TabFocus);
         setAccessibleName(label);
         if (m_symbol.isEmpty())
-            setText(label);
-        else
+            setText(QString(label).replace(u'&', QStringLiteral("&&")));
+        if (!m_symbol.isEmpty() || wantedWidth() == kWidestText)
             setToolTip(label);
     }
 
@@ -57,7 +68,7 @@ public:
     {
         if (!m_symbol.isEmpty())
             return kSegmentWidth;
-        return QFontMetrics(textFont()).horizontalAdvance(text()) + 2 * spacing::k12;
+        return textSegmentWidth(accessibleName());
     }
 
 protected:
@@ -101,13 +112,14 @@ protected:
     }
 
 private:
-    static QFont textFont() { return interfaceFont(InterfaceSize::label, InterfaceWeight::medium); }
-
     void paintText(QPainter &painter, const QColor &color) const
     {
         painter.setFont(textFont());
         painter.setPen(withAlpha(color, isEnabled() ? 1.0 : 0.4));
-        painter.drawText(rect(), int(Qt::AlignCenter) | int(Qt::TextSingleLine), text());
+        const QRect room = rect().adjusted(spacing::k8, 0, -spacing::k8, 0);
+        const QString shown =
+            QFontMetrics(textFont()).elidedText(accessibleName(), Qt::ElideRight, room.width());
+        painter.drawText(room, int(Qt::AlignCenter) | int(Qt::TextSingleLine), shown);
     }
 
     void paintSymbol(QPainter &painter, QColor color) const
@@ -152,12 +164,39 @@ int SegmentedControl::append(Segment *segment)
     return index;
 }
 
-int SegmentedControl::segmentWidth() const
+int SegmentedControl::textSegmentWidth(const QString &text)
 {
-    int widest = 0;
+    const int natural = QFontMetrics(textFont()).horizontalAdvance(text.left(kWidestText));
+    return std::min(natural + 2 * spacing::k12, kWidestText);
+}
+
+void SegmentedControl::setNaturalWidths(bool isNatural)
+{
+    m_hasNaturalWidths = isNatural;
+    updateGeometry();
+    placeSegments();
+}
+
+/// Later, as far as the widgets go: a segment may be the one that has just been pressed.
+void SegmentedControl::clear()
+{
+    for (QAbstractButton *segment : m_group->buttons()) {
+        m_group->removeButton(segment);
+        segment->hide();
+        segment->setParent(nullptr);
+        segment->deleteLater();
+    }
+    updateGeometry();
+}
+
+std::vector<int> SegmentedControl::segmentWidths() const
+{
+    std::vector<int> widths;
     for (const QAbstractButton *button : m_group->buttons())
-        widest = std::max(widest, static_cast<const Segment *>(button)->wantedWidth());
-    return widest;
+        widths.push_back(static_cast<const Segment *>(button)->wantedWidth());
+    if (!m_hasNaturalWidths && !widths.empty())
+        std::ranges::fill(widths, std::ranges::max(widths));
+    return widths;
 }
 
 int SegmentedControl::currentIndex() const
@@ -178,9 +217,16 @@ void SegmentedControl::setColors(const QColor &foreground, const QColor &backgro
     update();
 }
 
+void SegmentedControl::focusCurrent()
+{
+    if (QAbstractButton *segment = m_group->checkedButton())
+        segment->setFocus(Qt::TabFocusReason);
+}
+
 QSize SegmentedControl::sizeHint() const
 {
-    return QSize(int(m_group->buttons().size()) * segmentWidth() + 2 * kPadding, kHeight);
+    const std::vector<int> widths = segmentWidths();
+    return QSize(std::accumulate(widths.begin(), widths.end(), 2 * kPadding), kHeight);
 }
 
 /// Moves the keyboard and the choice to a neighbour, as the user's doing.
@@ -197,10 +243,13 @@ void SegmentedControl::chooseBeside(QAbstractButton *segment, int step)
 void SegmentedControl::placeSegments()
 {
     const QList<QAbstractButton *> segments = m_group->buttons();
-    const int width = segmentWidth();
-    for (int i = 0; i < segments.size(); ++i) {
-        const int place = isRightToLeft() ? int(segments.size()) - 1 - i : i;
-        segments[i]->setGeometry(place * width, 0, width + 2 * kPadding, kHeight);
+    const std::vector<int> widths = segmentWidths();
+    int left = 0;
+    for (qsizetype i = 0; i < segments.size(); ++i) {
+        const QRect logical(left, 0, widths[size_t(i)] + 2 * kPadding, kHeight);
+        const QRect all(QPoint(0, 0), sizeHint());
+        segments[i]->setGeometry(QStyle::visualRect(layoutDirection(), all, logical));
+        left += widths[size_t(i)];
     }
 }
 

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <vector>
+
 class QAbstractButton;
 class QButtonGroup;
 
@@ -25,13 +27,22 @@ public:
     /// Adds a segment that shows a symbol (see symbolImage()); `label` is its tool tip and its name
     /// for assistive technology. Gives its index.
     int addSegment(const QString &symbol, const QString &label);
-    /// Adds a segment that shows a word; all segments are as wide as the widest. Gives its index.
+    /// Adds a segment that shows a word; all segments are as wide as the widest, unless natural
+    /// widths are set. Gives its index.
     int addTextSegment(const QString &text);
+    /// Each segment as wide as its own word; off in the beginning.
+    void setNaturalWidths(bool isNatural);
+    /// What a word takes in a control of natural widths; long ones are cut.
+    static int textSegmentWidth(const QString &text);
+    /// Takes all segments out.
+    void clear();
     /// −1 while nothing is chosen.
     int currentIndex() const;
     /// Chooses without activated(); an index that does not exist is ignored.
     void setCurrentIndex(int index);
     void setColors(const QColor &foreground, const QColor &background);
+    /// Gives the keyboard to the chosen segment.
+    void focusCurrent();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -49,12 +60,13 @@ private:
 
     void chooseBeside(QAbstractButton *segment, int step);
     int append(Segment *segment);
-    int segmentWidth() const;
+    std::vector<int> segmentWidths() const;
     void placeSegments();
 
     QButtonGroup *m_group = nullptr;
     QColor m_foreground = Qt::black;
     QColor m_background = Qt::white;
+    bool m_hasNaturalWidths = false;
 };
 
 } // namespace lorva

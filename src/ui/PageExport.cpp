@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "ui/PageExport.h"
+
+#include "base/RunThen.h"
+#include "ui/sheets/FileDialogs.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace lorva {
+
+namespace {
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("PageExport", source);
+}
+
+QStringList filters()
+{
+    return {text("PDF document (*.pdf)"), text("SVG drawing (*.svg)"), text("PNG picture (*.png)")};
+}
+
+/// The name's own ending wins; a name without one gets that of the chosen kind.
+void followFilter(QFileDialog &dialog)
+{
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString &kind) {
+                         const qsizetype dot = kind.lastIndexOf(u'.');
+                         dialog.setDefaultSuffix(kind.mid(dot + 1).chopped(1));
+                     });
+}
+
+} // namespace
+
+PageExport::PageExport(QWidget &widget)
+    : m_widget(widget)
+    , m_folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+{
+    m_pool.setObjectName(QStringLiteral("vantrel.lorva.export"));
+    m_pool.setMaxThreadCount(1);
+}
+
+PageExport::~PageExport()
+{
+    m_pool.waitForDone();
+}
+
+void PageExport::ask(const SpecimenPage &page, const QColor &background, const QString &name)
+{
+    QFileDialog *dialog = openSaveDialog(*m_widget.window(), text("Export Specimen"),
+                                         name + QLatin1String(".pdf"), m_folder);
+    dialog->setNameFilters(filters());
+    followFilter(*dialog);
+    QObject::connect(dialog, &QFileDialog::accepted, &m_guard, [this, dialog, page, background] {
+        const std::vector<FilePath> chosen = chosenPaths(*dialog);
+        if (chosen.empty())
+            return;
+        m_folder = QFileInfo(dialog->selectedFiles().constFirst()).absolutePath();
+        write(page, background, chosen.front());
+    });
+}
+
+void PageExport::write(const SpecimenPage &page, const QColor &background, const FilePath &target)
+{
+    ++m_writing;
+    runThen(
+        m_pool, &m_guard,
+        [page, background, target](std::stop_token) { return writePage(page, background, target); },
+        [this](const Result<void> &written) {
+            --m_writing;
+            if (!written && onFailed)
+                onFailed(written.error().detail);
+        });
+}
+
+} // namespace lorva

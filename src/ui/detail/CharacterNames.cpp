@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "ui/detail/CharacterNames.h"
+
+#include <QCoreApplication>
+
+#include <unicode/uchar.h>
+
+#include <array>
+
+namespace lorva {
+
+namespace {
+
+QString hex(char32_t scalar)
+{
+    return QString::number(scalar, 16).toUpper();
+}
+
+QString nameOf(char32_t scalar, UCharNameChoice choice)
+{
+    // The longest names have some ninety characters.
+    std::array<char, 256> buffer;
+    UErrorCode code = U_ZERO_ERROR;
+    const int32_t length =
+        u_charName(UChar32(scalar), choice, buffer.data(), int32_t(buffer.size()), &code);
+    return U_SUCCESS(code) && length > 0 ? QString::fromLatin1(buffer.data(), length) : QString();
+}
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CharacterNames", text);
+}
+
+QString letterText(int8_t category)
+{
+    switch (category) {
+    case U_UPPERCASE_LETTER:
+        return tr("Uppercase letter");
+    case U_LOWERCASE_LETTER:
+        return tr("Lowercase letter");
+    case U_TITLECASE_LETTER:
+        return tr("Titlecase letter");
+    case U_MODIFIER_LETTER:
+        return tr("Modifier letter");
+    default:
+        return tr("Letter");
+    }
+}
+
+QString symbolText(int8_t category)
+{
+    switch (category) {
+    case U_MATH_SYMBOL:
+        return tr("Mathematical symbol");
+    case U_CURRENCY_SYMBOL:
+        return tr("Currency symbol");
+    default:
+        return tr("Symbol");
+    }
+}
+
+} // namespace
+
+char32_t firstScalar(QStringView text)
+{
+    if (text.isEmpty())
+        return 0;
+    if (!text.front().isSurrogate())
+        return text.front().unicode();
+    const bool isPair =
+        text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+    return isPair ? QChar::surrogateToUcs4(text[0], text[1]) : char32_t(0xFFFD);
+}
+
+QString textOf(char32_t scalar)
+{
+    return QString::fromUcs4(&scalar, 1);
+}
+
+QString codePointText(char32_t scalar)
+{
+    return QLatin1String("U+") + hex(scalar).rightJustified(4, u'0');
+}
+
+QString unicodeName(char32_t scalar)
+{
+    const QString name = nameOf(scalar, U_UNICODE_CHAR_NAME);
+    return name.isEmpty() ? nameOf(scalar, U_CHAR_NAME_ALIAS) : name;
+}
+
+QString categoryText(char32_t scalar)
+{
+    const uint32_t mask = U_GET_GC_MASK(UChar32(scalar));
+    const int8_t category = u_charType(UChar32(scalar));
+    if (mask & U_GC_L_MASK)
+        return letterText(category);
+    if (mask & U_GC_M_MASK)
+        return tr("Combining mark");
+    if (mask & U_GC_N_MASK)
+        return category == U_DECIMAL_DIGIT_NUMBER ? tr("Digit") : tr("Number");
+    if (mask & U_GC_P_MASK)
+        return tr("Punctuation");
+    if (mask & U_GC_S_MASK)
+        return symbolText(category);
+    if (mask & U_GC_Z_MASK)
+        return tr("Space");
+    return category == U_PRIVATE_USE_CHAR ? tr("Private use") : tr("Other");
+}
+
+QString utf8Text(char32_t scalar)
+{
+    return QString::fromLatin1(textOf(scalar).toUtf8().toHex(' ').toUpper());
+}
+
+QString htmlText(char32_t scalar)
+{
+    return QLatin1String("&#x") + hex(scalar) + u';';
+}
+
+} // namespace lorva

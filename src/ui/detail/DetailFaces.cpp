@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#include "ui/detail/DetailFaces.h"
+
+#include "catalog/RepresentativeStyle.h"
+#include "catalog/WeightChoice.h"
+
+#include <algorithm>
+
+namespace lorva {
+
+const FontStyleRecord *shownStyle(const FontVariant &variant, const QString &chosenStyleID,
+                                  int weight)
+{
+    const auto find = [&variant](const QString &id) -> const FontStyleRecord * {
+        const auto found = std::ranges::find(variant.styles, id, &FontStyleRecord::id);
+        return found == variant.styles.end() ? nullptr : &*found;
+    };
+    if (const FontStyleRecord *chosen = find(chosenStyleID))
+        return chosen;
+    FontFamilyRecord family;
+    family.styles = variant.styles;
+    if (const std::optional<FontStyleRecord> weighted = styleForWeight(family, weight))
+        return find(weighted->id);
+    return representativeStyle(variant.styles);
+}
+
+const FontVariant *variantOf(const FontDetailState &state, const QString &label)
+{
+    if (state.variants.empty())
+        return nullptr;
+    const auto found = std::ranges::find(state.variants, label, &FontVariant::label);
+    return found == state.variants.end() ? &state.variants.front() : &*found;
+}
+
+Font withSettings(const Font &base, const FaceSettings &settings)
+{
+    if (base.isNull())
+        return base;
+    Font font = base;
+    if (!settings.axes.empty()) {
+        std::vector<VariationSetting> variations = base.variations();
+        variations.insert(variations.end(), settings.axes.begin(), settings.axes.end());
+        font = font.withVariations(std::move(variations));
+    }
+    if (settings.features)
+        font = font.withFeatures(featureSettings(fontFeatures(*base.face()), *settings.features));
+    return font;
+}
+
+} // namespace lorva

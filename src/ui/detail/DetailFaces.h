@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "catalog/VariableWeight.h"
+#include "text/FontFeatures.h"
+#include "ui/detail/FontDetailState.h"
+
+#include <optional>
+
+namespace lorva {
+
+// Which face the detail view shows, and at which settings. Thread: any.
+
+/// The chosen style if the variant has it, else the one that the weight control stands for. Null
+/// for a variant without styles.
+const FontStyleRecord *shownStyle(const FontVariant &variant, const QString &chosenStyleID,
+                                  int weight);
+
+/// The variant of that label, else the first one; null without any.
+const FontVariant *variantOf(const FontDetailState &state, const QString &label);
+
+/// What the user has set beyond choosing a face.
+struct FaceSettings
+{
+    /// Exactly these are on; nothing: what the font does by itself.
+    std::optional<std::vector<FeaturePair>> features;
+    std::vector<VariationSetting> axes;
+    bool operator==(const FaceSettings &) const = default;
+};
+
+/// `base` with the settings: axis values over its own.
+Font withSettings(const Font &base, const FaceSettings &settings);
+
+} // namespace lorva
