@@ -4,6 +4,7 @@
 #include "ui/PaneStates.h"
 
 #include "catalog/FontVariants.h"
+#include "commands/StyleActivations.h"
 #include "ui/browser/MembershipOptions.h"
 #include "ui/DetailNeighbours.h"
 
@@ -257,6 +258,9 @@ FontDetailState detailStateOf(LorvaAppModel &model, const FontFamilyRecord &fami
     state.collectionOptions = collectionOptions(browser, names);
     state.foundryOptions = foundryOptions(browser, names);
     state.familyActivation = model.activation(family);
+    StyleActivations styles = styleActivations(model, family);
+    state.activationByStyleID = std::move(styles.activationByStyleID);
+    state.labelsInSameFile = std::move(styles.labelsInSameFile);
     state.hasPrevious = detailNeighbour(browser.families, family.familyName, -1).has_value();
     state.hasNext = detailNeighbour(browser.families, family.familyName, 1).has_value();
     return state;

@@ -14,7 +14,6 @@
 namespace lorva {
 namespace {
 
-using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;

@@ -118,9 +118,9 @@ TEST(CssTextTest, namesCannotBreakOut)
         {"", "\"\""},
     };
     for (const auto &[name, quoted] : rows) {
-        EXPECT_EQ(cssText({}, name, styleOf(5000)),
-                  QString("font-family: " + quoted
-                          + ";\nfont-weight: 1000;\nfont-style: normal;\n"));
+        EXPECT_EQ(
+            cssText({}, name, styleOf(5000)),
+            QString("font-family: " + quoted + ";\nfont-weight: 1000;\nfont-style: normal;\n"));
     }
 }
 

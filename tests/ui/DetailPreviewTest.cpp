@@ -30,6 +30,8 @@ using testing::ElementsAre;
 
 // Letters of the built font are 24 points wide at size 40.
 constexpr int kAdvance = 24;
+// Before their ink, which begins at the view's edge.
+constexpr int kBearing = 2;
 constexpr int kWidth = 480;
 
 QString fromUtf8(const char *text)
@@ -281,7 +283,8 @@ TEST_F(DetailPreview, AnInputMethodComposesInPlace)
     EXPECT_EQ(told, QStringList()) << "nothing of that is final";
     EXPECT_EQ(view.caretRectAt({2, true}).x(), before.x() + 2 * kAdvance)
         << "what follows moves on";
-    EXPECT_EQ(view.inputMethodQuery(Qt::ImCursorRectangle).toRectF().center().x(), 2 * kAdvance);
+    EXPECT_EQ(view.inputMethodQuery(Qt::ImCursorRectangle).toRectF().center().x(),
+              2 * kAdvance - kBearing);
     EXPECT_EQ(view.inputMethodQuery(Qt::ImSurroundingText).toString(), QStringLiteral("ab"));
     view.apply(specimen);
     compose({}, fromUtf8("あ"));
@@ -304,7 +307,7 @@ TEST_F(DetailPreview, AnInputMethodComposesInPlace)
     compose("zz");
     view.clearFocus();
     EXPECT_EQ(view.text(), fromUtf8("aあe")) << "given up";
-    EXPECT_EQ(view.caretRectAt({3, true}).x(), 3 * kAdvance - 1);
+    EXPECT_EQ(view.caretRectAt({3, true}).x(), 3 * kAdvance - kBearing - 1);
 }
 
 TEST_F(DetailPreview, TheClipboardBringsPlainTextWithinBounds)

@@ -15,7 +15,7 @@
 #include <QMenu>
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lorva {
 namespace {
@@ -232,11 +232,8 @@ TEST_F(DetailTopBarTest, SlidersWithoutRoomAreBehindAButton)
         SCOPED_TRACE(row.width);
         bar.resize(row.width, DetailTopBar::kHeight);
         click("moreButton");
-        Popover *popover = nullptr;
-        ASSERT_TRUE(test::waitUntil([&] {
-            popover = window.findChild<Popover *>();
-            return popover && popover->isVisible();
-        }));
+        ASSERT_TRUE(test::waitUntil([&] { return openPopover() != nullptr; }));
+        const Popover *popover = openPopover();
         QStringList names;
         for (const PointSlider *slider : popover->findChildren<PointSlider *>())
             names.append(slider->objectName());
@@ -245,7 +242,7 @@ TEST_F(DetailTopBarTest, SlidersWithoutRoomAreBehindAButton)
         QTest::keyClick(last, Qt::Key_Home);
         EXPECT_EQ(recorder.take(), QStringList("spacing -0.1"));
         QTest::keyClick(last, Qt::Key_Escape);
-        ASSERT_TRUE(test::waitUntil([&] { return !window.findChild<Popover *>(); }));
+        ASSERT_TRUE(test::waitUntil([&] { return openPopover() == nullptr; }));
     }
 }
 
@@ -291,12 +288,11 @@ TEST_F(DetailTopBarTest, TheTabKeyGoesAlongTheBar)
         names.append(at->objectName().isEmpty() ? at->accessibleName() : at->objectName());
         QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_THAT(names,
-                testing::ElementsAre("backButton", "nextFamilyButton", "detailSizeSlider",
-                                     "fontWeightSlider", "letterSpacingSlider", "whiteChip",
-                                     "logoButton", "Text", "inspectorButton", "detailMenuButton",
-                                     "characterSearchField", "backButton", "nextFamilyButton",
-                                     "detailSizeSlider"));
+    EXPECT_EQ(names,
+              QStringList({"backButton", "nextFamilyButton", "detailSizeSlider", "fontWeightSlider",
+                           "letterSpacingSlider", "whiteChip", "logoButton", "Text",
+                           "inspectorButton", "detailMenuButton", "characterSearchField",
+                           "backButton", "nextFamilyButton", "detailSizeSlider"}));
 }
 
 } // namespace

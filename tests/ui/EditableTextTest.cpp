@@ -223,7 +223,7 @@ TEST(PreviewPlacement, AlignsByInkAndLeavesRoomForWhatStandsOut)
     EXPECT_GT(placePreview(indented, specimenOf(sans), width).ink.left(), 50)
         << "spaces that were typed are meant";
 
-    const QString marked = QStringLiteral("A") + QString(3, QChar(0x0301));
+    const QString marked = QString::fromUtf8("Z\u0301\u0302\u0303\u0304\u0306\u0307\u0308");
     const Font stacking = test::fontFromFile(test::realFont("truetype/dejavu/DejaVuSans.ttf"), 100);
     const PreviewPlacement high = placePreview(marked, specimenOf(stacking), width);
     EXPECT_GE(high.ink.top(), 0);

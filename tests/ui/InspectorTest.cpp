@@ -10,6 +10,7 @@
 #include "ui/PreviewFonts.h"
 #include "ui/style/PointSlider.h"
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHelpEvent>

@@ -10,7 +10,7 @@
 
 #include <QTest>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lorva {
 namespace {
@@ -134,22 +134,22 @@ TEST_F(StyleRowsTest, SwitchesWhatCanBeSwitched)
     showSwitches();
     const struct
     {
-        const char *label;
+        QString label;
         bool hasPill;
-        const char *text;
-        const char *name;
-        const char *told;
-    } cases[]{{"Off", true, "Activate…", "Activate Off", "on Off"},
+        QString text;
+        QString name;
+        QString told;
+    } cases[]{{"Off", true, QStringLiteral("Activate…"), "Activate Off", "on Off"},
               {"On", true, "Active", "De-activate On", "off On"},
               {"System", false, "", "", ""},
               {"Fixed", false, "", "", ""}};
     for (const auto &each : cases) {
-        SCOPED_TRACE(each.label);
+        SCOPED_TRACE(each.label.toStdString());
         StyleRowPill *pill = row(each.label)->pill();
         ASSERT_EQ(pill->isVisible(), each.hasPill);
         if (!each.hasPill)
             continue;
-        EXPECT_EQ(pill->shownText(), QString(each.text));
+        EXPECT_EQ(pill->shownText(), each.text);
         EXPECT_EQ(pill->accessibleName(), each.name);
         QTest::mouseClick(pill, Qt::LeftButton);
         EXPECT_EQ(take(), QStringList(each.told));
@@ -238,7 +238,8 @@ TEST_F(StyleRowsTest, SaysWhatSharesTheFile)
 {
     state.labelsInSameFile.insert("id-Cached", {"Bold", "Italic"});
     show({style("Cached"), style("Alone")});
-    EXPECT_TRUE(row("Cached")->toolTip().contains("Bold and Italic"));
+    EXPECT_TRUE(
+        row("Cached")->toolTip().contains(QLocale().createSeparatedList({"Bold", "Italic"})));
     EXPECT_EQ(row("Alone")->toolTip(), QString());
     const QImage with = row("Cached")->grab().toImage();
     state.labelsInSameFile.clear();

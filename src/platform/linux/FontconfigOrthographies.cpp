@@ -4,6 +4,8 @@
 
 #include "platform/linux/FontconfigHandles.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <bit>
 #include <cctype>

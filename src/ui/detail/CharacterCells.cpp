@@ -25,6 +25,11 @@ CharacterCells foundCells(std::shared_ptr<const CharacterListing> listing, bool 
     return cells;
 }
 
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CharacterCells", text);
+}
+
 } // namespace
 
 std::vector<CharacterGridLayout::Section> CharacterCells::layoutSections() const
@@ -64,6 +69,22 @@ quint32 CharacterCells::glyphAt(CellIndex cell, const Font &font) const
 QString CharacterCells::glyphName(quint32 glyph) const
 {
     return listing->glyphNames ? listing->glyphNames->name(glyph) : QString();
+}
+
+QString CharacterCells::nameAt(CellIndex cell, const Font &font) const
+{
+    const QString character = characterAt(cell);
+    if (character.isEmpty())
+        return glyphName(glyphAt(cell, font));
+    const QString name = unicodeName(firstScalar(character));
+    return name.isEmpty() ? character : tr("%1, %2").arg(character, name);
+}
+
+QString CharacterCells::descriptionAt(CellIndex cell) const
+{
+    const QString character = characterAt(cell);
+    return character.isEmpty() ? tr("No character leads to this glyph.")
+                               : codePointText(firstScalar(character));
 }
 
 CharacterFinder::CharacterFinder(QObject *parent)

@@ -25,6 +25,10 @@ struct CharacterCells
     quint32 glyphAt(CellIndex cell, const Font &font) const;
     /// As GlyphNames.
     QString glyphName(quint32 glyph) const;
+    /// "A, LATIN CAPITAL LETTER A"; a glyph that no character reaches by its own name.
+    QString nameAt(CellIndex cell, const Font &font) const;
+    /// "U+0041".
+    QString descriptionAt(CellIndex cell) const;
 };
 
 /// Takes from a listing what is looked for, on a worker: thousands of names would take the main

@@ -5,7 +5,7 @@
 #include "base/Trace.h"
 #include "ui/detail/CharacterAccessibility.h"
 #include "ui/detail/CharacterHeaderLabel.h"
-#include "ui/detail/CharacterNames.h"
+#include "ui/detail/CharacterKeys.h"
 #include "ui/style/ControlColors.h"
 
 #include <QContextMenuEvent>
@@ -20,37 +20,6 @@ namespace lorva {
 namespace {
 
 constexpr double kGlyphPoints = 28;
-
-std::optional<CellMove> moveOf(const QKeyEvent &event, bool isMirrored)
-{
-    const bool isFar = event.modifiers().testFlag(Qt::ControlModifier);
-    switch (event.key()) {
-    case Qt::Key_Left:
-        return isMirrored ? CellMove::next : CellMove::previous;
-    case Qt::Key_Right:
-        return isMirrored ? CellMove::previous : CellMove::next;
-    case Qt::Key_Up:
-        return CellMove::up;
-    case Qt::Key_Down:
-        return CellMove::down;
-    case Qt::Key_Home:
-        return isFar ? CellMove::first : CellMove::rowStart;
-    case Qt::Key_End:
-        return isFar ? CellMove::last : CellMove::rowEnd;
-    case Qt::Key_PageUp:
-        return CellMove::pageUp;
-    case Qt::Key_PageDown:
-        return CellMove::pageDown;
-    default:
-        return std::nullopt;
-    }
-}
-
-bool isPressKey(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter
-        || event.key() == Qt::Key_Space;
-}
 
 } // namespace
 
@@ -343,18 +312,7 @@ void CharacterCellsView::revealCurrent()
 
 QString CharacterCellsView::nameOf(CellIndex cell) const
 {
-    const QString character = m_cells.characterAt(cell);
-    if (character.isEmpty())
-        return m_cells.glyphName(m_cells.glyphAt(cell, m_previewFace));
-    const QString name = unicodeName(firstScalar(character));
-    return name.isEmpty() ? character : tr("%1, %2").arg(character, name);
-}
-
-QString CharacterCellsView::descriptionOf(CellIndex cell) const
-{
-    const QString character = m_cells.characterAt(cell);
-    return character.isEmpty() ? tr("No character leads to this glyph.")
-                               : codePointText(firstScalar(character));
+    return m_cells.nameAt(cell, m_previewFace);
 }
 
 bool CharacterCellsView::event(QEvent *event)
@@ -364,7 +322,7 @@ bool CharacterCellsView::event(QEvent *event)
     const auto *help = static_cast<QHelpEvent *>(event);
     if (const std::optional<CellIndex> cell = m_layout.cellAt(help->pos()))
         QToolTip::showText(help->globalPos(),
-                           tr("%1 \u2013 %2").arg(nameOf(*cell), descriptionOf(*cell)), this,
+                           tr("%1 \u2013 %2").arg(nameOf(*cell), m_cells.descriptionAt(*cell)), this,
                            m_layout.cellRect(*cell));
     return true;
 }

@@ -39,10 +39,8 @@ public:
     void setCurrent(CellIndex cell);
     /// The cell whose popover is open is marked.
     void setOpened(std::optional<CellIndex> cell);
-    /// "A, LATIN CAPITAL LETTER A".
+    /// As CharacterCells::nameAt().
     QString nameOf(CellIndex cell) const;
-    /// "U+0041".
-    QString descriptionOf(CellIndex cell) const;
 
 Q_SIGNALS:
     /// By a click or a key, as the reason says.

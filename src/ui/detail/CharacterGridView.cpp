@@ -159,7 +159,8 @@ void CharacterGridView::showState()
     m_count->setVisible(isShown);
     m_kind->setVisible(isShown);
     m_count->setText(m_note.isEmpty() ? countText() : m_note);
-    m_cells->setVisible(m_finder.cells().count() > 0);
+    // Not hidden: the keyboard would go elsewhere.
+    m_cells->setFocusPolicy(m_finder.cells().count() > 0 ? Qt::StrongFocus : Qt::NoFocus);
     if (!m_model.isEnumeratingCharacters()) {
         m_spinnerStart.stop();
         m_spinner->hide();
@@ -241,7 +242,7 @@ void CharacterGridView::placeParts()
     place(m_spinner, {0, (kCaptionHeight - spinner.height()) / 2, spinner.width(),
                       spinner.height()});
     const int top = kCaptionHeight + kCaptionGap;
-    const int body = m_cells->isHidden() ? 0 : m_cells->heightFor(width());
+    const int body = m_finder.cells().count() > 0 ? m_cells->heightFor(width()) : 0;
     m_cells->setGeometry(0, top, width(), body);
     m_cells->setVisibleBand(m_bandTop - top, m_bandBottom - top);
     placeTray();

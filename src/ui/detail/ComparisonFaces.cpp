@@ -115,9 +115,8 @@ void ComparisonFaces::update(bool resolvesAnew)
         if (!record)
             continue;
         Face face{*record, nearestStyle(*record, m_style.value_or(FontStyleRecord())), {}, {}};
-        const auto old = std::ranges::find(before, name, [](const Face &known) {
-            return known.family.familyName;
-        });
+        const auto old = std::ranges::find(
+            before, name, [](const Face &known) { return known.family.familyName; });
         const bool stays = old != before.end() && old->style == face.style && !resolvesAnew;
         if (stays)
             face.request = std::exchange(old->request, nullptr);

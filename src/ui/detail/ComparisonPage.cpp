@@ -184,10 +184,7 @@ private:
 
     static double textTop(const QRectF &caption) { return caption.bottom() + kTextGap; }
 
-    QColor line() const
-    {
-        return hairlineColor(m_specimen.foreground, m_specimen.background);
-    }
+    QColor line() const { return hairlineColor(m_specimen.foreground, m_specimen.background); }
     QColor colorOf(size_t face) const
     {
         return face == 0
@@ -206,8 +203,7 @@ private:
                 line.isRightToLeft ? TextDirection::rightToLeft : TextDirection::leftToRight;
             TextLayout layout(line.text, font, options);
             if (!layout.lines().empty()) {
-                const double free =
-                    line.isRightToLeft ? room.width() - layout.size().width() : 0;
+                const double free = line.isRightToLeft ? room.width() - layout.size().width() : 0;
                 const QPointF origin(room.left() + free,
                                      baseline - layout.lines().front().origin.y());
                 m_result.page.texts.push_back({std::move(layout), origin, color});
@@ -225,8 +221,9 @@ private:
         SpecimenPage::Caption caption;
         caption.text = captionOf(m_faces[face]);
         const double width = std::min(
-            room, double(QFontMetrics(interfaceFont(InterfaceSize::caption))
-                             .horizontalAdvance(caption.text))
+            room,
+            double(
+                QFontMetrics(interfaceFont(InterfaceSize::caption)).horizontalAdvance(caption.text))
                 + 1);
         const double left = m_isMirrored ? rect.right() - width : rect.left();
         caption.rect = QRectF(left, rect.top(), width, rect.height());
@@ -236,8 +233,8 @@ private:
         if (!hasButton)
             return;
         const double x = m_isMirrored ? left - kCaptionButtonSide : caption.rect.right();
-        m_result.buttons.push_back(
-            QRect(int(std::round(x)), int(rect.top()), kCaptionButtonSide, kCaptionButtonSide));
+        m_result.buttons.emplace_back(int(std::round(x)), int(rect.top()), kCaptionButtonSide,
+                                      kCaptionButtonSide);
     }
 
     /// Gives its height.
@@ -249,8 +246,7 @@ private:
         for (size_t i = 0; i < m_faces.size(); ++i) {
             const double dot = kDotSide + spacing::k8;
             const double text = metrics.horizontalAdvance(captionOf(m_faces[i])) + 1;
-            const double width =
-                std::min(m_width, dot + text + (i > 0 ? kCaptionButtonSide : 0));
+            const double width = std::min(m_width, dot + text + (i > 0 ? kCaptionButtonSide : 0));
             if (x > 0 && x + width > m_width) {
                 x = 0;
                 top += kCaptionHeight;
@@ -260,8 +256,8 @@ private:
             m_result.page.dots.push_back(
                 {QRectF(dotLeft, top + (kCaptionHeight - kDotSide) / 2, kDotSide, kDotSide),
                  colorOf(i)});
-            addCaption(i, QRectF(m_isMirrored ? left : left + dot, top, width - dot,
-                                 kCaptionHeight));
+            addCaption(i,
+                       QRectF(m_isMirrored ? left : left + dot, top, width - dot, kCaptionHeight));
             x += width + kLegendGap;
         }
         return top + kCaptionHeight;

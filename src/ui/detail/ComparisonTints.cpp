@@ -16,6 +16,10 @@ namespace {
 constexpr std::array<int, 4> kHues{12, 208, 150, 286};
 constexpr double kSaturation = 0.9;
 constexpr double kTintAlpha = 0.62;
+constexpr double kDenseTintAlpha = 0.8;
+constexpr double kMiddleLightness = 0.5;
+/// Further from the middle all hues are nearly black or white.
+constexpr double kHueRange = 0.22;
 constexpr double kTintContrast = 3.0;
 constexpr double kLightnessStep = 0.02;
 /// A colour with less has no hue to speak of.
@@ -35,20 +39,19 @@ double hueDistance(int hue, const QColor &color)
     return std::min(distance, 360 - distance);
 }
 
-/// Of that hue, as near to a middle lightness as the ground allows.
-QColor readable(int hue, const QColor &ground)
+/// Of that hue, as near to a middle lightness as lets it be seen on the ground.
+QColor readable(int hue, const QColor &ground, double alpha)
 {
-    const double direction = contrastingNeutral(ground) == QColor(Qt::black) ? -1 : 1;
-    double lightness = direction < 0 ? 0.5 : 0.55;
+    const double step =
+        contrastingNeutral(ground) == QColor(Qt::black) ? -kLightnessStep : kLightnessStep;
+    double lightness = kMiddleLightness;
     QColor tint;
     do {
         tint = QColor::fromHslF(float(hue / 360.0), float(kSaturation), float(lightness),
-                                float(kTintAlpha));
-        lightness += direction * kLightnessStep;
-    } while (contrastRatio(blended(tint, ground), ground) < kTintContrast && lightness > 0.04
+                                float(alpha));
+        lightness += step;
+    } while (contrastRatio(blended(tint, ground), ground) < kTintContrast && lightness > 0.02
              && lightness < 0.98);
-    if (contrastRatio(blended(tint, ground), ground) < kTintContrast)
-        tint.setAlphaF(1);
     return tint;
 }
 
@@ -65,7 +68,16 @@ QColor comparisonTint(int index, const QColor &foreground, const QColor &backgro
     const bool isGray =
         hueDistance(*clash, foreground) == 180 && hueDistance(*clash, ground) == 180;
     hues.erase(isGray ? hues.end() - 1 : clash);
-    return readable(hues[size_t(index) % hues.size()], ground);
+    const int hue = hues[size_t(index) % hues.size()];
+    // A ground with a colour of its own would wash through.
+    const bool isColored = ground.hsvSaturationF() > kFewestColor;
+    for (const double alpha : {kTintAlpha, kDenseTintAlpha}) {
+        const QColor tint = readable(hue, ground, alpha);
+        const bool keepsHue = std::abs(tint.lightnessF() - kMiddleLightness) < kHueRange;
+        if (keepsHue && !(isColored && alpha == kTintAlpha))
+            return tint;
+    }
+    return readable(hue, ground, 1);
 }
 
 } // namespace lorva

@@ -4,14 +4,16 @@
 
 #include "ui/browser/PaneButton.h"
 #include "ui/detail/FamilyPicker.h"
+#include "ui/style/DeviceSpace.h"
 #include "ui/style/IconButton.h"
+#include "ui/style/Palette.h"
 #include "ui/style/Popover.h"
 #include "ui/style/SegmentedControl.h"
 #include "ui/style/Style.h"
 
 #include <QEvent>
-#include <QPaintEvent>
 #include <QPainter>
+#include <QPaintEvent>
 #include <QResizeEvent>
 #include <QStyle>
 
@@ -25,6 +27,7 @@ constexpr int kControlGap = spacing::k16;
 /// Between the controls and what is compared.
 constexpr int kHeaderGap = spacing::k16;
 constexpr int kRowGap = spacing::k8;
+constexpr double kRemoverAlpha = 0.5;
 
 } // namespace
 
@@ -155,8 +158,7 @@ SpecimenPage ComparisonView::page() const
 
 int ComparisonView::headerHeight(int width) const
 {
-    const int controls =
-        m_mode->sizeHint().width() + kControlGap + m_match->sizeHint().width();
+    const int controls = m_mode->sizeHint().width() + kControlGap + m_match->sizeHint().width();
     const bool isOneRow = controls + kControlGap + m_add->sizeHint().width() <= width;
     const int row = m_add->sizeHint().height();
     return isOneRow ? row : 2 * row + kRowGap;
@@ -215,8 +217,11 @@ void ComparisonView::applyColors()
     m_mode->setColors(foreground, background);
     m_match->setColors(foreground, background);
     m_add->setColors(foreground, background);
+    // As quiet as the captions that they follow.
+    const QColor ground = blended(background, contrastingNeutral(foreground));
+    const QColor quiet = quietColor(controlColor(foreground, background), ground, kRemoverAlpha);
     for (IconButton *remover : m_removers)
-        remover->setColors(foreground, background);
+        remover->setColors(blended(quiet, ground), background);
 }
 
 void ComparisonView::placeControls(int width) const
@@ -271,7 +276,7 @@ void ComparisonView::paintEvent(QPaintEvent *event)
     paintPageFurniture(painter, shown.page);
     const QRectF band = painter.worldTransform().inverted().mapRect(QRectF(event->rect()));
     const SpecimenCanvas canvas{QSize(width(), int(shown.page.size.height())),
-                                devicePixelRatioF()};
+                                DeviceSpace(painter).ratio()};
     for (TextInk &ink : m_inks) {
         const double height = ink.text().layout.size().height();
         const QRectF reach(0, ink.text().origin.y() - height, width(), 3 * height);

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "model/records/FontFamilySubset.h"
-#include "ui/detail/DetailSection.h"
 #include "ui/detail/ComparisonFaces.h"
 #include "ui/detail/ComparisonPage.h"
+#include "ui/detail/DetailSection.h"
 #include "ui/detail/DetailSpecimen.h"
 #include "ui/detail/TextInk.h"
 

@@ -190,6 +190,12 @@ void DetailPreviewView::changeEvent(QEvent *event)
     DetailSection::changeEvent(event);
 }
 
+void DetailPreviewView::hideEvent(QHideEvent *event)
+{
+    m_picture.letGo();
+    DetailSection::hideEvent(event);
+}
+
 void DetailPreviewView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);

@@ -26,6 +26,16 @@ namespace {
 
 using Kind = BarDisplayControls::Kind;
 
+/// With its segments, so that the tab key reaches them in their place.
+SegmentedControl *makeStages(QWidget *bar)
+{
+    auto *stages = new SegmentedControl(bar);
+    stages->addSegment(QStringLiteral("textformat"), DetailTopBar::tr("Text"));
+    stages->addSegment(QStringLiteral("text.line.falling"), DetailTopBar::tr("Waterfall"));
+    stages->addSegment(QStringLiteral("square.on.square"), DetailTopBar::tr("Compare"));
+    return stages;
+}
+
 } // namespace
 
 DetailTopBar::DetailTopBar(QWidget *parent)
@@ -36,18 +46,12 @@ DetailTopBar::DetailTopBar(QWidget *parent)
     , m_controls(std::make_unique<BarDisplayControls>(
           std::vector{Kind::detailSize, Kind::weight, Kind::letterSpacing},
           tr("Size, Weight, Letter Spacing"), this))
-    , m_stages(new SegmentedControl(this))
+    , m_stages(makeStages(this))
     , m_inspector(new IconButton({}, tr("Inspector"), this))
     , m_menuButton(new IconButton(QStringLiteral("ellipsis.circle"), tr("More"), this))
     , m_search(new BarSearch(QStringLiteral("characterSearchField"), tr("Search Characters"), this))
 {
-    m_stages->addSegment(QStringLiteral("textformat"), tr("Text"));
-    m_stages->addSegment(QStringLiteral("text.line.falling"), tr("Waterfall"));
-    m_stages->addSegment(QStringLiteral("square.on.square"), tr("Compare"));
     m_inspector->setCheckable(true);
-    // The segments come after the rest only in the order of making.
-    setTabOrder(m_controls->logoButton(), m_stages->findChildren<QAbstractButton *>().constFirst());
-    setTabOrder(m_stages->findChildren<QAbstractButton *>().constLast(), m_inspector);
     setUpNames();
     takeDirection();
     connectWays();

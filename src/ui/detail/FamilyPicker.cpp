@@ -17,14 +17,15 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include <numeric>
+#include <algorithm>
 
 namespace lorva {
 
 namespace {
 
 constexpr int kWidth = 280;
-constexpr int kHeight = 380;
+constexpr int kMostRows = 11;
+constexpr int kFewestRows = 5;
 constexpr int kRowHeight = 28;
 constexpr int kPadding = spacing::k8;
 constexpr double kRadius = 6;
@@ -65,6 +66,7 @@ public:
     {
         return role == Qt::DisplayRole ? QVariant(name(index.row())) : QVariant();
     }
+    int nameCount() const { return int(m_names.size()); }
     const QString &name(int row) const { return m_names[m_shown[size_t(row)]]; }
     void filter(const QString &text)
     {
@@ -190,7 +192,11 @@ FamilyPicker::~FamilyPicker() = default;
 
 QSize FamilyPicker::sizeHint() const
 {
-    return {kWidth, kHeight};
+    const int rows = std::clamp(m_rows->nameCount(), kFewestRows, kMostRows);
+    const QMargins margins = layout()->contentsMargins();
+    return {kWidth,
+            margins.top() + m_field->sizeHint().height() + layout()->spacing() + rows * kRowHeight
+                + margins.bottom()};
 }
 
 void FamilyPicker::filter(const QString &text)

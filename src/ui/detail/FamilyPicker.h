@@ -7,8 +7,6 @@
 
 #include <vector>
 
-class QListView;
-
 namespace lorva {
 
 class LineField;

@@ -4,12 +4,13 @@
 // Input methods in the large preview.
 
 #include "ui/detail/DetailPreviewView.h"
-#include "ui/detail/PreviewAccessibility.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QTextFormat>
+
+#include <algorithm>
 
 namespace lorva {
 
@@ -29,10 +30,11 @@ void DetailPreviewView::inputMethodEvent(QInputMethodEvent *event)
     m_edit.insert(event->commitString(), EditableText::Kind::typing);
     compose(*event);
     m_motion.forget();
-    if (composedText() != composedBefore)
+    if (composedText() != composedBefore) {
         invalidatePlacement();
+        tellHeight();
+    }
     settle(before);
-    tellHeight();
     event->accept();
 }
 
@@ -70,8 +72,8 @@ void DetailPreviewView::finishComposing()
     m_composition = {};
     QGuiApplication::inputMethod()->reset();
     invalidatePlacement();
-    settle(m_edit.text());
     tellHeight();
+    settle(m_edit.text());
 }
 
 QVariant DetailPreviewView::inputMethodQuery(Qt::InputMethodQuery query) const

@@ -84,8 +84,8 @@ SpecimenPage previewPage(const DetailSpecimen &specimen, double width)
 QString specimenFileName(const QString &familyName, const QString &styleName)
 {
     // A name of many pages is cut before it is looked at.
-    QString name = familyName.left(kMostNameBytes) + QLatin1Char(' ')
-        + styleName.left(kMostNameBytes);
+    QString name =
+        familyName.left(kMostNameBytes) + QLatin1Char(' ') + styleName.left(kMostNameBytes);
     std::replace_if(name.begin(), name.end(), isRefused, QChar(u'-'));
     name = shortened(name.simplified(), kMostNameBytes);
     const auto isEdge = [](QChar c) { return c == u'.' || c == u' '; };

@@ -18,16 +18,21 @@ class PreviewPicture
 {
 public:
     /// What is shown is another text, or has another face or colour.
-    void invalidate() { m_image = {}; }
+    void invalidate() { m_isStale = true; }
+    /// Nobody looks: its memory may be used otherwise.
+    void letGo();
     /// Draws what of the specimen lies in `needed`, painting first what is missing of it.
     void draw(QPainter &painter, const PreviewPlacement &placement, const DetailSpecimen &specimen,
               const QRect &needed, int width);
 
 private:
+    bool holds(const QRect &devicePx, double ratio) const;
     void paint(const PreviewPlacement &placement, const DetailSpecimen &specimen,
                const QRect &devicePx, double ratio);
 
+    /// Kept while an axis is dragged: new memory for each frame costs as much as the type on it.
     QImage m_image;
+    bool m_isStale = true;
     /// Where it stands, from the view's top left.
     QRect m_devicePx;
 };

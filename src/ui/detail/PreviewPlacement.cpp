@@ -17,6 +17,9 @@ constexpr double kMostBearing = 0.15;
 constexpr double kMostRoom = 4;
 /// Of the width, for what hangs over at the sides.
 constexpr double kMostSideRoom = 1.0 / 3;
+/// Points that nobody misses.
+constexpr double kNoOverhang = 0.01;
+constexpr int kMostTries = 4;
 /// Ems that a selected line end takes.
 constexpr double kLineEndWidth = 0.15;
 /// Where there is no font: a line that the caret can stand in.
@@ -86,23 +89,41 @@ double roomFor(double overhang, double pointSize)
     return std::clamp(overhang, 0.0, kMostRoom * pointSize);
 }
 
-/// The box and its left end, so that the ink stays within the width.
+/// What of the ink lies beyond the view's sides, if the box has its left end at `left`.
+struct Overhang
+{
+    double left = 0;
+    double right = 0;
+    double sum() const { return left + right; }
+};
+
+Overhang overhangOf(const Setting &setting, double left, double width)
+{
+    if (setting.ink.isNull())
+        return {};
+    return {std::max(0.0, -(setting.ink.left() + left)),
+            std::max(0.0, setting.ink.right() + left - width)};
+}
+
+/// The box and its left end, so that the ink stays within the width. Narrower lines may end in
+/// letters that hang over further, so it may take more than one try; few texts take any.
 std::pair<Setting, double> fitted(const QString &text, const DetailSpecimen &specimen, double width)
 {
     const double pointSize = specimen.font.pointSize();
+    const double most = width * kMostSideRoom;
     Setting setting = set(text, specimen, width);
-    const double left = opticalShift(setting, pointSize);
-    if (setting.ink.isNull())
-        return {std::move(setting), left};
-    const double overLeft = std::max(0.0, -(setting.ink.left() + left));
-    const double overRight = std::max(0.0, setting.ink.right() + left - width);
-    const double over = overLeft + overRight;
-    if (over <= 0.01)
-        return {std::move(setting), left};
-    const double share = std::min(1.0, width * kMostSideRoom / over);
-    setting = set(text, specimen, std::max(1.0, width - over * share));
-    const double shift = opticalShift(setting, pointSize) + overLeft * share;
-    return {std::move(setting), shift};
+    double left = opticalShift(setting, pointSize);
+    Overhang room;
+    for (int tries = 0; tries < kMostTries && room.sum() < most; ++tries) {
+        const Overhang over = overhangOf(setting, left, width);
+        if (over.sum() <= kNoOverhang)
+            break;
+        const double share = std::min(1.0, (most - room.sum()) / over.sum());
+        room = {room.left + over.left * share, room.right + over.right * share};
+        setting = set(text, specimen, std::max(1.0, width - room.sum()));
+        left = room.left + opticalShift(setting, pointSize);
+    }
+    return {std::move(setting), left};
 }
 
 /// The y where the next line's box begins, or this one's ends.

@@ -47,8 +47,8 @@ QPointF captionOrigin(const SpecimenPage::Caption &caption, double width, const 
 
 void paintCaption(QPainter &painter, const SpecimenPage::Caption &caption)
 {
-    const QFont font = interfaceFont(InterfaceSize(caption.size), InterfaceWeight::regular,
-                                     Figures::tabular);
+    const QFont font =
+        interfaceFont(InterfaceSize(caption.size), InterfaceWeight::regular, Figures::tabular);
     const QFontMetricsF metrics(font);
     const QString shown =
         metrics.elidedText(caption.text, Qt::ElideRight, std::ceil(caption.rect.width()));
@@ -71,9 +71,9 @@ void paintRule(QPainter &painter, const SpecimenPage::Rule &rule)
         drawHairline(painter, rule.rect, Qt::BottomEdge, rule.color);
         return;
     }
-    painter.fillRect(QRectF(rule.rect.left(), rule.rect.bottom() - kRuleWidth, rule.rect.width(),
-                            kRuleWidth),
-                     rule.color);
+    painter.fillRect(
+        QRectF(rule.rect.left(), rule.rect.bottom() - kRuleWidth, rule.rect.width(), kRuleWidth),
+        rule.color);
 }
 
 void paintPictures(QPainter &painter, const SpecimenPage &page)
@@ -119,8 +119,7 @@ Result<QSize> fileSize(const SpecimenPage &page, PictureFormat format)
     const QSizeF size = page.size;
     if (!(size.width() > 0) || !(size.height() > 0))
         return failure(ErrorKind::invalidValue, text("There is nothing to export"));
-    const double pixels =
-        size.width() * size.height() * kPngPixelsPerPoint * kPngPixelsPerPoint;
+    const double pixels = size.width() * size.height() * kPngPixelsPerPoint * kPngPixelsPerPoint;
     const bool isTooLarge = std::max(size.width(), size.height()) > kLongestFileSide;
     if (isTooLarge)
         return failure(ErrorKind::tooLarge, text("The page is too large for a file"));

@@ -89,11 +89,16 @@ bool StyleRowName::isWaiting() const
     return m_wanted->generation != 0;
 }
 
-void StyleRowName::setStyle(const QString &familyName, const FontStyleRecord &style,
-                            bool prefersWorker, const StyleNameLook &look)
+void StyleRowName::stopWaiting()
 {
     m_wanted->generation = 0;
     ++m_generation;
+}
+
+void StyleRowName::setStyle(const QString &familyName, const FontStyleRecord &style,
+                            bool prefersWorker, const StyleNameLook &look)
+{
+    stopWaiting();
     m_font.reset();
     m_look.reset();
     if (const auto cached = m_resolver->cachedFont(familyName, style, kStyleNamePointSize))

@@ -65,6 +65,8 @@ public:
     /// The pixels for a look; null while the face is awaited.
     const StyleNamePicture *picture(const StyleNameLook &look);
     bool isWaiting() const;
+    /// The face is not wanted any more.
+    void stopWaiting();
     /// The face could not be loaded.
     bool isMissing() const { return m_font && m_font->isStandIn(); }
 

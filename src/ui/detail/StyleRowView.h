@@ -48,6 +48,8 @@ public:
     /// What switches the style; hidden where nothing does.
     StyleRowPill *pill() const { return m_pill; }
     bool isWaiting() const { return m_name->isWaiting(); }
+    /// Nobody will see it any more.
+    void stopWaiting() { m_name->stopWaiting(); }
     /// Whether the tab key leads to it.
     void setTabStop(bool isTabStop);
     QSize sizeHint() const override { return {0, kHeight}; }

@@ -130,6 +130,7 @@ void StyleRowsView::dropRows()
     std::erase_if(m_rows, [this](const auto &entry) {
         if (isNeeded(entry.first))
             return false;
+        entry.second->stopWaiting();
         entry.second->hide();
         entry.second->disconnect(this);
         entry.second->deleteLater();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/detail/WaterfallView.h"
 
+#include "ui/style/DeviceSpace.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QPaintEvent>
@@ -83,7 +85,7 @@ TextInk &WaterfallView::line(size_t index)
 void WaterfallView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const SpecimenCanvas canvas{size(), devicePixelRatioF()};
+    const SpecimenCanvas canvas{size(), DeviceSpace(painter).ratio()};
     SpecimenPage furniture;
     std::vector<size_t> shown;
     for (size_t i = 0; i < m_rows.size(); ++i) {

@@ -57,10 +57,10 @@ QString AxisScale::text(double value, const QLocale &locale) const
 {
     QLocale plain(locale);
     plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    const double unseen = std::pow(10.0, -(m_decimals + 2)) / 2;
     int decimals = 0;
     for (double scale = 1; decimals < m_decimals + 2; ++decimals, scale *= 10) {
-        const double scaled = value * scale;
-        if (std::abs(scaled - std::round(scaled)) < 1e-3)
+        if (std::abs(value - std::round(value * scale) / scale) < unseen)
             break;
     }
     // Without it a rounded −0.001 would be told as −0.

@@ -7,6 +7,7 @@
 #include "ui/style/DeviceSpace.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QStyle>
 
@@ -18,7 +19,6 @@ namespace {
 
 constexpr int kWidth = 248;
 constexpr int kPadding = 14;
-constexpr int kTitleHeight = spacing::k16;
 constexpr int kGap = spacing::k8;
 constexpr int kSampleGap = spacing::k12;
 /// Between the two samples, with the arrow.
@@ -28,6 +28,7 @@ constexpr double kRadius = 10;
 constexpr double kLineAlpha = 0.14;
 constexpr double kBeforeAlpha = 0.45;
 constexpr int kMostLines = 6;
+constexpr int kMostTitleLines = 3;
 
 QString explanationOf(const FeatureNotes &notes)
 {
@@ -42,6 +43,24 @@ QString explanationOf(const FeatureNotes &notes)
 WrappedText wrapped(const QString &text)
 {
     return {text, interfaceFont(InterfaceSize::caption), kMostLines};
+}
+
+/// In the row it may have been cut.
+WrappedText wrappedTitle(const QString &title)
+{
+    return {title.left(kLongestShownName),
+            interfaceFont(InterfaceSize::label, InterfaceWeight::medium), kMostTitleLines};
+}
+
+QString tagOf(const FeatureNotes &notes)
+{
+    return notes.tag == 0 ? QString() : tagText(notes.tag);
+}
+
+int tagRoom(const FeatureNotes &notes)
+{
+    const QFontMetrics metrics(interfaceFont(InterfaceSize::caption));
+    return metrics.horizontalAdvance(tagOf(notes)) + spacing::k8;
 }
 
 QSizeF pointsOf(const QImage &image)
@@ -107,6 +126,11 @@ void FeatureTip::paintSample(const Font &font, QThreadPool &pool)
         });
 }
 
+int FeatureTip::titleHeight() const
+{
+    return wrappedTitle(m_notes.title).heightFor(kWidth - 2 * kPadding - tagRoom(m_notes));
+}
+
 int FeatureTip::sampleHeight() const
 {
     return m_sample.after.isNull() ? 0 : int(pointsOf(m_sample.after).height()) + kSampleGap;
@@ -116,7 +140,7 @@ int FeatureTip::sampleHeight() const
 /// there.
 void FeatureTip::place()
 {
-    int height = 2 * kPadding + kTitleHeight + sampleHeight();
+    int height = 2 * kPadding + titleHeight() + sampleHeight();
     if (!m_explanation.isEmpty())
         height += kGap + wrapped(m_explanation).heightFor(kWidth - 2 * kPadding);
     const QRect row(m_row->mapTo(parentWidget(), QPoint()), m_row->size());
@@ -127,9 +151,8 @@ void FeatureTip::place()
         x = std::clamp(x, room.left(), std::max(room.left(), room.right() + 1 - kWidth));
         const bool fitsBelow = row.bottom() + kGap + height <= room.bottom();
         y = fitsBelow ? row.bottom() + spacing::k4 : row.top() - spacing::k4 - height;
-    } else {
-        y = std::clamp(y, room.top(), std::max(room.top(), room.bottom() + 1 - height));
     }
+    y = std::clamp(y, room.top(), std::max(room.top(), room.bottom() + 1 - height));
     const QRect card(x, y, kWidth, height);
     const QRect outer = SoftShadow::outerRect(card);
     m_card = card.translated(-outer.topLeft());
@@ -161,20 +184,19 @@ bool FeatureTip::eventFilter(QObject *watched, QEvent *event)
 void FeatureTip::paintText(QPainter &painter, const QRect &inside) const
 {
     const NeutralColors neutral = neutralColors(isDarkDesktop());
-    const QRect title(inside.left(), inside.top(), inside.width(), kTitleHeight);
-    const QString tag = m_notes.tag == 0 ? QString() : tagText(m_notes.tag);
     painter.setFont(interfaceFont(InterfaceSize::caption));
     painter.setPen(quietColor(neutral.text, neutral.ground, 0.55));
-    drawInspectorLine(painter, *this, title, tag, Qt::AlignRight);
-    const int tagWidth = painter.fontMetrics().horizontalAdvance(tag) + spacing::k8;
-    painter.setFont(interfaceFont(InterfaceSize::label, InterfaceWeight::medium));
+    const QRect firstLine(inside.left(), inside.top(), inside.width(), spacing::k16);
+    drawInspectorLine(painter, *this, firstLine, tagOf(m_notes), Qt::AlignRight);
     painter.setPen(neutral.text);
-    drawInspectorLine(painter, *this, title.adjusted(0, 0, -tagWidth, 0), m_notes.title);
+    const QRect title = inside.adjusted(0, 0, -tagRoom(m_notes), 0);
+    wrappedTitle(m_notes.title)
+        .draw(painter, QStyle::visualRect(layoutDirection(), rect(), title), layoutDirection());
     if (m_explanation.isEmpty())
         return;
     painter.setPen(quietColor(neutral.text, neutral.ground, 0.62));
     wrapped(m_explanation)
-        .draw(painter, QRectF(inside).adjusted(0, kTitleHeight + sampleHeight() + kGap, 0, 0),
+        .draw(painter, QRectF(inside).adjusted(0, titleHeight() + sampleHeight() + kGap, 0, 0),
               layoutDirection());
 }
 
@@ -216,7 +238,7 @@ void FeatureTip::paintEvent(QPaintEvent *)
     paintText(painter, inside);
     if (!m_sample.after.isNull()) {
         drawSample(painter,
-                   QRectF(inside.left(), inside.top() + kTitleHeight + kSampleGap, inside.width(),
+                   QRectF(inside.left(), inside.top() + titleHeight() + kSampleGap, inside.width(),
                           pointsOf(m_sample.after).height()));
     }
 }

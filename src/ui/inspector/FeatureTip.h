@@ -37,6 +37,7 @@ private:
     FeatureTip(QWidget *row, const FeatureNotes &notes);
     void paintSample(const Font &font, QThreadPool &pool);
     void place();
+    int titleHeight() const;
     int sampleHeight() const;
     void paintText(QPainter &painter, const QRect &inside) const;
     void drawSample(QPainter &painter, const QRectF &band) const;

@@ -153,7 +153,7 @@ void InfoRowView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_text->hasFocus())
+    if (m_text->hasFocusRing())
         drawFocusRing(painter, QRectF(m_text->geometry()).adjusted(-4, -2, 4, 2), 4);
     if (m_row.label.isEmpty())
         return;

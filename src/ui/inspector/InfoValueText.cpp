@@ -3,6 +3,7 @@
 #include "ui/inspector/InfoValueText.h"
 
 #include "ui/inspector/InspectorLook.h"
+#include "ui/style/ControlColors.h"
 #include "ui/style/MenuLook.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -116,6 +117,7 @@ void InfoValueText::keyPressEvent(QKeyEvent *event)
 
 void InfoValueText::focusInEvent(QFocusEvent *event)
 {
+    m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
     QTextEdit::focusInEvent(event);
     parentWidget()->update();
 }

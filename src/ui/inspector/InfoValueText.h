@@ -20,6 +20,8 @@ public:
     void expand();
     int heightForWidth(int width) const override;
     void copyAll() const;
+    /// The keyboard brought the focus here.
+    bool hasFocusRing() const { return hasFocus() && m_showsFocus; }
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -37,6 +39,7 @@ private:
     const QString m_value;
     bool m_isCut = false;
     bool m_takesColors = false;
+    bool m_showsFocus = false;
 };
 
 } // namespace lorva

@@ -104,6 +104,7 @@ std::vector<NamedLanguage> inReadingOrder(const std::vector<LanguageCoverage> &c
                                           const QLocale &locale)
 {
     std::vector<NamedLanguage> languages;
+    languages.reserve(coverage.size());
     for (const LanguageCoverage &each : coverage)
         languages.push_back({languageName(each.language, locale), &each});
     const NameCollator order(locale);

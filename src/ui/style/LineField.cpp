@@ -9,6 +9,7 @@
 #include "ui/style/Style.h"
 #include "ui/style/SymbolImage.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QPainter>
 #include <QProxyStyle>

@@ -17,6 +17,9 @@ constexpr double kHeight = 18;
 constexpr double kRoom = 3;
 constexpr double kKnobInset = 2.5;
 constexpr double kDisabledOpacity = 0.4;
+/// Of the track: the knob's place tells the state, too.
+constexpr double kOffAlpha = 0.28;
+constexpr double kPressedAlpha = 0.42;
 
 } // namespace
 
@@ -44,15 +47,14 @@ void ToggleSwitch::paintEvent(QPaintEvent *)
     if (!isEnabled())
         painter.setOpacity(kDisabledOpacity);
     const QRectF track((width() - kWidth) / 2, (height() - kHeight) / 2, kWidth, kHeight);
-    painter.setPen(isChecked() ? QPen(Qt::NoPen) : QPen(colors.edge, 1));
-    painter.setBrush(isChecked() ? colors.ink : withAlpha(colors.ink, isDown() ? 0.16 : 0.06));
-    painter.drawRoundedRect(isChecked() ? track : track.adjusted(0.5, 0.5, -0.5, -0.5), kHeight / 2,
-                            kHeight / 2);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isChecked() ? colors.ink
+                                 : withAlpha(colors.ink, isDown() ? kPressedAlpha : kOffAlpha));
+    painter.drawRoundedRect(track, kHeight / 2, kHeight / 2);
     const double side = kHeight - 2 * kKnobInset;
     const bool isAtRight = isChecked() != isRightToLeft();
     const double x = isAtRight ? track.right() - kKnobInset - side : track.left() + kKnobInset;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(isChecked() ? neutral.ground : colors.edge);
+    painter.setBrush(neutral.ground);
     painter.drawEllipse(QRectF(x, track.top() + kKnobInset, side, side));
     if (hasFocusRing())
         drawFocusRing(painter, track.adjusted(-1, -1, 1, 1), kHeight / 2 + 1);
