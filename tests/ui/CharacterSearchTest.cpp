@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "ui/detail/CharacterSearch.h"
 #include "support/QtPrinters.h"
 #include "ui/detail/CharacterCells.h"
 #include "ui/detail/CharacterNames.h"
-#include "ui/detail/CharacterSearch.h"
 #include "ui/PreviewFonts.h"
 
 #include <gtest/gtest.h>
@@ -55,7 +55,8 @@ TEST(CharacterSearchTest, findsCharactersCodePointsAndNames)
 
 TEST(CharacterSearchTest, findsGlyphsByNumberNameAndCharacter)
 {
-    const Font font = test::fontFromFile(test::realFont("opentype/ebgaramond/EBGaramond12-Regular.otf"));
+    const Font font =
+        test::fontFromFile(test::realFont("opentype/ebgaramond/EBGaramond12-Regular.otf"));
     const CharacterListing listing = listCharacters(font);
     const auto found = [&](const char *query) {
         QStringList names;

@@ -62,7 +62,7 @@ protected:
     void add(const FilePath &folder, const QByteArray &name, FontBuilder builder)
     {
         builder.postScriptName(QString::fromLatin1(name)).codePoints(U"Aabc 123");
-        builder.substitution("smcp", U'a', U'b').axis("SOFT", 0, 10, 100);
+        builder.advance(U'b', 900).substitution("smcp", U'a', U'b').axis("SOFT", 0, 10, 100);
         library.fonts->files.push_back(test::writeFile(folder, name + ".ttf", builder.build()));
     }
     void open(const char *family)
@@ -210,7 +210,7 @@ TEST_F(DetailJourney, EveryStageCanBeTakenAwayAsAFile)
         auto *dialog = root->window()->findChild<QFileDialog *>(QStringLiteral("SaveDialog"));
         ASSERT_NE(dialog, nullptr);
         const QString path =
-            folder.child("page" + QByteArray::number(++files) + ".svg").displayText();
+            folder.child(QByteArray("page" + QByteArray::number(++files) + ".svg")).displayText();
         dialog->selectFile(path);
         QMetaObject::invokeMethod(dialog, "accept");
         ASSERT_TRUE(waitUntil([&path] { return QFile::exists(path); }));

@@ -152,6 +152,14 @@ protected:
     {
         return window.findChild<Part *>(QLatin1String(name));
     }
+    Popover *openPopover() const
+    {
+        for (Popover *popover : window.findChildren<Popover *>()) {
+            if (popover->isVisible())
+                return popover;
+        }
+        return nullptr;
+    }
     void click(const char *name) { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
 
     Recorder recorder;

@@ -16,7 +16,6 @@
 namespace lorva {
 namespace {
 
-using test::fontOf;
 using test::fontWith;
 using test::makeCaseFolder;
 using test::readFile;
@@ -173,7 +172,7 @@ TEST(SpecimenPageTest, theLogoStandsAtTheLeadingEdgeOnTheCapHeight)
         const LayoutLine &line = page.texts[0].layout.lines()[0];
         // Caps of 700 units at 40 points are 28 high.
         EXPECT_EQ(rect.size(), QSizeF(112, 56));
-        EXPECT_DOUBLE_EQ(rect.center().y(), line.origin.y() - 14);
+        EXPECT_NEAR(rect.center().y(), page.texts[0].origin.y() + line.origin.y() - 14, 0.01);
         EXPECT_NEAR(isRightToLeft ? 150 - rect.right() : rect.left(), 0, 0.01);
         EXPECT_EQ(page.pictures[0].image.pixelColor(5, 5), specimen.foreground);
         EXPECT_GT(page.texts[0].layout.lines().size(), 1u) << "what does not fit beside it wraps";

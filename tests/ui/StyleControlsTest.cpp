@@ -92,6 +92,8 @@ TEST(StyleControlsTest, neutralControlsFollowTheDesktop)
 {
     TextButton button(QStringLiteral("Cancel"));
     ToggleSwitch toggle(QStringLiteral("Visible"));
+    // Switched off it is quiet: its place tells the state.
+    toggle.setChecked(true);
     LineField field;
     field.setText(QStringLiteral("MMMM"));
     for (const bool isDark : {true, false, true}) {

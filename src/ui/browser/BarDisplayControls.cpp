@@ -9,19 +9,31 @@
 
 namespace lorva {
 
-BarDisplayControls::BarDisplayControls(const std::vector<Kind> &kinds, const QString &moreLabel,
+namespace {
+
+std::map<SpecimenSlider::Kind, SpecimenSlider *> makeSliders(
+    const std::vector<SpecimenSlider::Kind> &kinds, QWidget *bar)
+{
+    std::map<SpecimenSlider::Kind, SpecimenSlider *> sliders;
+    for (const SpecimenSlider::Kind kind : kinds)
+        sliders[kind] = new SpecimenSlider(kind, bar);
+    return sliders;
+}
+
+} // namespace
+
+BarDisplayControls::BarDisplayControls(std::vector<Kind> kinds, const QString &moreLabel,
                                        QWidget *bar)
     : m_bar(bar)
-    , m_kinds(kinds)
+    , m_kinds(std::move(kinds))
+    , m_sliders(makeSliders(m_kinds, bar))
+    , m_more(new IconButton(QStringLiteral("slider.horizontal.3"), moreLabel, bar))
+    , m_chips(new ColorModeChips(bar))
+    , m_logo(new IconButton(QStringLiteral("photo"), tr("Logo"), bar))
 {
-    for (const Kind kind : m_kinds)
-        m_sliders[kind] = new SpecimenSlider(kind, bar);
-    m_more = new IconButton(QStringLiteral("slider.horizontal.3"), moreLabel, bar);
     m_more->setObjectName(QStringLiteral("moreButton"));
-    m_chips = new ColorModeChips(bar);
     m_chips->setObjectName(QStringLiteral("colorModeChips"));
     m_chips->setAccessibleName(tr("Colors"));
-    m_logo = new IconButton(QStringLiteral("photo"), tr("Logo"), bar);
     m_logo->setObjectName(QStringLiteral("logoButton"));
     connectParts();
 }

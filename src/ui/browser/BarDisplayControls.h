@@ -32,7 +32,7 @@ public:
     enum class Panel { colors, backgroundImage, logo, sampleText };
 
     /// `kinds`: of the sliders, in their order. `moreLabel`: what is behind the "more" button.
-    BarDisplayControls(const std::vector<Kind> &kinds, const QString &moreLabel, QWidget *bar);
+    BarDisplayControls(std::vector<Kind> kinds, const QString &moreLabel, QWidget *bar);
     ~BarDisplayControls() override;
 
     /// Does not own it; it must outlive this object. A value of a slider is told by onValueChosen.
@@ -63,10 +63,10 @@ private:
     QWidget *const m_bar;
     DisplayControlsDelegate *m_delegate = nullptr;
     const std::vector<Kind> m_kinds;
-    std::map<Kind, SpecimenSlider *> m_sliders;
-    IconButton *m_more;
-    ColorModeChips *m_chips;
-    IconButton *m_logo;
+    const std::map<Kind, SpecimenSlider *> m_sliders;
+    IconButton *const m_more;
+    ColorModeChips *const m_chips;
+    IconButton *const m_logo;
     QPointer<QWidget> m_sampleTextButton;
     QPointer<Popover> m_popover;
     QPointer<DisplayPanel> m_panel;

@@ -42,7 +42,8 @@ public:
         const std::optional<CellIndex> at = cell();
         if (at && kind == QAccessible::Name)
             return m_view->nameOf(*at);
-        return at && kind == QAccessible::Description ? m_view->cells().descriptionAt(*at) : QString();
+        return at && kind == QAccessible::Description ? m_view->cells().descriptionAt(*at)
+                                                      : QString();
     }
 
     QRect rect() const override

@@ -41,7 +41,8 @@ bool isAsciiLetter(char32_t c)
 bool isLatin(char32_t c)
 {
     const bool isAmongLetters = (c >= 0x00C0 && c <= 0x024F) || (c >= 0x1E00 && c <= 0x1EFF);
-    return isAsciiLetter(c) || (isAmongLetters && u_hasBinaryProperty(UChar32(c), UCHAR_ALPHABETIC));
+    return isAsciiLetter(c)
+        || (isAmongLetters && u_hasBinaryProperty(UChar32(c), UCHAR_ALPHABETIC));
 }
 
 bool isPunctuationOrSymbol(char32_t c)
@@ -68,7 +69,7 @@ char32_t firstOfDecomposition(char32_t c)
     if (U_FAILURE(code) || length <= 0)
         return c;
     UChar32 first = 0;
-    U16_GET(units.data(), 0, 0, length, first);
+    U16_GET(units, 0, 0, length, first);
     return char32_t(first);
 }
 
@@ -102,19 +103,19 @@ QString tr(const char *text)
 
 } // namespace
 
-Block blockOf(char32_t c)
+Block blockOf(char32_t scalar)
 {
-    if (c >= U'0' && c <= U'9')
+    if (scalar >= U'0' && scalar <= U'9')
         return Block::digits;
-    if (isIn(c, kKana))
+    if (isIn(scalar, kKana))
         return Block::kana;
-    if (isIn(c, kHangul))
+    if (isIn(scalar, kHangul))
         return Block::hangul;
-    if (isIn(c, kHan))
+    if (isIn(scalar, kHan))
         return Block::han;
-    if (isLatin(c))
+    if (isLatin(scalar))
         return Block::latin;
-    return isPunctuationOrSymbol(c) ? Block::punctuationAndSymbols : Block::other;
+    return isPunctuationOrSymbol(scalar) ? Block::punctuationAndSymbols : Block::other;
 }
 
 QString blockName(Block block)
@@ -138,17 +139,17 @@ QString blockName(Block block)
     return tr("Other");
 }
 
-char32_t latinSortLetter(char32_t c)
+char32_t latinSortLetter(char32_t scalar)
 {
-    const char32_t base = isAsciiLetter(c) ? c : firstOfDecomposition(c);
+    const char32_t base = isAsciiLetter(scalar) ? scalar : firstOfDecomposition(scalar);
     return isAsciiLetter(base) ? asciiUpper(base) : 0;
 }
 
-bool isListed(char32_t c)
+bool isListed(char32_t scalar)
 {
-    const bool isControl = c < 0x20 || (c >= 0x7F && c <= 0x9F);
-    const bool isSurrogate = c >= 0xD800 && c <= 0xDFFF;
-    return !isControl && !isSurrogate && c <= kLastListed && !isDefaultIgnorable(c);
+    const bool isControl = scalar < 0x20 || (scalar >= 0x7F && scalar <= 0x9F);
+    const bool isSurrogate = scalar >= 0xD800 && scalar <= 0xDFFF;
+    return !isControl && !isSurrogate && scalar <= kLastListed && !isDefaultIgnorable(scalar);
 }
 
 std::vector<CharacterGridSection> enumerateCharacters(const CharacterSet &characters)

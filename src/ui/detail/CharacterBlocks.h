@@ -29,8 +29,8 @@ Block blockOf(char32_t scalar);
 /// "Punctuation & Symbols".
 QString blockName(Block block);
 
-/// The upper-case ASCII letter that a Latin character is sorted by: its own or its base's; 0 for one
-/// that has none (æ, ß, ı).
+/// The upper-case ASCII letter that a Latin character is sorted by: its own or its base's; 0 for
+/// one that has none (æ, ß, ı).
 char32_t latinSortLetter(char32_t scalar);
 /// Whether a cell is made for it: no control characters, no surrogates, nothing that only says how
 /// others look, and nothing beyond plane 3.

@@ -135,10 +135,8 @@ void CharacterFinder::find()
     m_isSearching = true;
     m_run = runThen(
         m_pool, this,
-        [listing = m_listing, areGlyphs = m_areGlyphs,
-         query = m_query](const std::stop_token &stop) {
-            return foundCells(listing, areGlyphs, query, stop);
-        },
+        [listing = m_listing, areGlyphs = m_areGlyphs, query = m_query](
+            const std::stop_token &stop) { return foundCells(listing, areGlyphs, query, stop); },
         [this](CharacterCells cells) {
             m_isSearching = false;
             show(std::move(cells));

@@ -80,8 +80,8 @@ void CharacterCellsView::layOut()
         m_charGridColumns = *columns;
         m_mustRefill = true;
     }
-    m_layout = CharacterGridLayout(m_cells.layoutSections(), m_charGridColumns, width(),
-                                   isRightToLeft());
+    m_layout =
+        CharacterGridLayout(m_cells.layoutSections(), m_charGridColumns, width(), isRightToLeft());
     showBand();
 }
 
@@ -317,13 +317,16 @@ QString CharacterCellsView::nameOf(CellIndex cell) const
 
 bool CharacterCellsView::event(QEvent *event)
 {
+    // Another screen may have other pixels.
+    if (event->type() == QEvent::ScreenChangeInternal)
+        showBand();
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     if (const std::optional<CellIndex> cell = m_layout.cellAt(help->pos()))
         QToolTip::showText(help->globalPos(),
-                           tr("%1 \u2013 %2").arg(nameOf(*cell), m_cells.descriptionAt(*cell)), this,
-                           m_layout.cellRect(*cell));
+                           tr("%1 \u2013 %2").arg(nameOf(*cell), m_cells.descriptionAt(*cell)),
+                           this, m_layout.cellRect(*cell));
     return true;
 }
 
@@ -346,8 +349,8 @@ void CharacterCellsView::contextMenuEvent(QContextMenuEvent *event)
     if (!cell)
         return;
     setCurrent(*cell);
-    const QPoint at = isByKeyboard ? mapToGlobal(m_layout.cellRect(*cell).center())
-                                   : event->globalPos();
+    const QPoint at =
+        isByKeyboard ? mapToGlobal(m_layout.cellRect(*cell).center()) : event->globalPos();
     Q_EMIT menuWanted(*cell, at);
 }
 

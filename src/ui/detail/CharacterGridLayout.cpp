@@ -13,8 +13,8 @@ std::optional<int> characterColumns(int width)
     return std::max(1, width / kCharacterCell);
 }
 
-CharacterGridLayout::CharacterGridLayout(std::vector<Section> sections, int columns, int width,
-                                         bool isMirrored)
+CharacterGridLayout::CharacterGridLayout(const std::vector<Section> &sections, int columns,
+                                         int width, bool isMirrored)
     : m_columns(std::max(1, columns))
     , m_width(width)
     , m_isMirrored(isMirrored)
@@ -55,8 +55,8 @@ QRect CharacterGridLayout::rowRect(const Row &row) const
 
 QRect CharacterGridLayout::rectInRow(int column) const
 {
-    const int left = m_isMirrored ? m_width - (column + 1) * kCharacterCell
-                                  : column * kCharacterCell;
+    const int left =
+        m_isMirrored ? m_width - (column + 1) * kCharacterCell : column * kCharacterCell;
     return {left, 0, kCharacterCell, kCharacterCell};
 }
 

@@ -13,8 +13,8 @@ namespace lorva {
 /// Points; cells are square.
 inline constexpr int kCharacterCell = 64;
 
-/// How many columns a grid of that width gets; nothing for one that is too narrow to tell (under one
-/// cell), which keeps those it has. 64 → 1, 1000 → 15.
+/// How many columns a grid of that width gets; nothing for one that is too narrow to tell (under
+/// one cell), which keeps those it has. 64 → 1, 1000 → 15.
 std::optional<int> characterColumns(int width);
 
 /// Where a cell is: a section and a place in it.
@@ -57,7 +57,8 @@ public:
     static constexpr int kSectionGap = 32;
 
     CharacterGridLayout() = default;
-    CharacterGridLayout(std::vector<Section> sections, int columns, int width, bool isMirrored);
+    CharacterGridLayout(const std::vector<Section> &sections, int columns, int width,
+                        bool isMirrored);
 
     int columns() const { return m_columns; }
     int width() const { return m_width; }

@@ -58,11 +58,12 @@ void CharacterGridModel::request(const QString &key, const Font &face)
     if (current == key)
         return;
     begin(key);
-    m_run([face] { return listCharacters(face); },
-          [guard = QPointer(this), generation = m_characterGridGeneration](CharacterListing listing) {
-              if (guard)
-                  guard->finish(generation, std::move(listing));
-          });
+    m_run(
+        [face] { return listCharacters(face); },
+        [guard = QPointer(this), generation = m_characterGridGeneration](CharacterListing listing) {
+            if (guard)
+                guard->finish(generation, std::move(listing));
+        });
 }
 
 void CharacterGridModel::begin(const std::optional<QString> &key)

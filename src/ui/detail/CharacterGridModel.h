@@ -55,7 +55,10 @@ public:
     }
     const std::shared_ptr<const CharacterListing> &listing() const { return m_listing; }
     /// Whose characters are shown.
-    const std::optional<QString> &cachedCharacterGridKey() const { return m_cachedCharacterGridKey; }
+    const std::optional<QString> &cachedCharacterGridKey() const
+    {
+        return m_cachedCharacterGridKey;
+    }
     const std::optional<QString> &pendingCharacterGridKey() const
     {
         return m_pendingCharacterGridKey;

@@ -101,8 +101,8 @@ std::vector<quint32> CharacterGridSliceView::missingGlyphs() const
 
 QRect CharacterGridSliceView::cellRect(int column) const
 {
-    const int left = isRightToLeft() ? width() - (column + 1) * kCharacterCell
-                                     : column * kCharacterCell;
+    const int left =
+        isRightToLeft() ? width() - (column + 1) * kCharacterCell : column * kCharacterCell;
     return {left, 0, kCharacterCell, kCharacterCell};
 }
 
@@ -171,8 +171,8 @@ void CharacterGridSliceView::drawUnreachedMark(QPainter &painter, const QRect &r
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(withAlpha(m_color, kMarkAlpha), 1));
     painter.setBrush(Qt::NoBrush);
-    const double x = isRightToLeft() ? rect.left() + kMarkInset
-                                     : rect.right() + 1 - kMarkInset - kMarkSize;
+    const double x =
+        isRightToLeft() ? rect.left() + kMarkInset : rect.right() + 1 - kMarkInset - kMarkSize;
     painter.drawEllipse(QRectF(x, rect.top() + kMarkInset, kMarkSize, kMarkSize));
 }
 

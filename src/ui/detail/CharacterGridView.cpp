@@ -49,8 +49,8 @@ CharacterGridView::CharacterGridView(QWidget *parent)
     setObjectName(QStringLiteral("CharacterGrid"));
     m_count->setObjectName(QStringLiteral("CharacterCount"));
     m_count->setTextFormat(Qt::PlainText);
-    m_count->setFont(interfaceFont(InterfaceSize::caption, InterfaceWeight::regular,
-                                   Figures::tabular));
+    m_count->setFont(
+        interfaceFont(InterfaceSize::caption, InterfaceWeight::regular, Figures::tabular));
     m_kind->setObjectName(QStringLiteral("CharacterKind"));
     m_kind->setAccessibleName(tr("Characters or glyphs"));
     m_kind->addTextSegment(tr("Characters"));
@@ -73,12 +73,12 @@ CharacterGridView::CharacterGridView(QWidget *parent)
     connect(m_cells, &CharacterCellsView::selected, this, &CharacterGridView::openPopover);
     connect(m_cells, &CharacterCellsView::copyWanted, this, &CharacterGridView::copyCell);
     connect(m_cells, &CharacterCellsView::menuWanted, this, &CharacterGridView::openMenu);
-    connect(m_cells, &CharacterCellsView::revealWanted, this, [this](const QRect &rect) {
-        Q_EMIT revealWanted(rect.translated(m_cells->pos()));
-    });
+    connect(m_cells, &CharacterCellsView::revealWanted, this,
+            [this](const QRect &rect) { Q_EMIT revealWanted(rect.translated(m_cells->pos())); });
     connect(m_tray, &CharacterTrayView::copyWanted, this, &CharacterGridView::copy);
     connect(m_tray, &CharacterTrayView::textChanged, this, [this] {
-        if (m_tray->text().isEmpty() && m_tray->isAncestorOf(focusWidget()))
+        const QWidget *focus = window()->focusWidget();
+        if (m_tray->text().isEmpty() && (focus == m_tray || m_tray->isAncestorOf(focus)))
             m_cells->setFocus();
         placeTray();
         Q_EMIT heightChanged();
@@ -239,8 +239,8 @@ void CharacterGridView::placeParts()
     place(m_kind, {width() - kindWidth, 0, kindWidth, kCaptionHeight});
     place(m_count, {0, 0, std::max(0, width() - kindWidth - spacing::k16), kCaptionHeight});
     const QSize spinner = m_spinner->sizeHint();
-    place(m_spinner, {0, (kCaptionHeight - spinner.height()) / 2, spinner.width(),
-                      spinner.height()});
+    place(m_spinner,
+          {0, (kCaptionHeight - spinner.height()) / 2, spinner.width(), spinner.height()});
     const int top = kCaptionHeight + kCaptionGap;
     const int body = m_finder.cells().count() > 0 ? m_cells->heightFor(width()) : 0;
     m_cells->setGeometry(0, top, width(), body);
@@ -312,20 +312,20 @@ void CharacterGridView::openPopover(CellIndex cell, Qt::FocusReason reason)
                 collect(character);
                 closePopover();
             });
-    m_characterPopover =
-        Popover::openAt(controller, m_cells, m_cells->arrangement().cellRect(cell),
-                        m_cells->nameOf(cell), reason);
+    m_characterPopover = Popover::openAt(controller, m_cells, m_cells->arrangement().cellRect(cell),
+                                         m_cells->nameOf(cell), reason);
     m_characterPopover->setColors(controlColor(m_foreground, groundColor()), groundColor());
     m_cells->setOpened(cell);
-    connect(m_characterPopover, &Popover::closed, m_cells,
-            [this] { m_cells->setOpened(std::nullopt); });
+    connect(m_characterPopover, &Popover::closed, this, [this] {
+        m_characterPopover.clear();
+        m_cells->setOpened(std::nullopt);
+    });
 }
 
 void CharacterGridView::closePopover()
 {
     if (m_characterPopover)
         m_characterPopover->close();
-    m_characterPopover.clear();
 }
 
 void CharacterGridView::openMenu(CellIndex cell, const QPoint &globalPosition)

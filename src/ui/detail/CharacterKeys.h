@@ -10,8 +10,8 @@ namespace lorva {
 
 // What keys mean in the cells. Thread: any.
 
-/// Arrows, Home, End (with Control: of all cells), pages; nothing for other keys. Mirrored, the next
-/// cell is to the left.
+/// Arrows, Home, End (with Control: of all cells), pages; nothing for other keys. Mirrored, the
+/// next cell is to the left.
 std::optional<CellMove> moveOf(const QKeyEvent &event, bool isMirrored);
 /// Return, Enter, Space.
 bool isPressKey(const QKeyEvent &event);

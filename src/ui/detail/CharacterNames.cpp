@@ -12,6 +12,75 @@ namespace lorva {
 
 namespace {
 
+/// Control characters have no names, only aliases, which ICU does not hold (Unicode
+/// NameAliases.txt, the first of each): from U+0000 and from U+007F on.
+constexpr const char *kLowControls[]{"NULL",
+                                     "START OF HEADING",
+                                     "START OF TEXT",
+                                     "END OF TEXT",
+                                     "END OF TRANSMISSION",
+                                     "ENQUIRY",
+                                     "ACKNOWLEDGE",
+                                     "ALERT",
+                                     "BACKSPACE",
+                                     "CHARACTER TABULATION",
+                                     "LINE FEED",
+                                     "LINE TABULATION",
+                                     "FORM FEED",
+                                     "CARRIAGE RETURN",
+                                     "SHIFT OUT",
+                                     "SHIFT IN",
+                                     "DATA LINK ESCAPE",
+                                     "DEVICE CONTROL ONE",
+                                     "DEVICE CONTROL TWO",
+                                     "DEVICE CONTROL THREE",
+                                     "DEVICE CONTROL FOUR",
+                                     "NEGATIVE ACKNOWLEDGE",
+                                     "SYNCHRONOUS IDLE",
+                                     "END OF TRANSMISSION BLOCK",
+                                     "CANCEL",
+                                     "END OF MEDIUM",
+                                     "SUBSTITUTE",
+                                     "ESCAPE",
+                                     "INFORMATION SEPARATOR FOUR",
+                                     "INFORMATION SEPARATOR THREE",
+                                     "INFORMATION SEPARATOR TWO",
+                                     "INFORMATION SEPARATOR ONE"};
+constexpr const char *kHighControls[]{"DELETE",
+                                      "PADDING CHARACTER",
+                                      "HIGH OCTET PRESET",
+                                      "BREAK PERMITTED HERE",
+                                      "NO BREAK HERE",
+                                      "INDEX",
+                                      "NEXT LINE",
+                                      "START OF SELECTED AREA",
+                                      "END OF SELECTED AREA",
+                                      "CHARACTER TABULATION SET",
+                                      "CHARACTER TABULATION WITH JUSTIFICATION",
+                                      "LINE TABULATION SET",
+                                      "PARTIAL LINE FORWARD",
+                                      "PARTIAL LINE BACKWARD",
+                                      "REVERSE LINE FEED",
+                                      "SINGLE SHIFT TWO",
+                                      "SINGLE SHIFT THREE",
+                                      "DEVICE CONTROL STRING",
+                                      "PRIVATE USE ONE",
+                                      "PRIVATE USE TWO",
+                                      "SET TRANSMIT STATE",
+                                      "CANCEL CHARACTER",
+                                      "MESSAGE WAITING",
+                                      "START OF GUARDED AREA",
+                                      "END OF GUARDED AREA",
+                                      "START OF STRING",
+                                      "SINGLE GRAPHIC CHARACTER INTRODUCER",
+                                      "SINGLE CHARACTER INTRODUCER",
+                                      "CONTROL SEQUENCE INTRODUCER",
+                                      "STRING TERMINATOR",
+                                      "OPERATING SYSTEM COMMAND",
+                                      "PRIVACY MESSAGE",
+                                      "APPLICATION PROGRAM COMMAND"};
+constexpr char32_t kFirstHighControl = 0x7F;
+
 QString hex(char32_t scalar)
 {
     return QString::number(scalar, 16).toUpper();
@@ -25,6 +94,14 @@ QString nameOf(char32_t scalar, UCharNameChoice choice)
     const int32_t length =
         u_charName(UChar32(scalar), choice, buffer.data(), int32_t(buffer.size()), &code);
     return U_SUCCESS(code) && length > 0 ? QString::fromLatin1(buffer.data(), length) : QString();
+}
+
+QString controlAlias(char32_t scalar)
+{
+    if (scalar < std::size(kLowControls))
+        return QLatin1String(kLowControls[scalar]);
+    const char32_t high = scalar - kFirstHighControl;
+    return high < std::size(kHighControls) ? QLatin1String(kHighControls[high]) : QString();
 }
 
 QString tr(const char *text)
@@ -68,8 +145,7 @@ char32_t firstScalar(QStringView text)
         return 0;
     if (!text.front().isSurrogate())
         return text.front().unicode();
-    const bool isPair =
-        text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+    const bool isPair = text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
     return isPair ? QChar::surrogateToUcs4(text[0], text[1]) : char32_t(0xFFFD);
 }
 
@@ -86,7 +162,10 @@ QString codePointText(char32_t scalar)
 QString unicodeName(char32_t scalar)
 {
     const QString name = nameOf(scalar, U_UNICODE_CHAR_NAME);
-    return name.isEmpty() ? nameOf(scalar, U_CHAR_NAME_ALIAS) : name;
+    if (!name.isEmpty())
+        return name;
+    const QString alias = nameOf(scalar, U_CHAR_NAME_ALIAS);
+    return alias.isEmpty() ? controlAlias(scalar) : alias;
 }
 
 QString categoryText(char32_t scalar)

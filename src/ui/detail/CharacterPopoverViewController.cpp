@@ -10,6 +10,7 @@
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -74,19 +75,19 @@ private:
 class FactLine final : public FocusRinged<QAbstractButton>
 {
 public:
-    FactLine(const QString &label, const QString &value, const Ink &ink, QWidget *parent)
+    FactLine(QString label, QString value, const Ink &ink, QWidget *parent)
         : FocusRinged(parent)
-        , m_label(label)
-        , m_value(value)
+        , m_label(std::move(label))
+        , m_value(std::move(value))
         , m_ink(ink)
     {
         setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::TabFocus);
         setFixedHeight(kFactHeight);
-        setText(value);
-        setAccessibleName(QCoreApplication::translate("CharacterPopoverViewController",
-                                                      "Copy %1: %2")
-                              .arg(label, value));
+        setText(m_value);
+        setAccessibleName(
+            QCoreApplication::translate("CharacterPopoverViewController", "Copy %1: %2")
+                .arg(m_label, m_value));
         setToolTip(QCoreApplication::translate("CharacterPopoverViewController", "Copy"));
     }
 
@@ -104,8 +105,8 @@ protected:
         painter.setPen(m_ink.quiet);
         painter.drawText(room, int(Qt::AlignLeading | Qt::AlignVCenter), m_label);
         const int labelWidth = painter.fontMetrics().horizontalAdvance(m_label);
-        painter.setFont(interfaceFont(InterfaceSize::caption, InterfaceWeight::regular,
-                                      Figures::tabular));
+        painter.setFont(
+            interfaceFont(InterfaceSize::caption, InterfaceWeight::regular, Figures::tabular));
         painter.setPen(m_ink.strong);
         const QString shown = painter.fontMetrics().elidedText(
             m_value, Qt::ElideMiddle, room.width() - labelWidth - spacing::k16);

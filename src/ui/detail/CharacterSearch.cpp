@@ -12,22 +12,20 @@ namespace lorva {
 
 namespace {
 
-constexpr char32_t kLastScalar = 0x10FFFF;
 /// How often stopped work looks up.
 constexpr qsizetype kStopEvery = 512;
 
-/// "U+0041", "u+41", "0x41".
+/// "U+0041", "u+41", "0x41"; numbers that Unicode has no place for, too.
 std::optional<char32_t> codePointIn(const QString &word)
 {
     const bool isMarked = word.startsWith(QLatin1String("U+"), Qt::CaseInsensitive)
         || word.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
     bool isHex = false;
     const uint value = word.mid(2).toUInt(&isHex, 16);
-    const bool isScalar = value <= kLastScalar && (value < 0xD800 || value > 0xDFFF);
-    return isMarked && isHex && isScalar ? std::optional(char32_t(value)) : std::nullopt;
+    return isMarked && isHex ? std::optional(char32_t(value)) : std::nullopt;
 }
 
-/// Nothing unless every word is one.
+/// Empty unless every word is one.
 std::set<char32_t> codePointsIn(const QStringList &words)
 {
     std::set<char32_t> scalars;
@@ -76,6 +74,7 @@ List kept(const List &items, const std::stop_token &stop, const Matches &matches
 } // namespace
 
 CharacterQuery::CharacterQuery(const QString &text)
+    : m_isEmpty(text.isEmpty())
 {
     const QString trimmed = text.trimmed();
     const QStringList words = trimmed.split(u' ', Qt::SkipEmptyParts);
@@ -89,6 +88,7 @@ CharacterQuery::CharacterQuery(const QString &text)
     bool fits = false;
     if (const uint number = trimmed.toUInt(&fits); isNumber && fits)
         m_number = number;
+    m_isGlyphNumber = m_number && trimmed.size() > 1;
     const QList<uint> scalars = typed.toUcs4();
     const bool isName = std::all_of(typed.begin(), typed.end(), isInNames);
     if (scalars.size() > 1 && isName && !isNumber && !trimmed.isEmpty()) {
@@ -103,9 +103,9 @@ CharacterQuery::CharacterQuery(const QString &text)
 
 bool CharacterQuery::hasAllWords(const QString &name) const
 {
-    return !m_words.isEmpty() && std::all_of(m_words.begin(), m_words.end(), [&](const QString &word) {
-        return name.contains(word);
-    });
+    return !m_words.isEmpty()
+        && std::all_of(m_words.begin(), m_words.end(),
+                       [&](const QString &word) { return name.contains(word); });
 }
 
 bool CharacterQuery::matches(char32_t scalar) const
@@ -122,18 +122,17 @@ bool CharacterQuery::matchesGlyph(quint32 glyph, const QString &name) const
         || hasAllWords(name.toUpper());
 }
 
-std::vector<CharacterGridSection>
-foundCharacters(const std::vector<CharacterGridSection> &sections, const CharacterQuery &query,
-                const std::stop_token &stop)
+std::vector<CharacterGridSection> foundCharacters(const std::vector<CharacterGridSection> &sections,
+                                                  const CharacterQuery &query,
+                                                  const std::stop_token &stop)
 {
     if (query.isEmpty())
         return sections;
     std::vector<CharacterGridSection> found;
     for (const CharacterGridSection &section : sections) {
         const QStringList characters =
-            kept(section.characters, stop, [&](const QString &character) {
-                return query.matches(firstScalar(character));
-            });
+            kept(section.characters, stop,
+                 [&](const QString &character) { return query.matches(firstScalar(character)); });
         if (!characters.isEmpty())
             found.push_back({section.block, characters});
     }
@@ -150,7 +149,7 @@ std::vector<quint32> foundGlyphs(const std::vector<char32_t> &characterOfGlyph,
         return all;
     return kept(all, stop, [&](quint32 glyph) {
         const char32_t character = characterOfGlyph[glyph];
-        return (character != 0 && query.matches(character))
+        return (character != 0 && !query.isGlyphNumber() && query.matches(character))
             || query.matchesGlyph(glyph, names.name(glyph));
     });
 }

@@ -67,8 +67,9 @@ void CharacterTrayView::setText(const QString &text)
     m_text = text;
     setAccessibleName(tr("Tray: %1").arg(m_text));
     setLine();
-    setVisible(!m_text.isEmpty());
+    // Who hears of it may give the keyboard to someone before this hides.
     Q_EMIT textChanged();
+    setVisible(!m_text.isEmpty());
 }
 
 void CharacterTrayView::setPreviewFace(const Font &face)
@@ -116,8 +117,8 @@ void CharacterTrayView::paintEvent(QPaintEvent *)
     painter.setClipRect(room);
     // What was added last is in sight.
     const double over = std::max(0.0, m_line.size().width() - room.width());
-    const double x = isRightToLeft() ? room.right() + 1 - m_line.size().width() + over
-                                     : room.left() - over;
+    const double x =
+        isRightToLeft() ? room.right() + 1 - m_line.size().width() + over : room.left() - over;
     const double y = (height() - m_line.size().height()) / 2;
     GlyphPainter::paint(painter, m_line, {x, y}, m_foreground);
 }

@@ -15,7 +15,7 @@ using namespace barspace;
 constexpr int kAllSliders = 3;
 constexpr int kRoomForTitle = 90;
 constexpr int kSmallestSearch = 140;
-constexpr int kSmallestGap = 10;
+constexpr int kSmallestGap = 12;
 /// The two arrows are narrower than other buttons, and belong together.
 constexpr int kArrowWidth = 22;
 constexpr int kArrowGap = 8;
@@ -108,10 +108,10 @@ DetailBarLayout layOutDetailBar(int width, const DetailBarParts &parts,
     Form form{kAllSliders, search, kGroupGap};
     while (form.sliders > 0 && missing(form) > 0)
         --form.sliders;
-    form.searchWidth =
-        std::clamp(search - missing(form), std::min(kSmallestSearch, search), search);
     while (form.gap > kSmallestGap && missing(form) > 0)
         --form.gap;
+    form.searchWidth =
+        std::clamp(search - missing(form), std::min(kSmallestSearch, search), search);
     return Placer(width, parts, direction).place(form);
 }
 

@@ -43,8 +43,8 @@ struct DetailBarParts
     QSize search{220, 28};
 };
 
-/// The name keeps room for a short one while sliders go; then the search field shrinks, then the
-/// groups move together.
+/// The name keeps room for a short one while sliders go; then the groups move together, then the
+/// search field shrinks.
 DetailBarLayout layOutDetailBar(int width, const DetailBarParts &parts,
                                 Qt::LayoutDirection direction);
 

@@ -19,6 +19,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace lorva {
@@ -27,6 +28,21 @@ namespace {
 
 /// At which the characters of a face are listed.
 constexpr double kGridFacePoints = 24;
+
+/// An axis that the weight control moves is the weight control's again.
+void dropOverruled(std::vector<VariationSetting> &axes, const Font &before, const Font &after)
+{
+    if (before.isNull() || after.isNull() || before.variations() == after.variations())
+        return;
+    std::erase_if(axes, [&](const VariationSetting &axis) {
+        const auto valueIn = [&axis](const Font &font) -> std::optional<double> {
+            const auto &values = font.variations();
+            const auto found = std::ranges::find(values, axis.tag, &VariationSetting::tag);
+            return found == values.end() ? std::nullopt : std::optional(found->value);
+        };
+        return valueIn(before) != valueIn(after);
+    });
+}
 
 } // namespace
 
@@ -182,6 +198,8 @@ void FontDetailViewController::showFace()
         face.familyName != m_displayedFace.familyName || face.style.id != m_displayedFace.style.id;
     if (isOtherStyle)
         m_active = {};
+    else
+        dropOverruled(m_active.axes, m_displayedFace.font, face.font);
     const bool hasChanged = face != m_displayedFace;
     m_displayedFace = face;
     showSettings();
@@ -241,8 +259,12 @@ void FontDetailViewController::editingChanged()
 {
     if (m_delegate)
         m_delegate->displayHoldChanged(m_preview->isEditing());
-    if (!m_preview->isEditing() && m_hasState)
-        showSettings();
+    if (m_preview->isEditing() || !m_hasState)
+        return;
+    showSettings();
+    // Who has only stopped typing is still on this page.
+    if (!window()->focusWidget())
+        focusPage();
 }
 
 void FontDetailViewController::setFeatureSettings(

@@ -61,6 +61,7 @@ GlyphInkStore::GlyphInkStore(QObject *parent)
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.character-ink"));
     m_pool.setMaxThreadCount(kWorkers);
+    m_round.start();
 }
 
 GlyphInkStore::~GlyphInkStore()
@@ -137,20 +138,18 @@ void GlyphInkStore::startWorkers()
                 painters->giveBack(std::move(painter));
                 return painted;
             },
-            [this, generation = m_generation](Batch painted) {
-                take(generation, std::move(painted));
-            });
+            [this, generation = m_generation](const Batch &painted) { take(generation, painted); });
     }
 }
 
-void GlyphInkStore::take(quint64 generation, Batch batch)
+void GlyphInkStore::take(quint64 generation, const Batch &batch)
 {
     if (generation != m_generation)
         return;
     --m_running;
-    for (auto &[glyph, ink] : batch) {
+    for (const auto &[glyph, ink] : batch) {
         m_underWay.erase(glyph);
-        m_cache.insert(glyph, std::move(ink));
+        m_cache.insert(glyph, ink);
     }
     startWorkers();
     Q_EMIT arrived();

@@ -52,7 +52,7 @@ private:
 
     void startWorkers();
     std::vector<quint32> nextBatch();
-    void take(quint64 generation, Batch batch);
+    void take(quint64 generation, const Batch &batch);
 
     QThreadPool m_pool;
     GlyphLook m_look;

@@ -54,7 +54,7 @@ bool DetailPreviewView::perform(const EditCommand &command)
     switch (command.kind) {
     case Kind::leave:
         clearFocus();
-        return false;
+        return true;
     case Kind::move:
         moveCaret(command.move, command.selects ? Selecting::yes : Selecting::no);
         return true;

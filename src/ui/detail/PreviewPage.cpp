@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/detail/PreviewPage.h"
 
-#include "ui/preview/SpecimenImage.h"
+#include "ui/detail/PreviewPlacement.h"
+#include "ui/preview/SpecimenLogo.h"
 
 #include <algorithm>
 
@@ -12,28 +13,15 @@ namespace {
 
 /// File systems take 255 bytes.
 constexpr qsizetype kMostNameBytes = 200;
-constexpr double kMostLogoPixels = 2048;
+constexpr int kMostLogoPixels = 2048;
 
-/// The logo's shape in the text's colour, with no more pixels than a print of it needs.
-QImage inkedLogo(const QImage &logo, const QColor &color)
+/// With no more pixels than a print of it needs.
+QImage printedLogo(const QImage &logo, const QColor &color)
 {
-    QImage shape = logo;
-    if (std::max(logo.width(), logo.height()) > kMostLogoPixels)
-        shape = logo.scaled(QSize(int(kMostLogoPixels), int(kMostLogoPixels)), Qt::KeepAspectRatio,
-                            Qt::SmoothTransformation);
-    shape.convertTo(QImage::Format_ARGB32_Premultiplied);
-    shape.setDevicePixelRatio(1);
-    QPainter painter(&shape);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(shape.rect(), color);
-    return shape;
-}
-
-/// At the leading edge of the first line, centred on the cap height.
-QRectF logoRect(const LayoutLine &line, QSizeF size, double capHeight)
-{
-    const double left = line.origin.x() + (line.isRightToLeft ? line.width - size.width() : 0);
-    return {QPointF(left, line.origin.y() - (capHeight + size.height()) / 2), size};
+    constexpr QSize kMost(kMostLogoPixels, kMostLogoPixels);
+    const bool isLarge = logo.width() > kMostLogoPixels || logo.height() > kMostLogoPixels;
+    return tintedLogo(
+        isLarge ? logo.scaled(kMost, Qt::KeepAspectRatio, Qt::SmoothTransformation) : logo, color);
 }
 
 bool isRefused(QChar c)
@@ -59,25 +47,14 @@ SpecimenPage previewPage(const DetailSpecimen &specimen, double width)
 {
     SpecimenPage page;
     page.title = specimen.familyName + QLatin1Char(' ') + specimen.styleName;
-    const Font &font = specimen.font;
-    if (font.isNull() || !(width > 0))
+    if (specimen.font.isNull() || !(width > 0))
         return page;
-    TextLayoutOptions options;
-    options.width = width;
-    options.letterSpacing = specimen.letterSpacing * font.pointSize();
-    QSizeF logo;
-    if (specimen.logoImage) {
-        logo = logoSize(specimen.logoImage->size(), font.capHeight(), specimen.logoSizeRatio);
-        options.firstLineInset =
-            logo.width() + std::max(0.0, specimen.logoSpacing * font.pointSize());
-    }
-    TextLayout layout(specimen.text, font, options);
-    if (specimen.logoImage && !layout.lines().empty()) {
-        page.pictures.push_back({inkedLogo(*specimen.logoImage, specimen.foreground),
-                                 logoRect(layout.lines().front(), logo, font.capHeight())});
-    }
-    page.size = QSizeF(width, layout.size().height());
-    page.texts.push_back({std::move(layout), {}, specimen.foreground});
+    const PreviewPlacement placed = placePreview(specimen.text, specimen, width);
+    if (specimen.logoImage && !placed.logoRect.isNull())
+        page.pictures.push_back(
+            {printedLogo(*specimen.logoImage, specimen.foreground), placed.logoRect});
+    page.size = QSizeF(width, placed.height);
+    page.texts.push_back({placed.carets.layout(), placed.origin, specimen.foreground});
     return page;
 }
 

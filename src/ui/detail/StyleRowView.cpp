@@ -22,6 +22,8 @@ namespace {
 
 constexpr double kQuietAlpha = 0.45;
 constexpr int kBaseline = 31;
+/// Of a name in the interface's font, which is smaller.
+constexpr int kStandInBaseline = 28;
 constexpr int kPillGap = 18;
 constexpr int kWeightWidth = 40;
 constexpr int kWeightGap = spacing::k16;
@@ -203,7 +205,7 @@ double StyleRowView::paintName(QPainter &painter)
     const int nameWidth = metrics.horizontalAdvance(shown);
     painter.setFont(standInFont());
     painter.setPen(m_foreground);
-    painter.drawText(QPoint(isRightToLeft() ? width() - nameWidth : 0, kBaseline), shown);
+    painter.drawText(QPoint(isRightToLeft() ? width() - nameWidth : 0, kStandInBaseline), shown);
     return nameWidth;
 }
 

@@ -93,7 +93,9 @@ void VariantBar::layOut()
     room.widthOf = SegmentedControl::textSegmentWidth;
     showPicker(segmentsThatFit(m_labels, m_selected, room));
 
-    const QSize segments = m_segments->sizeHint();
+    const int buttonRoom = m_picker.overflowSegments.isEmpty() ? 0 : room.overflowButton;
+    const QSize wanted = m_segments->sizeHint();
+    const QSize segments(std::clamp(room.width - buttonRoom, 0, wanted.width()), wanted.height());
     const int top = (kHeight - segments.height()) / 2;
     const QRect first(QPoint(kMargin, top), segments);
     const QRect second(first.right() + 1 + kMenuGap, top, m_more->sizeHint().width(),

@@ -15,17 +15,6 @@ namespace {
 /// gigabytes.
 constexpr double kMaxScaledLogoDevicePx = 4096;
 
-/// The logo's shape in the text's colour.
-QImage tinted(QImage logo, const QColor &color)
-{
-    logo.convertTo(QImage::Format_ARGB32_Premultiplied);
-    logo.setDevicePixelRatio(1.0);
-    QPainter painter(&logo);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-    painter.fillRect(logo.rect(), color);
-    return logo;
-}
-
 /// Scaled with a filter that reads every pixel: a painter's own would drop rows of a large logo.
 QImage scaledForCanvas(const QImage &logo, QSizeF size, double devicePixelRatio)
 {
@@ -58,6 +47,16 @@ QRectF logoRectInLayout(const LayoutLine &firstLine, QSizeF logo, double capHeig
     return QRectF(QPointF(left, top), logo);
 }
 
+QImage tintedLogo(QImage logo, const QColor &color)
+{
+    logo.convertTo(QImage::Format_ARGB32_Premultiplied);
+    logo.setDevicePixelRatio(1.0);
+    QPainter painter(&logo);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.fillRect(logo.rect(), color);
+    return logo;
+}
+
 void paintLogo(QImage &image, const QImage &logo, const QRectF &rect, const QColor &color)
 {
     if (logo.isNull() || rect.isEmpty())
@@ -70,7 +69,7 @@ void paintLogo(QImage &image, const QImage &logo, const QRectF &rect, const QCol
     const QRectF target(corner, isScaled ? QSizeF(shape.size()) / ratio : rect.size());
     QPainter painter(&image);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, tinted(shape, color), QRectF(shape.rect()));
+    painter.drawImage(target, tintedLogo(shape, color), QRectF(shape.rect()));
 }
 
 double snappedToPixel(double points, double devicePixelRatio)

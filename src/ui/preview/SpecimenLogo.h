@@ -25,6 +25,9 @@ double logoInset(QSizeF logo, double spacing, double pointSize);
 /// height.
 QRectF logoRectInLayout(const LayoutLine &firstLine, QSizeF logo, double capHeight);
 
+/// The logo's shape in `color`, of the same pixels.
+QImage tintedLogo(QImage logo, const QColor &color);
+
 /// Paints the logo's shape in `color`, its corner on whole pixels of the image. Nothing for an
 /// empty logo or place.
 void paintLogo(QImage &image, const QImage &logo, const QRectF &rect, const QColor &color);

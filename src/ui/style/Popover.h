@@ -26,8 +26,8 @@ public:
     /// Takes `content` over and opens below (or above) `anchor`. `name`: for assistive technology.
     static Popover *open(QWidget *content, QWidget *anchor, const QString &name);
     /// Hangs from a part of the anchor (in its coordinates) and ends when that is scrolled out of
-    /// sight. A press on the anchor, which may concern another part, is not swallowed. `reason`: how
-    /// the focus comes to it.
+    /// sight. A press on the anchor, which may concern another part, is not swallowed. `reason`:
+    /// how the focus comes to it.
     static Popover *openAt(QWidget *content, QWidget *anchor, const QRect &part,
                            const QString &name, Qt::FocusReason reason);
     ~Popover() override;

@@ -243,14 +243,24 @@ void SegmentedControl::chooseBeside(QAbstractButton *segment, int step)
 void SegmentedControl::placeSegments()
 {
     const QList<QAbstractButton *> segments = m_group->buttons();
-    const std::vector<int> widths = segmentWidths();
+    std::vector<int> widths = segmentWidths();
+    const int missing = sizeHint().width() - width();
+    if (m_hasNaturalWidths && missing > 0 && !widths.empty())
+        widths.back() = std::max(widths.back() - missing, 0);
+    const QRect all(0, 0, std::accumulate(widths.begin(), widths.end(), 2 * kPadding), kHeight);
     int left = 0;
     for (qsizetype i = 0; i < segments.size(); ++i) {
         const QRect logical(left, 0, widths[size_t(i)] + 2 * kPadding, kHeight);
-        const QRect all(QPoint(0, 0), sizeHint());
         segments[i]->setGeometry(QStyle::visualRect(layoutDirection(), all, logical));
         left += widths[size_t(i)];
     }
+}
+
+void SegmentedControl::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        placeSegments();
 }
 
 void SegmentedControl::paintEvent(QPaintEvent *)

@@ -30,7 +30,8 @@ public:
     /// Adds a segment that shows a word; all segments are as wide as the widest, unless natural
     /// widths are set. Gives its index.
     int addTextSegment(const QString &text);
-    /// Each segment as wide as its own word; off in the beginning.
+    /// Each segment as wide as its own word, the last one narrower where the control is; off in the
+    /// beginning.
     void setNaturalWidths(bool isNatural);
     /// What a word takes in a control of natural widths; long ones are cut.
     static int textSegmentWidth(const QString &text);
@@ -52,6 +53,7 @@ Q_SIGNALS:
     void activated(int index);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
