@@ -20,13 +20,12 @@ constexpr qsizetype kLongestTitle = 300;
 /// Over an image, whose own brightness is anyone's.
 constexpr double kVeilAlpha = 0.32;
 
-} // namespace
-
-QColor groundUnder(const QColor &foreground, const QColor &background)
+QFont titleFont()
 {
-    const bool isOverImage = background.alpha() < 255;
-    return isOverImage ? contrastingNeutral(foreground) : background;
+    return interfaceFont(InterfaceSize::title, InterfaceWeight::semibold);
 }
+
+} // namespace
 
 void paintBarGround(QPainter &painter, const QRect &bar, const QColor &foreground,
                     const QColor &background)
@@ -35,10 +34,15 @@ void paintBarGround(QPainter &painter, const QRect &bar, const QColor &foregroun
         painter.fillRect(bar, withAlpha(groundUnder(foreground, background), kVeilAlpha));
 }
 
+int barTitleWidth(const QString &title)
+{
+    return QFontMetrics(titleFont()).horizontalAdvance(title.left(kLongestTitle));
+}
+
 void paintBarTitle(QPainter &painter, const QRect &room, const QString &title,
                    const QColor &foreground, Qt::LayoutDirection direction)
 {
-    const QFont font = interfaceFont(InterfaceSize::title, InterfaceWeight::semibold);
+    const QFont font = titleFont();
     const Qt::Alignment leading =
         QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
     painter.setFont(font);

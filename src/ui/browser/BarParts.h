@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/PaneColors.h"
 #include <QColor>
 #include <QObject>
 #include <QRect>
@@ -18,10 +19,8 @@ class LineField;
 
 // What the bars over a pane have in common. Thread: main. Units: points.
 
-/// The pane's background, or, where it is transparent over an image, what the foreground is
-/// readable on.
-QColor groundUnder(const QColor &foreground, const QColor &background);
-
+/// How wide the title would be, in points.
+int barTitleWidth(const QString &title);
 /// Nothing on a ground that the pane has painted; over an image a veil, on which the controls are
 /// seen.
 void paintBarGround(QPainter &painter, const QRect &bar, const QColor &foreground,

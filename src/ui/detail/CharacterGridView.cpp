@@ -10,6 +10,7 @@
 #include "ui/sheets/ProgressIndicators.h"
 #include "ui/style/MenuLook.h"
 #include "ui/style/Palette.h"
+#include "ui/style/PaneColors.h"
 #include "ui/style/Popover.h"
 #include "ui/style/SegmentedControl.h"
 #include "ui/style/Style.h"
@@ -113,11 +114,12 @@ void CharacterGridView::setColors(const QColor &foreground, const QColor &backgr
 {
     m_foreground = foreground;
     m_background = background;
-    m_cells->setColors(foreground, hairlineColor(foreground, background));
-    m_kind->setColors(foreground, background);
+    const QColor under = groundUnder(foreground, background);
+    m_cells->setColors(foreground, hairlineColor(foreground, under));
+    m_kind->setColors(foreground, under);
     m_tray->setColors(controlColor(foreground, groundColor()), groundColor());
     QPalette palette = m_count->palette();
-    palette.setColor(QPalette::WindowText, withAlpha(controlColor(foreground, background), kQuiet));
+    palette.setColor(QPalette::WindowText, withAlpha(controlColor(foreground, under), kQuiet));
     m_count->setPalette(palette);
     closePopover();
     update();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/detail/ComparisonPage.h"
 #include "ui/style/Palette.h"
+#include "ui/style/PaneColors.h"
 
 #include <algorithm>
 #include <array>
@@ -24,12 +25,6 @@ constexpr double kTintContrast = 3.0;
 constexpr double kLightnessStep = 0.02;
 /// A colour with less has no hue to speak of.
 constexpr double kFewestColor = 0.15;
-
-QColor solidGround(const QColor &foreground, const QColor &background)
-{
-    // Over an image nothing is known but that the foreground is meant to be seen on it.
-    return background.alpha() == 255 ? background : contrastingNeutral(foreground);
-}
 
 double hueDistance(int hue, const QColor &color)
 {
@@ -59,7 +54,7 @@ QColor readable(int hue, const QColor &ground, double alpha)
 
 QColor comparisonTint(int index, const QColor &foreground, const QColor &background)
 {
-    const QColor ground = solidGround(foreground, background);
+    const QColor ground = groundUnder(foreground, background);
     std::vector<int> hues(kHues.begin(), kHues.end());
     // The hue that is nearest to what is there already goes.
     const auto clash = std::ranges::min_element(hues, {}, [&](int hue) {

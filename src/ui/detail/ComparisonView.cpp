@@ -218,10 +218,10 @@ void ComparisonView::applyColors()
     m_match->setColors(foreground, background);
     m_add->setColors(foreground, background);
     // As quiet as the captions that they follow.
-    const QColor ground = blended(background, contrastingNeutral(foreground));
-    const QColor quiet = quietColor(controlColor(foreground, background), ground, kRemoverAlpha);
+    const QColor quiet =
+        quietColor(controlColor(foreground, background), background, kRemoverAlpha);
     for (IconButton *remover : m_removers)
-        remover->setColors(blended(quiet, ground), background);
+        remover->setColors(blended(quiet, background), background);
 }
 
 void ComparisonView::placeControls(int width) const

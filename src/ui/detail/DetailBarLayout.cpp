@@ -14,6 +14,7 @@ using namespace barspace;
 
 constexpr int kAllSliders = 3;
 constexpr int kRoomForTitle = 90;
+constexpr int kRoomForLongTitle = 220;
 constexpr int kSmallestSearch = 140;
 constexpr int kSmallestGap = 12;
 /// The two arrows are narrower than other buttons, and belong together.
@@ -110,8 +111,9 @@ DetailBarLayout layOutDetailBar(int width, const DetailBarParts &parts,
         --form.sliders;
     while (form.gap > kSmallestGap && missing(form) > 0)
         --form.gap;
-    form.searchWidth =
-        std::clamp(search - missing(form), std::min(kSmallestSearch, search), search);
+    const int longerTitle = std::clamp(parts.title, kRoomForTitle, kRoomForLongTitle);
+    form.searchWidth = std::clamp(search - missing(form) - (longerTitle - kRoomForTitle),
+                                  std::min(kSmallestSearch, search), search);
     return Placer(width, parts, direction).place(form);
 }
 

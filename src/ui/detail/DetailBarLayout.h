@@ -41,6 +41,8 @@ struct DetailBarParts
     QSize button{28, 28};
     QSize stages{94, 24};
     QSize search{220, 28};
+    /// Of the family's name: a long one is given of the search field's room.
+    int title = 0;
 };
 
 /// The name keeps room for a short one while sliders go; then the groups move together, then the

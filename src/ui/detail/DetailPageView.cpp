@@ -33,6 +33,8 @@ DetailPageView::DetailPageView(QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Sections take the pane's colours, not those of a list.
+    viewport()->setBackgroundRole(QPalette::Window);
     viewport()->setAutoFillBackground(false);
     setFocusPolicy(Qt::StrongFocus);
     m_overlay->follow(verticalScrollBar());

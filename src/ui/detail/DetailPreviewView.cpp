@@ -236,7 +236,7 @@ void DetailPreviewView::paintCaret(QPainter &painter) const
     const bool isShown = m_dropAt || (hasFocus() && m_blink.isLit() && !isHidden);
     if (!isShown)
         return;
-    const QColor ground = blended(m_specimen.background, Qt::white);
+    const QColor &ground = m_specimen.background;
     fillShapes(painter, {caretRectIn(shownCaret())}, {}, caretColor(m_specimen.foreground, ground));
 }
 

@@ -25,7 +25,7 @@ struct DetailSpecimen
     /// Ems.
     double letterSpacing = 0;
     QColor foreground = Qt::black;
-    /// Transparent over an image.
+    /// What it is to be readable on; see groundUnder().
     QColor background = Qt::white;
     /// As FontPreviewConfiguration.
     std::optional<QImage> logoImage = {};

@@ -135,6 +135,7 @@ void DetailTopBar::apply(const FontDetailState &state)
     if (state.family.familyName == m_title)
         return;
     m_title = state.family.familyName;
+    layOut();
     update();
 }
 
@@ -204,6 +205,7 @@ void DetailTopBar::layOut()
     parts.button = m_back->sizeHint();
     parts.stages = m_stages->sizeHint();
     parts.search = m_search->field()->sizeHint();
+    parts.title = barTitleWidth(m_title);
     const DetailBarLayout layout = layOutDetailBar(width(), parts, layoutDirection());
     placePart(m_back, layout.back);
     placePart(m_previous, layout.previous);

@@ -219,7 +219,7 @@ void FontDetailViewController::showSettings()
     m_specimen.letterSpacing = m_state.letterSpacing;
     const PaneColors colors = paneColorsOf(m_state);
     m_specimen.foreground = colors.foreground;
-    m_specimen.background = colors.background;
+    m_specimen.background = groundUnder(colors.foreground, colors.background);
     m_specimen.logoImage = m_state.logoImage;
     m_specimen.logoSizeRatio = m_state.logoSizeRatio;
     m_specimen.logoSpacing = m_state.logoSpacing;

@@ -223,10 +223,9 @@ void FontInspectorViewController::changeEvent(QEvent *event)
 
 void FontInspectorViewController::resizeEvent(QResizeEvent *)
 {
-    const QSize tabs = m_tabs->sizeHint();
-    const int tabsWidth = std::min(tabs.width(), width() - 2 * kInspectorPadding);
-    m_tabs->setGeometry((width() - tabsWidth) / 2, (kTabBar - tabs.height()) / 2, tabsWidth,
-                        tabs.height());
+    const int tabsHeight = m_tabs->sizeHint().height();
+    m_tabs->setGeometry(kInspectorPadding, (kTabBar - tabsHeight) / 2,
+                        std::max(0, width() - 2 * kInspectorPadding), tabsHeight);
     const QRect below(0, kTabBar, width(), std::max(0, height() - kTabBar));
     m_featuresScroll->setGeometry(below);
     m_infoScroll->setGeometry(below);

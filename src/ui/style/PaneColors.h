@@ -28,6 +28,10 @@ PaneColors paneColorsOf(const State &state)
     return {QColor(state.foregroundColorHex), QColor(state.backgroundColorHex)};
 }
 
+/// The pane's background, or, where it is transparent over an image, what the foreground is
+/// readable on.
+QColor groundUnder(const QColor &foreground, const QColor &background);
+
 /// The widget paints it as its own ground; a transparent one lets through what lies beneath.
 void fillPane(QWidget &pane, const QColor &background);
 

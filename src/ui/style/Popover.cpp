@@ -175,7 +175,7 @@ bool Popover::isAnchorInSight() const
     QRect seen = m_part.isNull() ? m_anchor->rect() : m_part;
     for (const QWidget *at = m_anchor; at != parentWidget(); at = at->parentWidget())
         seen = seen.intersected(at->rect()).translated(at->pos());
-    return m_part.isNull() || !seen.isEmpty();
+    return m_part.isNull() || seen.intersects(parentWidget()->rect());
 }
 
 void Popover::place()

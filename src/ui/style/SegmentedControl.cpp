@@ -247,6 +247,10 @@ void SegmentedControl::placeSegments()
     const int missing = sizeHint().width() - width();
     if (m_hasNaturalWidths && missing > 0 && !widths.empty())
         widths.back() = std::max(widths.back() - missing, 0);
+    // Room that is left over is shared out.
+    if (missing < 0 && !widths.empty())
+        for (int &segment : widths)
+            segment += -missing / int(widths.size());
     const QRect all(0, 0, std::accumulate(widths.begin(), widths.end(), 2 * kPadding), kHeight);
     int left = 0;
     for (qsizetype i = 0; i < segments.size(); ++i) {
