@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "commands/StyleActivations.h"
 
+#include "base/RunThen.h"
 #include "catalog/FontVariants.h"
 #include "install/FontInstallationService.h"
 #include "model/LorvaAppModel.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace lorva {
 
@@ -61,13 +64,60 @@ StyleActivations styleActivations(LorvaAppModel &model, const FontFamilyRecord &
     if (!service)
         return found;
     const std::shared_ptr<const ActivationState> state = service->state();
+    std::optional<FontFamilyActivation> whole = model.activation(family);
+    if (whole && whole->isMixed())
+        whole.reset();
     FontFamilyRecord alone{family.familyName, {FontStyleRecord()}, {}, {}, {}};
     for (FontStyleRecord &style : styles) {
         alone.styles.front() = std::move(style);
-        if (const auto activation = state->knownActivation(alone))
+        const bool hasFile = alone.styles.front().fileURL.has_value();
+        const auto known = state->knownActivation(alone);
+        if (const auto activation = known || !hasFile ? known : whole)
             found.activationByStyleID.insert(alone.styles.front().id, *activation);
     }
     return found;
+}
+
+StyleActivationLook::StyleActivationLook(LorvaAppModel &model)
+    : m_model(model)
+{
+    m_pool.setObjectName(QStringLiteral("vantrel.lorva.style-looks"));
+    m_pool.setMaxThreadCount(1);
+}
+
+StyleActivationLook::~StyleActivationLook()
+{
+    m_pool.waitForDone();
+}
+
+StyleActivations StyleActivationLook::of(const FontFamilyRecord &family)
+{
+    StyleActivations known = styleActivations(m_model, family);
+    const auto isUnknown = [&known](const FontStyleRecord &style) {
+        return style.fileURL && !known.activationByStyleID.contains(style.id);
+    };
+    if (std::ranges::any_of(family.styles, isUnknown))
+        look(family);
+    return known;
+}
+
+void StyleActivationLook::look(const FontFamilyRecord &family)
+{
+    const FontInstallationService *service = m_model.installationService();
+    const qint64 generation = m_model.activationGeneration();
+    if (!service || (m_familyName == family.familyName && m_generation == generation))
+        return;
+    m_familyName = family.familyName;
+    m_generation = generation;
+    runThen(
+        m_pool, &m_guard,
+        [state = service->state(), family](std::stop_token) {
+            return state->activation(family).has_value();
+        },
+        [this](bool) {
+            if (onChange)
+                onChange();
+        });
 }
 
 } // namespace lorva

@@ -6,7 +6,11 @@
 #include "model/records/FontRecords.h"
 
 #include <QHash>
+#include <QObject>
 #include <QStringList>
+#include <QThreadPool>
+
+#include <functional>
 
 namespace lorva {
 
@@ -25,7 +29,33 @@ struct StyleActivations
     bool operator==(const StyleActivations &) const = default;
 };
 
-/// What is known now; never looks at the disk. Thread: main.
+/// What is known now; never looks at the disk. Of a family that is switched as a whole its styles
+/// are, too. Thread: main.
 StyleActivations styleActivations(LorvaAppModel &model, const FontFamilyRecord &family);
+
+/// The same, with a look on a worker at the files of a family of which only some styles are on.
+///
+/// Holds the model, which outlives it. Thread: main.
+class StyleActivationLook final
+{
+public:
+    explicit StyleActivationLook(LorvaAppModel &model);
+    ~StyleActivationLook();
+
+    /// More is known now of a family that was asked for.
+    std::function<void()> onChange;
+    StyleActivations of(const FontFamilyRecord &family);
+
+private:
+    void look(const FontFamilyRecord &family);
+
+    LorvaAppModel &m_model;
+    /// What was looked at last: a second look would find the same.
+    QString m_familyName;
+    qint64 m_generation = -1;
+    QThreadPool m_pool;
+    /// Whatever m_pool still works at is dropped with it.
+    QObject m_guard;
+};
 
 } // namespace lorva

@@ -43,6 +43,7 @@ LorvaRootSplitViewController::LorvaRootSplitViewController(LorvaAppModel &model,
     , m_browserActions(model, services.images)
     , m_sidebarActions(model)
     , m_detailActions(model, m_browserActions)
+    , m_styles(model)
     , m_export(*this)
     , m_logo(new LogoImage(this))
     , m_background(new LorvaWindowBackgroundView(services.images, this))
@@ -85,6 +86,7 @@ void LorvaRootSplitViewController::connectActions()
 void LorvaRootSplitViewController::connectDetail()
 {
     m_detailActions.onChange = [this] { scheduleRender(); };
+    m_styles.onChange = [this] { scheduleRender(); };
     m_detailActions.onStyleActivationWanted = [this](const QString &family,
                                                      const FontStyleRecord &style) {
         m_activation.activateStyle(family, style);
@@ -178,7 +180,8 @@ void LorvaRootSplitViewController::renderDetail(const FontBrowserState &state,
 {
     ensureDetail();
     m_detailActions.setNarrow(width() < kInspectorWidth);
-    const FontDetailState detail = detailStateOf(m_model, family, state, m_detailActions.session());
+    const FontDetailState detail =
+        detailStateOf(m_model, family, state, m_detailActions.session(), m_styles.of(family));
     m_inspector->setVisible(detail.showsInspector);
     layOut();
     m_detail->setFamilies(FontFamilySubset(m_model.allFamilies()));

@@ -4,6 +4,7 @@
 
 #include "commands/ActivationCommands.h"
 #include "commands/FolderCommands.h"
+#include "commands/StyleActivations.h"
 #include "platform/DesktopOpener.h"
 #include "platform/OrthographyBook.h"
 #include "ui/BrowserActions.h"
@@ -127,6 +128,7 @@ private:
     BrowserActions m_browserActions;
     SidebarActions m_sidebarActions;
     DetailActions m_detailActions;
+    StyleActivationLook m_styles;
     PageExport m_export;
     LogoImage *m_logo;
     LorvaWindowBackgroundView *m_background;

@@ -4,7 +4,6 @@
 #include "ui/PaneStates.h"
 
 #include "catalog/FontVariants.h"
-#include "commands/StyleActivations.h"
 #include "ui/browser/MembershipOptions.h"
 #include "ui/DetailNeighbours.h"
 
@@ -246,7 +245,8 @@ FontBrowserState browserStateOf(LorvaAppModel &model, const PanePictures &pictur
 }
 
 FontDetailState detailStateOf(LorvaAppModel &model, const FontFamilyRecord &family,
-                              const FontBrowserState &browser, const DetailSession &session)
+                              const FontBrowserState &browser, const DetailSession &session,
+                              const StyleActivations &styles)
 {
     FontDetailState state;
     state.family = family;
@@ -258,9 +258,8 @@ FontDetailState detailStateOf(LorvaAppModel &model, const FontFamilyRecord &fami
     state.collectionOptions = collectionOptions(browser, names);
     state.foundryOptions = foundryOptions(browser, names);
     state.familyActivation = model.activation(family);
-    StyleActivations styles = styleActivations(model, family);
-    state.activationByStyleID = std::move(styles.activationByStyleID);
-    state.labelsInSameFile = std::move(styles.labelsInSameFile);
+    state.activationByStyleID = styles.activationByStyleID;
+    state.labelsInSameFile = styles.labelsInSameFile;
     state.hasPrevious = detailNeighbour(browser.families, family.familyName, -1).has_value();
     state.hasNext = detailNeighbour(browser.families, family.familyName, 1).has_value();
     return state;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "commands/StyleActivations.h"
 #include "ui/browser/FontBrowserState.h"
 #include "ui/detail/FontDetailState.h"
 #include "ui/DetailActions.h"
@@ -29,6 +30,7 @@ FontBrowserState browserStateOf(LorvaAppModel &model, const PanePictures &pictur
 
 /// `family` is the model's; `browser` what the browser shows at the same moment.
 FontDetailState detailStateOf(LorvaAppModel &model, const FontFamilyRecord &family,
-                              const FontBrowserState &browser, const DetailSession &session);
+                              const FontBrowserState &browser, const DetailSession &session,
+                              const StyleActivations &styles);
 
 } // namespace lorva
