@@ -18,6 +18,7 @@ import tempfile
 import time
 from pathlib import Path
 
+import bench_detail
 import bench_start
 import bench_text
 import bench_window
@@ -340,6 +341,9 @@ class Bench:
             f"16 ms, half of them under {ms(median('frame_median_ms'))}; the program then holds {memory:.0f} MB "
             f"(at most: 180).")
 
+    def use_detail(self):
+        bench_detail.add_rows(self, str(self.build / "src/app/lorva"), self.environment(True))
+
     # The Google Benchmark programs.
 
     def programs(self, library, generated):
@@ -447,6 +451,7 @@ def main():
         bench.start(generated, few)
         print("bench: window …", file=sys.stderr)
         bench.use(generated)
+        bench.use_detail()
         print("bench: scan …", file=sys.stderr)
         bench.scan("scan_large", library, many, "0.15 ×")
         bench.scan("scan_installed", options.folder, files, "–")

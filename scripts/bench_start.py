@@ -58,7 +58,7 @@ def memory_mb(pid):
 class Window:
     """One start of the program in a home of its own, ended by a signal."""
 
-    def __init__(self, program, library, environment, platform=None):
+    def __init__(self, program, library, environment, platform=None, options=()):
         home = Path(environment["HOME"])
         screen = home / "screen.json"
         screen.write_text(json.dumps(SCREEN))
@@ -69,7 +69,7 @@ class Window:
                        "QT_QPA_PLATFORM": platform or f"offscreen:configfile={screen}"}
         actions = [(os.POSIX_SPAWN_OPEN, fd, os.devnull, os.O_RDWR, 0) for fd in (0, 1)]
         self.started_ns = time.monotonic_ns()
-        self.pid = os.posix_spawn(program, [program, "--folder", str(library)], environment,
+        self.pid = os.posix_spawn(program, [program, "--folder", str(library), *options], environment,
                                   file_actions=actions)
 
     def wait_for(self, *names):
@@ -110,8 +110,8 @@ class Window:
 
 
 @contextlib.contextmanager
-def opened(program, library, environment, platform=None):
-    window = Window(program, library, environment, platform)
+def opened(program, library, environment, platform=None, options=()):
+    window = Window(program, library, environment, platform, options)
     try:
         yield window
     finally:

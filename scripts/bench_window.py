@@ -106,12 +106,12 @@ def until_painted_ms(window, act):
 
 
 @contextlib.contextmanager
-def used(program, library, environment):
+def used(program, library, environment, options=()):
     """The window over a library, with its scan applied, and a hand that uses it."""
     server = Server()
     try:
         environment = {**environment, "DISPLAY": server.display}
-        with bench_start.opened(program, library, environment, platform="xcb") as window:
+        with bench_start.opened(program, library, environment, "xcb", options) as window:
             window.wait_for(bench_start.PAINTED, bench_start.APPLIED)
             hand = Hand(server.display)
             hand.focus(window.pid)

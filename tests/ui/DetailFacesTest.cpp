@@ -39,11 +39,16 @@ TEST(DetailFaces, TheChosenStyleWinsOverTheWeightControl)
     };
     for (const auto &row : rows) {
         const FontStyleRecord *shown =
-            shownStyle(variant, QString::fromLatin1(row.chosen), row.weight);
+            shownStyle({}, variant, QString::fromLatin1(row.chosen), row.weight);
         ASSERT_NE(shown, nullptr);
         EXPECT_EQ(shown->label, QString::fromLatin1(row.shown)) << row.chosen << ' ' << row.weight;
     }
-    EXPECT_EQ(shownStyle({}, {}, 400), nullptr);
+    EXPECT_EQ(shownStyle({}, {}, {}, 400), nullptr);
+    const FontVariant withoutRegular{{}, {}, {style("Thin", 100), style("Medium", 500)}};
+    FontFamilyRecord family;
+    family.styles = {style("Medium", 500), style("Thin", 100)};
+    EXPECT_EQ(shownStyle(family, withoutRegular, {}, 400)->label, QStringLiteral("Medium"))
+        << "as the card has it, whose order is the font's";
 }
 
 TEST(DetailFaces, AxisValuesLieOverTheFacesOwnAndFeaturesOverItsDefaults)

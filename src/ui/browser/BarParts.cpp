@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <cmath>
+
 namespace lorva {
 
 namespace {
@@ -36,7 +38,9 @@ void paintBarGround(QPainter &painter, const QRect &bar, const QColor &foregroun
 
 int barTitleWidth(const QString &title)
 {
-    return QFontMetrics(titleFont()).horizontalAdvance(title.left(kLongestTitle));
+    // A fraction of a point less, and its last letters would go.
+    return int(std::ceil(QFontMetricsF(titleFont()).horizontalAdvance(title.left(kLongestTitle))))
+        + 1;
 }
 
 void paintBarTitle(QPainter &painter, const QRect &room, const QString &title,

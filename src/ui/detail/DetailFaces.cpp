@@ -9,8 +9,8 @@
 
 namespace lorva {
 
-const FontStyleRecord *shownStyle(const FontVariant &variant, const QString &chosenStyleID,
-                                  int weight)
+const FontStyleRecord *shownStyle(const FontFamilyRecord &family, const FontVariant &variant,
+                                  const QString &chosenStyleID, int weight)
 {
     const auto find = [&variant](const QString &id) -> const FontStyleRecord * {
         const auto found = std::ranges::find(variant.styles, id, &FontStyleRecord::id);
@@ -18,11 +18,13 @@ const FontStyleRecord *shownStyle(const FontVariant &variant, const QString &cho
     };
     if (const FontStyleRecord *chosen = find(chosenStyleID))
         return chosen;
-    FontFamilyRecord family;
-    family.styles = variant.styles;
-    if (const std::optional<FontStyleRecord> weighted = styleForWeight(family, weight))
+    FontFamilyRecord shown;
+    shown.styles = variant.styles;
+    if (const std::optional<FontStyleRecord> weighted = styleForWeight(shown, weight))
         return find(weighted->id);
-    return representativeStyle(variant.styles);
+    const FontStyleRecord *ofCard = representativeStyle(family.styles);
+    const FontStyleRecord *same = ofCard ? find(ofCard->id) : nullptr;
+    return same ? same : representativeStyle(variant.styles);
 }
 
 const FontVariant *variantOf(const FontDetailState &state, const QString &label)

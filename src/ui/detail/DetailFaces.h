@@ -12,10 +12,11 @@ namespace lorva {
 
 // Which face the detail view shows, and at which settings. Thread: any.
 
-/// The chosen style if the variant has it, else the one that the weight control stands for. Null
-/// for a variant without styles.
-const FontStyleRecord *shownStyle(const FontVariant &variant, const QString &chosenStyleID,
-                                  int weight);
+/// The chosen style if the variant has it, else the one that the weight control stands for; without
+/// a weight the one that the family's card shows, if it is of the variant. Null for a variant
+/// without styles.
+const FontStyleRecord *shownStyle(const FontFamilyRecord &family, const FontVariant &variant,
+                                  const QString &chosenStyleID, int weight);
 
 /// The variant of that label, else the first one; null without any.
 const FontVariant *variantOf(const FontDetailState &state, const QString &label);

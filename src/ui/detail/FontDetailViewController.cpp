@@ -184,7 +184,8 @@ void FontDetailViewController::showFace()
 {
     m_activeVariant = activeVariant();
     const FontVariant variant{{}, m_activeVariant.familyName, m_activeVariant.styles};
-    const FontStyleRecord *style = shownStyle(variant, m_chosenStyleID, m_state.fontWeight);
+    const FontStyleRecord *style =
+        shownStyle(m_state.family, variant, m_chosenStyleID, m_state.fontWeight);
     if (style && !m_variableWeightsByVariant.contains(m_variantKey)) {
         const Font font =
             m_resolver->resolve(m_activeVariant.familyName, *style, m_state.pointSize);
