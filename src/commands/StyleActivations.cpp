@@ -17,6 +17,8 @@ namespace {
 
 /// A variable font may hold hundreds of styles in one file, and each of them would name all others.
 constexpr qsizetype kMostLabels = 24;
+/// A font may bring a name of 64 kilobytes.
+constexpr qsizetype kLongestLabel = 100;
 
 QHash<FilePath, std::vector<const FontStyleRecord *>> stylesByFile(
     const std::vector<FontStyleRecord> &styles)
@@ -36,7 +38,7 @@ QStringList labelsBut(const FontStyleRecord &style,
     for (const FontStyleRecord *other : together) {
         if (other == &style)
             continue;
-        labels.append(other->label);
+        labels.append(other->label.left(kLongestLabel));
         if (labels.size() == kMostLabels)
             break;
     }
@@ -111,7 +113,7 @@ void StyleActivationLook::look(const FontFamilyRecord &family)
     m_generation = generation;
     runThen(
         m_pool, &m_guard,
-        [state = service->state(), family](std::stop_token) {
+        [state = service->state(), family](const std::stop_token &) {
             return state->activation(family).has_value();
         },
         [this](bool) {

@@ -22,8 +22,8 @@ struct StyleActivations
     /// By style id. A style without a file, or of which nothing is known yet, is not in it.
     QHash<QString, FontFamilyActivation> activationByStyleID;
     /// By style id, the labels of the family's other styles in the same file, in the order for
-    /// people; of very many the first, and how many more. A style that is alone in its file is not
-    /// in it.
+    /// people; of very many the first, and how many more; of long ones the beginning. A style that
+    /// is alone in its file is not in it.
     QHash<QString, QStringList> labelsInSameFile;
 
     bool operator==(const StyleActivations &) const = default;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lorva {
 
@@ -69,6 +70,9 @@ void DetailActions::detailNeighbourWanted(int step)
 
 void DetailActions::detailVariantSelected(const QString &label)
 {
+    const QString family = m_model.detailFamilyName().value_or(QString());
+    if (std::exchange(m_session.selectedVariantFamily, family) != family)
+        m_session.selectedVariantLabel.clear();
     change(&DetailSession::selectedVariantLabel, label);
 }
 

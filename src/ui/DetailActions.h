@@ -25,8 +25,9 @@ struct DetailSession
     /// In a narrow window it lies over the page, and comes only when it is asked for.
     bool isNarrow = false;
     bool showsInspectorOverPage = false;
-    /// Of the family that is open.
     QString selectedVariantLabel;
+    /// The family that the variant is of: another one starts with its first.
+    QString selectedVariantFamily;
 };
 
 /// Leads what the user does in the detail view to the model, to the session and to the commands.

@@ -69,7 +69,9 @@ void PageExport::write(const SpecimenPage &page, const QColor &background, const
     ++m_writing;
     runThen(
         m_pool, &m_guard,
-        [page, background, target](std::stop_token) { return writePage(page, background, target); },
+        [page, background, target](const std::stop_token &) {
+            return writePage(page, background, target);
+        },
         [this](const Result<void> &written) {
             --m_writing;
             if (!written && onFailed)

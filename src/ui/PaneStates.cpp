@@ -189,7 +189,8 @@ void takeDisplay(FontDetailState &state, const FontBrowserState &browser)
 
 void takeSession(FontDetailState &state, const DetailSession &session)
 {
-    state.selectedVariantLabel = session.selectedVariantLabel;
+    if (session.selectedVariantFamily == state.family.familyName)
+        state.selectedVariantLabel = session.selectedVariantLabel;
     state.pointSize = session.pointSize;
     state.letterSpacing = session.letterSpacing;
     state.stage = session.stage;

@@ -88,5 +88,19 @@ TEST(DetailNeighbours, AreThoseOfTheBrowser)
     EXPECT_EQ(neighbour("B", 1), "none") << "it is not among those that are shown";
 }
 
+TEST(DetailFaces, AnAxisThatTheWeightControlMovesIsItsOwnAgain)
+{
+    FontBuilder builder;
+    builder.codePoints(U"a").axis("wght", 100, 400, 900).axis("wdth", 50, 100, 200);
+    const Font face = test::fontOf(builder);
+    const VariationSetting weight{fontTag('w', 'g', 'h', 't'), 650};
+    const VariationSetting width{fontTag('w', 'd', 't', 'h'), 150};
+    std::vector<VariationSetting> axes{weight, width};
+    dropOverruled(axes, face, face.withPointSize(20));
+    EXPECT_THAT(axes, ElementsAre(weight, width));
+    dropOverruled(axes, face, face.withVariations({{weight.tag, 700}}));
+    EXPECT_THAT(axes, ElementsAre(width));
+}
+
 } // namespace
 } // namespace lorva

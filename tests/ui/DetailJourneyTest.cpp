@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSlider>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -232,6 +233,44 @@ TEST_F(DetailJourney, TheMenuKnowsWhereTheFamilyBelongs)
     ASSERT_EQ(collections->actions().size(), 1);
     collections->actions().constFirst()->trigger();
     EXPECT_TRUE(model().isMember(QStringLiteral("Lively"), id));
+}
+
+TEST_F(DetailJourney, WhoStopsTypingBeforeTheModelAnswersKeepsTextAndHistory)
+{
+    open("Lively");
+    QTest::mouseClick(&preview(), Qt::LeftButton, {}, QPoint(20, 40));
+    QTest::keySequence(&preview(), QKeySequence::SelectAll);
+    QTest::keyClicks(&preview(), QStringLiteral("cab"));
+    press(&preview(), Qt::Key_Escape);
+    EXPECT_EQ(preview().text(), QStringLiteral("cab"));
+    root->render();
+    EXPECT_EQ(preview().text(), QStringLiteral("cab"));
+    EXPECT_TRUE(preview().canUndo());
+}
+
+TEST_F(DetailJourney, TheWeightControlTakesTheChoiceOfAStyleBack)
+{
+    open("Lively");
+    QTest::mouseClick(part<QAbstractButton>(QStringLiteral("styleRow Bold")), Qt::LeftButton);
+    settle();
+    EXPECT_THAT(css(), HasSubstr("font-weight: 700"));
+    auto *weight = detail().findChild<QSlider *>(QStringLiteral("fontWeightSlider"));
+    ASSERT_NE(weight, nullptr);
+    EXPECT_EQ(weight->value(), 700);
+    weight->setValue(400);
+    settle();
+    EXPECT_THAT(css(), HasSubstr("font-weight: 400")) << "the model has had it all the time";
+}
+
+TEST_F(DetailJourney, AVariantIsOfOneFamilyOnly)
+{
+    open("Lively");
+    root->detailActions().detailVariantSelected(QStringLiteral("Condensed"));
+    settle();
+    EXPECT_EQ(detail().state().selectedVariantLabel, QStringLiteral("Condensed"));
+    root->detailActions().detailNeighbourWanted(-1);
+    settle();
+    EXPECT_EQ(detail().state().selectedVariantLabel, QString());
 }
 
 } // namespace

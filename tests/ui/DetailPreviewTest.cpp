@@ -476,5 +476,17 @@ TEST_F(DetailPreview, IsATextToAssistiveTechnology)
     EXPECT_TRUE(view.canUndo());
 }
 
+TEST_F(DetailPreview, AnotherWidthIsPaintedAnew)
+{
+    window.setFocus();
+    view.clearFocus();
+    show(fromUtf8("\u05D0\u05D1\u05D2"));
+    picture();
+    view.resize(kWidth / 2, view.height());
+    const QImage narrower = picture();
+    view.apply(specimen);
+    EXPECT_TRUE(narrower == picture()) << "it stands at the other edge now";
+}
+
 } // namespace
 } // namespace lorva

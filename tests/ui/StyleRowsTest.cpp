@@ -271,5 +271,20 @@ TEST(StyleName, IsWrittenInItsFaceWhereThatCanWriteIt)
     EXPECT_LE(cut.image.width(), 2 * 130);
 }
 
+TEST_F(StyleRowsTest, TheTabKeyLeadsToOneRowWhateverIsChosenElsewhere)
+{
+    const std::vector<FontStyleRecord> styles{style("Light", 300), style("Regular"),
+                                              style("Bold", 700)};
+    for (const FontStyleRecord &shown : styles) {
+        show(styles, shown.id);
+        QStringList stops;
+        for (const FontStyleRecord &each : styles) {
+            if (row(each.label)->focusPolicy() != Qt::NoFocus)
+                stops << each.label;
+        }
+        EXPECT_EQ(stops, QStringList(shown.label));
+    }
+}
+
 } // namespace
 } // namespace lorva

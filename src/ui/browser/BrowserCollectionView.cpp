@@ -12,13 +12,13 @@
 #include "ui/style/Hairline.h"
 #include "ui/style/OverlayScrollBar.h"
 #include "ui/style/Palette.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/ReducedMotion.h"
 
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
-#include <QTextDocument>
 #include <QToolTip>
 
 #include <cmath>
@@ -38,8 +38,7 @@ constexpr qsizetype kLongestTip = 1000;
 /// Names come from fonts: what looks like markup in them is shown, not obeyed.
 QString shownAsItIs(const QString &tip)
 {
-    const QString text = tip.left(kLongestTip);
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    return plainToolTip(tip.left(kLongestTip));
 }
 
 } // namespace

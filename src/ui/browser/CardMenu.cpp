@@ -12,7 +12,7 @@
 namespace lorva {
 
 QMenu *makeCardMenu(const FontBrowserState &state, const QStringList &familyNames,
-                    FontBrowserDelegate &browser, QWidget *parent)
+                    FontBrowserDelegate &delegate, QWidget *parent)
 {
     QMenu *menu = makeMenu(parent);
     menu->setObjectName(QStringLiteral("cardMenu"));
@@ -25,21 +25,21 @@ QMenu *makeCardMenu(const FontBrowserState &state, const QStringList &familyName
     subject.hasCollections = !state.collections.empty();
     subject.offer = activationOffer(state, names);
     subject.familyCount = names.size();
-    FontBrowserDelegate *delegate = &browser;
-    subject.chooseStyle = [delegate, names](const std::optional<QString> &id) {
-        delegate->browserStyleChosen(names, id);
+    FontBrowserDelegate *browser = &delegate;
+    subject.chooseStyle = [browser, names](const std::optional<QString> &id) {
+        browser->browserStyleChosen(names, id);
     };
-    subject.toggleCollection = [delegate, names](const QString &id) {
-        delegate->browserCollectionToggled(names, id);
+    subject.toggleCollection = [browser, names](const QString &id) {
+        browser->browserCollectionToggled(names, id);
     };
-    subject.chooseFoundry = [delegate, names](const QString &id) {
-        delegate->browserFoundryChosen(names, id);
+    subject.chooseFoundry = [browser, names](const QString &id) {
+        browser->browserFoundryChosen(names, id);
     };
-    subject.activate = [delegate, names] { delegate->browserActivationWanted(names); };
-    subject.activateRemaining = [delegate, names] {
-        delegate->browserRemainingActivationWanted(names);
+    subject.activate = [browser, names] { browser->browserActivationWanted(names); };
+    subject.activateRemaining = [browser, names] {
+        browser->browserRemainingActivationWanted(names);
     };
-    subject.deactivate = [delegate, names] { delegate->browserDeactivationWanted(names); };
+    subject.deactivate = [browser, names] { browser->browserDeactivationWanted(names); };
     fillFamilyMenu(*menu, subject);
     return menu;
 }

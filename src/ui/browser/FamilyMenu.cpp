@@ -114,21 +114,21 @@ CollectionMenuAction::CollectionMenuAction(const CollectionMembershipOption &opt
     setChecked(option.isMember);
 }
 
-void fillFamilyMenu(QMenu &menu, const FamilyMenuSubject &whole)
+void fillFamilyMenu(QMenu &menu, const FamilyMenuSubject &subject)
 {
-    const auto subject = std::make_shared<const FamilyMenuSubject>(whole);
-    addSubmenu(menu, "styleMenu", text("Style"), [subject](QMenu &submenu) {
-        fillChoice(submenu, subject->styles(), subject->chooseStyle,
-                   [subject] { subject->chooseStyle(std::nullopt); });
+    const auto shared = std::make_shared<const FamilyMenuSubject>(subject);
+    addSubmenu(menu, "styleMenu", text("Style"), [shared](QMenu &submenu) {
+        fillChoice(submenu, shared->styles(), shared->chooseStyle,
+                   [shared] { shared->chooseStyle(std::nullopt); });
     });
-    addSubmenu(menu, "collectionsMenu", text("Collections"), [subject](QMenu &submenu) {
-        fillCollections(submenu, subject);
-    })->setEnabled(subject->hasCollections);
-    addSubmenu(menu, "foundryMenu", text("Foundry"), [subject](QMenu &submenu) {
-        fillChoice(submenu, subject->foundries(), subject->chooseFoundry,
-                   [subject] { subject->chooseFoundry({}); });
+    addSubmenu(menu, "collectionsMenu", text("Collections"), [shared](QMenu &submenu) {
+        fillCollections(submenu, shared);
+    })->setEnabled(subject.hasCollections);
+    addSubmenu(menu, "foundryMenu", text("Foundry"), [shared](QMenu &submenu) {
+        fillChoice(submenu, shared->foundries(), shared->chooseFoundry,
+                   [shared] { shared->chooseFoundry({}); });
     });
-    addActivation(menu, *subject);
+    addActivation(menu, subject);
 }
 
 } // namespace lorva

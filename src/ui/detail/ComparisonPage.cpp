@@ -26,13 +26,16 @@ constexpr double kDotSide = 8;
 constexpr double kNarrowestColumnEms = 5;
 constexpr double kLeastScale = 0.25;
 constexpr double kMostScale = 4;
+/// No caption has room for more; a font may bring a name of 64 kilobytes, which is measured.
+constexpr qsizetype kLongestName = 300;
 
 QString captionOf(const ComparedFace &face)
 {
-    const QString name = face.familyName + QLatin1Char(' ') + face.styleName;
+    const QString whole = face.familyName.left(kLongestName) + QLatin1Char(' ') + face.styleName;
+    const QString name = whole.left(kLongestName).trimmed();
     if (face.font.isNull() || !face.font.isStandIn())
-        return name.trimmed();
-    return QCoreApplication::translate("ComparisonView", "%1 — not available").arg(name.trimmed());
+        return name;
+    return QCoreApplication::translate("ComparisonView", "%1 — not available").arg(name);
 }
 
 struct TextLine

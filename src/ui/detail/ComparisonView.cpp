@@ -7,6 +7,7 @@
 #include "ui/style/DeviceSpace.h"
 #include "ui/style/IconButton.h"
 #include "ui/style/Palette.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/Popover.h"
 #include "ui/style/SegmentedControl.h"
 #include "ui/style/Style.h"
@@ -254,7 +255,7 @@ void ComparisonView::placeButtons()
             continue;
         m_removers[i]->setGeometry(places[i].translated(0, top));
         const QString label = tr("Remove %1").arg(shown[i]->family.familyName.left(100));
-        m_removers[i]->setToolTip(label.toHtmlEscaped());
+        m_removers[i]->setToolTip(plainToolTip(label));
         m_removers[i]->setAccessibleName(label);
     }
     const bool hasOthers = !shown.empty();

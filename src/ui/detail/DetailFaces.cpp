@@ -50,4 +50,18 @@ Font withSettings(const Font &base, const FaceSettings &settings)
     return font;
 }
 
+void dropOverruled(std::vector<VariationSetting> &axes, const Font &before, const Font &after)
+{
+    if (before.isNull() || after.isNull() || before.variations() == after.variations())
+        return;
+    std::erase_if(axes, [&](const VariationSetting &axis) {
+        const auto valueIn = [&axis](const Font &font) -> std::optional<double> {
+            const auto &values = font.variations();
+            const auto found = std::ranges::find(values, axis.tag, &VariationSetting::tag);
+            return found == values.end() ? std::nullopt : std::optional(found->value);
+        };
+        return valueIn(before) != valueIn(after);
+    });
+}
+
 } // namespace lorva

@@ -33,4 +33,7 @@ struct FaceSettings
 /// `base` with the settings: axis values over its own.
 Font withSettings(const Font &base, const FaceSettings &settings);
 
+/// Takes out the axes that the weight control has moved since: they are the weight control's again.
+void dropOverruled(std::vector<VariationSetting> &axes, const Font &before, const Font &after);
+
 } // namespace lorva

@@ -21,6 +21,7 @@ constexpr int kMargin = spacing::k48;
 constexpr int kWheelStep = 24;
 /// Of a page, what stays in sight when one turns it.
 constexpr int kKeptOfPage = 48;
+constexpr int kMostPasses = 2;
 
 } // namespace
 
@@ -58,11 +59,14 @@ void DetailPageView::setForeground(const QColor &color)
 /// then, not for ever.
 void DetailPageView::layOut()
 {
+    m_mustMeasure = true;
     if (m_isLayingOut)
         return;
     m_isLayingOut = true;
-    measure();
-    placeSections();
+    for (int pass = 0; pass < kMostPasses && std::exchange(m_mustMeasure, false); ++pass) {
+        measure();
+        placeSections();
+    }
     m_isLayingOut = false;
     m_overlay->adapt();
 }

@@ -61,6 +61,8 @@ private:
     OverlayScrollBar *m_overlay;
     SmoothScroller *m_scroller;
     bool m_isLayingOut = false;
+    /// A section needs another height.
+    bool m_mustMeasure = false;
 };
 
 } // namespace lorva

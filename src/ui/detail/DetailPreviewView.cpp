@@ -7,11 +7,13 @@
 #include "ui/style/DeviceSpace.h"
 #include "ui/style/Palette.h"
 
+#include <QHideEvent>
 #include <QPainter>
 #include <QPaintEvent>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lorva {
 
@@ -194,6 +196,12 @@ void DetailPreviewView::hideEvent(QHideEvent *event)
 {
     m_picture.letGo();
     DetailSection::hideEvent(event);
+    // In a window that is not active the keyboard goes elsewhere without a word.
+    if (event->spontaneous() || !std::exchange(m_hasKeyboard, false))
+        return;
+    finishComposing();
+    m_edit.endRun();
+    Q_EMIT editingChanged();
 }
 
 void DetailPreviewView::paintEvent(QPaintEvent *event)

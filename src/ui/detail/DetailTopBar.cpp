@@ -112,6 +112,8 @@ void DetailTopBar::connectParts()
 
 void DetailTopBar::valueChosen(Kind kind, double value)
 {
+    if (kind == Kind::weight)
+        Q_EMIT weightChosen(int(value));
     if (!m_delegate)
         return;
     if (kind == Kind::detailSize)

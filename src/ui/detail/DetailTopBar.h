@@ -45,6 +45,8 @@ public:
     std::function<QMenu *(QWidget *parent)> makeMenu;
 
 Q_SIGNALS:
+    /// By the user; the delegate is told next.
+    void weightChosen(int weight);
     void searchChanged(const QString &query);
     /// The user is done with the search field: the characters take the keyboard.
     void searchLeft();

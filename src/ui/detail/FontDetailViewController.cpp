@@ -29,21 +29,6 @@ namespace {
 /// At which the characters of a face are listed.
 constexpr double kGridFacePoints = 24;
 
-/// An axis that the weight control moves is the weight control's again.
-void dropOverruled(std::vector<VariationSetting> &axes, const Font &before, const Font &after)
-{
-    if (before.isNull() || after.isNull() || before.variations() == after.variations())
-        return;
-    std::erase_if(axes, [&](const VariationSetting &axis) {
-        const auto valueIn = [&axis](const Font &font) -> std::optional<double> {
-            const auto &values = font.variations();
-            const auto found = std::ranges::find(values, axis.tag, &VariationSetting::tag);
-            return found == values.end() ? std::nullopt : std::optional(found->value);
-        };
-        return valueIn(before) != valueIn(after);
-    });
-}
-
 } // namespace
 
 FontDetailViewController::FontDetailViewController(std::shared_ptr<FontResolver> resolver,
@@ -85,6 +70,7 @@ void FontDetailViewController::connectParts()
             &FontDetailViewController::editingChanged);
     connect(m_topBar, &DetailTopBar::searchChanged, this, &FontDetailViewController::search);
     connect(m_topBar, &DetailTopBar::searchLeft, m_grid, &CharacterGridView::focusCells);
+    connect(m_topBar, &DetailTopBar::weightChosen, this, &FontDetailViewController::weightChosen);
     connect(m_variants, &VariantBar::variantSelected, this, [this](const QString &label) {
         if (m_delegate)
             m_delegate->detailVariantSelected(label);
@@ -195,8 +181,9 @@ void FontDetailViewController::showFace()
     }
     const DisplayedFace face{m_activeVariant.familyName, style ? *style : FontStyleRecord(),
                              baseFace(style)};
+    // As the inspector judges: what it shows and what is set here are the same.
     const bool isOtherStyle =
-        face.familyName != m_displayedFace.familyName || face.style.id != m_displayedFace.style.id;
+        face.familyName != m_displayedFace.familyName || face.style != m_displayedFace.style;
     if (isOtherStyle)
         m_active = {};
     else
@@ -229,10 +216,11 @@ void FontDetailViewController::showSettings()
     m_comparison->apply(m_specimen);
 
     const FontStyleRecord &style = m_displayedFace.style;
-    m_grid->setPreviewFace(m_previewFace);
+    // First, so that cells of another face are not painted in this one before they go.
     m_grid->requestCharacterGrid(
         style.id.isEmpty() ? QString() : m_variantKey + QLatin1Char('\n') + style.id,
         m_resolver->resolve(m_displayedFace.familyName, style, kGridFacePoints));
+    m_grid->setPreviewFace(m_previewFace);
 }
 
 /// What is being typed stays as it is, whatever the face makes of it.
@@ -251,7 +239,11 @@ void FontDetailViewController::textEdited(const QString &text)
     m_specimen.text = text;
     m_waterfall->apply(m_specimen);
     m_comparison->apply(m_specimen);
-    if (m_delegate && !text.trimmed().isEmpty())
+    if (text.trimmed().isEmpty())
+        return;
+    // The model's answer comes later; whoever stops typing before it keeps text and history.
+    m_state.sampleText = text;
+    if (m_delegate)
         m_delegate->displaySampleTextChanged(text);
 }
 
@@ -284,6 +276,9 @@ void FontDetailViewController::setVariationAxes(const std::vector<VariationSetti
 void FontDetailViewController::applyColors()
 {
     const PaneColors colors = paneColorsOf(m_state);
+    // Anew they would be painted anew, and what hangs from a cell would close.
+    if (std::exchange(m_shownColors, colors) == colors)
+        return;
     m_topBar->setColors(colors.foreground, colors.background);
     m_variants->setColors(colors.foreground, colors.background);
     m_rows->setColors(colors.foreground, colors.background);
@@ -303,6 +298,16 @@ void FontDetailViewController::applyBars()
         labels << variant.label;
     const FontVariant *selected = variantOf(m_state, m_state.selectedVariantLabel);
     m_variants->apply(labels, selected ? selected->label : QString());
+}
+
+/// The weight that the model has already: it would tell nothing, and the chosen style stay.
+void FontDetailViewController::weightChosen(int weight)
+{
+    if (weight != m_state.fontWeight || m_chosenStyleID.isEmpty())
+        return;
+    m_chosenStyleID.clear();
+    showFace();
+    applyBars();
 }
 
 void FontDetailViewController::search(const QString &query)

@@ -96,6 +96,7 @@ private:
     QString shownText() const;
     void textEdited(const QString &text);
     void editingChanged();
+    void weightChosen(int weight);
     void search(const QString &query);
     void layOut();
 
@@ -114,6 +115,7 @@ private:
     FaceSettings m_active;
     Font m_previewFace;
     DetailSpecimen m_specimen;
+    std::optional<PaneColors> m_shownColors;
 
     DetailPageView *m_page;
     DetailPreviewView *m_preview;

@@ -63,7 +63,9 @@ void PreviewPicture::draw(QPainter &painter, const PreviewPlacement &placement,
 
 bool PreviewPicture::holds(const QRect &devicePx, double ratio) const
 {
-    return m_image.devicePixelRatio() == ratio && m_devicePx.contains(devicePx);
+    // Of another width, lines are broken and aligned otherwise.
+    return m_image.devicePixelRatio() == ratio && m_devicePx.width() == devicePx.width()
+        && m_devicePx.contains(devicePx);
 }
 
 void PreviewPicture::paint(const PreviewPlacement &placement, const DetailSpecimen &specimen,

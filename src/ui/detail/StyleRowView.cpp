@@ -7,6 +7,7 @@
 #include "ui/style/DeviceSpace.h"
 #include "ui/style/Hairline.h"
 #include "ui/style/Palette.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/Style.h"
 
 #include <QKeyEvent>
@@ -110,7 +111,7 @@ void StyleRowView::describe()
         notes.append(
             tr("In one file with %1: they are activated and de-activated together.").arg(others));
     }
-    setToolTip(notes.join(u'\n'));
+    setToolTip(plainToolTip(notes.join(u'\n')));
     if (m_state.isSelected)
         notes.prepend(tr("Shown in the preview."));
     setAccessibleDescription(notes.join(u' '));

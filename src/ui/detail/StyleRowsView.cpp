@@ -190,12 +190,10 @@ void StyleRowsView::configureRow(StyleRowView *row, int index) const
 
 void StyleRowsView::makeTabStop(int index)
 {
-    const int before = std::exchange(m_tabStop, index);
-    ensureRow(index)->setTabStop(true);
-    if (before != index) {
-        if (const auto found = m_rows.find(before); found != m_rows.end())
-            found->second->setTabStop(false);
-    }
+    m_tabStop = index;
+    ensureRow(index);
+    for (const auto &[place, row] : m_rows)
+        row->setTabStop(place == index);
 }
 
 /// From row to row, or from pill to pill.

@@ -115,8 +115,9 @@ void VariantBar::openMenu()
         connect(menu->addAction(menuEntryText(label)), &QAction::triggered, this,
                 [this, label] { m_picker.onChange(label); });
     }
-    const int above = menu->sizeHint().height() + spacing::k4;
-    menu->popup(m_more->mapToGlobal(QPoint(0, -above)));
+    const QSize size = menu->sizeHint();
+    const int left = isRightToLeft() ? m_more->width() - size.width() : 0;
+    menu->popup(m_more->mapToGlobal(QPoint(left, -size.height() - spacing::k4)));
 }
 
 void VariantBar::changeEvent(QEvent *event)

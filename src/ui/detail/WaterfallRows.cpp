@@ -30,14 +30,16 @@ std::vector<WaterfallRow> waterfallRows(const Font &font)
     std::vector<WaterfallRow> rows;
     if (font.isNull())
         return rows;
+    // Asked for once: at other axis values than its own a face is set up anew for each answer.
+    const double largest = kWaterfallSizes.front();
+    const Font sized = font.withPointSize(largest);
+    const double ascent = std::max(sized.ascent() / largest, kLeastAscent);
+    const double descent = std::max(sized.descent() / largest, kLeastDescent);
     int top = 0;
     for (const int size : kWaterfallSizes) {
-        const Font sized = font.withPointSize(size);
         const double padding = kPadding + kPaddingShare * size;
-        const double ascent = std::max(sized.ascent(), kLeastAscent * size);
-        const double descent = std::max(sized.descent(), kLeastDescent * size);
-        const int above = int(std::ceil(padding + ascent));
-        const int height = above + int(std::ceil(descent + padding));
+        const int above = int(std::ceil(padding + ascent * size));
+        const int height = above + int(std::ceil(descent * size + padding));
         rows.push_back({size, top, height, top + above});
         top += height;
     }

@@ -5,6 +5,7 @@
 #include "text/FontFace.h"
 #include "ui/inspector/AxisValueField.h"
 #include "ui/inspector/InspectorLook.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/PointSlider.h"
 
 #include <QEvent>
@@ -40,7 +41,7 @@ AxisRow::AxisRow(const FontVariationAxisRecord &axis, QWidget *parent)
     m_slider->setDefaultValue(m_scale.positionOf(axis.defaultValue));
     m_field->setObjectName(QString(name % u".value"));
     m_field->setAccessibleName(tr("%1, value").arg(axis.name));
-    setToolTip(QString(axis.name % u" · " % tagText(axis.tag)));
+    setToolTip(plainToolTip(QString(axis.name % u" · " % tagText(axis.tag))));
     connect(m_slider, &QSlider::valueChanged, this, &AxisRow::takePosition);
     m_field->onValue = [this](double value) {
         setValue(value);

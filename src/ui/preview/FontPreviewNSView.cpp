@@ -4,6 +4,7 @@
 
 #include "ui/preview/PreviewText.h"
 #include "ui/style/DeviceSpace.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/ReducedMotion.h"
 
 #include <QAccessibleWidget>
@@ -234,7 +235,7 @@ void FontPreviewNSView::describe()
         : QString();
     setAccessibleName(m_shownText);
     setAccessibleDescription(notice);
-    setToolTip(notice);
+    setToolTip(plainToolTip(notice));
 }
 
 void FontPreviewNSView::ensureSpecimen(const SpecimenCanvas &canvas)
