@@ -106,16 +106,16 @@ StyleActivations StyleActivationLook::of(const FontFamilyRecord &family)
 void StyleActivationLook::look(const FontFamilyRecord &family)
 {
     const FontInstallationService *service = m_model.installationService();
-    const qint64 generation = m_model.activationGeneration();
-    if (!service || (m_familyName == family.familyName && m_generation == generation))
+    if (!service)
+        return;
+    const std::shared_ptr<const ActivationState> state = service->state();
+    if (m_familyName == family.familyName && m_state.lock() == state)
         return;
     m_familyName = family.familyName;
-    m_generation = generation;
+    m_state = state;
     runThen(
         m_pool, &m_guard,
-        [state = service->state(), family](const std::stop_token &) {
-            return state->activation(family).has_value();
-        },
+        [state, family](const std::stop_token &) { return state->activation(family).has_value(); },
         [this](bool) {
             if (onChange)
                 onChange();

@@ -11,9 +11,11 @@
 #include <QThreadPool>
 
 #include <functional>
+#include <memory>
 
 namespace lorva {
 
+class ActivationState;
 class LorvaAppModel;
 
 /// Which styles of a family are switched on, each by itself, and which go together.
@@ -52,7 +54,7 @@ private:
     LorvaAppModel &m_model;
     /// What was looked at last: a second look would find the same.
     QString m_familyName;
-    qint64 m_generation = -1;
+    std::weak_ptr<const ActivationState> m_state;
     QThreadPool m_pool;
     /// Whatever m_pool still works at is dropped with it.
     QObject m_guard;

@@ -58,15 +58,16 @@ TEST(DetailFaces, AxisValuesLieOverTheFacesOwnAndFeaturesOverItsDefaults)
     builder.substitution("liga", U'a', U'b').substitution("smcp", U'a', U'b');
     const Font base = test::fontOf(builder).withVariations({{fontTag('w', 'g', 'h', 't'), 700}});
     const std::vector<VariationSetting> width{{fontTag('w', 'd', 't', 'h'), 150}};
-    EXPECT_EQ(withSettings(base, {}), base);
-    EXPECT_THAT(withSettings(base, {std::nullopt, width}).variations(),
+    EXPECT_EQ(withSettings(base, {}, {}), base);
+    EXPECT_THAT(withSettings(base, std::nullopt, width).variations(),
                 ElementsAre(base.variations().front(), width.front()));
-    const FeaturePair smallCapitals = *registeredPair(fontTag('s', 'm', 'c', 'p'));
-    EXPECT_THAT(withSettings(base, {std::vector{smallCapitals}, {}}).features(),
+    const std::vector smallCapitals{*registeredPair(fontTag('s', 'm', 'c', 'p'))};
+    const auto settings = featureSettings(fontFeatures(*base.face()), smallCapitals);
+    EXPECT_THAT(withSettings(base, settings, {}).features(),
                 testing::UnorderedElementsAre(FeatureSetting{fontTag('s', 'm', 'c', 'p'), 1},
                                               FeatureSetting{fontTag('l', 'i', 'g', 'a'), 0}))
         << "what is on by itself and missing from the list is switched off";
-    EXPECT_TRUE(withSettings(Font(), {std::vector{smallCapitals}, width}).isNull());
+    EXPECT_TRUE(withSettings(Font(), settings, width).isNull());
 }
 
 TEST(DetailNeighbours, AreThoseOfTheBrowser)

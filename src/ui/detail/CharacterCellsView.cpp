@@ -7,6 +7,7 @@
 #include "ui/detail/CharacterHeaderLabel.h"
 #include "ui/detail/CharacterKeys.h"
 #include "ui/style/ControlColors.h"
+#include "ui/style/PlainToolTip.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -148,8 +149,12 @@ void CharacterCellsView::showSlices(const std::vector<CharacterGridLayout::Row> 
     }
     for (size_t i = 0; i < rows.size(); ++i)
         fillSlice(m_charSliceViews[i], spare, rows[i]);
-    for (CharacterGridSliceView *slice : spare)
+    for (CharacterGridSliceView *slice : spare) {
         slice->hide();
+        // It must not be taken for the row of that place later on.
+        if (m_mustRefill)
+            slice->setSlice({});
+    }
     m_shownSlices = std::ptrdiff_t(rows.size());
     m_charSliceViews.insert(m_charSliceViews.end(), spare.begin(), spare.end());
 }
@@ -320,13 +325,16 @@ bool CharacterCellsView::event(QEvent *event)
     // Another screen may have other pixels.
     if (event->type() == QEvent::ScreenChangeInternal)
         showBand();
+    if (m_current && claimCopyKey(*event))
+        return true;
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     if (const std::optional<CellIndex> cell = m_layout.cellAt(help->pos()))
-        QToolTip::showText(help->globalPos(),
-                           tr("%1 \u2013 %2").arg(nameOf(*cell), m_cells.descriptionAt(*cell)),
-                           this, m_layout.cellRect(*cell));
+        QToolTip::showText(
+            help->globalPos(),
+            plainToolTip(tr("%1 \u2013 %2").arg(nameOf(*cell), m_cells.descriptionAt(*cell))), this,
+            m_layout.cellRect(*cell));
     return true;
 }
 

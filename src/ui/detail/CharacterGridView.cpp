@@ -112,6 +112,8 @@ QColor CharacterGridView::groundColor() const
 
 void CharacterGridView::setColors(const QColor &foreground, const QColor &background)
 {
+    if (foreground == m_foreground && background == m_background)
+        return;
     m_foreground = foreground;
     m_background = background;
     const QColor under = groundUnder(foreground, background);
@@ -267,7 +269,8 @@ void CharacterGridView::paintEvent(QPaintEvent *)
         return;
     QPainter painter(this);
     painter.setFont(interfaceFont(InterfaceSize::body));
-    painter.setPen(withAlpha(controlColor(m_foreground, m_background), kQuiet));
+    painter.setPen(
+        withAlpha(controlColor(m_foreground, groundUnder(m_foreground, m_background)), kQuiet));
     painter.drawText(QRect(0, kCaptionHeight + kCaptionGap, width(), kMessageHeight),
                      Qt::AlignCenter, text);
 }

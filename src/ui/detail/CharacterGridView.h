@@ -78,8 +78,8 @@ private:
     CharacterGridModel m_model;
     CharacterFinder m_finder;
     Font m_previewFace;
-    QColor m_foreground = Qt::black;
-    QColor m_background = Qt::white;
+    QColor m_foreground;
+    QColor m_background;
     QLabel *m_count;
     QuietSpinner *m_spinner;
     SegmentedControl *m_kind;

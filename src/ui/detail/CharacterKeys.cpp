@@ -37,4 +37,13 @@ bool isPressKey(const QKeyEvent &event)
         || event.key() == Qt::Key_Space;
 }
 
+bool claimCopyKey(QEvent &event)
+{
+    if (event.type() != QEvent::ShortcutOverride
+        || !static_cast<QKeyEvent &>(event).matches(QKeySequence::Copy))
+        return false;
+    event.accept();
+    return true;
+}
+
 } // namespace lorva

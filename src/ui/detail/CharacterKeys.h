@@ -15,5 +15,7 @@ namespace lorva {
 std::optional<CellMove> moveOf(const QKeyEvent &event, bool isMirrored);
 /// Return, Enter, Space.
 bool isPressKey(const QKeyEvent &event);
+/// Takes the key for copying before the window's menu does. True when it did.
+bool claimCopyKey(QEvent &event);
 
 } // namespace lorva

@@ -4,6 +4,7 @@
 
 #include "ui/browser/PaneButton.h"
 #include "ui/detail/CharacterBlocks.h"
+#include "ui/detail/CharacterKeys.h"
 #include "ui/detail/CharacterNames.h"
 #include "ui/detail/GlyphInk.h"
 #include "ui/style/DeviceSpace.h"
@@ -221,6 +222,16 @@ QLayout *CharacterPopoverViewController::makeButtons()
         row->addWidget(button);
     }
     return row;
+}
+
+/// A button presses itself by Space only.
+void CharacterPopoverViewController::keyPressEvent(QKeyEvent *event)
+{
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+    if (button && isPressKey(*event))
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 } // namespace lorva

@@ -50,6 +50,9 @@ Q_SIGNALS:
     void copyWanted(const QString &text);
     void trayWanted(const QString &character);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void addTexts(QVBoxLayout &column);
     void addFacts(QVBoxLayout &column);

@@ -4,6 +4,7 @@
 
 #include "text/GlyphPainter.h"
 #include "ui/browser/PaneButton.h"
+#include "ui/detail/CharacterKeys.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
@@ -121,6 +122,11 @@ void CharacterTrayView::paintEvent(QPaintEvent *)
         isRightToLeft() ? room.right() + 1 - m_line.size().width() + over : room.left() - over;
     const double y = (height() - m_line.size().height()) / 2;
     GlyphPainter::paint(painter, m_line, {x, y}, m_foreground);
+}
+
+bool CharacterTrayView::event(QEvent *event)
+{
+    return claimCopyKey(*event) || FocusRinged::event(event);
 }
 
 void CharacterTrayView::keyPressEvent(QKeyEvent *event)

@@ -35,19 +35,31 @@ const FontVariant *variantOf(const FontDetailState &state, const QString &label)
     return found == state.variants.end() ? &state.variants.front() : &*found;
 }
 
-Font withSettings(const Font &base, const FaceSettings &settings)
+bool isSameFace(const DisplayedFace &shown, const DisplayedFace &wanted)
+{
+    if (wanted.style != shown.style || wanted.familyName != shown.familyName)
+        return false;
+    if (wanted.font.isNull() || shown.font.isNull())
+        return wanted.font.isNull() == shown.font.isNull();
+    const FontFace &before = *shown.font.face();
+    const FontFace &now = *wanted.font.face();
+    // A catalog that is applied anew gives new objects for the same faces.
+    return &before == &now
+        || (before.path() == now.path() && before.key() == now.key() && before.isUpToDate());
+}
+
+Font withSettings(const Font &base, const std::optional<std::vector<FeatureSetting>> &features,
+                  const std::vector<VariationSetting> &axes)
 {
     if (base.isNull())
         return base;
     Font font = base;
-    if (!settings.axes.empty()) {
+    if (!axes.empty()) {
         std::vector<VariationSetting> variations = base.variations();
-        variations.insert(variations.end(), settings.axes.begin(), settings.axes.end());
+        variations.insert(variations.end(), axes.begin(), axes.end());
         font = font.withVariations(std::move(variations));
     }
-    if (settings.features)
-        font = font.withFeatures(featureSettings(fontFeatures(*base.face()), *settings.features));
-    return font;
+    return features ? font.withFeatures(*features) : font;
 }
 
 void dropOverruled(std::vector<VariationSetting> &axes, const Font &before, const Font &after)

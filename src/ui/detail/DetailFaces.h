@@ -21,17 +21,14 @@ const FontStyleRecord *shownStyle(const FontFamilyRecord &family, const FontVari
 /// The variant of that label, else the first one; null without any.
 const FontVariant *variantOf(const FontDetailState &state, const QString &label);
 
-/// What the user has set beyond choosing a face.
-struct FaceSettings
-{
-    /// Exactly these are on; nothing: what the font does by itself.
-    std::optional<std::vector<FeaturePair>> features;
-    std::vector<VariationSetting> axes;
-    bool operator==(const FaceSettings &) const = default;
-};
+/// Both stand for one face, whatever the size and the axis values: the same style of the same
+/// family, and the file that was read for `shown` has not changed since. May look at the file.
+bool isSameFace(const DisplayedFace &shown, const DisplayedFace &wanted);
 
-/// `base` with the settings: axis values over its own.
-Font withSettings(const Font &base, const FaceSettings &settings);
+/// `base` with these features (nothing: what the font does by itself), and axis values over its
+/// own.
+Font withSettings(const Font &base, const std::optional<std::vector<FeatureSetting>> &features,
+                  const std::vector<VariationSetting> &axes);
 
 /// Takes out the axes that the weight control has moved since: they are the weight control's again.
 void dropOverruled(std::vector<VariationSetting> &axes, const Font &before, const Font &after);

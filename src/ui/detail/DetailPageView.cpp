@@ -158,6 +158,12 @@ bool DetailPageView::viewportEvent(QEvent *event)
 
 void DetailPageView::keyPressEvent(QKeyEvent *event)
 {
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool turnsBack = event->key() == Qt::Key_Space && modifiers == Qt::ShiftModifier;
+    if (modifiers != Qt::NoModifier && !turnsBack) {
+        event->ignore();
+        return;
+    }
     QScrollBar *bar = verticalScrollBar();
     switch (event->key()) {
     case Qt::Key_Up:
@@ -171,7 +177,7 @@ void DetailPageView::keyPressEvent(QKeyEvent *event)
         break;
     case Qt::Key_PageDown:
     case Qt::Key_Space:
-        m_scroller->glideBy(bar->pageStep());
+        m_scroller->glideBy(turnsBack ? -bar->pageStep() : bar->pageStep());
         break;
     case Qt::Key_Home:
         m_scroller->glideTo(bar->minimum());

@@ -138,7 +138,7 @@ void FontDetailViewController::apply(const FontDetailState &state)
 void FontDetailViewController::startAfresh()
 {
     m_chosenStyleID.clear();
-    m_active = {};
+    clearSettings();
     m_topBar->clearSearch();
     m_grid->setSearch({});
 }
@@ -162,8 +162,7 @@ Font FontDetailViewController::baseFace(const FontStyleRecord *style) const
     const bool isWeighted = m_state.fontWeight != kUnweighted && m_chosenStyleID.isEmpty();
     if (!isWeighted || font.isNull() || font.isStandIn())
         return font;
-    const std::optional<VariableWeight> &variable = m_activeVariant.variableWeight;
-    return variable ? withWeight(font, weightWithin(variable->axis, m_state.fontWeight)) : font;
+    return m_weightAxis ? withWeight(font, weightWithin(*m_weightAxis, m_state.fontWeight)) : font;
 }
 
 void FontDetailViewController::showFace()
@@ -179,15 +178,17 @@ void FontDetailViewController::showFace()
             m_activeVariant.variableWeight = weightOf(*font.face(), *style);
         m_variableWeightsByVariant.insert(m_variantKey, m_activeVariant.variableWeight);
     }
+    m_weightAxis.reset();
+    if (m_activeVariant.variableWeight)
+        m_weightAxis = m_activeVariant.variableWeight->axis;
     const DisplayedFace face{m_activeVariant.familyName, style ? *style : FontStyleRecord(),
                              baseFace(style)};
-    // As the inspector judges: what it shows and what is set here are the same.
-    const bool isOtherStyle =
-        face.familyName != m_displayedFace.familyName || face.style != m_displayedFace.style;
-    if (isOtherStyle)
-        m_active = {};
-    else
-        dropOverruled(m_active.axes, m_displayedFace.font, face.font);
+    if (isSameFace(m_displayedFace, face)) {
+        dropOverruled(m_activeVariationAxes, m_displayedFace.font, face.font);
+    } else {
+        ++m_faceEdition;
+        clearSettings();
+    }
     const bool hasChanged = face != m_displayedFace;
     m_displayedFace = face;
     showSettings();
@@ -199,7 +200,8 @@ void FontDetailViewController::showFace()
 
 void FontDetailViewController::showSettings()
 {
-    m_previewFace = withSettings(m_displayedFace.font, m_active);
+    m_previewFace =
+        withSettings(m_displayedFace.font, m_activeFeatureSettings, m_activeVariationAxes);
     m_specimen.familyName = m_displayedFace.familyName;
     m_specimen.styleName = m_displayedFace.style.label;
     m_specimen.font = m_previewFace;
@@ -218,9 +220,16 @@ void FontDetailViewController::showSettings()
     const FontStyleRecord &style = m_displayedFace.style;
     // First, so that cells of another face are not painted in this one before they go.
     m_grid->requestCharacterGrid(
-        style.id.isEmpty() ? QString() : m_variantKey + QLatin1Char('\n') + style.id,
+        style.id.isEmpty() ? QString() : gridKey(),
         m_resolver->resolve(m_displayedFace.familyName, style, kGridFacePoints));
     m_grid->setPreviewFace(m_previewFace);
+}
+
+/// Another one for a file that has been replaced.
+QString FontDetailViewController::gridKey() const
+{
+    return QStringList{m_variantKey, m_displayedFace.style.id, QString::number(m_faceEdition)}.join(
+        QLatin1Char('\n'));
 }
 
 /// What is being typed stays as it is, whatever the face makes of it.
@@ -260,16 +269,25 @@ void FontDetailViewController::editingChanged()
         focusPage();
 }
 
+void FontDetailViewController::clearSettings()
+{
+    m_activeFeatureSettings.reset();
+    m_activeVariationAxes.clear();
+}
+
 void FontDetailViewController::setFeatureSettings(
     const std::optional<std::vector<FeaturePair>> &enabled)
 {
-    m_active.features = enabled;
+    const Font &font = m_displayedFace.font;
+    m_activeFeatureSettings.reset();
+    if (enabled && !font.isNull())
+        m_activeFeatureSettings = featureSettings(fontFeatures(*font.face()), *enabled);
     showSettings();
 }
 
 void FontDetailViewController::setVariationAxes(const std::vector<VariationSetting> &values)
 {
-    m_active.axes = values;
+    m_activeVariationAxes = values;
     showSettings();
 }
 

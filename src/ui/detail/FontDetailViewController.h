@@ -91,6 +91,8 @@ private:
     void showFace();
     Font baseFace(const FontStyleRecord *style) const;
     void showSettings();
+    void clearSettings();
+    QString gridKey() const;
     void applyColors();
     void applyBars();
     QString shownText() const;
@@ -111,8 +113,13 @@ private:
     /// By the user, in the rows; empty: the one that the weight control stands for.
     QString m_chosenStyleID;
     DisplayedFace m_displayedFace;
-    /// The features and axis values that the inspector set.
-    FaceSettings m_active;
+    /// Grows with every other face, and with every other version of its file.
+    int m_faceEdition = 0;
+    /// From the inspector; nothing: what the font does by itself.
+    std::optional<std::vector<FeatureSetting>> m_activeFeatureSettings;
+    std::vector<VariationSetting> m_activeVariationAxes;
+    /// On which the weight control moves the face.
+    std::optional<ClosedRange> m_weightAxis;
     Font m_previewFace;
     DetailSpecimen m_specimen;
     std::optional<PaneColors> m_shownColors;

@@ -3,6 +3,7 @@
 #include "ui/inspector/FontInspectorViewController.h"
 
 #include "catalog/FontInspectorService.h"
+#include "ui/detail/DetailFaces.h"
 #include "ui/display/PanelParts.h"
 #include "ui/inspector/InspectorFeaturesView.h"
 #include "ui/inspector/InspectorInfoView.h"
@@ -40,7 +41,7 @@ FontInspectorViewController::FontInspectorViewController(
 {
     setObjectName(QStringLiteral("FontInspector"));
     setAccessibleName(tr("Inspector"));
-    m_pool.setObjectName(QStringLiteral("lorva.inspector"));
+    m_pool.setObjectName(QStringLiteral("vantrel.lorva.inspector"));
     m_pool.setMaxThreadCount(1);
     m_tabs->setObjectName(QStringLiteral("InspectorTabs"));
     m_tabs->addTextSegment(tr("Features"));
@@ -74,25 +75,10 @@ FontInspectorViewController::~FontInspectorViewController()
     m_reading.cancel();
 }
 
-/// The resolver may give another object for the same face; one for a file that has been replaced in
-/// between is another face.
-bool FontInspectorViewController::isDisplayed(const DisplayedFace &face) const
-{
-    const DisplayedFace &shown = m_displayedContext;
-    if (face.font.isNull() || shown.font.isNull())
-        return face.font.isNull() == shown.font.isNull();
-    const FontFace &wanted = *face.font.face();
-    const FontFace &known = *shown.font.face();
-    if (face.style != shown.style || face.familyName != shown.familyName)
-        return false;
-    return &wanted == &known
-        || (wanted.path() == known.path() && wanted.key() == known.key() && known.isUpToDate());
-}
-
 void FontInspectorViewController::showFace(const DisplayedFace &face,
                                            const std::optional<FontFamilyActivation> &activation)
 {
-    const bool isKnown = isDisplayed(face);
+    const bool isKnown = isSameFace(m_displayedContext, face);
     m_displayedContext = face;
     const bool isOtherActivation = m_infoState.activation != activation;
     m_infoState.activation = activation;

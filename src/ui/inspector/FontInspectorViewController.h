@@ -72,7 +72,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    bool isDisplayed(const DisplayedFace &face) const;
     void read();
     void install(InspectorFacts facts);
     void clear();

@@ -173,15 +173,21 @@ std::vector<InfoSection> languageSections(const std::vector<LanguageCoverage> &c
     return sections;
 }
 
+/// Real fonts stay far below both; each costs a row or an entry of a menu.
+constexpr size_t kMostFeatures = 500;
+constexpr size_t kMostInstances = 400;
+
 InspectorFacts readInspectorFacts(const FontFace &face, const OrthographyBook *book,
                                   const std::stop_token &stop)
 {
     InspectorFacts facts;
     facts.offered = fontFeatures(face);
+    facts.offered.resize(std::min(facts.offered.size(), kMostFeatures));
     facts.features = FontInspectorService::features(facts.offered);
     for (size_t i = 0; i < facts.offered.size() && !stop.stop_requested(); ++i)
         facts.notes.push_back(notesOf(face, facts.offered[i], facts.features[i]));
     facts.instances = face.namedInstances();
+    facts.instances.resize(std::min(facts.instances.size(), kMostInstances));
     const FaceInformation information = readFaceInformation(face);
     facts.metadata = FontInspectorService::metadata(face, information);
     facts.furtherSections = legalSections(information);

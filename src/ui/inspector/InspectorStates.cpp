@@ -100,13 +100,16 @@ InfoSection details(const InspectorInfoState &state)
 std::vector<FeatureGroup> featureGroups(const std::vector<OpenTypeFeatureRecord> &features)
 {
     std::vector<FeatureGroup> groups;
+    QHash<QString, size_t> places;
     for (size_t i = 0; i < features.size(); ++i) {
         const QString name = features[i].group.isEmpty() ? tr("Other") : features[i].group;
-        auto group = std::find_if(groups.begin(), groups.end(),
-                                  [&](const FeatureGroup &each) { return each.name == name; });
-        if (group == groups.end())
-            group = groups.insert(groups.end(), {name, {}});
-        group->indices.push_back(i);
+        const auto place = places.find(name);
+        if (place == places.end()) {
+            places.insert(name, groups.size());
+            groups.push_back({name, {i}});
+        } else {
+            groups[*place].indices.push_back(i);
+        }
     }
     return groups;
 }
