@@ -231,6 +231,10 @@ TEST_F(CharacterGridTest, theKeyboardReachesEveryCell)
     QTest::keyClick(cells, Qt::Key_Right);
     QTest::keyClick(cells, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(clipboard(), "H");
+    QKeyEvent claim(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
+    claim.ignore();
+    QCoreApplication::sendEvent(cells, &claim);
+    EXPECT_TRUE(claim.isAccepted()) << "the window's menu would copy something else";
     QTest::keyClick(cells, Qt::Key_End, Qt::ControlModifier);
     EXPECT_EQ(cells->current(), (CellIndex{1, 3}));
     EXPECT_TRUE(
@@ -241,6 +245,10 @@ TEST_F(CharacterGridTest, theKeyboardReachesEveryCell)
     QTest::keyClick(cells, Qt::Key_Return);
     ASSERT_TRUE(popover());
     EXPECT_EQ(popover()->character(), "0");
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(clipboard(), "0") << "Copy has the keyboard";
+    if (!popover())
+        QTest::keyClick(cells, Qt::Key_Return);
     QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(grid->characterPopover());
     EXPECT_TRUE(cells->hasFocus());
@@ -303,6 +311,27 @@ TEST_F(CharacterGridTest, searchNarrowsAndSaysWhenNothingIsFound)
     grid->setSearch({});
     settle();
     EXPECT_EQ(count(), "6 characters");
+}
+
+TEST_F(CharacterGridTest, rowsThatComeBackShowWhatIsThereNow)
+{
+    showFont(test::fontWith(U"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
+    grid->setSearch("small");
+    settle();
+    // One row is in sight while the others lose what they showed.
+    grid->setVisibleBand(0, 120);
+    grid->setSearch({});
+    settle();
+    layOut();
+    settle();
+    int seen = 0;
+    for (const auto *row : cells->findChildren<CharacterGridSliceView *>()) {
+        const CharacterSlice &slice = row->slice();
+        for (int i = 0; row->isVisible() && i < slice.characters.size(); ++i, ++seen)
+            EXPECT_EQ(slice.characters[i],
+                      cells->cells().characterAt({slice.sectionIndex, slice.startIndex + i}));
+    }
+    EXPECT_EQ(seen, 52);
 }
 
 TEST_F(CharacterGridTest, survivesPoorFonts)
