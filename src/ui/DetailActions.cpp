@@ -50,6 +50,11 @@ void DetailActions::setPointSize(double pointSize)
                           DetailSession::kMaximumPointSize));
 }
 
+DisplayControlsDelegate &DetailActions::display()
+{
+    return m_browser;
+}
+
 void DetailActions::detailClosed()
 {
     m_model.openDetail(std::nullopt);
@@ -141,91 +146,6 @@ void DetailActions::detailFaceShown(const DisplayedFace &face)
 {
     if (onFaceShown)
         onFaceShown(face);
-}
-
-void DetailActions::displayPointSizeChanged(double pointSize)
-{
-    setPointSize(pointSize);
-}
-
-void DetailActions::displayFontWeightChanged(int weight)
-{
-    m_browser.displayFontWeightChanged(weight);
-}
-
-void DetailActions::displayColorModeChanged(ColorMode mode)
-{
-    m_browser.displayColorModeChanged(mode);
-}
-
-void DetailActions::displayCustomForegroundChanged(const QString &hex)
-{
-    m_browser.displayCustomForegroundChanged(hex);
-}
-
-void DetailActions::displayCustomBackgroundChanged(const QString &hex)
-{
-    m_browser.displayCustomBackgroundChanged(hex);
-}
-
-void DetailActions::displayBackgroundImageChosen(const QString &id)
-{
-    m_browser.displayBackgroundImageChosen(id);
-}
-
-void DetailActions::displayUserImageChosen(const QString &filename)
-{
-    m_browser.displayUserImageChosen(filename);
-}
-
-void DetailActions::displayUserImageAdded(const QByteArray &bytes, Answer answer)
-{
-    m_browser.displayUserImageAdded(bytes, std::move(answer));
-}
-
-void DetailActions::displayUserImageRemoved(const QString &filename)
-{
-    m_browser.displayUserImageRemoved(filename);
-}
-
-void DetailActions::displayImageForegroundChanged(const QString &hex)
-{
-    m_browser.displayImageForegroundChanged(hex);
-}
-
-void DetailActions::displayLogoChosen(const QByteArray &bytes, Answer answer)
-{
-    m_browser.displayLogoChosen(bytes, std::move(answer));
-}
-
-void DetailActions::displayLogoSizeRatioChanged(double ratio)
-{
-    m_browser.displayLogoSizeRatioChanged(ratio);
-}
-
-void DetailActions::displayLogoSpacingChanged(double spacing)
-{
-    m_browser.displayLogoSpacingChanged(spacing);
-}
-
-void DetailActions::displayLogoVisibilityChanged(bool isVisible)
-{
-    m_browser.displayLogoVisibilityChanged(isVisible);
-}
-
-void DetailActions::displaySampleTextChanged(const QString &text)
-{
-    m_browser.displaySampleTextChanged(text);
-}
-
-void DetailActions::displayReset()
-{
-    m_browser.displayReset();
-}
-
-void DetailActions::displayHoldChanged(bool isHeld)
-{
-    m_browser.displayHoldChanged(isHeld);
 }
 
 } // namespace lorva

@@ -52,6 +52,8 @@ public:
     /// Whether the window has room for the inspector beside the page; not told by onChange.
     void setNarrow(bool isNarrow) { m_session.isNarrow = isNarrow; }
 
+    DisplayControlsDelegate &display() override;
+    void detailPointSizeChanged(double pointSize) override { setPointSize(pointSize); }
     void detailClosed() override;
     void detailNeighbourWanted(int step) override;
     void detailVariantSelected(const QString &label) override;
@@ -67,24 +69,6 @@ public:
     void detailCollectionToggled(const QString &collectionID) override;
     void detailFoundryChosen(const QString &foundryID) override;
     void detailFaceShown(const DisplayedFace &face) override;
-
-    void displayPointSizeChanged(double pointSize) override;
-    void displayFontWeightChanged(int weight) override;
-    void displayColorModeChanged(ColorMode mode) override;
-    void displayCustomForegroundChanged(const QString &hex) override;
-    void displayCustomBackgroundChanged(const QString &hex) override;
-    void displayBackgroundImageChosen(const QString &id) override;
-    void displayUserImageChosen(const QString &filename) override;
-    void displayUserImageAdded(const QByteArray &bytes, Answer answer) override;
-    void displayUserImageRemoved(const QString &filename) override;
-    void displayImageForegroundChanged(const QString &hex) override;
-    void displayLogoChosen(const QByteArray &bytes, Answer answer) override;
-    void displayLogoSizeRatioChanged(double ratio) override;
-    void displayLogoSpacingChanged(double spacing) override;
-    void displayLogoVisibilityChanged(bool isVisible) override;
-    void displaySampleTextChanged(const QString &text) override;
-    void displayReset() override;
-    void displayHoldChanged(bool isHeld) override;
 
 private:
     /// The open family; none: an empty list.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "ui/detail/DetailTopBar.h"
+#include "BrowserHarness.h"
 
 #include "support/QtPrinters.h"
 #include "support/Waiting.h"
@@ -84,6 +85,8 @@ public:
     QStringList told;
     QStringList take() { return std::exchange(told, {}); }
 
+    DisplayControlsDelegate &display() override { return m_display; }
+    void detailPointSizeChanged(double pointSize) override { tell("size", pointSize); }
     void detailClosed() override { tell("closed", 0); }
     void detailNeighbourWanted(int step) override { tell("neighbour", step); }
     void detailVariantSelected(const QString &) override { }
@@ -99,29 +102,24 @@ public:
     void detailCollectionToggled(const QString &) override { }
     void detailFoundryChosen(const QString &) override { }
     void detailFaceShown(const DisplayedFace &) override { }
-    void displayPointSizeChanged(double pointSize) override { tell("size", pointSize); }
-    void displayFontWeightChanged(int weight) override { tell("weight", weight); }
-    void displayColorModeChanged(ColorMode mode) override { tell("mode", int(mode)); }
-    void displayCustomForegroundChanged(const QString &) override { }
-    void displayCustomBackgroundChanged(const QString &) override { }
-    void displayBackgroundImageChosen(const QString &) override { }
-    void displayUserImageChosen(const QString &) override { }
-    void displayUserImageAdded(const QByteArray &, Answer) override { }
-    void displayUserImageRemoved(const QString &) override { }
-    void displayImageForegroundChanged(const QString &) override { }
-    void displayLogoChosen(const QByteArray &, Answer) override { }
-    void displayLogoSizeRatioChanged(double) override { }
-    void displayLogoSpacingChanged(double) override { }
-    void displayLogoVisibilityChanged(bool) override { }
-    void displaySampleTextChanged(const QString &) override { }
-    void displayReset() override { }
-    void displayHoldChanged(bool) override { }
 
 private:
     void tell(const char *what, double value)
     {
         told.append(QLatin1String(what) + u' ' + QString::number(value));
     }
+
+    struct Display final : test::SilentBrowserDelegate
+    {
+        explicit Display(Recorder &its)
+            : recorder(its)
+        {
+        }
+        void displayFontWeightChanged(int weight) override { recorder.tell("weight", weight); }
+        void displayColorModeChanged(ColorMode mode) override { recorder.tell("mode", int(mode)); }
+        Recorder &recorder;
+    };
+    Display m_display{*this};
 };
 
 class DetailTopBarTest : public testing::Test

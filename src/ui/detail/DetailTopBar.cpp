@@ -76,7 +76,7 @@ void DetailTopBar::setUpNames()
 void DetailTopBar::setDelegate(FontDetailDelegate *delegate)
 {
     m_delegate = delegate;
-    m_controls->setDelegate(delegate);
+    m_controls->setDelegate(delegate ? &delegate->display() : nullptr);
 }
 
 /// What leads elsewhere.
@@ -117,9 +117,9 @@ void DetailTopBar::valueChosen(Kind kind, double value)
     if (!m_delegate)
         return;
     if (kind == Kind::detailSize)
-        m_delegate->displayPointSizeChanged(value);
+        m_delegate->detailPointSizeChanged(value);
     else if (kind == Kind::weight)
-        m_delegate->displayFontWeightChanged(int(value));
+        m_delegate->display().displayFontWeightChanged(int(value));
     else
         m_delegate->detailLetterSpacingChanged(value);
 }

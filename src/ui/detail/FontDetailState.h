@@ -84,11 +84,14 @@ struct DisplayedFace
     bool operator==(const DisplayedFace &) const = default;
 };
 
-/// What the user does in the detail view, told to whoever decides. Size changes are the detail
-/// view's own; the other display controls are those of the browser.
-class FontDetailDelegate : public DisplayControlsDelegate
+/// What the user does in the detail view, told to whoever decides.
+class FontDetailDelegate
 {
 public:
+    virtual ~FontDetailDelegate() = default;
+    /// Of the controls that browser and detail view share: all but the size.
+    virtual DisplayControlsDelegate &display() = 0;
+    virtual void detailPointSizeChanged(double pointSize) = 0;
     virtual void detailClosed() = 0;
     /// The family after (1) or before (-1) this one in the browser's order.
     virtual void detailNeighbourWanted(int step) = 0;

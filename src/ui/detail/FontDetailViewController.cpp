@@ -253,14 +253,14 @@ void FontDetailViewController::textEdited(const QString &text)
     // The model's answer comes later; whoever stops typing before it keeps text and history.
     m_state.sampleText = text;
     if (m_delegate)
-        m_delegate->displaySampleTextChanged(text);
+        m_delegate->display().displaySampleTextChanged(text);
 }
 
 /// Every key would be written down otherwise.
 void FontDetailViewController::editingChanged()
 {
     if (m_delegate)
-        m_delegate->displayHoldChanged(m_preview->isEditing());
+        m_delegate->display().displayHoldChanged(m_preview->isEditing());
     if (m_preview->isEditing() || !m_hasState)
         return;
     showSettings();
