@@ -4,55 +4,35 @@
 #include "ui/browser/BrowserAccessibility.h"
 
 #include "ui/browser/BrowserCollectionView.h"
-
-#include <QAccessibleWidget>
-#include <QPointer>
-
-#include <map>
+#include "ui/style/AccessibleList.h"
 
 namespace lorva {
 
 namespace {
 
-/// One card of the list, on screen or not. Lives until the list shows other cards.
-class AccessibleCard final : public QAccessibleInterface, public QAccessibleActionInterface
+class AccessibleCard final : public AccessibleListItem
 {
 public:
-    AccessibleCard(BrowserCollectionView *view, int index)
-        : m_view(view)
-        , m_index(index)
-    {
-    }
+    using AccessibleListItem::AccessibleListItem;
 
-    bool isValid() const override { return m_view && m_index < m_view->items().size(); }
-    QObject *object() const override { return nullptr; }
-    QAccessibleInterface *parent() const override
-    {
-        return QAccessible::queryAccessibleInterface(m_view);
-    }
-    QAccessibleInterface *child(int) const override { return nullptr; }
-    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
-    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    bool isValid() const override { return view() && index() < view()->items().size(); }
 
     QString text(QAccessible::Text kind) const override
     {
         if (!isValid())
             return {};
         if (kind == QAccessible::Name)
-            return m_view->items().at(m_index);
-        const bool isDescribed = kind == QAccessible::Description && m_view->describeItem;
-        return isDescribed ? m_view->describeItem(m_index) : QString();
+            return view()->items().at(index());
+        const bool isDescribed = kind == QAccessible::Description && view()->describeItem;
+        return isDescribed ? view()->describeItem(index()) : QString();
     }
-    void setText(QAccessible::Text, const QString &) override { }
 
     QRect rect() const override
     {
         if (!isValid())
             return {};
-        const QRect card = m_view->viewportRect(m_view->arrangement().cardRect(m_index));
-        return {m_view->viewport()->mapToGlobal(card.topLeft()), card.size()};
+        const QRect card = view()->viewportRect(view()->arrangement().cardRect(index()));
+        return {view()->viewport()->mapToGlobal(card.topLeft()), card.size()};
     }
 
     QAccessible::State state() const override
@@ -65,68 +45,35 @@ public:
         state.selectable = true;
         state.extSelectable = true;
         state.focusable = true;
-        state.selected = m_view->isSelected(m_index);
-        state.focused = m_view->hasFocus() && m_view->selection().current() == m_index;
-        state.offscreen = !m_view->visibleItem(m_index);
-        state.invisible = !m_view->isVisible();
+        state.selected = view()->isSelected(index());
+        state.focused = view()->hasFocus() && view()->selection().current() == index();
+        state.offscreen = !view()->visibleItem(index());
+        state.invisible = !view()->isVisible();
         return state;
     }
 
-    void *interface_cast(QAccessible::InterfaceType type) override
+protected:
+    void act(Action action) override
     {
-        const bool isAction = type == QAccessible::ActionInterface;
-        return isAction ? static_cast<QAccessibleActionInterface *>(this) : nullptr;
+        BrowserSelection selection = view()->selection();
+        selection.choose(index());
+        view()->setSelection(selection);
+        view()->scrollToItem(index());
+        view()->setFocus();
+        if (action == Action::press && view()->onActivateSelection)
+            view()->onActivateSelection();
     }
-    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
-    void doAction(const QString &name) override
-    {
-        if (!isValid())
-            return;
-        BrowserSelection selection = m_view->selection();
-        selection.choose(m_index);
-        m_view->setSelection(selection);
-        m_view->scrollToItem(m_index);
-        m_view->setFocus();
-        if (name == pressAction() && m_view->onActivateSelection)
-            m_view->onActivateSelection();
-    }
-    QStringList keyBindingsForAction(const QString &) const override { return {}; }
-
-    int index() const { return m_index; }
 
 private:
-    QPointer<BrowserCollectionView> m_view;
-    const int m_index;
+    BrowserCollectionView *view() const { return static_cast<BrowserCollectionView *>(list()); }
 };
 
-/// The list. Makes the interfaces of its cards when they are asked for: there may be thousands.
-class AccessibleCards final : public QAccessibleWidget
+class AccessibleCards final : public AccessibleList
 {
 public:
-    explicit AccessibleCards(BrowserCollectionView *view)
-        : QAccessibleWidget(view, QAccessible::List)
-    {
-    }
-    ~AccessibleCards() override { forgetCards(); }
+    using AccessibleList::AccessibleList;
 
     int childCount() const override { return int(view().items().size()); }
-
-    QAccessibleInterface *child(int index) const override
-    {
-        if (index < 0 || index >= childCount())
-            return nullptr;
-        const auto [known, isNew] = m_cards.try_emplace(index);
-        if (isNew)
-            known->second =
-                QAccessible::registerAccessibleInterface(new AccessibleCard(&view(), index));
-        return QAccessible::accessibleInterface(known->second);
-    }
-
-    int indexOfChild(const QAccessibleInterface *child) const override
-    {
-        const auto *card = dynamic_cast<const AccessibleCard *>(child);
-        return card ? card->index() : -1;
-    }
 
     QAccessibleInterface *childAt(int x, int y) const override
     {
@@ -148,16 +95,14 @@ public:
         return state;
     }
 
-    void forgetCards()
+protected:
+    AccessibleListItem *makeItem(int index) const override
     {
-        for (const auto &[index, id] : std::exchange(m_cards, {}))
-            QAccessible::deleteAccessibleInterface(id);
+        return new AccessibleCard(&view(), index);
     }
 
 private:
     BrowserCollectionView &view() const { return *static_cast<BrowserCollectionView *>(object()); }
-
-    mutable std::map<int, QAccessible::Id> m_cards;
 };
 
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
@@ -199,10 +144,7 @@ void announceSelection(BrowserCollectionView &view)
 
 void announceItems(BrowserCollectionView &view)
 {
-    // Also while nobody listens: who asked earlier may still hold one of them.
-    if (auto *list = dynamic_cast<AccessibleCards *>(QAccessible::queryAccessibleInterface(&view)))
-        list->forgetCards();
-    announce(view, QAccessible::ObjectReorder, -1);
+    AccessibleList::announceOtherItems(view);
 }
 
 } // namespace lorva

@@ -4,6 +4,7 @@
 
 #include "ui/detail/CharacterGridLayout.h"
 
+class QEvent;
 class QKeyEvent;
 
 namespace lorva {
