@@ -38,13 +38,34 @@ TEST(LaunchOptions, ReadsHowTheWindowStarts)
 
 TEST(LaunchOptions, ReadsWhatTheWindowShowsFirst)
 {
-    const auto options =
-        parse({"--appearance", "dark", "--search", "sans", "--select", "Noto Sans", "--weight=700",
-               "--color", "image", "--image", builtInBackgroundImages().back().id, "--logo",
-               "l.svg", "--source", "collection:A: b", "--sheet", "deactivate"});
+    const auto options = parse({"--appearance",
+                                "dark",
+                                "--search",
+                                "sans",
+                                "--select",
+                                "Noto Sans",
+                                "--weight=700",
+                                "--color",
+                                "image",
+                                "--image",
+                                builtInBackgroundImages().back().id,
+                                "--logo",
+                                "l.svg",
+                                "--source",
+                                "collection:A: b",
+                                "--sheet",
+                                "deactivate",
+                                "--detail",
+                                "Inter",
+                                "--stage=waterfall",
+                                "--inspector",
+                                "info"});
     ASSERT_TRUE(options.has_value());
     EXPECT_EQ(options->isDark, true);
     EXPECT_EQ(options->sheet, LaunchSheet::deactivate);
+    EXPECT_EQ(options->detailFamily, QStringLiteral("Inter"));
+    EXPECT_EQ(options->detailStage, DetailStage::waterfall);
+    EXPECT_EQ(options->inspectorTab, FontInspectorViewController::Tab::info);
     EXPECT_EQ(options->searchText, QStringLiteral("sans"));
     EXPECT_EQ(options->selectedFamily, QStringLiteral("Noto Sans"));
     EXPECT_EQ(options->weight, 700);
@@ -96,6 +117,8 @@ TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
         {{"--source", "style:"}, "--source"},
         {{"--source", "all:x"}, "--source"},
         {{"--sheet", "quiz"}, "--sheet"},
+        {{"--stage", "grid"}, "--stage"},
+        {{"--inspector", "off"}, "--inspector"},
     };
     for (const auto &row : rows) {
         const auto options = parse(row.arguments);
