@@ -4,6 +4,7 @@
 #include "app/WindowPlacement.h"
 #include "app/SpecimenSizes.h"
 #include "model/LorvaAppModel.h"
+#include "ui/DetailActions.h"
 
 #include <gmock/gmock.h>
 
@@ -56,7 +57,10 @@ TEST(SpecimenSizes, GoUpAndDownTheSameSteps)
         size = next;
         ASSERT_LT(++steps, 50);
     }
-    EXPECT_EQ(size, LorvaAppModel::kMaximumPointSize);
+    EXPECT_EQ(size, DetailSession::kMaximumPointSize);
+    EXPECT_EQ(largerSpecimenSize(LorvaAppModel::kMaximumPointSize - 1),
+              LorvaAppModel::kMaximumPointSize)
+        << "where the cards' sizes end";
     EXPECT_EQ(largerSpecimenSize(37), 42) << "from between two steps";
     EXPECT_EQ(smallerSpecimenSize(37), 36);
 }
