@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/browser/BarParts.h"
 
+#include "ui/style/Hairline.h"
 #include "ui/style/LineField.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
@@ -27,6 +28,19 @@ QFont titleFont()
     return interfaceFont(InterfaceSize::title, InterfaceWeight::semibold);
 }
 
+void paintTitle(QPainter &painter, const QRect &room, const QString &title,
+                const QColor &foreground, Qt::LayoutDirection direction)
+{
+    const QFont font = titleFont();
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
+    painter.setFont(font);
+    painter.setPen(withAlpha(foreground, kTitleAlpha));
+    painter.drawText(
+        room, int(leading) | Qt::TextSingleLine,
+        QFontMetrics(font).elidedText(title.left(kLongestTitle), Qt::ElideRight, room.width()));
+}
+
 } // namespace
 
 void paintBarGround(QPainter &painter, const QRect &bar, const QColor &foreground,
@@ -43,17 +57,14 @@ int barTitleWidth(const QString &title)
         + 1;
 }
 
-void paintBarTitle(QPainter &painter, const QRect &room, const QString &title,
-                   const QColor &foreground, Qt::LayoutDirection direction)
+void paintTopBar(QPainter &painter, const QWidget &bar, const QRect &titleRoom,
+                 const QString &title, const PaneColors &colors)
 {
-    const QFont font = titleFont();
-    const Qt::Alignment leading =
-        QStyle::visualAlignment(direction, Qt::AlignLeft | Qt::AlignVCenter) | Qt::AlignAbsolute;
-    painter.setFont(font);
-    painter.setPen(withAlpha(foreground, kTitleAlpha));
-    painter.drawText(
-        room, int(leading) | Qt::TextSingleLine,
-        QFontMetrics(font).elidedText(title.left(kLongestTitle), Qt::ElideRight, room.width()));
+    paintBarGround(painter, bar.rect(), colors.foreground, colors.background);
+    paintTitle(painter, titleRoom, title, colors.foreground, bar.layoutDirection());
+    drawHairline(
+        painter, bar.rect(), Qt::BottomEdge,
+        hairlineColor(colors.foreground, groundUnder(colors.foreground, colors.background)));
 }
 
 void placePart(QWidget *part, const std::optional<QRect> &place)

@@ -25,9 +25,9 @@ int barTitleWidth(const QString &title);
 /// seen.
 void paintBarGround(QPainter &painter, const QRect &bar, const QColor &foreground,
                     const QColor &background);
-/// In one line, cut to its room.
-void paintBarTitle(QPainter &painter, const QRect &room, const QString &title,
-                   const QColor &foreground, Qt::LayoutDirection direction);
+/// A bar over a page: its ground, the title in one line, cut to its room, and a hairline below.
+void paintTopBar(QPainter &painter, const QWidget &bar, const QRect &titleRoom,
+                 const QString &title, const PaneColors &colors);
 
 /// Shows the part at its place; hides it without one.
 void placePart(QWidget *part, const std::optional<QRect> &place);

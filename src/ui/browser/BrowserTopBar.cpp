@@ -5,10 +5,8 @@
 #include "ui/browser/BarParts.h"
 #include "ui/browser/ColorModeChips.h"
 #include "ui/browser/TopBarLayout.h"
-#include "ui/style/Hairline.h"
 #include "ui/style/IconButton.h"
 #include "ui/style/LineField.h"
-#include "ui/style/Palette.h"
 #include "ui/style/SegmentedControl.h"
 
 #include <QAbstractButton>
@@ -146,10 +144,7 @@ void BrowserTopBar::layOut()
 void BrowserTopBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintBarGround(painter, rect(), m_foreground, m_background);
-    paintBarTitle(painter, m_titleRect, m_title, m_foreground, layoutDirection());
-    drawHairline(painter, rect(), Qt::BottomEdge,
-                 hairlineColor(m_foreground, groundUnder(m_foreground, m_background)));
+    paintTopBar(painter, *this, m_titleRect, m_title, {m_foreground, m_background});
 }
 
 } // namespace lorva

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/detail/ComparisonPage.h"
 
+#include "base/TextBeginning.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
@@ -49,22 +50,13 @@ double spacingOf(const DetailSpecimen &specimen, const Font &font)
     return specimen.letterSpacing * font.pointSize();
 }
 
-/// Never half a surrogate pair.
-QString comparedText(const QString &text)
-{
-    QString cut = text.left(kMostComparedCharacters);
-    if (cut.size() < text.size() && cut.back().isHighSurrogate())
-        cut.chop(1);
-    return cut;
-}
-
 std::vector<TextLine> brokenLines(const DetailSpecimen &specimen, const Font &font, double width)
 {
     TextLayoutOptions options;
     options.width = width;
     options.letterSpacing = spacingOf(specimen, font);
     options.maximumLines = kMostComparedLines;
-    const QString text = comparedText(specimen.text);
+    const QString text = textBeginning(specimen.text, kMostComparedCharacters);
     const TextLayout layout(text, font, options);
     std::vector<TextLine> lines;
     for (const LayoutLine &line : layout.lines())

@@ -6,10 +6,8 @@
 #include "ui/browser/ColorModeChips.h"
 #include "ui/browser/TopBarLayout.h"
 #include "ui/detail/DetailBarLayout.h"
-#include "ui/style/Hairline.h"
 #include "ui/style/IconButton.h"
 #include "ui/style/LineField.h"
-#include "ui/style/Palette.h"
 #include "ui/style/SegmentedControl.h"
 #include "ui/style/Style.h"
 
@@ -229,10 +227,7 @@ void DetailTopBar::layOut()
 void DetailTopBar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintBarGround(painter, rect(), m_foreground, m_background);
-    paintBarTitle(painter, m_titleRect, m_title, m_foreground, layoutDirection());
-    drawHairline(painter, rect(), Qt::BottomEdge,
-                 hairlineColor(m_foreground, groundUnder(m_foreground, m_background)));
+    paintTopBar(painter, *this, m_titleRect, m_title, {m_foreground, m_background});
 }
 
 } // namespace lorva

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/detail/EditableText.h"
 
+#include "base/TextBeginning.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -20,15 +22,6 @@ bool isLineBreak(char16_t unit)
 bool isControl(char16_t unit)
 {
     return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-}
-
-/// The longest beginning of at most `units` that does not end in half a character.
-QString beginning(const QString &text, qsizetype units)
-{
-    if (text.size() <= units)
-        return text;
-    const bool cutsPair = units > 0 && text[units - 1].isHighSurrogate();
-    return text.left(std::max<qsizetype>(cutsPair ? units - 1 : units, 0));
 }
 
 } // namespace
@@ -77,7 +70,7 @@ QString EditableText::selectedText() const
 
 void EditableText::reset(const QString &text)
 {
-    m_text = beginning(editableText(text), m_mostUnits);
+    m_text = textBeginning(editableText(text), m_mostUnits);
     m_changes.clear();
     m_done = 0;
     select(int(m_text.size()), int(m_text.size()));
@@ -103,7 +96,7 @@ bool EditableText::insert(const QString &text, Kind kind)
     const int start = selectionStart();
     const int end = selectionEnd();
     const qsizetype room = m_mostUnits - (m_text.size() - (end - start));
-    const QString inserted = beginning(editableText(text), room);
+    const QString inserted = textBeginning(editableText(text), room);
     // Nothing that may stand here is no reason to take the selection away.
     return !inserted.isEmpty() && replace(start, end, inserted, kind);
 }

@@ -49,24 +49,14 @@ void InstanceButton::openMenu()
 {
     if (m_menu)
         return;
-    m_menu = makeMenu(this);
-    m_menu->setObjectName(QStringLiteral("InstanceButton.Menu"));
-    m_menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (size_t i = 0; i < m_names.size(); ++i) {
-        QAction *entry = m_menu->addAction(menuEntryText(m_names[i]));
-        entry->setCheckable(true);
-        entry->setChecked(m_current == i);
-        connect(entry, &QAction::triggered, this, [this, i] {
-            if (onChosen)
-                onChosen(i);
-        });
-        if (m_current == i)
-            m_menu->setActiveAction(entry);
-    }
-    connect(m_menu, &QMenu::aboutToHide, this, [this] {
-        setDown(false);
-        update();
+    QStringList entries;
+    for (const QString &name : m_names)
+        entries << menuEntryText(name);
+    m_menu = makeChoiceMenu(*this, entries, m_current, [this](int index) {
+        if (onChosen)
+            onChosen(size_t(index));
     });
+    m_menu->setObjectName(QStringLiteral("InstanceButton.Menu"));
     const int menuWidth = m_menu->sizeHint().width();
     const int x = isRightToLeft() ? kInspectorPadding : width() - kInspectorPadding - menuWidth;
     m_menu->popup(mapToGlobal(QPoint(x, height())));
@@ -74,17 +64,10 @@ void InstanceButton::openMenu()
 
 void InstanceButton::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
+    if (isMenuKey(*event))
         openMenu();
-        return;
-    default:
+    else
         FocusRinged::keyPressEvent(event);
-    }
 }
 
 void InstanceButton::paintEvent(QPaintEvent *)

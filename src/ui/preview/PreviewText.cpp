@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/preview/PreviewText.h"
 
+#include "base/TextBeginning.h"
 #include "base/BoundedCache.h"
 
 #include <unicode/uchar.h>
@@ -25,15 +26,6 @@ constexpr double kSampleTextCoverage = 0.66;
 bool isAlphabetic(char32_t scalar)
 {
     return u_isUAlphabetic(UChar32(scalar));
-}
-
-/// At most `length` units, never half a surrogate pair.
-QString beginning(const QString &text, qsizetype length)
-{
-    if (text.size() <= length)
-        return text;
-    const bool splitsPair = length > 0 && text.at(length - 1).isHighSurrogate();
-    return text.left(splitsPair ? length - 1 : length);
 }
 
 /// The font's name alone would not do: different files share PostScript names, and a file may be
@@ -130,7 +122,7 @@ double coverage(const Font &font, const QString &wholeText)
 {
     if (font.isNull())
         return 0.0;
-    const QString text = beginning(wholeText, kCoverageCharacters);
+    const QString text = textBeginning(wholeText, kCoverageCharacters);
     const QString key = memoKey(font, text);
     if (const std::optional<double> known = coverageMemo().find(key))
         return *known;
@@ -151,7 +143,7 @@ QString fallbackText(const Font &font, WritingScript script)
 QString lineExcerpt(const QString &text, double widthPt, double pointSize)
 {
     const double letters = std::max(widthPt, 0.0) / (std::max(pointSize, 1.0) * kNarrowestLetter);
-    return beginning(text, kRoomForMarks + qsizetype(std::min(letters, kMostLetters)));
+    return textBeginning(text, kRoomForMarks + qsizetype(std::min(letters, kMostLetters)));
 }
 
 QString specimenText(const QString &sampleText, const Font &font, WritingScript script)

@@ -85,21 +85,8 @@ void PopupButton::openMenu()
 {
     if (m_menu)
         return;
-    m_menu = makeMenu(this);
+    m_menu = makeChoiceMenu(*this, m_choices, m_current, [this](int index) { choose(index); });
     m_menu->setObjectName(QStringLiteral("PopupButton.Menu"));
-    m_menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (int i = 0; i < m_choices.size(); ++i) {
-        QAction *entry = m_menu->addAction(m_choices.at(i));
-        entry->setCheckable(true);
-        entry->setChecked(i == m_current);
-        connect(entry, &QAction::triggered, this, [this, i] { choose(i); });
-        if (i == m_current)
-            m_menu->setActiveAction(entry);
-    }
-    connect(m_menu, &QMenu::aboutToHide, this, [this] {
-        setDown(false);
-        update();
-    });
     const int shift = isRightToLeft() ? width() - m_menu->sizeHint().width() : 0;
     m_menu->setMinimumWidth(width());
     m_menu->popup(mapToGlobal(QPoint(shift, height() + spacing::k4)));
@@ -107,17 +94,10 @@ void PopupButton::openMenu()
 
 void PopupButton::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
+    if (isMenuKey(*event))
         openMenu();
-        return;
-    default:
+    else
         FocusRinged::keyPressEvent(event);
-    }
 }
 
 void PopupButton::paintEvent(QPaintEvent *)

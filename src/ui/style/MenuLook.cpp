@@ -5,9 +5,14 @@
 #include "ui/style/MenuStyle.h"
 #include "ui/style/Style.h"
 
+#include <QAbstractButton>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMenu>
+
+#include <algorithm>
+#include <iterator>
 
 namespace lorva {
 
@@ -59,6 +64,33 @@ void applyMenuLook(QMenu &menu)
     applyToSubmenus(menu);
     // Submenus that join later.
     QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu] { applyToSubmenus(menu); });
+}
+
+QMenu *makeChoiceMenu(QAbstractButton &button, const QStringList &entries,
+                      std::optional<int> current, const std::function<void(int)> &choose)
+{
+    QMenu *menu = makeMenu(&button);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int i = 0; i < entries.size(); ++i) {
+        QAction *entry = menu->addAction(entries.at(i));
+        entry->setCheckable(true);
+        entry->setChecked(current == i);
+        QObject::connect(entry, &QAction::triggered, &button, [choose, i] { choose(i); });
+        if (current == i)
+            menu->setActiveAction(entry);
+    }
+    QObject::connect(menu, &QMenu::aboutToHide, &button, [&button] {
+        button.setDown(false);
+        button.update();
+    });
+    return menu;
+}
+
+bool isMenuKey(const QKeyEvent &event)
+{
+    constexpr Qt::Key keys[]{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Up,
+                             Qt::Key_Down};
+    return std::ranges::find(keys, event.key()) != std::end(keys);
 }
 
 } // namespace lorva

@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
+#include <functional>
+#include <optional>
+
+class QAbstractButton;
+class QKeyEvent;
 class QMenu;
 class QWidget;
 
@@ -17,5 +22,13 @@ void applyMenuLook(QMenu &menu);
 
 /// A name as the text of an entry: in one line of bounded width, its ampersands shown.
 QString menuEntryText(const QString &name);
+
+/// A menu of which one entry holds (nothing: none), for a button that it hangs from; it dies when
+/// it is closed, and `choose` gets the index of the entry that was chosen. Whoever opens it places
+/// it.
+QMenu *makeChoiceMenu(QAbstractButton &button, const QStringList &entries,
+                      std::optional<int> current, const std::function<void(int)> &choose);
+/// The keys that open such a menu: Return, Enter, Space, up and down.
+bool isMenuKey(const QKeyEvent &event);
 
 } // namespace lorva
