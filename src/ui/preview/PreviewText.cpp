@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/preview/PreviewText.h"
 
-#include "base/TextBeginning.h"
 #include "base/BoundedCache.h"
+#include "base/TextBeginning.h"
 
 #include <unicode/uchar.h>
 
