@@ -16,7 +16,7 @@ packages_build="
   ninja-build           runs the build
   ccache                makes a second build of the same file free
   pkg-config            finds the libraries that bring no CMake files
-  qt6-base-dev          Qt Core, Gui, Widgets, Concurrent, DBus, Test, and the platform plugins
+  qt6-base-dev          Qt Core, Gui, Widgets, Concurrent, DBus, Network, Test, and the platform plugins
   qt6-svg-dev           Qt Svg: the symbol images
   qt6-wayland           lets the window run on Wayland itself
   libharfbuzz-dev       reads, shapes and outlines fonts
@@ -27,6 +27,8 @@ packages_build="
   libexpected-dev       Result<T>
   zlib1g-dev            inflates the SVG documents of fonts
   librsvg2-dev          draws SVG glyphs
+  libbox2d-dev          lets the letters of the welcome fall
+  libsodium-dev         checks the signature of the release feed
 "
 packages_test="
   git                   the checks ask it which files are ours
@@ -36,6 +38,7 @@ packages_test="
   libharfbuzz-bin       hb-shape and hb-view, whose answers shaping and outlines are compared with
   python3-fonttools     makes fonts of kinds that no package brings
   dbus-daemon           a private session bus for the second start
+  openssl               signs the release feeds of the tests, as the release script does
   xvfb                  a display for the journey in a desktop session
   openbox               its window manager
   xdotool               its pointer and keyboard

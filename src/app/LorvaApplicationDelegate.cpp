@@ -294,7 +294,16 @@ void LorvaApplicationDelegate::passOnboardingGate()
     m_window->show();
     m_onboardingController = m_makeOnboarding(*m_model);
     m_onboardingController->show(
-        *m_window, [this](OnboardingOverlayController::End end) { endOnboarding(end); });
+        *m_window, welcomeText(),
+        [this](OnboardingOverlayController::End end) { endOnboarding(end); });
+}
+
+WelcomeText LorvaApplicationDelegate::welcomeText()
+{
+    return {tr("Lorva is a better way to browse, test, and manage your fonts. Organize them into "
+               "collections, test logo images next to text, and turn fonts on or off as needed.")
+                + QStringLiteral("\n\n") + tr("Made for people who can never have enough fonts."),
+            tr("Continue")};
 }
 
 void LorvaApplicationDelegate::endOnboarding(OnboardingOverlayController::End end)

@@ -77,6 +77,7 @@ private:
     void saveFrame();
     void windowRendered();
     void passOnboardingGate();
+    static WelcomeText welcomeText();
     void endOnboarding(OnboardingOverlayController::End end);
     void startUpdater();
     void watchFirstScreen();

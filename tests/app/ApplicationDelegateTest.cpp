@@ -63,7 +63,7 @@ public:
     {
     }
     ~ScriptedOnboarding() override { m_journal.push_back("welcome gone"); }
-    void show(QWidget &, std::function<void(End)> ended) override
+    void show(QWidget &, const WelcomeText &, std::function<void(End)> ended) override
     {
         m_journal.push_back("welcome");
         m_ended = std::move(ended);
