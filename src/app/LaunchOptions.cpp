@@ -88,6 +88,26 @@ Result<FontInspectorViewController::Tab> parseInspectorTab(const QByteArray &val
     return usage(QStringLiteral("--inspector takes features or info"));
 }
 
+Result<LaunchQuiz> parseQuiz(const QByteArray &value)
+{
+    if (value == "intro")
+        return LaunchQuiz::intro;
+    if (value == "playing")
+        return LaunchQuiz::playing;
+    if (value == "poster")
+        return LaunchQuiz::poster;
+    return usage(QStringLiteral("--quiz takes intro, playing or poster"));
+}
+
+Result<LaunchWelcome> parseWelcome(const QByteArray &value)
+{
+    if (value == "scene")
+        return LaunchWelcome::scene;
+    if (value == "card")
+        return LaunchWelcome::card;
+    return usage(QStringLiteral("--welcome takes scene or card"));
+}
+
 Result<bool> parseAppearance(const QByteArray &value)
 {
     if (value == "light" || value == "dark")
@@ -104,16 +124,17 @@ Result<LaunchSource> parseSource(const QByteArray &value)
         Kind kind;
     } words[]{{"all", Kind::allFonts},          {"active", Kind::active},
               {"inactive", Kind::inactive},     {"style", Kind::style},
-              {"collection", Kind::collection}, {"foundry", Kind::foundry}};
+              {"collection", Kind::collection}, {"foundry", Kind::foundry},
+              {"discover", Kind::discover}};
     const qsizetype colon = value.indexOf(':');
     const QByteArray place = colon < 0 ? value : value.left(colon);
     const QString text = colon < 0 ? QString() : QString::fromUtf8(value.mid(colon + 1));
     for (const auto &[word, kind] : words)
         if (place == word && BrowserSource::namesGrouping(kind) == !text.isEmpty())
             return LaunchSource{kind, text};
-    return usage(
-        QStringLiteral("--source takes all, active, inactive, style:ID, collection:NAME or "
-                       "foundry:ID"));
+    return usage(QStringLiteral(
+        "--source takes all, active, inactive, style:ID, collection:NAME, foundry:ID "
+        "or discover"));
 }
 
 Result<QString> parseImage(const QByteArray &value)
@@ -153,6 +174,27 @@ Result<void> store(Result<T> parsed, Target &target)
         return tl::unexpected(parsed.error());
     target = std::move(*parsed);
     return {};
+}
+
+/// An option without a value.
+struct Flag
+{
+    const char *name;
+    bool LaunchOptions::*member;
+};
+
+constexpr Flag kFlags[]{
+    {"--help", &LaunchOptions::showsHelp},
+    {"-h", &LaunchOptions::showsHelp},
+    {"--version", &LaunchOptions::showsVersion},
+    {"--no-welcome", &LaunchOptions::skipsWelcome},
+};
+
+const Flag *findFlag(const QByteArray &name)
+{
+    const auto *const found =
+        std::ranges::find_if(kFlags, [&](const Flag &flag) { return name == flag.name; });
+    return found == std::end(kFlags) ? nullptr : found;
 }
 
 /// An option with a value, and where the value goes.
@@ -200,6 +242,8 @@ constexpr Option kOptions[]{
     {"--detail", parsed<parseText, &LaunchOptions::detailFamily>},
     {"--stage", parsed<parseStage, &LaunchOptions::detailStage>},
     {"--inspector", parsed<parseInspectorTab, &LaunchOptions::inspectorTab>},
+    {"--quiz", parsed<parseQuiz, &LaunchOptions::quiz>},
+    {"--welcome", parsed<parseWelcome, &LaunchOptions::welcome>},
     {"--view", parsed<parseViewMode, &LaunchOptions::viewMode>},
     {"--color", parsed<parseColorMode, &LaunchOptions::colorMode>},
     {"--image", parsed<parseImage, &LaunchOptions::backgroundImageID>},
@@ -229,12 +273,8 @@ Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
             value = name.mid(equals + 1);
             name.truncate(equals);
         }
-        if (name == "--help" || name == "-h") {
-            options.showsHelp = true;
-            continue;
-        }
-        if (name == "--version") {
-            options.showsVersion = true;
+        if (const Flag *const flag = findFlag(name); flag && !value) {
+            options.*flag->member = true;
             continue;
         }
         const Option *const option = findOption(name);
@@ -258,12 +298,15 @@ QString launchHelp()
 Shows every font of this computer as a live specimen.
 
   --folder DIR          add the fonts of a folder for this start (repeatable)
-  --source SOURCE       start in all, active, inactive, style:ID, collection:NAME or foundry:ID
+  --source SOURCE       start in all, active, inactive, style:ID, collection:NAME, foundry:ID or discover
   --search TEXT         start with this text in the search field
   --select NAME         start with this family selected
   --detail NAME         open this family in the detail view
   --stage STAGE         show it as text, waterfall or comparison there
   --inspector TAB       show its features or info beside it
+  --quiz PHASE          start in the font quiz: its intro, playing or its poster
+  --welcome scene|card  show the welcome, whether it was seen before or not
+  --no-welcome          do not show it
   --view grid|list      start in this view
   --point-size N        start with specimens of this size, in points
   --weight N            start with specimens of this weight, 100 to 900

@@ -29,6 +29,11 @@ struct LaunchSource
 /// What can be opened over the window, for its picture.
 enum class LaunchSheet { activate, deactivate, history, settings };
 
+/// Where the font quiz can be started.
+enum class LaunchQuiz { intro, playing, poster };
+/// What the welcome shows on a picture.
+enum class LaunchWelcome { scene, card };
+
 /// What the command line asks of the program.
 struct LaunchOptions
 {
@@ -50,6 +55,11 @@ struct LaunchOptions
     std::optional<QString> detailFamily;
     std::optional<DetailStage> detailStage;
     std::optional<FontInspectorViewController::Tab> inspectorTab;
+    std::optional<LaunchQuiz> quiz;
+    /// The welcome is shown, whether it was seen before or not.
+    std::optional<LaunchWelcome> welcome;
+    /// It is not shown, whether it was seen before or not.
+    bool skipsWelcome = false;
     std::optional<ViewMode> viewMode;
     std::optional<ColorMode> colorMode;
     /// One of builtInBackgroundImages().

@@ -6,7 +6,6 @@
 #include "app/FrameTrace.h"
 #include "app/MainMenu.h"
 #include "app/WindowPlacement.h"
-#include "base/AtomicFile.h"
 #include "base/Trace.h"
 #include "catalog/CatalogCache.h"
 #include "commands/LorvaSettingsViewModel.h"
@@ -18,6 +17,7 @@
 #include "ui/display/BackgroundImageStore.h"
 #include "ui/LorvaRootSplitViewController.h"
 #include "ui/onboarding/WindowReveal.h"
+#include "ui/quiz/FontQuizViewController.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/sheets/AlertSheet.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
@@ -25,13 +25,11 @@
 #include "ui/style/ReducedMotion.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -83,8 +81,10 @@ LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options,
 
 LorvaApplicationDelegate::~LorvaApplicationDelegate()
 {
-    // Both hold the model without owning it.
+    // They hold the model, the window or the updater without owning them.
     m_menu.reset();
+    m_onboardingController.reset();
+    m_updates.reset();
     m_settings.reset();
     m_settingsViewModel.reset();
     m_window.reset();
@@ -94,7 +94,7 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
 {
     const TraceStage stage("start: window");
     if (m_options.screenshot)
-        setReducedMotionOverride(true);
+        setReducedMotionOverride(m_options.welcome != LaunchWelcome::scene);
     applyChoices(m_options);
     buildWindow();
     applyDetailChoices(m_options);
@@ -103,8 +103,8 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
     m_root->browser().focusCards();
     passOnboardingGate();
     m_model->loadCatalog();
-    if (!m_options.screenshot)
-        m_root->folders().showFirstLoad();
+    if (!m_onboardingController)
+        showFirstLoad();
     connect(qApp, &QGuiApplication::applicationStateChanged, m_model.get(),
             [this](Qt::ApplicationState state) {
                 if (state != Qt::ApplicationActive)
@@ -112,6 +112,13 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
                 m_model->becomeActive();
                 m_root->activation().refreshUndo();
             });
+}
+
+/// Not over the welcome, which has the user's eye.
+void LorvaApplicationDelegate::showFirstLoad()
+{
+    if (!m_options.screenshot)
+        m_root->folders().showFirstLoad();
 }
 
 void LorvaApplicationDelegate::applyChoices(const LaunchOptions &options)
@@ -128,6 +135,20 @@ void LorvaApplicationDelegate::applyDetailChoices(const LaunchOptions &options)
         m_root->detailActions().detailStageChanged(*options.detailStage);
     if (options.inspectorTab)
         m_root->showInspectorTab(*options.inspectorTab);
+    m_wantedQuiz = options.quiz;
+}
+
+/// The deck is dealt from the library, which has to be there.
+void LorvaApplicationDelegate::openWantedQuiz()
+{
+    if (!m_wantedQuiz || m_model->isLoading())
+        return;
+    const LaunchQuiz phase = *std::exchange(m_wantedQuiz, std::nullopt);
+    m_root->openQuiz();
+    if (FontQuizViewController *quiz = m_root->quiz(); quiz && phase == LaunchQuiz::playing)
+        quiz->start();
+    else if (quiz && phase == LaunchQuiz::poster)
+        quiz->showPoster();
 }
 
 void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
@@ -148,9 +169,12 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
         qputenv("XDG_ACTIVATION_TOKEN", start.activationToken);
     if (!m_window)
         return;
-    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
-    m_window->raise();
-    m_window->activateWindow();
+    // While the welcome is shown, the window cannot be seen.
+    QWidget *overlay = m_onboardingController ? m_onboardingController->overlay() : nullptr;
+    QWidget *front = overlay ? overlay->window() : m_window.get();
+    front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
+    front->raise();
+    front->activateWindow();
 }
 
 void LorvaApplicationDelegate::buildWindow()
@@ -162,16 +186,29 @@ void LorvaApplicationDelegate::buildWindow()
     m_window->setContextMenuPolicy(Qt::NoContextMenu);
     const auto images = std::make_shared<BackgroundImageStore>(
         xdgFolders().applicationSupport.child("background-images"));
+    const auto desktop = std::make_shared<XdgDesktopOpener>();
     m_root = new LorvaRootSplitViewController(
-        *m_model,
-        {images, std::make_shared<FontconfigOrthographies>(), std::make_shared<XdgDesktopOpener>()},
-        m_window.get());
+        *m_model, {images, std::make_shared<FontconfigOrthographies>(), desktop}, m_window.get());
+    m_presenter = std::make_unique<WindowPresenter>(*m_window);
+    m_updates = std::make_unique<UpdateCommands>(*m_updaterController, *m_presenter, desktop,
+                                                 QStringLiteral(LORVA_VERSION));
     m_backgroundHostingView = &m_root->backgroundView();
     m_window->setCentralWidget(m_root);
     buildMenu();
     connect(m_root, &LorvaRootSplitViewController::rendered, this,
             &LorvaApplicationDelegate::windowRendered);
+    if (m_options.screenshot)
+        m_picture = std::make_unique<WindowPicture>(m_options, pictureScene());
     traceFrames(*m_window);
+}
+
+WindowPicture::Scene LorvaApplicationDelegate::pictureScene()
+{
+    const auto extras = [this] {
+        return WindowPicture::Extras{m_settings.get(), m_settingsViewModel.get(),
+                                     m_onboardingController.get()};
+    };
+    return {*m_model, *m_root, [this] { showSettings(); }, extras};
 }
 
 DetailCommands LorvaApplicationDelegate::detailCommands()
@@ -193,12 +230,12 @@ void LorvaApplicationDelegate::buildMenu()
 {
     const TraceStage stage("start: menu");
     m_menu = std::make_unique<MainMenu>(MainMenu::Targets{
-        *m_model, *m_updaterController, *m_window,
-        [this] { m_root->sidebar().beginCreatingCollection(); },
+        *m_model, *m_updates, *m_window, [this] { m_root->sidebar().beginCreatingCollection(); },
         [this] { m_root->folders().addFolders(); }, [this] { m_root->focusSearch(); },
         [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); },
         [this] { showSettings(); }, m_root->activation(),
-        [this] { return m_root->selectedNames(); }, detailCommands()});
+        [this] { return m_root->selectedNames(); }, detailCommands(),
+        [this] { return m_root->isQuizOpen(); }});
     m_root->setMainMenu(m_menu->buttonMenu());
     // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
     connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),
@@ -280,12 +317,20 @@ void LorvaApplicationDelegate::windowRendered()
     m_window->setWindowTitle(m_root->title().left(kLongestTitle));
     m_menu->update();
     m_choices.catchUp();
+    openWantedQuiz();
+}
+
+bool LorvaApplicationDelegate::showsWelcome() const
+{
+    if (m_options.welcome)
+        return true;
+    return !m_options.screenshot && !m_options.skipsWelcome
+        && !m_preferences->boolean(onboardingFlag()).value_or(false);
 }
 
 void LorvaApplicationDelegate::passOnboardingGate()
 {
-    const bool wasSeen = m_preferences->boolean(onboardingFlag()).value_or(false);
-    if (wasSeen || m_options.screenshot) {
+    if (!showsWelcome()) {
         m_window->show();
         startUpdater();
         return;
@@ -318,17 +363,18 @@ void LorvaApplicationDelegate::endOnboarding(OnboardingOverlayController::End en
     }
     // It is its own call that ends here.
     QMetaObject::invokeMethod(
-        this, [this] { m_onboardingController.reset(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            m_onboardingController.reset();
+            showFirstLoad();
+        },
+        Qt::QueuedConnection);
 }
 
 void LorvaApplicationDelegate::startUpdater()
 {
-    if (m_options.screenshot)
-        return;
-    // Without a category: the line is the same on every system.
-    if (const Result<void> started = m_updaterController->start(); !started)
-        qWarning("Sparkle updater failed to start: %s", qUtf8Printable(started.error().detail));
-    m_menu->update();
+    if (!m_options.screenshot)
+        m_updates->start();
 }
 
 void LorvaApplicationDelegate::watchFirstScreen()
@@ -343,20 +389,20 @@ void LorvaApplicationDelegate::watchFirstScreen()
         look->start();
     });
     connect(look, &QTimer::timeout, this, [this, look] {
-        if (!m_root->isDetailOpen() && m_root->browser().isDrawn()
+        if (m_root->isBrowserOpen() && m_root->browser().isDrawn()
             && !std::exchange(m_specimensAreDrawn, true)) {
             m_window->repaint();
             traceMoment("specimens drawn");
         }
-        if (!m_root->isDetailOpen() && !m_root->browser().isSettled())
+        if (m_root->isBrowserOpen() && !m_root->isQuizOpen() && !m_root->browser().isSettled())
             return;
         reportFirstScreen();
-        if (m_options.screenshot && !isReadyForScreenshot())
+        if (m_picture && !m_picture->isReady())
             return;
         look->stop();
         look->deleteLater();
-        if (m_options.screenshot)
-            takeScreenshot();
+        if (m_picture)
+            m_picture->take();
     });
 }
 
@@ -371,64 +417,6 @@ void LorvaApplicationDelegate::reportFirstScreen()
                       << "ms after its catalog was known," << m_model->allFamilies()->size()
                       << "families";
     Q_EMIT firstScreenPainted();
-}
-
-bool LorvaApplicationDelegate::isReadyForScreenshot()
-{
-    if (m_model->isLoading())
-        return false;
-    // The result may not have been drawn yet.
-    m_root->render();
-    if (!m_root->isSettled())
-        return false;
-    if (m_options.sheet && !std::exchange(m_sheetWasOpened, true))
-        openSheet();
-    return !m_options.sheet || isSheetOpen();
-}
-
-void LorvaApplicationDelegate::openSheet()
-{
-    ActivationCommands &activation = m_root->activation();
-    const QStringList names(m_options.selectedFamily.value_or(QString()));
-    switch (*m_options.sheet) {
-    case LaunchSheet::activate:
-        activation.activate(names);
-        break;
-    case LaunchSheet::deactivate:
-        activation.deactivate(names);
-        break;
-    case LaunchSheet::history:
-        activation.showHistory();
-        break;
-    case LaunchSheet::settings:
-        showSettings();
-        break;
-    }
-}
-
-bool LorvaApplicationDelegate::isSheetOpen() const
-{
-    if (!m_settings)
-        return hasAlertSheet(*m_window);
-    const std::vector<WatchedFolder> &folders = m_settingsViewModel->folders();
-    return std::ranges::all_of(folders, [this](const WatchedFolder &folder) {
-        return m_settingsViewModel->look(folder.id).has_value();
-    });
-}
-
-void LorvaApplicationDelegate::takeScreenshot()
-{
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    QWidget *shown = m_settings ? static_cast<QWidget *>(m_settings.get()) : m_window.get();
-    const bool isEncoded = shown->grab().toImage().save(&buffer, "PNG");
-    const Result<void> written = isEncoded
-        ? writeFileAtomically(*m_options.screenshot, png)
-        : failure(ErrorKind::ioFailure, QStringLiteral("the picture could not be encoded"));
-    if (!written)
-        std::fprintf(stderr, "lorva: %s\n", qPrintable(written.error().detail));
-    QCoreApplication::exit(written ? 0 : 1);
 }
 
 } // namespace lorva

@@ -6,8 +6,11 @@
 #include "app/LaunchOptions.h"
 #include "app/MainMenu.h"
 #include "app/ProgramServices.h"
+#include "app/WindowPicture.h"
+#include "commands/UpdateCommands.h"
 #include "model/stores/WindowFrameStore.h"
 #include "platform/SingleInstance.h"
+#include "ui/sheets/WindowPresenter.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -68,6 +71,10 @@ protected:
 private:
     void applyChoices(const LaunchOptions &options);
     void applyDetailChoices(const LaunchOptions &options);
+    void openWantedQuiz();
+    void showFirstLoad();
+    WindowPicture::Scene pictureScene();
+    bool showsWelcome() const;
     void buildWindow();
     void buildMenu();
     DetailCommands detailCommands();
@@ -82,10 +89,6 @@ private:
     void startUpdater();
     void watchFirstScreen();
     void reportFirstScreen();
-    bool isReadyForScreenshot();
-    void openSheet();
-    bool isSheetOpen() const;
-    void takeScreenshot();
 
     const LaunchOptions m_options;
     const decltype(ProgramParts::makeOnboarding) m_makeOnboarding;
@@ -100,7 +103,13 @@ private:
     WindowFrameStore m_windowFrameStore;
     QTimer m_frameRest;
     LaunchChoices m_choices;
+    /// What the command line asks for, until the library is there.
+    std::optional<LaunchQuiz> m_wantedQuiz;
     LorvaRootSplitViewController *m_root = nullptr;
+    std::unique_ptr<WindowPresenter> m_presenter;
+    std::unique_ptr<UpdateCommands> m_updates;
+    /// Null but for --screenshot.
+    std::unique_ptr<WindowPicture> m_picture;
     std::unique_ptr<MainMenu> m_menu;
     /// Made when they are first opened.
     std::unique_ptr<LorvaSettingsViewModel> m_settingsViewModel;
@@ -111,7 +120,6 @@ private:
     /// They may still fade in.
     bool m_specimensAreDrawn = false;
     bool m_firstScreenIsPainted = false;
-    bool m_sheetWasOpened = false;
 };
 
 } // namespace lorva

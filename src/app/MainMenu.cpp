@@ -5,10 +5,12 @@
 
 #include "app/MenuBarReveal.h"
 #include "app/SpecimenSizes.h"
+#include "base/NotificationCentre.h"
 #include "commands/ActivationCommands.h"
+#include "commands/UpdateCommands.h"
 #include "model/LorvaAppModel.h"
-#include "platform/UpdaterController.h"
 #include "ui/DetailActions.h"
+#include "ui/LorvaRootSplitViewController.h"
 #include "ui/sheets/AlertSheet.h"
 #include "ui/style/MenuLook.h"
 #include "ui/style/TextEditing.h"
@@ -20,6 +22,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -65,6 +68,15 @@ bool passToText(QWidget *focused, Act act)
     return true;
 }
 
+/// Of a command: what it does makes sense while the quiz is played.
+bool concernsTheProgram(QByteArrayView name)
+{
+    constexpr const char *kNames[]{
+        "Menu.About", "Menu.CheckForUpdates", "Menu.Settings",  "Menu.Undo",
+        "Menu.Redo",  "Menu.Close",           "Menu.FullScreen"};
+    return std::ranges::any_of(kNames, [name](const char *known) { return name == known; });
+}
+
 } // namespace
 
 MainMenu::MainMenu(Targets targets)
@@ -82,6 +94,7 @@ MainMenu::MainMenu(Targets targets)
             [this](QWidget *, QWidget *now) { remember(now); });
     connect(&m_targets.model.undoStack(), &QUndoStack::indexChanged, this, &MainMenu::update);
     connect(&m_targets.activation, &ActivationCommands::changed, this, &MainMenu::update);
+    connect(&m_targets.updates, &UpdateCommands::changed, this, &MainMenu::update);
     update();
 }
 
@@ -110,6 +123,8 @@ QAction *MainMenu::add(QMenu *menu, const char *name, const QString &text,
     });
     // The window's own, so that the shortcut works while no bar is shown.
     m_targets.window.addAction(action);
+    if (!concernsTheProgram(name))
+        m_libraryActions << action;
     return action;
 }
 
@@ -118,7 +133,13 @@ void MainMenu::buildProgramMenu()
     QMenu *menu = addMenu(tr("&Lorva"), QStringLiteral("Menu.Program"));
     add(menu, "Menu.About", tr("About Lorva"), {}, [this] { showAbout(); });
     m_checkForUpdates = add(menu, "Menu.CheckForUpdates", tr("Check for Updates…"), {},
-                            [this] { m_targets.updater.checkForUpdates(); });
+                            [this] { m_targets.updates.checkForUpdates(); });
+    menu->addSeparator();
+    m_organize = add(menu, "Menu.OrganizeFonts", tr("Organize Fonts…"),
+                     {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O)}, [] {
+                         NotificationCentre::shared().post(
+                             LorvaRootSplitViewController::openFontQuizNotification());
+                     });
     menu->addSeparator();
     add(menu, "Menu.Settings", tr("Settings…"), {QKeySequence(Qt::CTRL | Qt::Key_Comma)},
         m_targets.showSettings);
@@ -301,8 +322,20 @@ void MainMenu::makeMenuBar()
     m_reveal = std::make_unique<MenuBarReveal>(m_targets.window, *m_bar);
 }
 
+/// The quiz covers what they act on.
+void MainMenu::restLibraryActions()
+{
+    if (!m_isResting)
+        return;
+    for (QAction *action : m_libraryActions)
+        action->setEnabled(false);
+}
+
 void MainMenu::update()
 {
+    if (std::exchange(m_isResting, m_targets.isQuizOpen()))
+        for (QAction *action : m_libraryActions)
+            action->setEnabled(true);
     const QUndoStack &stack = m_targets.model.undoStack();
     const auto typing = typingHistory(m_focused);
     m_undo->setText(typing ? tr("Undo") : commandText(tr("Undo %1"), tr("Undo"), stack.undoText()));
@@ -319,8 +352,10 @@ void MainMenu::update()
                                                   : LorvaAppModel::kMinimumPointSize));
     updateDetailActions();
     (m_targets.model.viewMode() == ViewMode::grid ? m_grid : m_list)->setChecked(true);
-    m_checkForUpdates->setVisible(m_targets.updater.canCheckForUpdates());
+    m_organize->setEnabled(!m_targets.model.allFamilies()->empty());
+    m_checkForUpdates->setEnabled(m_targets.updates.canCheckForUpdates());
     updateFontActions();
+    restLibraryActions();
     m_fullScreen->setText(m_targets.window.isFullScreen() ? tr("Exit Full Screen")
                                                           : tr("Enter Full Screen"));
 }

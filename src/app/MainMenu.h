@@ -22,7 +22,7 @@ namespace lorva {
 class ActivationCommands;
 class LorvaAppModel;
 class MenuBarReveal;
-class UpdaterController;
+class UpdateCommands;
 
 /// What the menus do with the family that is open in the detail view. Without one they do nothing.
 struct DetailCommands
@@ -54,7 +54,7 @@ public:
     struct Targets
     {
         LorvaAppModel &model;
-        UpdaterController &updater;
+        UpdateCommands &updates;
         QMainWindow &window;
         std::function<void()> newCollection;
         std::function<void()> addFolder;
@@ -67,6 +67,8 @@ public:
         /// The families whose cards are chosen.
         std::function<QStringList()> selectedNames;
         DetailCommands detail;
+        /// A game covers the window: only what concerns the whole program acts.
+        std::function<bool()> isQuizOpen;
     };
 
     explicit MainMenu(Targets targets);
@@ -92,6 +94,7 @@ private:
     void addSizeActions(QMenu *menu);
     void addDetailActions(QMenu *menu);
     void updateDetailActions();
+    void restLibraryActions();
     double pointSize() const;
     void setPointSize(double pointSize);
     void addModeActions(QMenu *menu);
@@ -112,6 +115,7 @@ private:
     /// What had the keyboard's focus last, menus apart.
     QPointer<QWidget> m_focused;
     QAction *m_checkForUpdates = nullptr;
+    QAction *m_organize = nullptr;
     QAction *m_failedFiles = nullptr;
     QAction *m_activate = nullptr;
     QAction *m_activateRemaining = nullptr;
@@ -124,6 +128,10 @@ private:
     QAction *m_smaller = nullptr;
     QAction *m_fullScreen = nullptr;
     QAction *m_inspector = nullptr;
+    /// The quiz is open.
+    bool m_isResting = false;
+    /// Those that act on what the quiz covers.
+    QList<QAction *> m_libraryActions;
     /// Those that need an open family.
     QList<QAction *> m_detailActions;
 };

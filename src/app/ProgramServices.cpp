@@ -5,6 +5,7 @@
 
 #include "catalog/CatalogCache.h"
 #include "install/FontInstallationService.h"
+#include "platform/FeedUpdaterController.h"
 #include "platform/linux/DesktopTrash.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/FontconfigSystemFont.h"
@@ -12,6 +13,8 @@
 #include "platform/linux/LinkFolderRegistrar.h"
 #include "platform/MemoryPreferenceStore.h"
 #include "platform/SqlitePreferenceStore.h"
+#include "ui/onboarding/FallingLettersOnboarding.h"
+#include "ui/preview/FontResolver.h"
 
 #include <unistd.h>
 
@@ -70,6 +73,18 @@ std::unique_ptr<FontLibraryService> makeLibraryService(const LaunchOptions &opti
 }
 
 } // namespace
+
+ProgramParts programParts()
+{
+    ProgramParts parts;
+    parts.updaterController = std::make_unique<FeedUpdaterController>(
+        builtInReleaseFeed(), QStringLiteral(LORVA_VERSION));
+    parts.makeOnboarding = [](LorvaAppModel &model) {
+        return std::make_unique<FallingLettersOnboarding>(
+            model, makeFontResolver(model.fontLibraryService()));
+    };
+    return parts;
+}
 
 std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,
                                                  const PlatformFolders &folders)

@@ -23,6 +23,9 @@ struct ProgramParts
         makeOnboarding = [](LorvaAppModel &) { return std::make_unique<AbsentOnboarding>(); };
 };
 
+/// Those that users run.
+ProgramParts programParts();
+
 /// The user's preferences. A picture gets what the user has organised and switched on, and nothing
 /// of how their window looks, and changes neither.
 std::unique_ptr<PreferenceStore> makePreferences(const LaunchOptions &options,

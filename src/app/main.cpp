@@ -3,6 +3,7 @@
 
 #include "app/LaunchOptions.h"
 #include "app/LorvaApplicationDelegate.h"
+#include "app/ProgramServices.h"
 #include "base/Trace.h"
 #include "platform/linux/DBusSingleInstance.h"
 #include "platform/linux/ProcessMemory.h"
@@ -124,7 +125,8 @@ int main(int argc, char **argv)
     applicationStage.end();
     qInstallMessageHandler(usual);
 
-    lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache));
+    lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache),
+                                             lorva::programParts());
     instance.onStart = [&](const lorva::ProgramStart &start) { delegate.takeOver(start); };
     delegate.applicationDidFinishLaunching();
     const int status = QApplication::exec();

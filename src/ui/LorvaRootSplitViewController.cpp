@@ -3,33 +3,25 @@
 
 #include "ui/LorvaRootSplitViewController.h"
 
+#include "base/NotificationCentre.h"
 #include "base/Trace.h"
 #include "commands/OrganizationAlerts.h"
 #include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/FontBrowserViewController.h"
 #include "ui/detail/DetailMenu.h"
-#include "ui/detail/DetailTopBar.h"
 #include "ui/detail/FontDetailViewController.h"
+#include "ui/discover/DiscoverViewController.h"
 #include "ui/display/LogoImage.h"
 #include "ui/display/LorvaWindowBackgroundView.h"
 #include "ui/PaneStates.h"
+#include "ui/quiz/FontQuizViewController.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/sidebar/SidebarFooter.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
-#include <QResizeEvent>
-#include <QStyle>
-
-#include <utility>
 
 namespace lorva {
-
-namespace {
-
-constexpr int kSidebarWidth = ProjectSidebarViewController::kWidth;
-
-} // namespace
 
 LorvaRootSplitViewController::LorvaRootSplitViewController(LorvaAppModel &model,
                                                            const PaneServices &services,
@@ -57,8 +49,16 @@ LorvaRootSplitViewController::LorvaRootSplitViewController(LorvaAppModel &model,
     m_logo->onChange = [this] { scheduleRender(); };
     m_background->onImageChanged = [this] { scheduleRender(); };
     m_model.onChange = [this] { scheduleRender(); };
+    NotificationCentre::shared().observe(openFontQuizNotification(), this, [this](const void *) {
+        handleOpenFontQuizNotification();
+    });
     m_browserActions.readUserImages();
     render();
+}
+
+QByteArray LorvaRootSplitViewController::openFontQuizNotification()
+{
+    return QByteArrayLiteral("vantrel.merid.lorvaOpenFontQuiz");
 }
 
 void LorvaRootSplitViewController::connectActions()
@@ -80,6 +80,7 @@ void LorvaRootSplitViewController::connectActions()
     };
     m_sidebarActions.onActivationWanted = activate;
     m_sidebarActions.onDeactivationWanted = deactivate;
+    m_sidebarActions.onOrganizeWanted = [this] { openQuiz(); };
     connectDetail();
 }
 
@@ -103,6 +104,7 @@ LorvaRootSplitViewController::~LorvaRootSplitViewController()
 {
     m_model.onChange = nullptr;
     // They report to members that go before the children do.
+    delete m_quiz;
     delete m_detail;
     delete m_inspector;
     delete m_browser;
@@ -117,20 +119,30 @@ FontBrowserState LorvaRootSplitViewController::browserState() const
                            m_background->userThumbnail()});
 }
 
+/// Nothing is rendered beneath the quiz: whoever plays waits for the next card.
 void LorvaRootSplitViewController::render()
 {
     const TraceStage stage("render");
     m_renderIsScheduled = false;
+    if (!m_quiz)
+        renderPanes();
+    Q_EMIT rendered();
+}
+
+void LorvaRootSplitViewController::renderPanes()
+{
     const FontBrowserState state = browserState();
     applyGround(state);
     m_sidebar->apply(sidebarStateOf(m_model));
-    if (const FontFamilyRecord *family = openFamily())
+    if (const FontFamilyRecord *family = openFamily()) {
         renderDetail(state, *family);
-    else {
-        m_browser->apply(state);
-        closeDetailPane();
+        return;
     }
-    Q_EMIT rendered();
+    m_browser->apply(state);
+    const bool isDiscover = state.source == BrowserSource::discover();
+    if (isDiscover)
+        ensureDiscover();
+    showPane(isDiscover ? Pane::discover : Pane::browser);
 }
 
 /// A family that the last scan did not find any more is closed.
@@ -167,12 +179,12 @@ void LorvaRootSplitViewController::showInspectorTab(FontInspectorViewController:
 
 bool LorvaRootSplitViewController::showsInspector() const
 {
-    return m_isDetailOpen && !m_inspector->isHidden();
+    return isDetailOpen() && !m_inspector->isHidden();
 }
 
 QString LorvaRootSplitViewController::title() const
 {
-    return m_isDetailOpen ? m_detail->state().family.familyName : m_browser->state().title;
+    return isDetailOpen() ? m_detail->state().family.familyName : m_browser->state().title;
 }
 
 void LorvaRootSplitViewController::renderDetail(const FontBrowserState &state,
@@ -187,28 +199,17 @@ void LorvaRootSplitViewController::renderDetail(const FontBrowserState &state,
     m_detail->setFamilies(FontFamilySubset(m_model.allFamilies()));
     m_detail->apply(detail);
     showFaceInInspector(m_detail->displayedFace());
-    openDetailPane();
+    showPane(Pane::detail);
 }
 
-/// The cards keep what they show; nobody sees them.
-void LorvaRootSplitViewController::openDetailPane()
+/// Made when the page is opened for the first time: starting goes without.
+void LorvaRootSplitViewController::ensureDiscover()
 {
-    if (std::exchange(m_isDetailOpen, true))
+    if (m_discover)
         return;
-    m_detail->show();
-    m_detail->focusPage();
-    m_browser->hide();
-}
-
-void LorvaRootSplitViewController::closeDetailPane()
-{
-    if (!std::exchange(m_isDetailOpen, false))
-        return;
-    m_browser->show();
-    m_browser->focusCards();
-    m_browser->revealSelection();
-    m_detail->hide();
-    m_inspector->hide();
+    m_discover = new DiscoverViewController(m_services.desktop, this);
+    m_discover->hide();
+    layOut();
 }
 
 void LorvaRootSplitViewController::showFaceInInspector(const DisplayedFace &face)
@@ -226,27 +227,29 @@ QMenu *LorvaRootSplitViewController::makeDetailMenu(QWidget *parent)
 
 void LorvaRootSplitViewController::exportDetail()
 {
-    if (m_isDetailOpen)
+    if (isDetailOpen())
         m_export.ask(m_detail->page(), m_detail->pageBackground(), m_detail->exportName());
 }
 
 void LorvaRootSplitViewController::copyDetailAsCss()
 {
-    if (m_isDetailOpen)
-        QGuiApplication::clipboard()->setText(m_detail->css());
+    if (isDetailOpen())
+        QApplication::clipboard()->setText(m_detail->css());
 }
 
 QStringList LorvaRootSplitViewController::selectedNames() const
 {
-    return m_isDetailOpen ? QStringList(m_detail->state().family.familyName)
+    if (m_quiz || m_pane == Pane::discover)
+        return {};
+    return isDetailOpen() ? QStringList(m_detail->state().family.familyName)
                           : m_browser->selectedNames();
 }
 
 void LorvaRootSplitViewController::focusSearch()
 {
-    if (m_isDetailOpen)
+    if (isDetailOpen())
         m_detail->focusSearch();
-    else
+    else if (isBrowserOpen())
         m_browser->topBar().focusSearch();
 }
 
@@ -293,13 +296,6 @@ void LorvaRootSplitViewController::scheduleRender()
         Qt::QueuedConnection);
 }
 
-bool LorvaRootSplitViewController::isSettled() const
-{
-    const bool panesAreSettled =
-        m_isDetailOpen ? m_detail->isSettled() && m_inspector->isSettled() : m_browser->isSettled();
-    return panesAreSettled && !m_logo->isWaiting() && !m_background->isWaiting();
-}
-
 void LorvaRootSplitViewController::setMainMenu(QMenu *menu)
 {
     m_footer->setMainMenu(menu);
@@ -316,53 +312,6 @@ void LorvaRootSplitViewController::ask(const Alert &question, std::function<void
 void LorvaRootSplitViewController::tellRefused(const QString &reason)
 {
     m_presenter.showAlert(refusedChangeAlert(reason), {});
-}
-
-void LorvaRootSplitViewController::layOut()
-{
-    const auto place = [this](QWidget *widget, const QRect &logical) {
-        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), logical));
-    };
-    const int footerHeight = SidebarFooter::kHeight;
-    const QRect pane(kSidebarWidth, 0, std::max(width() - kSidebarWidth, 0), height());
-    place(m_sidebar, {0, 0, kSidebarWidth, std::max(height() - footerHeight, 0)});
-    place(m_footer, {0, height() - footerHeight, kSidebarWidth, footerHeight});
-    place(m_background, pane);
-    place(m_browser, pane);
-    layOutPanes(pane);
-}
-
-/// In a narrow window the inspector lies over the page, which keeps its width.
-void LorvaRootSplitViewController::layOutPanes(const QRect &pane)
-{
-    if (!m_detail)
-        return;
-    const bool isBeside = width() >= kInspectorWidth && !m_inspector->isHidden();
-    const int inspectorWidth = std::min(FontInspectorViewController::kWidth, pane.width());
-    const int top = isBeside ? 0 : DetailTopBar::kHeight;
-    const auto place = [this](QWidget *widget, const QRect &logical) {
-        widget->setGeometry(QStyle::visualRect(layoutDirection(), rect(), logical));
-    };
-    place(m_detail, pane.adjusted(0, 0, isBeside ? -inspectorWidth : 0, 0));
-    place(
-        m_inspector,
-        {pane.right() + 1 - inspectorWidth, top, inspectorWidth, std::max(pane.height() - top, 0)});
-    m_inspector->raise();
-}
-
-void LorvaRootSplitViewController::resizeEvent(QResizeEvent *event)
-{
-    layOut();
-    const bool isNarrow = width() < kInspectorWidth;
-    if (m_isDetailOpen && isNarrow != (event->oldSize().width() < kInspectorWidth))
-        scheduleRender();
-}
-
-void LorvaRootSplitViewController::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LayoutDirectionChange)
-        layOut();
-    QWidget::changeEvent(event);
 }
 
 } // namespace lorva

@@ -14,6 +14,7 @@
 #include "ui/sheets/WindowPresenter.h"
 #include "ui/SidebarActions.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -22,8 +23,10 @@ class QMenu;
 
 namespace lorva {
 
+class DiscoverViewController;
 class FontBrowserViewController;
 class FontDetailViewController;
+class FontQuizViewController;
 class LogoImage;
 class LorvaWindowBackgroundView;
 class ProjectSidebarViewController;
@@ -49,6 +52,9 @@ public:
     /// Narrower windows have the inspector over the detail pane, not beside it.
     static constexpr int kInspectorWidth = 1100;
 
+    /// Posted without an object: the font quiz is wanted.
+    static QByteArray openFontQuizNotification();
+
     explicit LorvaRootSplitViewController(LorvaAppModel &model, const PaneServices &services = {},
                                           QWidget *parent = nullptr);
     ~LorvaRootSplitViewController() override;
@@ -63,6 +69,10 @@ public:
     BrowserActions &browserActions() { return m_browserActions; }
     SidebarActions &sidebarActions() { return m_sidebarActions; }
     DetailActions &detailActions() { return m_detailActions; }
+    /// Null until the page is opened for the first time.
+    DiscoverViewController *discover() { return m_discover; }
+    /// Null while no quiz is played. It covers everything else, which rests meanwhile.
+    FontQuizViewController *quiz() { return m_quiz; }
     /// Null until a family is opened for the first time.
     FontDetailViewController *detail() { return m_detail; }
     FontInspectorViewController *inspector() { return m_inspector; }
@@ -71,9 +81,15 @@ public:
     bool showsInspector() const;
     /// Of what is shown: the source or the family.
     QString title() const;
+    /// The cards are shown; also beneath the quiz.
+    bool isBrowserOpen() const { return m_pane == Pane::browser; }
     /// A family is open in the detail view.
-    bool isDetailOpen() const { return m_isDetailOpen; }
-    /// The family that is open, else those whose cards are chosen.
+    bool isDetailOpen() const { return m_pane == Pane::detail; }
+    bool isQuizOpen() const { return m_quiz != nullptr; }
+    /// Does nothing while one is played, and while a sheet asks something.
+    void openQuiz();
+    void closeQuiz();
+    /// The family that is open, else those whose cards are chosen; none where neither is shown.
     QStringList selectedNames() const;
     /// Gives the keyboard to the search field of the pane that is shown.
     void focusSearch();
@@ -100,12 +116,23 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    /// What stands beside the sidebar.
+    enum class Pane { browser, detail, discover };
+
     void connectActions();
     void connectDetail();
     void ensureDetail();
     void renderDetail(const FontBrowserState &state, const FontFamilyRecord &family);
-    void openDetailPane();
-    void closeDetailPane();
+    void renderPanes();
+    void ensureDiscover();
+    void showPane(Pane pane);
+    /// Null for a pane that was never opened.
+    QWidget *widgetOf(Pane pane) const;
+    bool hasKeyboard(Pane pane) const;
+    void focusPane();
+    bool isPaneSettled() const;
+    void updateVisibility();
+    void handleOpenFontQuizNotification();
     const FontFamilyRecord *openFamily();
     void showFaceInInspector(const DisplayedFace &face);
     QMenu *makeDetailMenu(QWidget *parent);
@@ -137,7 +164,11 @@ private:
     FontBrowserViewController *m_browser;
     FontDetailViewController *m_detail = nullptr;
     FontInspectorViewController *m_inspector = nullptr;
-    bool m_isDetailOpen = false;
+    DiscoverViewController *m_discover = nullptr;
+    FontQuizViewController *m_quiz = nullptr;
+    /// Had the keyboard when the quiz was opened.
+    QPointer<QWidget> m_focusBeforeQuiz;
+    Pane m_pane = Pane::browser;
     bool m_renderIsScheduled = false;
 };
 

@@ -63,6 +63,8 @@ QString titleOf(const BrowserSource &source, const LorvaAppModel &model)
         title = PaneTexts::tr("Active");
     else if (source.kind() == Kind::inactive)
         title = PaneTexts::tr("Inactive");
+    else if (source.kind() == Kind::discover)
+        title = PaneTexts::tr("Discover");
     else if (source.kind() == Kind::style)
         title = nameOf(model.styleCategories(), source.id());
     else if (source.kind() == Kind::collection)
@@ -209,9 +211,6 @@ SidebarState sidebarStateOf(LorvaAppModel &model)
     content.foundryCollections = model.foundryCollections();
     content.counts = model.counts();
     content.hideOrganizePromo = model.hidesQuizPromoInSidebar();
-    // Neither has a place to lead to yet.
-    content.hasDiscover = false;
-    content.hasQuiz = false;
     int sorted = 0;
     for (const int count : content.counts.styles)
         sorted += count;

@@ -40,6 +40,12 @@ void SidebarActions::sidebarSelected(const BrowserSource &source)
     m_model.select(source);
 }
 
+void SidebarActions::sidebarOrganizeChosen()
+{
+    if (onOrganizeWanted)
+        onOrganizeWanted();
+}
+
 void SidebarActions::sidebarPromoHidden()
 {
     m_model.hideQuizPromoInSidebar();

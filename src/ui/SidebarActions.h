@@ -24,11 +24,13 @@ public:
     std::function<void(const QString &reason)> onRefused;
     /// Asks the user; `accepted` is called if they choose the first button.
     std::function<void(const Alert &question, std::function<void()> accepted)> onQuestion;
+    /// The families without a style are to be sorted.
+    std::function<void()> onOrganizeWanted;
     std::function<void(const QStringList &familyNames)> onActivationWanted;
     std::function<void(const QStringList &familyNames)> onDeactivationWanted;
 
     void sidebarSelected(const BrowserSource &source) override;
-    void sidebarOrganizeChosen() override { }
+    void sidebarOrganizeChosen() override;
     void sidebarPromoHidden() override;
     void sidebarGroupToggled(SidebarGroup group) override;
     std::optional<QString> sidebarCollectionWanted() override;

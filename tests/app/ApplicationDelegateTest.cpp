@@ -218,14 +218,58 @@ TEST_F(ApplicationDelegate, GoesOnWithoutUpdatesAndSaysSoInTheSystemLog)
         << messages().join(u'\n').toStdString();
     EXPECT_EQ(m_delegate->window()->windowOpacity(), 1.0);
     EXPECT_EQ(storedFlag(), std::nullopt);
-    EXPECT_FALSE(command("Menu.CheckForUpdates")->isVisible());
+    command("Menu.CheckForUpdates")->trigger();
+    EXPECT_TRUE(hasAlertSheet(*m_delegate->window())) << "who asks is told";
 
     m_journal.clear();
     launch({}, scripted());
+    EXPECT_FALSE(command("Menu.CheckForUpdates")->isEnabled()) << "not before the welcome";
     m_continue(OnboardingOverlayController::End::absent);
-    EXPECT_TRUE(command("Menu.CheckForUpdates")->isVisible());
+    EXPECT_TRUE(command("Menu.CheckForUpdates")->isEnabled());
     command("Menu.CheckForUpdates")->trigger();
     EXPECT_EQ(m_journal.back(), "check");
+}
+
+TEST_F(ApplicationDelegate, GoesWithoutTheWelcomeWhereItIsToldTo)
+{
+    LaunchOptions options;
+    options.skipsWelcome = true;
+    launch(options, scripted());
+    EXPECT_THAT(m_journal, ElementsAre("start"));
+    EXPECT_EQ(storedFlag(), std::nullopt) << "it comes at the next start";
+    options = {};
+    options.welcome = LaunchWelcome::card;
+    SqlitePreferenceStore(xdgFolders().applicationSupport)
+        .setBoolean(LorvaApplicationDelegate::onboardingFlag(), true);
+    m_journal.clear();
+    launch(options, scripted());
+    EXPECT_THAT(m_journal, ElementsAre("welcome"));
+}
+
+TEST_F(ApplicationDelegate, RestsWhatTheQuizCovers)
+{
+    launch();
+    ASSERT_TRUE(waitForLibrary());
+    ASSERT_TRUE(test::waitUntil([this] { return m_delegate->window()->isActiveWindow(); }));
+    const bool couldGrow = command("Menu.Larger")->isEnabled();
+    press(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    LorvaRootSplitViewController &root = *m_delegate->rootController();
+    ASSERT_TRUE(root.isQuizOpen());
+    EXPECT_FALSE(root.browser().isVisible());
+    EXPECT_THAT(root.selectedNames(), IsEmpty());
+    for (const char *name : {"Menu.Find", "Menu.SelectAll", "Menu.Activate", "Menu.Grid",
+                             "Menu.Larger", "Menu.OrganizeFonts", "Menu.Rescan"})
+        EXPECT_FALSE(command(name)->isEnabled()) << name;
+    for (const char *name : {"Menu.About", "Menu.Settings", "Menu.Close", "Menu.FullScreen"})
+        EXPECT_TRUE(command(name)->isEnabled()) << name;
+
+    root.closeQuiz();
+    EXPECT_TRUE(root.browser().isVisible());
+    for (const char *name : {"Menu.Find", "Menu.SelectAll", "Menu.Grid", "Menu.OrganizeFonts"})
+        EXPECT_TRUE(command(name)->isEnabled()) << name;
+    EXPECT_EQ(command("Menu.Larger")->isEnabled(), couldGrow);
+    EXPECT_TRUE(root.browser().isAncestorOf(QApplication::focusWidget()))
+        << "the keyboard is where it was";
 }
 
 TEST_F(ApplicationDelegate, ActsOnItsShortcuts)

@@ -59,13 +59,20 @@ TEST(LaunchOptions, ReadsWhatTheWindowShowsFirst)
                                 "Inter",
                                 "--stage=waterfall",
                                 "--inspector",
-                                "info"});
+                                "info",
+                                "--quiz",
+                                "playing",
+                                "--welcome=card",
+                                "--no-welcome"});
     ASSERT_TRUE(options.has_value());
     EXPECT_EQ(options->isDark, true);
     EXPECT_EQ(options->sheet, LaunchSheet::deactivate);
     EXPECT_EQ(options->detailFamily, QStringLiteral("Inter"));
     EXPECT_EQ(options->detailStage, DetailStage::waterfall);
     EXPECT_EQ(options->inspectorTab, FontInspectorViewController::Tab::info);
+    EXPECT_EQ(options->quiz, LaunchQuiz::playing);
+    EXPECT_EQ(options->welcome, LaunchWelcome::card);
+    EXPECT_TRUE(options->skipsWelcome);
     EXPECT_EQ(options->searchText, QStringLiteral("sans"));
     EXPECT_EQ(options->selectedFamily, QStringLiteral("Noto Sans"));
     EXPECT_EQ(options->weight, 700);
@@ -78,11 +85,9 @@ TEST(LaunchOptions, ReadsWhatTheWindowShowsFirst)
     {
         const char *value;
         Kind kind;
-    } sources[]{{"all", Kind::allFonts},
-                {"active", Kind::active},
-                {"inactive", Kind::inactive},
-                {"style:x", Kind::style},
-                {"foundry:x", Kind::foundry}};
+    } sources[]{{"all", Kind::allFonts},      {"active", Kind::active},
+                {"inactive", Kind::inactive}, {"style:x", Kind::style},
+                {"foundry:x", Kind::foundry}, {"discover", Kind::discover}};
     for (const auto &row : sources) {
         const auto parsed = parse({"--source", row.value});
         ASSERT_TRUE(parsed.has_value()) << row.value;
@@ -112,7 +117,10 @@ TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
         {{"--weight", "50"}, "--weight"},
         {{"--weight", "bold"}, "--weight"},
         {{"--image", "nowhere"}, "--image"},
-        {{"--source", "discover"}, "--source"},
+        {{"--source", "discover:x"}, "--source"},
+        {{"--quiz", "done"}, "--quiz"},
+        {{"--welcome", "off"}, "--welcome"},
+        {{"--no-welcome=yes"}, "--no-welcome"},
         {{"--source", "style"}, "--source"},
         {{"--source", "style:"}, "--source"},
         {{"--source", "all:x"}, "--source"},

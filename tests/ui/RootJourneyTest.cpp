@@ -3,13 +3,17 @@
 
 // What the panes ask for reaches the model, and what the model says reaches the panes.
 
+#include "base/NotificationCentre.h"
 #include "support/LibraryFixture.h"
 #include "ui/browser/BrowserTopBar.h"
 #include "ui/browser/FontBrowserViewController.h"
+#include "ui/detail/FontDetailViewController.h"
+#include "ui/discover/DiscoverViewController.h"
 #include "ui/display/BackgroundImageStore.h"
 #include "ui/display/ImageIntake.h"
 #include "ui/display/LorvaWindowBackgroundView.h"
 #include "ui/LorvaRootSplitViewController.h"
+#include "ui/quiz/FontQuizViewController.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/sidebar/SidebarModel.h"
 #include "ui/sidebar/SidebarOutlineView.h"
@@ -233,6 +237,54 @@ TEST_F(RootJourney, ALogoIsShownWhenItIsReadAndAProblemIsSaid)
     browser().displayReset();
     EXPECT_EQ(model().display(), DisplayValues());
     browser().displayLogoChosen(svg, answered);
+    root.reset();
+}
+
+TEST_F(RootJourney, DiscoverTakesTheCardsPlaceAndGivesItBack)
+{
+    sidebar().sidebarSelected(BrowserSource::discover());
+    root->render();
+    ASSERT_TRUE(root->discover());
+    EXPECT_TRUE(root->discover()->isVisible());
+    EXPECT_EQ(root->discover()->geometry(), root->browser().geometry());
+    EXPECT_FALSE(root->browser().isVisible());
+    EXPECT_EQ(root->title(), QStringLiteral("Discover"));
+    EXPECT_TRUE(waitUntil([this] { return root->isSettled(); }));
+    browser().browserOpenDetail(QStringLiteral("Face 001"));
+    root->render();
+    EXPECT_TRUE(root->isDetailOpen()) << "a family that is asked for comes first";
+    EXPECT_FALSE(root->discover()->isVisible());
+
+    sidebar().sidebarSelected(BrowserSource::allFonts());
+    root->render();
+    EXPECT_TRUE(root->browser().isVisible());
+    EXPECT_EQ(shown().size(), 6);
+}
+
+TEST_F(RootJourney, TheQuizCoversEverythingFromWhereverItIsOpened)
+{
+    browser().browserOpenDetail(QStringLiteral("Face 001"));
+    root->render();
+    ASSERT_TRUE(root->isDetailOpen());
+    sidebar().sidebarOrganizeChosen();
+    ASSERT_TRUE(root->isQuizOpen());
+    const void *const first = root->quiz();
+    NotificationCentre::shared().post(QByteArrayLiteral("vantrel.merid.lorvaOpenFontQuiz"));
+    EXPECT_EQ(root->quiz(), first) << "one at a time";
+    root->resize(1400, 950);
+    model().setSearchQuery(QStringLiteral("zz"));
+    root->render();
+    for (const QWidget *pane : std::initializer_list<const QWidget *>{
+             root->detail(), root->inspector(), &root->browser(), &root->sidebar()})
+        EXPECT_FALSE(pane->isVisible()) << pane->objectName().toStdString();
+
+    root->closeQuiz();
+    EXPECT_FALSE(root->isQuizOpen());
+    EXPECT_TRUE(root->detail()->isVisible());
+    EXPECT_TRUE(root->inspector()->isVisible());
+    EXPECT_TRUE(root->sidebar().isVisible());
+    NotificationCentre::shared().post(LorvaRootSplitViewController::openFontQuizNotification());
+    EXPECT_TRUE(root->isQuizOpen());
     root.reset();
 }
 

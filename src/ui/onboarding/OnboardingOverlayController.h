@@ -37,6 +37,8 @@ public:
                       std::function<void(End)> ended) = 0;
     /// What is shown, for a picture of it; null while nothing is.
     virtual QWidget *overlay() { return nullptr; }
+    /// For a picture: the scene at its end, or the card over it, with nothing moving any more.
+    virtual void settleForPicture(bool /*showsCard*/) { }
 };
 
 /// No welcome.
