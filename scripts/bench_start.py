@@ -69,7 +69,7 @@ class Window:
                        "QT_QPA_PLATFORM": platform or f"offscreen:configfile={screen}"}
         actions = [(os.POSIX_SPAWN_OPEN, fd, os.devnull, os.O_RDWR, 0) for fd in (0, 1)]
         self.started_ns = time.monotonic_ns()
-        self.pid = os.posix_spawn(program, [program, "--folder", str(library), *options], environment,
+        self.pid = os.posix_spawn(program, [program, "--no-welcome", "--folder", str(library), *options], environment,
                                   file_actions=actions)
 
     def wait_for(self, *names):

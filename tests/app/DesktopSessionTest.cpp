@@ -142,7 +142,7 @@ QByteArray nameOfActiveWindow()
 TEST(DesktopProgram, EndsWhenTheWindowManagerClosesItsWindow)
 {
     QProcess program;
-    program.start(QStringLiteral(LORVA_PROGRAM), QStringList());
+    program.start(QStringLiteral(LORVA_PROGRAM), {QStringLiteral("--no-welcome")});
     ASSERT_TRUE(test::waitUntil([] { return nameOfActiveWindow() == "All Fonts"; }));
     EXPECT_TRUE(run(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("alt+F4")}));
     EXPECT_TRUE(test::waitUntil([&] { return program.state() == QProcess::NotRunning; }));
@@ -150,6 +150,30 @@ TEST(DesktopProgram, EndsWhenTheWindowManagerClosesItsWindow)
     EXPECT_EQ(program.exitCode(), 0);
     SqlitePreferenceStore preferences(xdgFolders().applicationSupport);
     EXPECT_TRUE(WindowFrameStore(preferences).load().has_value());
+}
+
+/// The last step of the welcome, and the first of the window that it gives way to.
+TEST(DesktopProgram, WelcomesOnceAndGivesTheKeyboardToItsWindow)
+{
+    const auto type = [](const char *key) {
+        return run(QStringLiteral("xdotool"), {QStringLiteral("key"), QString::fromLatin1(key)});
+    };
+    QProcess program;
+    program.start(QStringLiteral(LORVA_PROGRAM), QStringList());
+    ASSERT_TRUE(test::waitUntil([] { return nameOfActiveWindow() == "Welcome to Lorva"; }));
+    SqlitePreferenceStore preferences(xdgFolders().applicationSupport);
+    const QString flag = LorvaApplicationDelegate::onboardingFlag();
+    EXPECT_FALSE(preferences.boolean(flag));
+    // The first skips the scene, the second presses the button.
+    EXPECT_TRUE(type("x") && type("Return"));
+    EXPECT_TRUE(test::waitUntil([] { return nameOfActiveWindow() == "All Fonts"; }));
+    EXPECT_TRUE(test::waitUntil([&] { return preferences.boolean(flag) == true; }));
+    EXPECT_TRUE(type("ctrl+q"));
+    EXPECT_TRUE(test::waitUntil([&] { return program.state() == QProcess::NotRunning; }));
+    program.start(QStringLiteral(LORVA_PROGRAM), QStringList());
+    EXPECT_TRUE(test::waitUntil([] { return nameOfActiveWindow() == "All Fonts"; }));
+    program.terminate();
+    program.waitForFinished();
 }
 
 } // namespace
