@@ -73,6 +73,9 @@ packages_bench="
   xvfb                  an X server for the window that is used
   xdotool               uses it
 "
+packages_release="
+  openssl               makes the makers' key and signs the release feed
+"
 packages_fuzz="
   clang                 brings libFuzzer
   libclang-rt-dev       libFuzzer's and the sanitizers' libraries

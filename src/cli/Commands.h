@@ -26,5 +26,6 @@ int runStatusCommand(std::span<const QByteArray> words);
 int runFoldersCommand(std::span<const QByteArray> words);
 int runHistoryCommand(std::span<const QByteArray> words);
 int runDoctorCommand(std::span<const QByteArray> words);
+int runUpdatesCommand(std::span<const QByteArray> words);
 
 } // namespace lorva::cli

@@ -33,6 +33,7 @@ constexpr char kHelp[] = "Usage: lorvactl COMMAND [OPTION]...\n"
                          "  history      tell what was switched on and off, and when\n"
                          "\n"
                          "  doctor       tell how preferences, caches and activation fare\n"
+                         "  updates      ask whether there is a newer release of Lorva\n"
                          "\n"
                          "  --help       show this help; also after a command\n"
                          "  --version    show the version\n"
@@ -62,6 +63,7 @@ constexpr Command kCommands[]{
     {"folders", lorva::cli::runFoldersCommand},
     {"history", lorva::cli::runHistoryCommand},
     {"doctor", lorva::cli::runDoctorCommand},
+    {"updates", lorva::cli::runUpdatesCommand},
 };
 
 } // namespace

@@ -5,12 +5,13 @@
 #include "platform/UpdaterController.h"
 
 #include <QByteArray>
-#include <QObject>
 
 #include <chrono>
 #include <memory>
 
 namespace lorva {
+
+class FeedDownload;
 
 /// Where releases are announced, and how that is known to be the makers' word.
 struct ReleaseFeedSettings
@@ -26,10 +27,16 @@ struct ReleaseFeedSettings
 /// Those that the program was built with.
 ReleaseFeedSettings builtInReleaseFeed();
 
-/// Reads the signed release feed when the user asks.
+/// Reads the signed release feed when the user asks, and only then: until the first look it costs
+/// nothing.
 ///
-/// Thread: main. Failures: start() fails with unsupported without an address, and with invalidValue
-/// for an address or key that cannot be used; see ReleaseFeed.h for what a look may end with.
+/// Thread: main. Destruction during a look is silent, and allowed in onOutcome. A look that is
+/// asked for while canCheckForUpdates() is false does not take place. A feed that announces an
+/// older release than the running one says that this is up to date.
+///
+/// Failures: start() fails with unsupported without an address, and with invalidValue for an
+/// address, key or running version that cannot be used; see FeedDownload.h and ReleaseFeed.h for
+/// what a look may end with.
 class FeedUpdaterController final : public UpdaterController
 {
 public:
@@ -41,9 +48,15 @@ public:
     void checkForUpdates() override;
 
 private:
+    Result<void> checkSettings() const;
+    void conclude(const UpdateOutcome &outcome);
+    UpdateOutcome judge(const Result<QByteArray> &feed) const;
+
     const ReleaseFeedSettings m_settings;
     const QString m_runningVersion;
+    QByteArray m_publicKey;
     bool m_isStarted = false;
+    std::unique_ptr<FeedDownload> m_download;
 };
 
 } // namespace lorva

@@ -32,7 +32,7 @@ TEST(Lorvactl, ExplainsItself)
 {
     for (const char *command :
          {"", "list", "search", "scan", "info", "specimen", "collections", "styles", "foundries",
-          "export", "import", "activate", "deactivate", "status", "folders", "doctor"}) {
+          "export", "import", "activate", "deactivate", "status", "folders", "doctor", "updates"}) {
         QStringList arguments{QString::fromLatin1(command), "--help"};
         arguments.removeAll(QString());
         const Outcome outcome = lorvactl(arguments);
