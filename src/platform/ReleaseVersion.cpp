@@ -40,7 +40,7 @@ std::weak_ordering compareNumberLists(const QList<QStringView> &left,
     for (qsizetype i = 0; i < std::max(left.size(), right.size()); ++i) {
         const auto order =
             compareNumbers(left.value(i, QStringView(u"0")), right.value(i, QStringView(u"0")));
-        if (order != 0)
+        if (std::is_neq(order))
             return order;
     }
     return std::weak_ordering::equivalent;
@@ -81,7 +81,7 @@ std::weak_ordering compareMarks(QStringView left, QStringView right)
     const QList<QStringView> leftRuns = runsOf(left);
     const QList<QStringView> rightRuns = runsOf(right);
     for (qsizetype i = 0; i < std::min(leftRuns.size(), rightRuns.size()); ++i) {
-        if (const auto order = compareRuns(leftRuns[i], rightRuns[i]); order != 0)
+        if (const auto order = compareRuns(leftRuns[i], rightRuns[i]); std::is_neq(order))
             return order;
     }
     return leftRuns.size() <=> rightRuns.size();
@@ -117,7 +117,7 @@ std::optional<std::weak_ordering> compareVersions(QStringView left, QStringView 
     const Parts leftParts = partsOf(left);
     const Parts rightParts = partsOf(right);
     const auto order = compareNumberLists(leftParts.numbers, rightParts.numbers);
-    return order != 0 ? order : compareMarks(leftParts.mark, rightParts.mark);
+    return std::is_neq(order) ? order : compareMarks(leftParts.mark, rightParts.mark);
 }
 
 } // namespace lorva
