@@ -3,28 +3,387 @@
 
 #include "ui/quiz/FontQuizViewController.h"
 
+#include "platform/UserAccount.h"
+#include "ui/quiz/FontQuizCardView.h"
+#include "ui/quiz/FontQuizCompletionPosterView.h"
+#include "ui/quiz/FontQuizGame.h"
+#include "ui/quiz/FontQuizGround.h"
+#include "ui/quiz/FontQuizIntroView.h"
+#include "ui/quiz/FontQuizStageView.h"
+#include "ui/quiz/FontQuizVeil.h"
+#include "ui/style/Palette.h"
+#include "ui/style/ReducedMotion.h"
+#include "ui/style/Style.h"
+#include "ui/style/TextButton.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
 namespace lorva {
+
+namespace {
+
+constexpr std::chrono::milliseconds kFade{320};
+constexpr std::chrono::milliseconds kBloom{600};
+/// The wash is so faint that its steps cannot be seen; each repaints half of the window.
+constexpr int kBloomSteps = 12;
+
+FontQuizCounts countsOf(const FontQuizDeck &deck)
+{
+    const auto &piles = deck.counts();
+    return {deck.currentIndex(), piles[0], piles[1], piles[2], piles[3], piles[4], piles[5]};
+}
+
+/// The number that a key press types, on whatever keyboard; 0 for none.
+int typedNumber(const QKeyEvent &event)
+{
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return 0;
+    const QString text = event.text();
+    return text.size() == 1 ? text[0].digitValue() : text.toInt();
+}
+
+bool isReturn(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
 
 FontQuizViewController::FontQuizViewController(LorvaAppModel &model,
                                                std::shared_ptr<FontResolver> resolver,
-                                               QWidget *parent)
+                                               QWidget *parent, FontQuizSources sources)
     : QWidget(parent)
     , m_model(model)
-    , m_resolver(std::move(resolver))
+    , m_sources(std::move(sources))
+    , m_timeline(new FontQuizTimeline(this))
+    , m_game(new FontQuizGame(model, m_sources.random, this))
+    , m_ground(new FontQuizGround(this))
+    , m_stage(new FontQuizStageView(model, m_game->deck(), std::move(resolver), *m_timeline, this))
+    , m_intro(new FontQuizIntroView(this))
+    , m_closeButton(new TextButton(tr("Close"), TextButton::Kind::plain, this))
+    , m_veil(new FontQuizVeil(this))
 {
     setObjectName(QStringLiteral("FontQuizViewController"));
+    setAccessibleName(tr("Font Quiz"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    m_closeButton->setObjectName(QStringLiteral("FontQuizViewController.Close"));
+    m_closeButton->setFocusPolicy(Qt::TabFocus);
+    connect(m_closeButton, &QPushButton::clicked, this, &FontQuizViewController::close);
+    m_intro->onStart = [this] { start(); };
+    m_stage->onTile = [this](int tile) { choose(tile); };
+    m_stage->onSettled = [this] { endIfExhausted(); };
+    m_stage->onPictures = [this] { showIntroCards(); };
+    m_ground->onArrived = [this] { bloom(); };
+    m_game->onCatalog = [this] { m_stage->pictures().retryStandIns(); };
+    m_game->onChange = [this](const FontQuizDeck::Difference &difference) {
+        deckChanged(difference, m_currentFamily, m_currentTheme);
+    };
+    showIntro();
 }
 
 FontQuizViewController::~FontQuizViewController() = default;
 
-void FontQuizViewController::start() { }
+const FontQuizDeck &FontQuizViewController::deck() const
+{
+    return m_game->deck();
+}
 
-void FontQuizViewController::choose(int) { }
-
-void FontQuizViewController::showPoster() { }
+bool FontQuizViewController::isAnimating() const
+{
+    return m_stage->isAnimating();
+}
 
 bool FontQuizViewController::isSettled() const
 {
+    return !m_timeline->isRunning() && m_ground->isComplete() && m_stage->pictures().isComplete();
+}
+
+void FontQuizViewController::close()
+{
+    if (onClose)
+        onClose();
+}
+
+void FontQuizViewController::noteCurrent()
+{
+    if (deck().isExhausted())
+        return;
+    m_currentFamily = deck().currentFamily();
+    m_currentTheme = deck().themeSequence()[size_t(deck().currentIndex())];
+    updateGround();
+}
+
+void FontQuizViewController::showIntro()
+{
+    m_intro->setNumbers(m_game->sortedElsewhere(), deck().size());
+    m_stage->showDeck();
+    noteCurrent();
+    showIntroCards();
+    setPhase(Phase::intro);
+}
+
+void FontQuizViewController::showIntroCards()
+{
+    if (m_phase == Phase::intro)
+        m_intro->setCards(m_stage->cardView().cards());
+}
+
+void FontQuizViewController::setPhase(Phase phase)
+{
+    m_phase = phase;
+    m_stage->setVisible(phase == Phase::playing);
+    m_intro->setVisible(phase == Phase::intro || (phase == Phase::done && !m_poster));
+    if (m_poster)
+        m_poster->setVisible(phase == Phase::done);
+    m_closeButton->raise();
+    m_veil->raise();
+    if (!isVisible())
+        return;
+    if (phase == Phase::playing)
+        m_stage->cardView().setFocus(Qt::OtherFocusReason);
+    else if (m_poster)
+        m_poster->focusPage();
+    else if (deck().isExhausted())
+        m_closeButton->setFocus(Qt::OtherFocusReason);
+    else
+        m_intro->focusPage();
+}
+
+void FontQuizViewController::start()
+{
+    if (m_phase != Phase::intro || deck().isEmpty())
+        return;
+    fadeFromHere();
+    setPhase(Phase::playing);
+}
+
+bool FontQuizViewController::isPlayable() const
+{
+    return m_phase == Phase::playing && !isAnimating() && !deck().isExhausted();
+}
+
+void FontQuizViewController::choose(int tile)
+{
+    if (tile < 1 || tile > kFontQuizTiles || !isPlayable())
+        return;
+    const QString family = deck().currentFamily();
+    const Result<void> written = m_game->choose(tile);
+    if (!written)
+        return m_stage->setNotice(
+            tr("“%1” could not be put into %2: %3")
+                .arg(family, FontQuizGame::tileName(tile), written.error().detail));
+    noteCurrent();
+    m_stage->throwCard();
+}
+
+void FontQuizViewController::skip()
+{
+    if (!isPlayable() || !m_game->skip())
+        return;
+    const QString family = std::exchange(m_currentFamily, QString());
+    const FontQuizCardTheme theme = m_currentTheme;
+    noteCurrent();
+    m_stage->putAside(family, theme);
+}
+
+void FontQuizViewController::takeBack()
+{
+    if (m_phase == Phase::intro || isAnimating())
+        return;
+    const Result<void> written = m_game->takeBack();
+    if (!written)
+        m_stage->setNotice(
+            tr("The last choice could not be taken back: %1").arg(written.error().detail));
+}
+
+void FontQuizViewController::deckChanged(const FontQuizDeck::Difference &difference,
+                                         const QString &formerFamily,
+                                         const FontQuizCardTheme &formerTheme)
+{
+    noteCurrent();
+    if (m_phase == Phase::intro)
+        return showIntro();
+    if (m_phase == Phase::done && (difference.takenBack.empty() || deck().isExhausted()))
+        return;
+    if (m_phase == Phase::done)
+        resume();
+    if (!difference.takenBack.empty())
+        m_stage->bringBack(difference.takenBack);
+    else if (difference.hasLostCurrent)
+        m_stage->fadeAway(formerFamily, formerTheme);
+    else
+        m_stage->showDeck();
+    if (!isAnimating())
+        endIfExhausted();
+}
+
+/// A choice does not hold any longer, and the game goes on.
+void FontQuizViewController::resume()
+{
+    fadeFromHere();
+    setPhase(Phase::playing);
+}
+
+void FontQuizViewController::endIfExhausted()
+{
+    if (m_phase == Phase::playing && deck().isExhausted())
+        end();
+}
+
+void FontQuizViewController::end()
+{
+    fadeFromHere();
+    if (deck().currentIndex() == 0)
+        showEmpty();
+    else
+        showPoster();
+}
+
+void FontQuizViewController::showEmpty()
+{
+    m_intro->setNumbers(0, 0);
+    m_intro->setCards({});
+    setPhase(Phase::done);
+}
+
+void FontQuizViewController::showPoster()
+{
+    if (!m_poster) {
+        m_poster = new FontQuizCompletionPosterView(this);
+        connect(m_poster, &FontQuizCompletionPosterView::doneWanted, this,
+                &FontQuizViewController::close);
+    }
+    m_poster->setContent(countsOf(deck()), m_sources.today(), userFullName());
+    m_poster->setGeometry(rect());
+    setPhase(Phase::done);
+}
+
+/// What is seen now fades into what is shown next.
+void FontQuizViewController::fadeFromHere()
+{
+    if (!isVisible() || prefersReducedMotion(this))
+        return;
+    m_timeline->drop("fade");
+    m_veil->setStrength(0);
+    m_veil->cover(grab());
+    m_timeline->run("fade", kFade, [this](double share) { m_veil->setStrength(1 - share); });
+}
+
+void FontQuizViewController::updateGround()
+{
+    m_ground->setLook({size(), m_stage->quizLayout().card.center(), devicePixelRatioF(),
+                       m_currentTheme.background, isDarkDesktop()});
+}
+
+/// The wash in the colour of the next card has been painted.
+void FontQuizViewController::bloom()
+{
+    if (prefersReducedMotion(this) || !isVisible()) {
+        m_ground->setShare(1);
+        return update();
+    }
+    m_timeline->run("bloom", kBloom, [this, last = -1](double share) mutable {
+        const int step = int(share * kBloomSteps);
+        if (std::exchange(last, step) == step)
+            return;
+        m_ground->setShare(double(step) / kBloomSteps);
+        update(m_ground->bloomRect());
+    });
+}
+
+void FontQuizViewController::placeClose()
+{
+    const QSize size = m_closeButton->sizeHint();
+    const int left = isRightToLeft() ? spacing::k24 : width() - spacing::k24 - size.width();
+    m_closeButton->setGeometry(QRect(QPoint(left, spacing::k24), size));
+}
+
+void FontQuizViewController::place()
+{
+    m_stage->setGeometry(rect());
+    m_stage->place();
+    m_intro->setGeometry(rect());
+    if (m_poster)
+        m_poster->setGeometry(rect());
+    m_timeline->finish("fade");
+    placeClose();
+    updateGround();
+}
+
+void FontQuizViewController::resizeEvent(QResizeEvent *)
+{
+    place();
+}
+
+bool FontQuizViewController::event(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange)
+        place();
+    return QWidget::event(event);
+}
+
+void FontQuizViewController::showEvent(QShowEvent *)
+{
+    place();
+    setPhase(m_phase);
+    if (m_phase == Phase::intro && !deck().isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this] { m_model.setHasSeenQuizIntro(); }, Qt::QueuedConnection);
+}
+
+void FontQuizViewController::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    m_ground->paint(painter, event->rect());
+}
+
+void FontQuizViewController::introKey(const QKeyEvent &event)
+{
+    if (isReturn(event) || event.key() == Qt::Key_Space)
+        start();
+}
+
+void FontQuizViewController::playingKey(const QKeyEvent &event)
+{
+    if (event.key() == Qt::Key_Space)
+        return skip();
+    if (event.key() == Qt::Key_Backspace)
+        return takeBack();
+    choose(typedNumber(event));
+}
+
+void FontQuizViewController::keyPressEvent(QKeyEvent *event)
+{
+    // Nothing that lies below hears of a key.
+    event->accept();
+    if (event->key() == Qt::Key_Escape)
+        return close();
+    // A key that is held down must not sort one font after the other.
+    if (event->isAutoRepeat())
+        return;
+    if (m_phase == Phase::intro)
+        introKey(*event);
+    else if (m_phase == Phase::playing)
+        playingKey(*event);
+    else if (event->key() == Qt::Key_Backspace)
+        takeBack();
+}
+
+bool FontQuizViewController::focusNextPrevChild(bool next)
+{
+    QWidget *const from = focusWidget() ? focusWidget() : this;
+    const auto step = [next](QWidget *widget) {
+        return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+    };
+    for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
+        if (isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
+            && (widget->focusPolicy() & Qt::TabFocus)) {
+            widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            break;
+        }
+    }
     return true;
 }
 

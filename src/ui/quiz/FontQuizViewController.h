@@ -4,13 +4,31 @@
 
 #include "model/LorvaAppModel.h"
 #include "ui/preview/FontResolver.h"
+#include "ui/quiz/FontQuizDeck.h"
+#include "ui/quiz/FontQuizTimeline.h"
 
+#include <QDate>
 #include <QWidget>
 
 #include <functional>
 #include <memory>
 
 namespace lorva {
+
+class FontQuizCompletionPosterView;
+class FontQuizGame;
+class FontQuizGround;
+class FontQuizIntroView;
+class FontQuizStageView;
+class FontQuizVeil;
+class TextButton;
+
+/// Where the quiz gets from what is different each time.
+struct FontQuizSources
+{
+    FontQuizDeck::Random random = FontQuizDeck::systemRandom();
+    std::function<QDate()> today = [] { return QDate::currentDate(); };
+};
 
 /// The font quiz: deals the families that have no style category yet, one card at a time; the
 /// player sorts each into one of six. It covers the window while it is open; a new one is made each
@@ -25,7 +43,7 @@ public:
 
     /// Deals the deck and shows the introduction.
     FontQuizViewController(LorvaAppModel &model, std::shared_ptr<FontResolver> resolver,
-                           QWidget *parent = nullptr);
+                           QWidget *parent = nullptr, FontQuizSources sources = {});
     ~FontQuizViewController() override;
 
     /// The player wants to leave; the quiz may be deleted when it returns to the event loop.
@@ -36,15 +54,69 @@ public:
     void start();
     /// Puts the current card onto a tile's pile, 1 … 6. Ignored while one flies, or out of play.
     void choose(int tile);
+    /// The current card goes to the end of the deck. Ignored likewise.
+    void skip();
+    /// Takes the last choice back: its family has no category again, its card comes back. Ignored
+    /// likewise.
+    void takeBack();
     /// Shows the end of the game as it is now: for a picture of the poster.
     void showPoster();
     /// What is shown has been drawn: faces have arrived, nothing flies.
     bool isSettled() const;
 
+    const FontQuizDeck &deck() const;
+    int currentIndex() const { return deck().currentIndex(); }
+    /// A card flies.
+    bool isAnimating() const;
+    const FontQuizStageView &stage() const { return *m_stage; }
+    /// All that moves; tests drive its time.
+    FontQuizTimeline &timeline() { return *m_timeline; }
+
+protected:
+    bool event(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+
 private:
+    void close();
+    void place();
+    void placeClose();
+    void setPhase(Phase phase);
+    void showIntro();
+    void showIntroCards();
+    void deckChanged(const FontQuizDeck::Difference &difference, const QString &formerFamily,
+                     const FontQuizCardTheme &formerTheme);
+    void noteCurrent();
+    void resume();
+    void endIfExhausted();
+    void end();
+    void showEmpty();
+    void fadeFromHere();
+    void updateGround();
+    void bloom();
+    bool isPlayable() const;
+    void introKey(const QKeyEvent &event);
+    void playingKey(const QKeyEvent &event);
+
     LorvaAppModel &m_model;
-    const std::shared_ptr<FontResolver> m_resolver;
+    const FontQuizSources m_sources;
     Phase m_phase = Phase::intro;
+    FontQuizTimeline *m_timeline;
+    FontQuizGame *m_game;
+    FontQuizGround *m_ground;
+    FontQuizStageView *m_stage;
+    FontQuizIntroView *m_intro;
+    /// Null until the game has ended.
+    FontQuizCompletionPosterView *m_poster = nullptr;
+    TextButton *m_closeButton;
+    /// Null unless one phase fades into another.
+    FontQuizVeil *m_veil;
+    /// The current card as it was shown last.
+    QString m_currentFamily;
+    FontQuizCardTheme m_currentTheme;
 };
 
 } // namespace lorva

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/quiz/FontQuizGame.h"
+
+#include "base/NotificationCentre.h"
+#include "model/LorvaAppModel.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+#include <array>
+
+namespace lorva {
+
+namespace {
+
+constexpr std::array kCategoryIDs{"serif", "sans", "display", "mono", "script", "decorative"};
+constexpr std::array kTileNames{
+    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Serif"),
+    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Sans-Serif"),
+    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Display"),
+    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Mono"),
+    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Script"),
+    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Decorative"),
+};
+
+QSet<QString> familyNames(const FontFamilyList &families)
+{
+    QSet<QString> names;
+    names.reserve(qsizetype(families->size()));
+    for (const FontFamilyRecord &family : *families)
+        names.insert(family.familyName);
+    return names;
+}
+
+} // namespace
+
+QString FontQuizGame::categoryID(int tile)
+{
+    return QString::fromLatin1(kCategoryIDs[size_t(tile - 1)]);
+}
+
+QString FontQuizGame::tileName(int tile)
+{
+    return QCoreApplication::translate("lorva::FontQuizCategoryView", kTileNames[size_t(tile - 1)]);
+}
+
+FontQuizGame::FontQuizGame(LorvaAppModel &model, const FontQuizDeck::Random &random,
+                           QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_deck(*model.allFamilies(), model.styleIDByFamily(), random)
+    , m_catalogGeneration(model.catalogGeneration())
+    , m_membershipGeneration(model.membershipGeneration())
+{
+    NotificationCentre::shared().observe(LorvaAppModel::changeNotification(), this,
+                                         [this](const void *sender) {
+                                             if (sender == &m_model)
+                                                 modelChanged();
+                                         });
+    connect(&m_model.undoStack(), &QUndoStack::indexChanged, this, &FontQuizGame::forgetSteps);
+}
+
+int FontQuizGame::sortedElsewhere() const
+{
+    return int(m_model.allFamilies()->size()) - m_deck.size();
+}
+
+/// Somebody else has done, undone or redone something.
+void FontQuizGame::forgetSteps()
+{
+    if (!m_isOwnChange)
+        m_undoSteps = 0;
+}
+
+Result<void> FontQuizGame::choose(int tile)
+{
+    const int indexBefore = m_model.undoStack().index();
+    {
+        const QScopedValueRollback own(m_isOwnChange, true);
+        const Result<void> written = m_model.setStyle({m_deck.currentFamily()}, categoryID(tile));
+        if (!written)
+            return written;
+    }
+    m_deck.choose(tile);
+    m_undoSteps = m_model.undoStack().index() > indexBefore ? m_undoSteps + 1 : 0;
+    // What others have written came with it.
+    modelChanged();
+    return {};
+}
+
+Result<void> FontQuizGame::takeBack()
+{
+    const auto last = m_deck.lastChoice();
+    if (!last)
+        return {};
+    if (m_undoSteps == 0)
+        return m_model.setStyle({last->familyName}, std::nullopt);
+    const int steps = m_undoSteps - 1;
+    m_model.undoStack().undo();
+    m_undoSteps = steps;
+    return {};
+}
+
+void FontQuizGame::modelChanged()
+{
+    if (m_isOwnChange)
+        return;
+    const bool hasOtherCatalog = m_catalogGeneration != m_model.catalogGeneration();
+    if (!hasOtherCatalog && m_membershipGeneration == m_model.membershipGeneration())
+        return;
+    m_catalogGeneration = m_model.catalogGeneration();
+    m_membershipGeneration = m_model.membershipGeneration();
+    const QSet<QString> present =
+        hasOtherCatalog ? familyNames(m_model.allFamilies()) : QSet<QString>();
+    const FontQuizDeck::Difference difference =
+        m_deck.reconcile(m_model.styleIDByFamily(), hasOtherCatalog ? &present : nullptr);
+    if (hasOtherCatalog && onCatalog)
+        onCatalog();
+    if (!difference.isEmpty() && onChange)
+        onChange(difference);
+}
+
+} // namespace lorva
