@@ -74,7 +74,7 @@ TEST(ReleaseVersion, RefusesWhatIsNoVersion)
           "١.٢",
           "1-β",
           "one",
-          "1.2-beta\xe2\x80\xae",
+          "1.2-beta\xe2\x80\x8b",
           "1.1111111111111111111111111111111111111111111111111111111111111111"}) {
         EXPECT_FALSE(isReleaseVersion(QString::fromUtf8(garbage))) << garbage;
         EXPECT_FALSE(compareVersions(QString::fromUtf8(garbage), u"1")) << garbage;
