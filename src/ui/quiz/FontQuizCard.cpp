@@ -4,6 +4,7 @@
 #include "ui/quiz/FontQuizCard.h"
 
 #include "catalog/RepresentativeStyle.h"
+#include "text/CharacterSet.h"
 #include "text/GlyphPainter.h"
 #include "ui/preview/PreviewText.h"
 #include "ui/quiz/FontQuizLayout.h"
@@ -35,6 +36,9 @@ constexpr double kPangramCentre = 306;
 constexpr double kNameCentre = 437;
 constexpr QSizeF kPreviewRoom{kFontQuizCardSize.width() - 2 * kMargin, 150};
 constexpr QSizeF kPangramRoom{kFontQuizCardSize.width() - 2 * kMargin, 80};
+/// Of a face of which only its own characters can be shown.
+constexpr int kPreviewLetters = 6;
+constexpr int kPangramLetters = 24;
 constexpr double kPangramAlpha = 0.86;
 constexpr double kNameAlpha = 0.6;
 constexpr int kNameSize = int(InterfaceSize::label);
@@ -51,10 +55,38 @@ bool canDraw(const Font &font, const QString &text)
     });
 }
 
+/// Characters of the face's own, letters if it has any, for faces of scripts that have no sample.
+QString ownSample(const Font &font, int count)
+{
+    std::u32string letters;
+    std::u32string others;
+    for (const CharacterRange &range : readCharacters(*font.face()).ranges()) {
+        for (char32_t scalar = range.first; scalar <= range.last; ++scalar) {
+            if (QChar::isLetter(scalar) && int(letters.size()) < count)
+                letters += scalar;
+            else if (QChar::isPrint(scalar) && !QChar::isSpace(scalar)
+                     && !QChar::isMark(scalar) && int(others.size()) < count)
+                others += scalar;
+        }
+        if (int(letters.size()) == count)
+            break;
+    }
+    return QString::fromStdU32String(letters.empty() ? others : letters);
+}
+
+QString sample(const FontQuizCard &card, const Font &font, int ownCharacters)
+{
+    const QString probe = fallbackText(font, card.primaryScript);
+    if (canDraw(font, probe))
+        return probe;
+    const QString own = ownSample(font, ownCharacters);
+    return own.isEmpty() ? probe : own;
+}
+
 QString previewText(const FontQuizCard &card, const Font &font)
 {
     const QString name = card.familyName.simplified().left(kLongestName);
-    return !name.isEmpty() && canDraw(font, name) ? name : fallbackText(font, card.primaryScript);
+    return !name.isEmpty() && canDraw(font, name) ? name : sample(card, font, kPreviewLetters);
 }
 
 QString pangramText(const FontQuizCard &card, const Font &font)
@@ -62,7 +94,7 @@ QString pangramText(const FontQuizCard &card, const Font &font)
     if (canDraw(font, kPangram))
         return kPangram;
     const QString own = defaultPangram(card.primaryScript);
-    return canDraw(font, own) ? own : fallbackText(font, card.primaryScript);
+    return canDraw(font, own) ? own : sample(card, font, kPangramLetters);
 }
 
 FontQuizCardLabel setLabel(const QString &text, const Font &font, double width)
@@ -110,13 +142,13 @@ FontQuizCardLabel pangramLabel(const QString &text, const Font &face)
     return label;
 }
 
+/// At full size.
 QImage emptyImage(const FontQuizCardLook &look)
 {
-    const double ratio = look.devicePixelRatio * look.scale;
-    const QSizeF size =
-        QSizeF(kFontQuizCardSize) + QSizeF(2 * kFontQuizShadowReach, 2 * kFontQuizShadowReach);
+    const double ratio = look.devicePixelRatio;
+    const double margins = 2 * kFontQuizShadowReach;
+    const QSizeF size = QSizeF(kFontQuizCardSize) + QSizeF(margins, margins);
     QImage image = fontQuizShadow((size * ratio).toSize(), ratio, look.isDark);
-    // Text is set in points of the card, so that a smaller card is a smaller picture of it.
     image.setDevicePixelRatio(ratio);
     return image;
 }
@@ -148,8 +180,17 @@ QImage halved(const QImage &image)
     return image.scaled(image.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-void makeCopies(FontQuizCardPicture &picture)
+/// A smaller card is a smaller picture of the card.
+void scale(QImage &image, const FontQuizCardLook &look)
 {
+    if (look.scale < 1)
+        image = image.scaled((QSizeF(image.size()) * look.scale).toSize(), Qt::IgnoreAspectRatio,
+                             Qt::SmoothTransformation);
+}
+
+void makeCopies(FontQuizCardPicture &picture, const FontQuizCardLook &look)
+{
+    scale(picture.image, look);
     picture.half = halved(picture.image);
     picture.quarter = halved(picture.half);
 }
@@ -217,7 +258,7 @@ FontQuizCardPicture paintFontQuizCard(const FontQuizCard &card, const Font &face
     paintLabel(picture.image, picture.parts.previewLabel, theme.foreground);
     paintLabel(picture.image, picture.parts.pangramLabel,
                quietColor(theme.foreground, theme.background, kPangramAlpha));
-    makeCopies(picture);
+    makeCopies(picture, look);
     return picture;
 }
 
@@ -236,7 +277,7 @@ FontQuizCardPicture paintBlankFontQuizCard(const FontQuizCardTheme &theme,
     FontQuizCardPicture picture;
     picture.image = emptyImage(look);
     paintSurface(picture.image, theme);
-    makeCopies(picture);
+    makeCopies(picture, look);
     return picture;
 }
 

@@ -20,7 +20,7 @@ namespace {
 
 /// Half axes of the wash, in points.
 constexpr QSizeF kReach{760, 520};
-constexpr double kStrength = 0.2;
+constexpr double kStrength = 0.16;
 constexpr double kDarkStrength = 0.2;
 
 double washAt(QPointF place, double strength)

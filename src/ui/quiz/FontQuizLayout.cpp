@@ -28,6 +28,8 @@ constexpr int kHintHeight = 20;
 /// Around the card, where its neighbours show.
 constexpr int kPeekRoom = 24;
 constexpr double kLeastCardScale = 0.2;
+/// Of the room that a card leaves.
+constexpr double kSlackAbove = 0.12;
 /// The card within a tile.
 constexpr double kPileShare = 0.55;
 constexpr double kPileLift = 0.15;
@@ -78,7 +80,7 @@ void placeCard(FontQuizLayout &layout, QSize window)
     const QSizeF size = QSizeF(kFontQuizCardSize) * layout.cardScale;
     const double slack = std::max(0.0, bottom - top - size.height());
     const QPointF corner(std::round((window.width() - size.width()) / 2),
-                         std::round(top + slack * 0.25));
+                         std::round(top + slack * kSlackAbove));
     layout.card = QRectF(corner, size);
     const int below = int(std::ceil(layout.card.bottom()));
     const int gap = layout.tiles[0].top() - below;
