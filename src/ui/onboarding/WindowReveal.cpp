@@ -51,12 +51,6 @@ private:
     double m_scale = 1.0;
 };
 
-/// Wayland knows no transparent windows, and the toolkit would say so at every start.
-bool canFadeWindows()
-{
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 QEasingCurve easeOut()
 {
     QEasingCurve curve(QEasingCurve::BezierSpline);
@@ -104,6 +98,12 @@ void springUp(QWidget &window, QWidget &content)
 }
 
 } // namespace
+
+bool canFadeWindows()
+{
+    // It knows no transparent windows, and the toolkit would say so at every start.
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
 
 void concealWindow(QWidget &window)
 {

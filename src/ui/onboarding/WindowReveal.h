@@ -9,6 +9,8 @@ namespace lorva {
 // How the main window appears after the welcome. On Wayland, where a program cannot make its window
 // transparent, only the content moves. Thread: main.
 
+/// False where windows can be neither transparent nor placed.
+bool canFadeWindows();
 /// The window is there, but cannot be seen.
 void concealWindow(QWidget &window);
 /// It can be seen at once.
