@@ -35,7 +35,7 @@ public:
     QWidget *overlay() override;
     /// After show(): the letters lie still, all of them, whatever the desktop says about motion,
     /// and the card is there or not. Takes seconds.
-    void settleForPicture(bool showsCard);
+    void settleForPicture(bool showsCard) override;
 
 private:
     std::unique_ptr<LetterFall> makeFall(QSize size) const;
