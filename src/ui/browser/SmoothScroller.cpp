@@ -6,6 +6,7 @@
 #include "ui/style/ReducedMotion.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -18,6 +19,8 @@ namespace {
 
 /// What a wheel reports for one notch, in eighths of a degree.
 constexpr int kNotchAngle = 120;
+/// For an arrow key, in single steps of the bar.
+constexpr int kStepsOfArrow = 3;
 
 /// X11 hands on what the device counts, in units of its own.
 bool hasPointsOf(const QWheelEvent &event)
@@ -63,6 +66,37 @@ void SmoothScroller::moveBy(double distance)
     const double whole = std::trunc(m_rest);
     m_rest -= whole;
     m_bar->setValue(m_bar->value() + int(whole));
+}
+
+bool SmoothScroller::key(const QKeyEvent &event)
+{
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const bool turnsBack = event.key() == Qt::Key_Space && modifiers == Qt::ShiftModifier;
+    if (modifiers != Qt::NoModifier && !turnsBack)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Up:
+        glideBy(-m_bar->singleStep() * kStepsOfArrow);
+        return true;
+    case Qt::Key_Down:
+        glideBy(m_bar->singleStep() * kStepsOfArrow);
+        return true;
+    case Qt::Key_PageUp:
+        glideBy(-m_bar->pageStep());
+        return true;
+    case Qt::Key_PageDown:
+    case Qt::Key_Space:
+        glideBy(turnsBack ? -m_bar->pageStep() : m_bar->pageStep());
+        return true;
+    case Qt::Key_Home:
+        glideTo(m_bar->minimum());
+        return true;
+    case Qt::Key_End:
+        glideTo(m_bar->maximum());
+        return true;
+    default:
+        return false;
+    }
 }
 
 void SmoothScroller::step(const QVariant &value)

@@ -4,6 +4,7 @@
 
 #include <QVariantAnimation>
 
+class QKeyEvent;
 class QScrollBar;
 class QWheelEvent;
 
@@ -29,6 +30,9 @@ public:
     /// A notch of a wheel glides by `notchDistance`; a finger on a touchpad moves the content
     /// exactly as far as it moves.
     void wheel(const QWheelEvent &event, double notchDistance);
+    /// The keys that scroll a page: arrows, Page Up and Down, Space, Home and End. False: it is
+    /// another one.
+    bool key(const QKeyEvent &event);
 
 private:
     void step(const QVariant &value);

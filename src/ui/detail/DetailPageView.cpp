@@ -158,36 +158,8 @@ bool DetailPageView::viewportEvent(QEvent *event)
 
 void DetailPageView::keyPressEvent(QKeyEvent *event)
 {
-    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    const bool turnsBack = event->key() == Qt::Key_Space && modifiers == Qt::ShiftModifier;
-    if (modifiers != Qt::NoModifier && !turnsBack) {
+    if (!m_scroller->key(*event))
         event->ignore();
-        return;
-    }
-    QScrollBar *bar = verticalScrollBar();
-    switch (event->key()) {
-    case Qt::Key_Up:
-        m_scroller->glideBy(-bar->singleStep() * 3);
-        break;
-    case Qt::Key_Down:
-        m_scroller->glideBy(bar->singleStep() * 3);
-        break;
-    case Qt::Key_PageUp:
-        m_scroller->glideBy(-bar->pageStep());
-        break;
-    case Qt::Key_PageDown:
-    case Qt::Key_Space:
-        m_scroller->glideBy(turnsBack ? -bar->pageStep() : bar->pageStep());
-        break;
-    case Qt::Key_Home:
-        m_scroller->glideTo(bar->minimum());
-        break;
-    case Qt::Key_End:
-        m_scroller->glideTo(bar->maximum());
-        break;
-    default:
-        event->ignore();
-    }
 }
 
 } // namespace lorva

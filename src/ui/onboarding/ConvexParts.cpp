@@ -107,8 +107,7 @@ QPolygonF withFewerCorners(QPolygonF hull)
         qsizetype least = 0;
         double leastLoss = std::numeric_limits<double>::infinity();
         for (qsizetype i = 0; i < count; ++i) {
-            const double loss =
-                turn(hull[(i + count - 1) % count], hull[i], hull[(i + 1) % count]);
+            const double loss = turn(hull[(i + count - 1) % count], hull[i], hull[(i + 1) % count]);
             if (loss < leastLoss) {
                 leastLoss = loss;
                 least = i;

@@ -106,8 +106,7 @@ LetterFall::LetterFall(std::unique_ptr<LetterSupply> supply, QSize size)
 
 double LetterFall::pointSize(int number) const
 {
-    return m_scale
-        * (kSmallest + (kLargest - kSmallest) * std::pow(spread(number, kPlastic), 1.5));
+    return m_scale * (kSmallest + (kLargest - kSmallest) * std::pow(spread(number, kPlastic), 1.5));
 }
 
 void LetterFall::resize(QSize size)

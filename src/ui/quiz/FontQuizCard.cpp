@@ -64,8 +64,8 @@ QString ownSample(const Font &font, int count)
         for (char32_t scalar = range.first; scalar <= range.last; ++scalar) {
             if (QChar::isLetter(scalar) && int(letters.size()) < count)
                 letters += scalar;
-            else if (QChar::isPrint(scalar) && !QChar::isSpace(scalar)
-                     && !QChar::isMark(scalar) && int(others.size()) < count)
+            else if (QChar::isPrint(scalar) && !QChar::isSpace(scalar) && !QChar::isMark(scalar)
+                     && int(others.size()) < count)
                 others += scalar;
         }
         if (int(letters.size()) == count)
