@@ -10,7 +10,6 @@
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
@@ -25,12 +24,11 @@ constexpr int kTitleTop = spacing::k8;
 constexpr int kTitleHeight = 28;
 constexpr int kMostLines = 4;
 
-QLabel *makeLabel(const char *name, QFont font, QWidget *parent)
+SheetText *makeLabel(const char *name, const QFont &font, double alpha, QWidget *parent)
 {
-    auto *label = new QLabel(parent);
+    auto *label = new SheetText(QString(), font, alpha, parent);
     label->setObjectName(QString::fromLatin1(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(font);
+    label->setMaximumLineCount(1);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     return label;
 }
@@ -41,26 +39,22 @@ DiscoverFoundryItem::DiscoverFoundryItem(QWidget *parent)
     : QWidget(parent)
     , m_imageContainer(new QWidget(this))
     , m_artworkView(new DiscoverArtworkView(m_imageContainer))
-    , m_placeholderLabel(
-          makeLabel("placeholderLabel", interfaceFont(InterfaceSize::heading), m_imageContainer))
-    , m_titleLabel(makeLabel("titleLabel",
-                             interfaceFont(InterfaceSize::title, InterfaceWeight::semibold), this))
+    , m_placeholderLabel(makeLabel("placeholderLabel", interfaceFont(InterfaceSize::heading),
+                                   kQuietAlpha, m_imageContainer))
+    , m_titleLabel(makeLabel(
+          "titleLabel", interfaceFont(InterfaceSize::title, InterfaceWeight::semibold), 1, this))
     , m_subtitleLabel(
-          new SheetText(QString(), interfaceFont(InterfaceSize::body), kQuietAlpha, this))
+          makeLabel("subtitleLabel", interfaceFont(InterfaceSize::body), kQuietAlpha, this))
     , m_linkButton(new DiscoverLinkButton(this))
 {
     m_imageContainer->setObjectName(QStringLiteral("imageContainer"));
     m_imageContainer->setCursor(Qt::PointingHandCursor);
     m_artworkView->setObjectName(QStringLiteral("artworkView"));
     m_artworkView->hide();
-    m_placeholderLabel->setAlignment(Qt::AlignCenter);
-    m_placeholderLabel->setWordWrap(true);
     m_placeholderLabel->hide();
-    m_subtitleLabel->setObjectName(QStringLiteral("subtitleLabel"));
     m_subtitleLabel->setMaximumLineCount(kMostLines);
     m_linkButton->setObjectName(QStringLiteral("linkButton"));
     connect(m_linkButton, &QAbstractButton::clicked, this, &DiscoverFoundryItem::open);
-    applyColors();
 }
 
 void DiscoverFoundryItem::setFoundry(const DiscoverFoundry &foundry)
@@ -110,26 +104,16 @@ void DiscoverFoundryItem::layOut()
     place(m_imageContainer, {0, 0, width(), artwork});
     m_artworkView->setGeometry(m_imageContainer->rect());
     m_placeholderLabel->setGeometry(m_imageContainer->rect().adjusted(
-        spacing::k24, spacing::k24, -spacing::k24, -spacing::k24));
+        spacing::k24, spacing::k20, -spacing::k24, -spacing::k20));
     const int title = artwork + kTitleTop;
     const int link = m_linkButton->sizeHint().width();
-    place(m_titleLabel, {0, title, std::max(width() - link - spacing::k12, 0), kTitleHeight});
+    const int titleWidth = std::max(width() - link - spacing::k12, 1);
+    const int titleHeight = m_titleLabel->heightForWidth(titleWidth);
+    place(m_titleLabel, {0, title + (kTitleHeight - titleHeight) / 2, titleWidth, titleHeight});
     // Its word ends where the picture does.
     place(m_linkButton, {width() - link + spacing::k12, title, link, kTitleHeight});
     const int subtitle = title + kTitleHeight + spacing::k2;
     place(m_subtitleLabel, {0, subtitle, width(), std::max(height() - subtitle, 0)});
-}
-
-void DiscoverFoundryItem::applyColors()
-{
-    const NeutralColors neutral = neutralColors(isDarkDesktop());
-    const auto color = [](QWidget *label, const QColor &ink) {
-        QPalette palette = label->palette();
-        palette.setColor(QPalette::WindowText, ink);
-        label->setPalette(palette);
-    };
-    color(m_titleLabel, neutral.text);
-    color(m_placeholderLabel, quietColor(neutral.text, neutral.ground, kQuietAlpha));
 }
 
 void DiscoverFoundryItem::open()
@@ -166,9 +150,7 @@ void DiscoverFoundryItem::mouseReleaseEvent(QMouseEvent *event)
 
 void DiscoverFoundryItem::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
-        applyColors();
-    else if (event->type() == QEvent::LayoutDirectionChange)
+    if (event->type() == QEvent::LayoutDirectionChange)
         layOut();
     QWidget::changeEvent(event);
 }

@@ -10,8 +10,6 @@
 #include <functional>
 #include <optional>
 
-class QLabel;
-
 namespace lorva {
 
 class DiscoverArtworkView;
@@ -46,15 +44,14 @@ protected:
 private:
     void layOut();
     void showArtwork(const QImage &image);
-    void applyColors();
     void open();
 
     std::optional<DiscoverFoundry> m_foundry;
     QWidget *m_imageContainer;
     DiscoverArtworkView *m_artworkView;
     /// Stands in where there is no artwork.
-    QLabel *m_placeholderLabel;
-    QLabel *m_titleLabel;
+    SheetText *m_placeholderLabel;
+    SheetText *m_titleLabel;
     SheetText *m_subtitleLabel;
     DiscoverLinkButton *m_linkButton;
     /// What was asked for last.
