@@ -38,9 +38,9 @@ void FallingLettersOnboarding::show(QWidget &mainWindow, const WelcomeText &text
                                     std::function<void(End)> ended)
 {
     using Placement = OnboardingOverlay::Placement;
-    m_overlay = new OnboardingOverlay(mainWindow,
-                                      canFadeWindows() ? Placement::window : Placement::inside,
-                                      text, m_clock, std::move(ended));
+    m_overlay =
+        new OnboardingOverlay(mainWindow, canFadeWindows() ? Placement::window : Placement::inside,
+                              text, m_clock, std::move(ended));
     m_overlay->begin(prefersReducedMotion(&mainWindow) ? nullptr : makeFall(mainWindow.size()));
 }
 

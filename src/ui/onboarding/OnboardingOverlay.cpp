@@ -51,9 +51,12 @@ double easedOut(double share)
 
 bool isModifier(int key)
 {
-    constexpr int keys[]{Qt::Key_Shift,   Qt::Key_Control,  Qt::Key_Alt,     Qt::Key_Meta,
-                         Qt::Key_AltGr,   Qt::Key_CapsLock, Qt::Key_NumLock, Qt::Key_ScrollLock,
-                         Qt::Key_Super_L, Qt::Key_Super_R,  Qt::Key_Hyper_L, Qt::Key_Hyper_R,
+    constexpr int keys[]{Qt::Key_Shift,   Qt::Key_Control,
+                         Qt::Key_Alt,     Qt::Key_Meta,
+                         Qt::Key_AltGr,   Qt::Key_CapsLock,
+                         Qt::Key_NumLock, Qt::Key_ScrollLock,
+                         Qt::Key_Super_L, Qt::Key_Super_R,
+                         Qt::Key_Hyper_L, Qt::Key_Hyper_R,
                          Qt::Key_unknown, 0};
     return std::ranges::find(keys, key) != std::end(keys);
 }
