@@ -67,7 +67,8 @@ Rings ringsOf(const QPainterPath &outline)
     Rings rings;
     for (const QPolygonF &polygon : outline.toSubpathPolygons()) {
         QPolygonF ring = turnedPositive(withoutRepeats(polygon, 1e-6));
-        if (ring.size() >= 3 && std::abs(signedArea(ring)) >= kLeastArea)
+        // Loops of opposite direction may cancel each other out.
+        if (ring.size() >= 3 && signedArea(convexHull(ring)) >= kLeastArea)
             rings.push_back(std::move(ring));
     }
     std::ranges::sort(rings, std::greater(), signedArea);
