@@ -7,6 +7,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <iterator>
+#include <limits>
+#include <numeric>
 #include <optional>
 
 namespace lorva {
@@ -15,13 +19,17 @@ namespace {
 
 constexpr int kMaximumElements = 3000;
 constexpr int kMaximumRings = 64;
-constexpr qsizetype kMaximumCorners = 96;
+constexpr qsizetype kMaximumCorners = 140;
+/// Letters of more pieces, which are ideographs mostly, would catch others between them.
+constexpr size_t kMostIslands = 3;
 /// Crossings are looked for in time that grows with the square.
 constexpr qsizetype kMaximumCrossingPoints = 400;
 constexpr double kFirstTolerance = 0.7;
 constexpr int kCoarsenings = 3;
 /// In square points: smaller parts hold nothing up, and the physics takes them for lines.
 constexpr double kLeastArea = 1;
+/// Of the largest contour, which the union of all cannot be smaller than.
+constexpr double kLeastUnion = 0.9;
 /// Corners nearer than this are one for the physics, which counts in larger units.
 constexpr double kNearestCorners = 0.5;
 
@@ -59,7 +67,8 @@ Rings ringsOf(const QPainterPath &outline)
     Rings rings;
     for (const QPolygonF &polygon : outline.toSubpathPolygons()) {
         QPolygonF ring = turnedPositive(withoutRepeats(polygon, 1e-6));
-        if (ring.size() >= 3 && std::abs(signedArea(ring)) >= kLeastArea)
+        // Loops of opposite direction may cancel each other out.
+        if (ring.size() >= 3 && signedArea(convexHull(ring)) >= kLeastArea)
             rings.push_back(std::move(ring));
     }
     std::ranges::sort(rings, std::greater(), signedArea);
@@ -90,8 +99,8 @@ Rings withoutInner(const Rings &rings)
 std::optional<QPolygonF> simpleRing(const QPolygonF &ring, double tolerance)
 {
     // Thinning may let a thin stroke cross itself; a finer one does not.
-    for (const double finer : {1.0, 0.5, 0.2}) {
-        QPolygonF thinned = thinnedRing(ring, tolerance * finer);
+    for (const double factor : {1.0, 0.5, 0.2, 2.0}) {
+        QPolygonF thinned = thinnedRing(ring, tolerance * factor);
         if (thinned.size() <= kMaximumCorners && isSimpleRing(thinned))
             return thinned;
     }
@@ -136,18 +145,35 @@ void appendParts(std::vector<QPolygonF> &parts, const QPolygonF &ring, double to
         appendSound(parts, polygon);
 }
 
-/// A contour that crosses itself as contours that do not: scripts are drawn in loops.
-Rings untangled(const QPolygonF &ring)
+double areaOf(const Rings &rings)
 {
-    const QPolygonF thinned = thinnedRing(ring, kFirstTolerance / 2);
-    if (thinned.size() > kMaximumCrossingPoints || isSimpleRing(thinned))
-        return {ring};
+    return std::accumulate(rings.begin(), rings.end(), 0.0, [](double sum, const QPolygonF &ring) {
+        return sum + signedArea(ring);
+    });
+}
+
+/// Contours that overlap, or cross themselves, as contours that do not: variable fonts and scripts
+/// are drawn like that. As they are where there are too many points to look for crossings.
+Rings united(const Rings &rings)
+{
+    Rings thinned;
+    qsizetype points = 0;
+    for (const QPolygonF &ring : rings) {
+        thinned.push_back(thinnedRing(ring, kFirstTolerance / 2));
+        points += thinned.back().size();
+    }
+    const bool isSeparate = rings.size() == 1 && isSimpleRing(thinned.front());
+    if (isSeparate || rings.empty() || points > kMaximumCrossingPoints)
+        return rings;
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    path.addPolygon(thinned);
-    path.closeSubpath();
-    Rings parts = withoutInner(ringsOf(path.simplified()));
-    return parts.empty() ? Rings{ring} : parts;
+    for (const QPolygonF &ring : thinned) {
+        path.addPolygon(ring);
+        path.closeSubpath();
+    }
+    Rings whole = withoutInner(ringsOf(path.simplified()));
+    // Rounding may have lost some of it.
+    return areaOf(whole) < kLeastUnion * signedArea(rings.front()) ? rings : whole;
 }
 
 std::vector<QPolygonF> partsOf(const Rings &rings, double tolerance)
@@ -166,15 +192,28 @@ std::vector<QPolygonF> hullsOf(const Rings &rings)
     return hulls;
 }
 
-/// All points without looking at the order that they come in.
+std::vector<QPolygonF> hullOf(const QPolygonF &points)
+{
+    std::vector<QPolygonF> parts;
+    appendSound(parts, points);
+    return parts;
+}
+
+/// Without looking at the order that the points come in.
 std::vector<QPolygonF> wholeHull(const QPainterPath &outline)
 {
     QPolygonF points;
     for (int i = 0; i < outline.elementCount(); ++i)
         points.append(QPointF(outline.elementAt(i)));
-    std::vector<QPolygonF> parts;
-    appendSound(parts, points);
-    return parts;
+    return hullOf(points);
+}
+
+std::vector<QPolygonF> jointHull(const Rings &rings)
+{
+    QPolygonF points;
+    for (const QPolygonF &ring : rings)
+        points += ring;
+    return hullOf(points);
 }
 
 } // namespace
@@ -185,9 +224,9 @@ std::vector<QPolygonF> convexParts(const QPainterPath &outline)
         return {};
     if (outline.elementCount() > kMaximumElements)
         return wholeHull(outline);
-    Rings rings;
-    for (const QPolygonF &ring : withoutInner(ringsOf(outline)))
-        std::ranges::move(untangled(ring), std::back_inserter(rings));
+    const Rings rings = united(withoutInner(ringsOf(outline)));
+    if (rings.size() > kMostIslands)
+        return jointHull(rings);
     double tolerance = kFirstTolerance;
     for (int i = 0; i < kCoarsenings; ++i, tolerance *= 2)
         if (std::vector<QPolygonF> parts = partsOf(rings, tolerance); parts.size() <= kMaximumParts)

@@ -19,8 +19,8 @@ constexpr int kMaximumParts = 40;
 /// at most kMaximumParts of them.
 ///
 /// Counters are filled: nothing from outside can ever lie in one. Curves are followed to about a
-/// point. An outline that crosses itself, or has more points than any letter, gives the hull of
-/// what it has; one without any area gives nothing.
+/// point. An outline of many pieces, or of more points than any letter, gives the hull of what it
+/// has; one without any area gives nothing.
 ///
 /// Thread: any. Work is bounded: at most some milliseconds. Units: points; what lies farther than
 /// kFarthestPart from the origin gives nothing.

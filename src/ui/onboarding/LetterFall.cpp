@@ -106,7 +106,7 @@ LetterFall::LetterFall(std::unique_ptr<LetterSupply> supply, QSize size)
 
 double LetterFall::pointSize(int number) const
 {
-    return m_scale * (kSmallest + (kLargest - kSmallest) * std::pow(spread(number, kPlastic), 1.5));
+    return m_scale * (kSmallest + (kLargest - kSmallest) * std::pow(spread(number, kPlastic), 1.2));
 }
 
 void LetterFall::resize(QSize size)
@@ -141,6 +141,21 @@ void LetterFall::letIn(nanoseconds time)
         m_supply.reset();
 }
 
+/// There or further up, where no other letter is on its way: two that begin in each other never
+/// come apart.
+QPointF LetterFall::freePlace(QPointF at, double reach) const
+{
+    for (int i = 0; i < count(); ++i) {
+        const QRectF box(at - QPointF(reach, reach), 2 * QSizeF(reach, reach));
+        const QRectF other = m_scene.bounds(i);
+        if (!other.intersects(box))
+            continue;
+        at.setY(other.top() - reach * 1.05);
+        i = -1;
+    }
+    return at;
+}
+
 void LetterFall::drop(FallingLetter letter)
 {
     const int number = count();
@@ -148,10 +163,10 @@ void LetterFall::drop(FallingLetter letter)
         m_firstLetter = m_now;
     const double reach = reachOf(letter.outline);
     const double free = std::max(0.0, m_size.width() - 2 * reach);
-    const QPointF at(reach + free * spread(number, kGolden), -reach * 1.05);
-    const LetterScene::Entry entry{at,
+    const double x = reach + free * spread(number, kGolden);
+    const LetterScene::Entry entry{freePlace({x, -reach * 1.05}, reach),
                                    1.4 * (spread(number, kSilver) - 0.5),
-                                   {60 * (spread(number, kPlastic) - 0.5), 260},
+                                   {60 * (spread(number, kPlastic) - 0.5), 420},
                                    3.2 * (spread(number, kGolden + kSilver) - 0.5)};
     m_scene.add(letter.parts, entry);
     const int color = kColorOrder[size_t(number) % kColorOrder.size()];

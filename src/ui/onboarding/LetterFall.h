@@ -63,6 +63,7 @@ private:
     double pointSize(int number) const;
     QRect rectOf(const QTransform &transform, const Letter &letter) const;
     void letIn(std::chrono::nanoseconds time);
+    QPointF freePlace(QPointF at, double reach) const;
     void drop(FallingLetter letter);
     std::chrono::nanoseconds interval() const;
 

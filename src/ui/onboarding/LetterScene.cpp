@@ -31,9 +31,10 @@ constexpr float kFriction = 0.55F;
 constexpr float kRestitution = 0.08F;
 /// Piles of hooked shapes tremble for long: after a while they move as through honey, and then are
 /// held where they are.
-constexpr double kCalmAfterSeconds = 1.6;
-constexpr double kHoldAfterSeconds = 4.5;
+constexpr double kCalmAfterSeconds = 1.0;
+constexpr double kHoldAfterSeconds = 2.2;
 constexpr float kCalmDamping = 5;
+constexpr float kBulletSpeed = 8;
 constexpr float kStillSpeed = 0.12F;
 constexpr float kStillSpin = 0.12F;
 constexpr int kMostSettlingSteps = 120 * 20;
@@ -130,8 +131,12 @@ struct LetterScene::Private
 
     void step()
     {
-        for (Letter &letter : letters)
+        for (Letter &letter : letters) {
             letter.before = poseOf(*letter.body);
+            // Thin strokes would pass through each other between two steps; the exact way costs
+            // too much in a pile.
+            letter.body->SetBullet(letter.body->GetLinearVelocity().Length() > kBulletSpeed);
+        }
         world.Step(kStepSeconds, 8, 3);
         secondsSinceChange += double(kStepSeconds);
         calmDown();
@@ -155,7 +160,7 @@ struct LetterScene::Private
 
     bool isNearlyStill() const
     {
-        return secondsSinceChange >= 2 * kHoldAfterSeconds
+        return secondsSinceChange >= 1.5 * kHoldAfterSeconds
             || std::ranges::all_of(letters,
                                    [](const Letter &letter) { return isStill(*letter.body); });
     }

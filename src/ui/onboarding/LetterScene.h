@@ -27,7 +27,7 @@ public:
     {
         QPointF position;
         double angle = 0;
-        QPointF velocityPerSecond;
+        QPointF velocityPerSecond = {};
         double spinPerSecond = 0;
     };
 

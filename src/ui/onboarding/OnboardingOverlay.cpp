@@ -119,7 +119,6 @@ void OnboardingOverlay::buildCard(const WelcomeText &text)
     m_card->setAccessibleDescription(text.body);
     m_button = new TextButton(text.button, TextButton::Kind::prominent);
     m_button->setObjectName(QStringLiteral("WelcomeContinue"));
-    m_button->setDefault(true);
     connect(m_button, &QPushButton::clicked, this, [this] { end(End::continued); });
     m_card->footer().addButton(m_button);
     m_card->hide();
@@ -291,6 +290,11 @@ bool OnboardingOverlay::event(QEvent *event)
     // No shortcut of the window acts meanwhile.
     if (event->type() == QEvent::ShortcutOverride) {
         event->accept();
+        return true;
+    }
+    // Tab would only move the focus.
+    if (event->type() == QEvent::KeyPress && m_phase == Phase::scene) {
+        keyPressEvent(static_cast<QKeyEvent *>(event));
         return true;
     }
     return QWidget::event(event);
