@@ -60,12 +60,13 @@ QString ownSample(const Font &font, int count)
 {
     std::u32string letters;
     std::u32string others;
-    for (const CharacterRange &range : readCharacters(*font.face()).ranges()) {
+    const CharacterSet characters = readCharacters(*font.face());
+    for (const CharacterRange &range : characters.ranges()) {
         for (char32_t scalar = range.first; scalar <= range.last; ++scalar) {
             if (QChar::isLetter(scalar) && int(letters.size()) < count)
                 letters += scalar;
-            else if (QChar::isPrint(scalar) && !QChar::isSpace(scalar)
-                     && !QChar::isMark(scalar) && int(others.size()) < count)
+            else if (QChar::isPrint(scalar) && !QChar::isSpace(scalar) && !QChar::isMark(scalar)
+                     && int(others.size()) < count)
                 others += scalar;
         }
         if (int(letters.size()) == count)

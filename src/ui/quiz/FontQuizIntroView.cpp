@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace lorva {
 
@@ -30,7 +31,7 @@ constexpr QSize kButton{128, 32};
 constexpr std::array kFan{0, -1, 1, -2, 2};
 constexpr double kFanStep = 104;
 constexpr double kFanDegrees = 8;
-constexpr double kFanDrop = 9;
+constexpr double kFanDrop = 26;
 
 QFont titleFont()
 {
@@ -141,7 +142,8 @@ void FontQuizIntroView::paintFan(QPainter &painter, const FontQuizPose &middle) 
         FontQuizShownCard card = m_cards[i];
         card.pose = middle;
         const double grown = middle.scale / kFanScale;
-        card.pose.centre += QPointF(step * kFanStep * grown, (step * step) * kFanDrop * grown);
+        card.pose.centre +=
+            QPointF(step * kFanStep * grown, std::pow(std::abs(step), 1.6) * kFanDrop * grown);
         card.pose.degrees = step * kFanDegrees;
         drawFontQuizCard(painter, card);
     }
@@ -154,6 +156,8 @@ void FontQuizIntroView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (!m_isEmpty)
         paintFan(painter, where.fan);
+    // The sentences may be of another direction than the window.
+    painter.setLayoutDirection(m_sentence.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.setPen(colors.text);
     painter.setFont(titleFont());
     painter.drawText(

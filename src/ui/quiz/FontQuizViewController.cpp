@@ -26,7 +26,7 @@ namespace {
 constexpr std::chrono::milliseconds kFade{320};
 constexpr std::chrono::milliseconds kBloom{600};
 /// The wash is so faint that its steps cannot be seen; each repaints half of the window.
-constexpr int kBloomSteps = 12;
+constexpr int kBloomSteps = 8;
 
 FontQuizCounts countsOf(const FontQuizDeck &deck)
 {
@@ -127,7 +127,7 @@ void FontQuizViewController::showIntro()
 void FontQuizViewController::showIntroCards()
 {
     if (m_phase == Phase::intro)
-        m_intro->setCards(m_stage->cardView().cards());
+        m_intro->setCards(m_stage->firstCards());
 }
 
 void FontQuizViewController::setPhase(Phase phase)
