@@ -28,7 +28,7 @@ constexpr double kPangramSize = 25;
 /// Smaller, and the pangram wraps instead.
 constexpr double kLeastPangramSize = 17;
 constexpr double kWrappedPangramSize = 21;
-constexpr double kLeastSize = 4;
+constexpr double kLeastSize = 1;
 constexpr double kMargin = 64;
 /// Where the texts have their centres, from the top of the card.
 constexpr double kPreviewCentre = 196;

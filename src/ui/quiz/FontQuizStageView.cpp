@@ -336,8 +336,8 @@ void FontQuizStageView::paintEvent(QPaintEvent *)
         line(m_layout.progress,
              interfaceFont(InterfaceSize::body, InterfaceWeight::regular, Figures::tabular),
              kProgressAlpha,
-             tr("%1 of %2").arg(groupedNumber(m_deck.currentIndex() + 1),
-                                groupedNumber(m_deck.size())));
+             tr("%1 of %2")
+                 .arg(groupedNumber(m_deck.currentIndex() + 1), groupedNumber(m_deck.size())));
     if (!m_layout.hint.isEmpty())
         line(m_layout.hint, interfaceFont(InterfaceSize::caption), kHintAlpha,
              tr("Space skips a card. Backspace takes the last one back."));

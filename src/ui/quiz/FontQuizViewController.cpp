@@ -67,7 +67,7 @@ FontQuizViewController::FontQuizViewController(LorvaAppModel &model,
     setObjectName(QStringLiteral("FontQuizViewController"));
     setAccessibleName(tr("Font Quiz"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::ClickFocus);
     m_closeButton->setObjectName(QStringLiteral("FontQuizViewController.Close"));
     m_closeButton->setFocusPolicy(Qt::TabFocus);
     connect(m_closeButton, &QPushButton::clicked, this, &FontQuizViewController::close);
