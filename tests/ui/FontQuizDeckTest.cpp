@@ -11,7 +11,6 @@
 namespace lorva {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::UnorderedElementsAreArray;
 

@@ -100,7 +100,7 @@ void FontQuizGround::setLook(const Look &look)
     m_look = look;
     m_painting.cancel();
     m_painting = runThen(
-        m_pool, this, [look](std::stop_token stop) { return paintGround(look, stop); },
+        m_pool, this, [look](const std::stop_token &stop) { return paintGround(look, stop); },
         [this, look](const QImage &image) { accept(look, image); });
 }
 

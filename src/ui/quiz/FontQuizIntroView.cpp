@@ -25,6 +25,8 @@ namespace {
 constexpr int kTitleSize = 34;
 constexpr int kColumn = 460;
 constexpr double kFanScale = 0.4;
+/// What the fan takes, to the height of one card.
+constexpr double kFanHeight = 1.5;
 constexpr double kSentenceAlpha = 0.7;
 constexpr QSize kButton{128, 32};
 /// How the cards of the fan lie: steps from its middle.
@@ -110,12 +112,12 @@ FontQuizIntroView::Places FontQuizIntroView::places() const
     const int titleHeight = m_isEmpty ? 0 : QFontMetrics(titleFont()).height();
     const int below = titleHeight + spacing::k16 + textHeight + spacing::k32 + kButton.height();
     const double scale =
-        std::clamp((height() - below - 160.0) / (kFontQuizCardSize.height() * 1.35), 0.12,
+        std::clamp((height() - below - 160.0) / (kFontQuizCardSize.height() * kFanHeight), 0.12,
                    std::min(kFanScale, width() / 1900.0));
-    const int fan = m_isEmpty ? 0 : int(kFontQuizCardSize.height() * scale * 1.35);
+    const int fan = m_isEmpty ? 0 : int(kFontQuizCardSize.height() * scale * kFanHeight);
     const int gap = m_isEmpty ? 0 : spacing::k40;
     int y = (height() - fan - gap - below) / 2;
-    out.fan = {QPointF(width() / 2.0, y + fan * 0.42), scale};
+    out.fan = {QPointF(width() / 2.0, y + fan * 0.36), scale};
     y += fan + gap;
     out.title = QRect(spacing::k24, y, width() - 2 * spacing::k24, titleHeight);
     y += titleHeight + spacing::k16;
@@ -143,7 +145,7 @@ void FontQuizIntroView::paintFan(QPainter &painter, const FontQuizPose &middle) 
         card.pose = middle;
         const double grown = middle.scale / kFanScale;
         card.pose.centre +=
-            QPointF(step * kFanStep * grown, std::pow(std::abs(step), 1.6) * kFanDrop * grown);
+            QPointF(step * kFanStep * grown, std::pow(std::abs(step), 1.3) * kFanDrop * grown);
         card.pose.degrees = step * kFanDegrees;
         drawFontQuizCard(painter, card);
     }

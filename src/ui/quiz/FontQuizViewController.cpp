@@ -100,7 +100,7 @@ bool FontQuizViewController::isSettled() const
     return !m_timeline->isRunning() && m_ground->isComplete() && m_stage->pictures().isComplete();
 }
 
-void FontQuizViewController::close()
+void FontQuizViewController::close() const
 {
     if (onClose)
         onClose();
