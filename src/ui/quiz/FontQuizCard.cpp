@@ -28,7 +28,7 @@ constexpr double kPangramSize = 25;
 /// Smaller, and the pangram wraps instead.
 constexpr double kLeastPangramSize = 17;
 constexpr double kWrappedPangramSize = 21;
-constexpr double kLeastSize = 4;
+constexpr double kLeastSize = 1;
 constexpr double kMargin = 64;
 /// Where the texts have their centres, from the top of the card.
 constexpr double kPreviewCentre = 196;
@@ -60,7 +60,8 @@ QString ownSample(const Font &font, int count)
 {
     std::u32string letters;
     std::u32string others;
-    for (const CharacterRange &range : readCharacters(*font.face()).ranges()) {
+    const CharacterSet characters = readCharacters(*font.face());
+    for (const CharacterRange &range : characters.ranges()) {
         for (char32_t scalar = range.first; scalar <= range.last; ++scalar) {
             if (QChar::isLetter(scalar) && int(letters.size()) < count)
                 letters += scalar;

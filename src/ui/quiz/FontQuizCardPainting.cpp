@@ -86,15 +86,18 @@ QRect fontQuizCardRegion(const FontQuizPose &pose)
     return pose.bounds(kFontQuizShadowReach).toAlignedRect().adjusted(-2, -2, 2, 2);
 }
 
-void drawFontQuizCards(QPainter &painter, const std::vector<FontQuizShownCard> &nearestFirst)
+void drawFontQuizCards(QPainter &painter, const std::vector<FontQuizShownCard> &nearestFirst,
+                       const QRegion &exposed)
 {
     for (size_t i = nearestFirst.size(); i-- > 0;) {
+        QRegion seen = exposed & fontQuizCardRegion(nearestFirst[i].pose);
+        if (i > 0)
+            seen -= coveredBy(nearestFirst.front().pose);
+        if (seen.isEmpty())
+            continue;
         painter.save();
-        if (i > 0) {
-            const QRegion all(fontQuizCardRegion(nearestFirst[i].pose));
-            painter.setClipRegion(all.subtracted(coveredBy(nearestFirst.front().pose)),
-                                  Qt::IntersectClip);
-        }
+        if (i > 0)
+            painter.setClipRegion(seen);
         drawFontQuizCard(painter, nearestFirst[i]);
         painter.restore();
     }

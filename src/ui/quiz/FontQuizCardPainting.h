@@ -25,7 +25,9 @@ struct FontQuizShownCard
 void drawFontQuizCard(QPainter &painter, const FontQuizShownCard &card);
 /// What of the window it covers, shadow included.
 QRect fontQuizCardRegion(const FontQuizPose &pose);
-/// Draws them the nearest last; what the nearest covers anyhow is left out.
-void drawFontQuizCards(QPainter &painter, const std::vector<FontQuizShownCard> &nearestFirst);
+/// Draws them the nearest last; what the nearest covers anyhow, or what lies outside of `exposed`,
+/// is left out.
+void drawFontQuizCards(QPainter &painter, const std::vector<FontQuizShownCard> &nearestFirst,
+                       const QRegion &exposed);
 
 } // namespace lorva

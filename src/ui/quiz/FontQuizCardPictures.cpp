@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <ranges>
 
 namespace lorva {
 
@@ -52,8 +53,8 @@ void FontQuizCardPictures::want(const std::vector<FontQuizCard> &cards)
 {
     dropUnwanted(cards);
     // What is asked for last is served first.
-    for (auto card = cards.rbegin(); card != cards.rend(); ++card) {
-        const auto [place, isNew] = m_entries.try_emplace(card->familyName, Entry{*card, {}, {}});
+    for (const FontQuizCard &card : std::ranges::reverse_view(cards)) {
+        const auto [place, isNew] = m_entries.try_emplace(card.familyName, Entry{card, {}, {}});
         if (isNew)
             request(place->second);
     }

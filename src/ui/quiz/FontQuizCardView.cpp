@@ -49,12 +49,12 @@ FontQuizCardParts FontQuizCardView::shownParts() const
     return hasPicture ? m_cards.front().picture->parts : FontQuizCardParts();
 }
 
-void FontQuizCardView::paintEvent(QPaintEvent *)
+void FontQuizCardView::paintEvent(QPaintEvent *event)
 {
     const TraceStage stage("quiz: cards");
     QPainter painter(this);
     painter.translate(-pos());
-    drawFontQuizCards(painter, m_cards);
+    drawFontQuizCards(painter, m_cards, event->region().translated(pos()));
     if (!hasFocusRing() || m_cards.empty())
         return;
     painter.setRenderHint(QPainter::Antialiasing);

@@ -10,6 +10,7 @@
 
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QPainter>
 
 namespace lorva {

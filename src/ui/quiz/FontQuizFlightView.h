@@ -26,7 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void updateCard();
+    QRect covered() const;
 
     std::optional<FontQuizShownCard> m_card;
 };

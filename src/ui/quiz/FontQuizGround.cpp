@@ -3,7 +3,6 @@
 
 #include "ui/quiz/FontQuizGround.h"
 
-#include "base/RunThen.h"
 #include "platform/ThreadPriority.h"
 #include "ui/quiz/FontQuizLayout.h"
 #include "ui/style/DeviceSpace.h"
@@ -99,8 +98,9 @@ void FontQuizGround::setLook(const Look &look)
     if (look == m_look)
         return;
     m_look = look;
-    runThen(
-        m_pool, this, [look](std::stop_token stop) { return paintGround(look, stop); },
+    m_painting.cancel();
+    m_painting = runThen(
+        m_pool, this, [look](const std::stop_token &stop) { return paintGround(look, stop); },
         [this, look](const QImage &image) { accept(look, image); });
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/RunThen.h"
+
 #include <QColor>
 #include <QImage>
 #include <QObject>
@@ -64,6 +66,7 @@ private:
     void accept(const Look &look, const QImage &image);
 
     QThreadPool m_pool;
+    RunHandle m_painting;
     Look m_look;
     Look m_shownLook;
     QImage m_image;

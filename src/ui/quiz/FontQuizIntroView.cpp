@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace lorva {
 
@@ -24,13 +25,15 @@ namespace {
 constexpr int kTitleSize = 34;
 constexpr int kColumn = 460;
 constexpr double kFanScale = 0.4;
+/// What the fan takes, to the height of one card.
+constexpr double kFanHeight = 1.5;
 constexpr double kSentenceAlpha = 0.7;
 constexpr QSize kButton{128, 32};
 /// How the cards of the fan lie: steps from its middle.
 constexpr std::array kFan{0, -1, 1, -2, 2};
 constexpr double kFanStep = 104;
 constexpr double kFanDegrees = 8;
-constexpr double kFanDrop = 9;
+constexpr double kFanDrop = 26;
 
 QFont titleFont()
 {
@@ -109,12 +112,12 @@ FontQuizIntroView::Places FontQuizIntroView::places() const
     const int titleHeight = m_isEmpty ? 0 : QFontMetrics(titleFont()).height();
     const int below = titleHeight + spacing::k16 + textHeight + spacing::k32 + kButton.height();
     const double scale =
-        std::clamp((height() - below - 160.0) / (kFontQuizCardSize.height() * 1.35), 0.12,
+        std::clamp((height() - below - 160.0) / (kFontQuizCardSize.height() * kFanHeight), 0.12,
                    std::min(kFanScale, width() / 1900.0));
-    const int fan = m_isEmpty ? 0 : int(kFontQuizCardSize.height() * scale * 1.35);
+    const int fan = m_isEmpty ? 0 : int(kFontQuizCardSize.height() * scale * kFanHeight);
     const int gap = m_isEmpty ? 0 : spacing::k40;
     int y = (height() - fan - gap - below) / 2;
-    out.fan = {QPointF(width() / 2.0, y + fan * 0.42), scale};
+    out.fan = {QPointF(width() / 2.0, y + fan * 0.36), scale};
     y += fan + gap;
     out.title = QRect(spacing::k24, y, width() - 2 * spacing::k24, titleHeight);
     y += titleHeight + spacing::k16;
@@ -141,7 +144,8 @@ void FontQuizIntroView::paintFan(QPainter &painter, const FontQuizPose &middle) 
         FontQuizShownCard card = m_cards[i];
         card.pose = middle;
         const double grown = middle.scale / kFanScale;
-        card.pose.centre += QPointF(step * kFanStep * grown, (step * step) * kFanDrop * grown);
+        card.pose.centre +=
+            QPointF(step * kFanStep * grown, std::pow(std::abs(step), 1.3) * kFanDrop * grown);
         card.pose.degrees = step * kFanDegrees;
         drawFontQuizCard(painter, card);
     }
@@ -154,6 +158,8 @@ void FontQuizIntroView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (!m_isEmpty)
         paintFan(painter, where.fan);
+    // The sentences may be of another direction than the window.
+    painter.setLayoutDirection(m_sentence.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.setPen(colors.text);
     painter.setFont(titleFont());
     painter.drawText(

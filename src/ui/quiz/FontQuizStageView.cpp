@@ -25,6 +25,11 @@ namespace {
 
 /// The cards that are seen, and one that is about to be.
 constexpr int kShownCards = 4;
+/// In the fan of the introduction.
+constexpr int kFirstCards = 5;
+/// The share of a flight in which the cards behind move: then the one that flies still covers them,
+/// and what comes after costs little.
+constexpr double kRiseShare = 0.45;
 /// Painted ahead, so that a quick hand never waits.
 constexpr int kReadyCards = 6;
 constexpr double kProgressAlpha = 0.55;
@@ -131,6 +136,14 @@ std::vector<FontQuizShownCard> FontQuizStageView::deckCards(int first, double de
     return cards;
 }
 
+std::vector<FontQuizShownCard> FontQuizStageView::firstCards() const
+{
+    std::vector<FontQuizShownCard> cards;
+    for (int i = 0; i < std::min(kFirstCards, m_deck.size()); ++i)
+        cards.push_back(shown(m_deck.families()[i], m_deck.themeSequence()[size_t(i)]));
+    return cards;
+}
+
 void FontQuizStageView::describeCard()
 {
     if (m_deck.isExhausted()) {
@@ -178,11 +191,12 @@ void FontQuizStageView::fly(FontQuizShownCard card, const Flight &flight,
     const int first = m_deck.currentIndex() + (flight.direction < 0 ? 1 : 0);
     m_timeline.run(
         kFlightTrack, flight.duration,
-        [this, flight, first](double share) {
+        [this, flight, first, last = -1.0](double share) mutable {
             m_flightView->setPose(flight.isThrown ? thrown(flight.from, flight.to, share)
                                                   : between(flight.from, flight.to, risen(share)));
-            const double moved = risen(std::min(1.0, share * 1.4));
-            m_cardView->setCards(deckCards(first, flight.direction > 0 ? 1 - moved : moved));
+            const double moved = risen(std::min(1.0, share / kRiseShare));
+            if (std::exchange(last, moved) != moved)
+                m_cardView->setCards(deckCards(first, flight.direction > 0 ? 1 - moved : moved));
         },
         std::move(done));
 }
@@ -311,17 +325,22 @@ void FontQuizStageView::paintEvent(QPaintEvent *)
 {
     const FontQuizColors colors = fontQuizColors(isDarkDesktop());
     QPainter painter(this);
-    painter.setFont(interfaceFont(InterfaceSize::body, InterfaceWeight::regular, Figures::tabular));
-    painter.setPen(quietColor(colors.text, colors.ground, kProgressAlpha));
+    const auto line = [&](const QRect &place, const QFont &font, double alpha,
+                          const QString &text) {
+        painter.setFont(font);
+        painter.setPen(quietColor(colors.text, colors.ground, alpha));
+        painter.setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        painter.drawText(place, Qt::AlignCenter, text);
+    };
     if (!m_deck.isExhausted())
-        painter.drawText(
-            m_layout.progress, Qt::AlignCenter,
-            tr("%1 of %2")
-                .arg(groupedNumber(m_deck.currentIndex() + 1), groupedNumber(m_deck.size())));
-    painter.setFont(interfaceFont(InterfaceSize::caption));
-    painter.setPen(quietColor(colors.text, colors.ground, kHintAlpha));
-    painter.drawText(m_layout.hint, Qt::AlignCenter,
-                     tr("Space skips a card. Backspace takes the last one back."));
+        line(m_layout.progress,
+             interfaceFont(InterfaceSize::body, InterfaceWeight::regular, Figures::tabular),
+             kProgressAlpha,
+             tr("%1 of %2")
+                 .arg(groupedNumber(m_deck.currentIndex() + 1), groupedNumber(m_deck.size())));
+    if (!m_layout.hint.isEmpty())
+        line(m_layout.hint, interfaceFont(InterfaceSize::caption), kHintAlpha,
+             tr("Space skips a card. Backspace takes the last one back."));
 }
 
 } // namespace lorva

@@ -76,6 +76,8 @@ public:
     /// The cards that are drawn; each pile's topmost last.
     const LandedPiles &landedPiles() const { return m_landedPiles; }
     int maxPileSize() const { return m_maxPileSize; }
+    /// Of the whole deck; their poses are of no matter.
+    std::vector<FontQuizShownCard> firstCards() const;
     FontQuizCardPictures &pictures() { return *m_pictures; }
     FontQuizCardView &cardView() { return *m_cardView; }
     const FontQuizLayout &quizLayout() const { return m_layout; }

@@ -24,11 +24,11 @@ constexpr std::chrono::milliseconds kLongestStep{48};
 void FontQuizTimeline::run(const QByteArray &name, Milliseconds duration, Step step,
                            std::function<void()> done)
 {
-    const Step first = step;
+    const auto shared = std::make_shared<Step>(std::move(step));
     m_tracks.insert_or_assign(
-        name, Track{std::max(duration, Milliseconds(1)), {}, std::move(step), std::move(done)});
+        name, Track{std::max(duration, Milliseconds(1)), {}, shared, std::move(done)});
     watchClock();
-    first(0.0);
+    (*shared)(0.0);
 }
 
 void FontQuizTimeline::drop(const QByteArray &name)
@@ -71,14 +71,14 @@ void FontQuizTimeline::stepTrack(const QByteArray &name, Milliseconds time)
         return;
     Track &track = found->second;
     track.elapsed = std::min(track.elapsed + time, track.duration);
-    const Step step = track.step;
+    const std::shared_ptr<Step> step = track.step;
     const double share = double(track.elapsed.count()) / double(track.duration.count());
     if (track.elapsed < track.duration)
-        return step(share);
+        return (*step)(share);
     const std::function<void()> done = std::move(track.done);
     m_tracks.erase(found);
     watchClock();
-    step(1.0);
+    (*step)(1.0);
     if (done)
         done();
 }

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <functional>
 #include <map>
+#include <memory>
 
 namespace lorva {
 
@@ -49,7 +50,8 @@ private:
     {
         Milliseconds duration;
         Milliseconds elapsed{0};
-        Step step;
+        /// Shared with the call that runs: it may drop the track, and what it remembers counts.
+        std::shared_ptr<Step> step;
         std::function<void()> done;
     };
 

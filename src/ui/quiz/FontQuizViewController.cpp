@@ -26,7 +26,7 @@ namespace {
 constexpr std::chrono::milliseconds kFade{320};
 constexpr std::chrono::milliseconds kBloom{600};
 /// The wash is so faint that its steps cannot be seen; each repaints half of the window.
-constexpr int kBloomSteps = 12;
+constexpr int kBloomSteps = 8;
 
 FontQuizCounts countsOf(const FontQuizDeck &deck)
 {
@@ -67,7 +67,7 @@ FontQuizViewController::FontQuizViewController(LorvaAppModel &model,
     setObjectName(QStringLiteral("FontQuizViewController"));
     setAccessibleName(tr("Font Quiz"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::ClickFocus);
     m_closeButton->setObjectName(QStringLiteral("FontQuizViewController.Close"));
     m_closeButton->setFocusPolicy(Qt::TabFocus);
     connect(m_closeButton, &QPushButton::clicked, this, &FontQuizViewController::close);
@@ -100,7 +100,7 @@ bool FontQuizViewController::isSettled() const
     return !m_timeline->isRunning() && m_ground->isComplete() && m_stage->pictures().isComplete();
 }
 
-void FontQuizViewController::close()
+void FontQuizViewController::close() const
 {
     if (onClose)
         onClose();
@@ -127,7 +127,7 @@ void FontQuizViewController::showIntro()
 void FontQuizViewController::showIntroCards()
 {
     if (m_phase == Phase::intro)
-        m_intro->setCards(m_stage->cardView().cards());
+        m_intro->setCards(m_stage->firstCards());
 }
 
 void FontQuizViewController::setPhase(Phase phase)

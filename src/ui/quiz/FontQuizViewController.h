@@ -81,7 +81,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void close();
+    void close() const;
     void place();
     void placeClose();
     void setPhase(Phase phase);
