@@ -226,8 +226,10 @@ QMenu *LorvaRootSplitViewController::makeDetailMenu(QWidget *parent)
 
 void LorvaRootSplitViewController::exportDetail()
 {
-    if (m_isDetailOpen)
-        m_export.ask(m_detail->page(), m_detail->pageBackground(), m_detail->exportName());
+    if (!m_isDetailOpen)
+        return;
+    m_export.ask(pictureOf(m_detail->page(), m_detail->pageBackground()), tr("Export Specimen"),
+                 m_detail->exportName());
 }
 
 void LorvaRootSplitViewController::copyDetailAsCss()

@@ -41,8 +41,7 @@ TEST(UserAccountTest, theNameIsTheFirstFieldOfTheComment)
 TEST(UserAccountTest, thisAccountHasItsOwn)
 {
     const passwd *entry = ::getpwuid(::getuid());
-    EXPECT_EQ(userFullName(),
-              entry ? accountFullName(entry->pw_gecos, entry->pw_name) : QString());
+    EXPECT_EQ(userFullName(), entry ? accountFullName(entry->pw_gecos, entry->pw_name) : QString());
 }
 
 } // namespace
