@@ -2,14 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "text/PictureFile.h"
 
+#include "base/AtomicFile.h"
 #include "text/FontFile.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QImage>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+
+#include <algorithm>
 
 namespace lorva {
 
@@ -18,6 +22,26 @@ namespace {
 constexpr int kPointsPerInch = 72;
 /// Stands in the document until the text has been made fit for XML.
 constexpr char kTitlePlace[] = "lorva-specimen-title";
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("PictureFile", source);
+}
+
+Result<void> checkSize(const PictureContent &content, PictureFormat format)
+{
+    const QSize size = content.size;
+    if (size.isEmpty())
+        return failure(ErrorKind::invalidValue, text("There is nothing to export"));
+    if (std::max(size.width(), size.height()) > kLongestFileSide)
+        return failure(ErrorKind::tooLarge, text("The page is too large for a file"));
+    const double pixels =
+        double(size.width()) * size.height() * content.pixelsPerPoint * content.pixelsPerPoint;
+    if (format == PictureFormat::png && pixels > kMostFilePixels)
+        return failure(ErrorKind::tooLarge,
+                       text("The page is too large for a PNG; a PDF or SVG can hold it"));
+    return {};
+}
 
 tl::unexpected<Error> notEncoded()
 {
@@ -179,6 +203,21 @@ Result<QByteArray> encodedPicture(const PictureContent &content, PictureFormat f
         break;
     }
     return pdfBytes(content);
+}
+
+Result<void> writePicture(const PictureContent &content, const FilePath &target)
+{
+    const Result<PictureFormat> format = pictureFormat(target);
+    if (!format)
+        return tl::unexpected(format.error());
+    if (Result<void> checked = refuseFontContent(target); !checked)
+        return checked;
+    if (Result<void> checked = checkSize(content, *format); !checked)
+        return checked;
+    const Result<QByteArray> bytes = encodedPicture(content, *format);
+    if (!bytes)
+        return tl::unexpected(bytes.error());
+    return writeFileAtomically(target, *bytes);
 }
 
 tl::unexpected<Error> fontFileRefused(const FilePath &output)

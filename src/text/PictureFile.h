@@ -17,6 +17,11 @@ namespace lorva {
 
 enum class PictureFormat { png, svg, pdf };
 
+/// Sides of a picture in a file: what PDF takes. Points.
+inline constexpr int kLongestFileSide = 14400;
+/// A PNG beyond this is refused: it would take a quarter of a gigabyte to make.
+inline constexpr double kMostFilePixels = 64e6;
+
 /// What a picture file is to show. Units: points.
 struct PictureContent
 {
@@ -43,6 +48,11 @@ Result<PictureFormat> pictureFormat(const FilePath &file);
 /// paths stays paths; one point is one unit there (1/72 inch in a PDF). Fails with tooLarge or
 /// ioFailure. Thread: any.
 Result<QByteArray> encodedPicture(const PictureContent &content, PictureFormat format);
+
+/// Writes it as the ending of the file's name says. The file is replaced at once or not at all, and
+/// a font file not at all. Fails with usage for another ending, tooLarge, invalidValue for an empty
+/// picture or a font file, and what writing gives; the detail is fit to be shown. Thread: any.
+Result<void> writePicture(const PictureContent &content, const FilePath &target);
 
 /// Fails with invalidValue for what holds a font, whatever its name: a slip of the hand must not
 /// cost anyone a font.

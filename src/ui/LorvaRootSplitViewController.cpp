@@ -227,8 +227,10 @@ QMenu *LorvaRootSplitViewController::makeDetailMenu(QWidget *parent)
 
 void LorvaRootSplitViewController::exportDetail()
 {
-    if (isDetailOpen())
-        m_export.ask(m_detail->page(), m_detail->pageBackground(), m_detail->exportName());
+    if (!isDetailOpen())
+        return;
+    m_export.ask(pictureOf(m_detail->page(), m_detail->pageBackground()), tr("Export Specimen"),
+                 m_detail->exportName());
 }
 
 void LorvaRootSplitViewController::copyDetailAsCss()

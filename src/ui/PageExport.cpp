@@ -49,29 +49,27 @@ PageExport::~PageExport()
     m_pool.waitForDone();
 }
 
-void PageExport::ask(const SpecimenPage &page, const QColor &background, const QString &name)
+void PageExport::ask(const PictureContent &picture, const QString &title, const QString &name)
 {
-    QFileDialog *dialog = openSaveDialog(*m_widget.window(), text("Export Specimen"),
-                                         name + QLatin1String(".pdf"), m_folder);
+    QFileDialog *dialog =
+        openSaveDialog(*m_widget.window(), title, name + QLatin1String(".pdf"), m_folder);
     dialog->setNameFilters(filters());
     followFilter(*dialog);
-    QObject::connect(dialog, &QFileDialog::accepted, &m_guard, [this, dialog, page, background] {
+    QObject::connect(dialog, &QFileDialog::accepted, &m_guard, [this, dialog, picture] {
         const std::vector<FilePath> chosen = chosenPaths(*dialog);
         if (chosen.empty())
             return;
         m_folder = QFileInfo(dialog->selectedFiles().constFirst()).absolutePath();
-        write(page, background, chosen.front());
+        write(picture, chosen.front());
     });
 }
 
-void PageExport::write(const SpecimenPage &page, const QColor &background, const FilePath &target)
+void PageExport::write(const PictureContent &picture, const FilePath &target)
 {
     ++m_writing;
     runThen(
         m_pool, &m_guard,
-        [page, background, target](const std::stop_token &) {
-            return writePage(page, background, target);
-        },
+        [picture, target](const std::stop_token &) { return writePicture(picture, target); },
         [this](const Result<void> &written) {
             --m_writing;
             if (!written && onFailed)

@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/detail/SpecimenPage.h"
+#include "text/PictureFile.h"
 
 #include <QObject>
 #include <QThreadPool>
 
 #include <functional>
 
+class QWidget;
+
 namespace lorva {
 
-/// Asks where a page is to be written, and writes it on a worker. Thread: main.
+/// Asks where a picture is to be written, and writes it on a worker. Thread: main.
 class PageExport final
 {
 public:
@@ -21,12 +23,12 @@ public:
 
     /// The reason is fit to be shown.
     std::function<void(const QString &reason)> onFailed;
-    /// `name`: what the file may be called, without an ending.
-    void ask(const SpecimenPage &page, const QColor &background, const QString &name);
+    /// `title`: of the dialog; `name`: what the file may be called, without an ending.
+    void ask(const PictureContent &picture, const QString &title, const QString &name);
     bool isWriting() const { return m_writing > 0; }
 
 private:
-    void write(const SpecimenPage &page, const QColor &background, const FilePath &target);
+    void write(const PictureContent &picture, const FilePath &target);
 
     QWidget &m_widget;
     /// Where the last one went.

@@ -2,18 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "ui/detail/SpecimenPage.h"
 
-#include "base/AtomicFile.h"
 #include "text/GlyphPainter.h"
-#include "text/PictureFile.h"
 #include "ui/style/Hairline.h"
 #include "ui/style/Style.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace lorva {
 
@@ -22,11 +21,6 @@ namespace {
 constexpr int kPngPixelsPerPoint = 2;
 /// Where there are no device pixels.
 constexpr double kRuleWidth = 0.5;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("SpecimenPage", source);
-}
 
 bool hasPixels(const QPainter &painter)
 {
@@ -114,19 +108,15 @@ SpecimenPage withMargins(SpecimenPage page)
     return page;
 }
 
-Result<QSize> fileSize(const SpecimenPage &page, PictureFormat format)
+/// Not beyond what is refused anyhow; null for an empty page.
+QSize fileSize(const QSizeF &size)
 {
-    const QSizeF size = page.size;
     if (!(size.width() > 0) || !(size.height() > 0))
-        return failure(ErrorKind::invalidValue, text("There is nothing to export"));
-    const double pixels = size.width() * size.height() * kPngPixelsPerPoint * kPngPixelsPerPoint;
-    const bool isTooLarge = std::max(size.width(), size.height()) > kLongestFileSide;
-    if (isTooLarge)
-        return failure(ErrorKind::tooLarge, text("The page is too large for a file"));
-    if (format == PictureFormat::png && pixels > kMostFilePixels)
-        return failure(ErrorKind::tooLarge,
-                       text("The page is too large for a PNG; a PDF or SVG can hold it"));
-    return QSize(int(std::ceil(size.width())), int(std::ceil(size.height())));
+        return {};
+    const auto whole = [](double side) {
+        return int(std::ceil(std::min(side, kLongestFileSide + 1.0)));
+    };
+    return {whole(size.width()), whole(size.height())};
 }
 
 } // namespace
@@ -157,30 +147,24 @@ void paintPage(QPainter &painter, const SpecimenPage &page)
     painter.restore();
 }
 
-Result<void> writePage(const SpecimenPage &page, const QColor &background, const FilePath &target)
+PictureContent pictureOf(const SpecimenPage &page, const QColor &background)
 {
-    const Result<PictureFormat> format = pictureFormat(target);
-    if (!format)
-        return tl::unexpected(format.error());
-    if (Result<void> checked = refuseFontContent(target); !checked)
-        return checked;
-    const bool isEmpty = page.size.isEmpty();
-    const SpecimenPage placed = isEmpty ? page : withMargins(page);
-    const Result<QSize> size = fileSize(placed, *format);
-    if (!size)
-        return tl::unexpected(size.error());
+    const auto placed =
+        std::make_shared<const SpecimenPage>(page.size.isEmpty() ? page : withMargins(page));
     PictureContent content;
-    content.size = *size;
+    content.size = fileSize(placed->size);
     content.pixelsPerPoint = kPngPixelsPerPoint;
     content.background = background;
-    content.title = placed.title;
+    content.title = placed->title;
     content.creator = QStringLiteral("Lorva");
-    content.onImage = [&placed](QImage &image) { paintPixels(image, placed); };
-    content.onPage = [&placed](QPainter &painter) { paintPage(painter, placed); };
-    const Result<QByteArray> bytes = encodedPicture(content, *format);
-    if (!bytes)
-        return tl::unexpected(bytes.error());
-    return writeFileAtomically(target, *bytes);
+    content.onImage = [placed](QImage &image) { paintPixels(image, *placed); };
+    content.onPage = [placed](QPainter &painter) { paintPage(painter, *placed); };
+    return content;
+}
+
+Result<void> writePage(const SpecimenPage &page, const QColor &background, const FilePath &target)
+{
+    return writePicture(pictureOf(page, background), target);
 }
 
 } // namespace lorva

@@ -4,6 +4,7 @@
 
 #include "base/FilePath.h"
 #include "base/Result.h"
+#include "text/PictureFile.h"
 #include "text/TextLayout.h"
 
 #include <QColor>
@@ -67,10 +68,6 @@ struct SpecimenPage
 
 /// Room around a page in a file: a page's own edges are the pane's, where ink may hang over.
 inline constexpr double kFileMargin = 48;
-/// Sides of a page in a file, with its margins: what PDF takes.
-inline constexpr double kLongestFileSide = 14400;
-/// A PNG beyond this is refused: it would take a quarter of a gigabyte to make.
-inline constexpr double kMostFilePixels = 64e6;
 
 /// Paints all of it. On pixels captions are set as the interface sets its texts; on a page without
 /// pixels they are outlines. Thread: any.
@@ -78,11 +75,11 @@ void paintPage(QPainter &painter, const SpecimenPage &page);
 /// Paints all but texts and pictures: what a view draws around specimens that it keeps as images.
 void paintPageFurniture(QPainter &painter, const SpecimenPage &page);
 
-/// Writes it with a margin around it as PNG (twice as many pixels as points), SVG or PDF (outlines,
-/// no fonts inside), by the ending of the file's name; `background` transparent: none. The same
-/// page gives the same bytes. The file is replaced at once or not at all, and a font file not at
-/// all. Fails with usage for another ending, tooLarge, invalidValue for an empty page or a font
-/// file, and what writing gives; the detail is fit to be shown. Thread: any.
+/// The page with a margin around it, for a file: twice as many pixels as points in a PNG; in SVG
+/// and PDF outlines, no fonts inside. `background` transparent: none. Owns a copy of the page.
+/// Thread: any.
+PictureContent pictureOf(const SpecimenPage &page, const QColor &background);
+/// Writes that; see writePicture(). The same page gives the same bytes. Thread: any.
 Result<void> writePage(const SpecimenPage &page, const QColor &background, const FilePath &target);
 
 } // namespace lorva

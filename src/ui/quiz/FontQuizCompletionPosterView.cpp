@@ -3,17 +3,133 @@
 
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 
+#include "ui/display/PanelParts.h"
+#include "ui/style/Palette.h"
+#include "ui/style/ReducedMotion.h"
+#include "ui/style/Style.h"
+#include "ui/style/TextButton.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+
 namespace lorva {
 
-QString posterText(const QString &, const QDate &)
+namespace {
+
+constexpr int kBloomMilliseconds = 1600;
+/// Of the sheet that is kept, in points.
+constexpr QSizeF kSheet{1080, 1440};
+/// More is nobody's name; the sentence has to fit.
+constexpr qsizetype kLongestName = 100;
+constexpr int kProblemHeight = 36;
+
+QString text(const char *source)
 {
-    return {};
+    return QCoreApplication::translate("FontQuizPoster", source);
+}
+
+/// 1st, 2nd, 3rd, 4th … 11th, 12th, 13th … 31st.
+QString ordinal(int number)
+{
+    const int ten = number % 100 / 10;
+    const char *const endings[] = {"th", "st", "nd", "rd"};
+    const int last = ten == 1 || number % 10 > 3 ? 0 : number % 10;
+    return QString::number(number) + QLatin1String(endings[last]);
+}
+
+QString longDate(const QDate &date)
+{
+    const QChar space(QChar::Nbsp);
+    return QLocale::c().toString(date, u"MMMM") + space + ordinal(date.day()) + u',' + space
+        + QLocale::c().toString(date, u"yyyy");
+}
+
+bool isDirectionControl(QChar character)
+{
+    return (character >= u'\u202A' && character <= u'\u202E')
+        || (character >= u'\u2066' && character <= u'\u2069') || character == u'\u200E'
+        || character == u'\u200F' || character == u'\u061C';
+}
+
+bool isRightToLeft(QChar character)
+{
+    const QChar::Direction direction = character.direction();
+    return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN
+        || character.isSurrogate();
+}
+
+QString shownName(const QString &fullName)
+{
+    QString name = fullName.simplified();
+    name.removeIf(isDirectionControl);
+    if (name.size() > kLongestName)
+        name = name.left(kLongestName).trimmed() + u'…';
+    if (!std::ranges::any_of(name, isRightToLeft))
+        return name;
+    // FIRST STRONG ISOLATE … POP DIRECTIONAL ISOLATE
+    return u'\u2068' + name + u'\u2069';
+}
+
+QString spokenCounts(const FontQuizCounts &counts)
+{
+    const std::pair<QString, int> parts[]{{text("Fonts organized"), counts.total},
+                                          {text("Serif"), counts.serif},
+                                          {text("Sans-Serif"), counts.sans},
+                                          {text("Display"), counts.display},
+                                          {text("Mono"), counts.mono},
+                                          {text("Script"), counts.script},
+                                          {text("Decorative"), counts.decorative}};
+    QStringList spoken;
+    for (const auto &[name, count] : parts)
+        spoken << text("%1: %2").arg(name, QLocale().toString(count));
+    return QLocale().createSeparatedList(spoken);
+}
+
+} // namespace
+
+QString posterText(const QString &fullName, const QDate &date)
+{
+    const QString name = shownName(fullName);
+    if (name.isEmpty()) {
+        return text("Organized by hand into Serif, Sans-Serif, Display, Mono, and Decorative "
+                    "styles on %1.\n\nReady and waiting for use in whatever project may come. "
+                    "Remember to make it nice.")
+            .arg(longDate(date));
+    }
+    return text("Organized by hand into Serif, Sans-Serif, Display, Mono, and Decorative styles "
+                "by %1 on %2.\n\nReady and waiting for use in whatever project may come. "
+                "Remember to make it nice.")
+        .arg(name, longDate(date));
 }
 
 FontQuizCompletionPosterView::FontQuizCompletionPosterView(QWidget *parent)
     : QWidget(parent)
+    , m_saveButton(new TextButton(tr("Save as Picture…"), TextButton::Kind::plain, this))
+    , m_doneButton(new TextButton(tr("Done"), TextButton::Kind::prominent, this))
+    , m_problemLabel(new PanelLabel({}, PanelLabel::Kind::problem, this))
+    , m_export(*this)
 {
     setObjectName(QStringLiteral("FontQuizCompletionPosterView"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    m_saveButton->setObjectName(QStringLiteral("QuizPoster.Save"));
+    m_doneButton->setObjectName(QStringLiteral("QuizPoster.Done"));
+    m_problemLabel->setObjectName(QStringLiteral("QuizPoster.Problem"));
+    m_problemLabel->hide();
+    m_bloom.setObjectName(QStringLiteral("quizPosterBloom"));
+    m_bloom.setParent(this);
+    m_bloom.setStartValue(0.0);
+    m_bloom.setEndValue(1.0);
+    m_bloom.setDuration(kBloomMilliseconds);
+    connect(&m_bloom, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &value) { setProgress(value.toDouble()); });
+    connect(m_saveButton, &QPushButton::clicked, this, &FontQuizCompletionPosterView::savePicture);
+    connect(m_doneButton, &QPushButton::clicked, this, &FontQuizCompletionPosterView::doneWanted);
+    m_export.onFailed = [this](const QString &reason) { m_problemLabel->setProblem(reason); };
 }
 
 FontQuizCompletionPosterView::~FontQuizCompletionPosterView() = default;
@@ -23,9 +139,120 @@ void FontQuizCompletionPosterView::setContent(const Counts &counts, const QDate 
 {
     m_counts = counts;
     m_completionDate = completionDate;
-    m_fullName = fullName;
+    m_sentence = posterText(fullName, completionDate);
+    setAccessibleName(spokenCounts(counts));
+    setAccessibleDescription(m_sentence);
+    m_hasBloomed = false;
+    m_bloom.stop();
+    setProgress(0);
+    if (isVisible())
+        startBloom();
 }
 
-void FontQuizCompletionPosterView::focusPage() { }
+void FontQuizCompletionPosterView::focusPage()
+{
+    m_saveButton->setFocus(Qt::OtherFocusReason);
+}
+
+bool FontQuizCompletionPosterView::isSettled() const
+{
+    return m_bloom.state() != QAbstractAnimation::Running && !m_export.isWriting();
+}
+
+FontQuizPosterPage FontQuizCompletionPosterView::laidOut(const FontQuizPosterSetting &setting) const
+{
+    return fontQuizPosterPage(m_counts, m_sentence, setting);
+}
+
+FontQuizPosterPage FontQuizCompletionPosterView::page() const
+{
+    return laidOut({kSheet, isDarkDesktop(), layoutDirection(), {}, 1});
+}
+
+void FontQuizCompletionPosterView::startBloom()
+{
+    m_hasBloomed = true;
+    if (prefersReducedMotion(this))
+        setProgress(1);
+    else
+        m_bloom.start();
+}
+
+void FontQuizCompletionPosterView::setProgress(double progress)
+{
+    m_progress = progress;
+    update();
+}
+
+void FontQuizCompletionPosterView::savePicture()
+{
+    m_problemLabel->hide();
+    m_export.ask(pictureOf(page()), tr("Save as Picture"), tr("Organized Fonts"));
+}
+
+void FontQuizCompletionPosterView::placeParts()
+{
+    const QRect room = rect().marginsRemoved(fontQuizPosterMargins(size()).toMargins());
+    const QSize done = m_doneButton->sizeHint();
+    const QSize save = m_saveButton->sizeHint();
+    const auto place = [this](QWidget *part, const QRect &leftToRight) {
+        part->setGeometry(QStyle::visualRect(layoutDirection(), rect(), leftToRight));
+    };
+    const QPoint doneAt(room.right() + 1 - done.width(), room.bottom() + 1 - done.height());
+    const QPoint saveAt(doneAt.x() - spacing::k8 - save.width(), doneAt.y());
+    place(m_doneButton, QRect(doneAt, done));
+    place(m_saveButton, QRect(saveAt, save));
+    const int width = room.right() + 1 - saveAt.x();
+    place(m_problemLabel,
+          QRect(saveAt - QPoint(0, kProblemHeight + spacing::k8), QSize(width, kProblemHeight)));
+    m_problemLabel->setAlignment(Qt::AlignTrailing | Qt::AlignBottom);
+}
+
+void FontQuizCompletionPosterView::paintEvent(QPaintEvent *)
+{
+    const QRect buttons = m_saveButton->geometry() | m_doneButton->geometry();
+    const FontQuizPosterPage page =
+        laidOut({size(), isDarkDesktop(), layoutDirection(), buttons.size(), m_progress});
+    QPainter painter(this);
+    painter.fillRect(rect(), page.ground);
+    paintPosterPage(painter, page);
+}
+
+void FontQuizCompletionPosterView::resizeEvent(QResizeEvent *)
+{
+    placeParts();
+}
+
+void FontQuizCompletionPosterView::showEvent(QShowEvent *)
+{
+    if (!m_hasBloomed)
+        startBloom();
+}
+
+/// What nobody sees needs no frames.
+void FontQuizCompletionPosterView::hideEvent(QHideEvent *)
+{
+    if (m_bloom.state() != QAbstractAnimation::Running)
+        return;
+    m_bloom.stop();
+    setProgress(1);
+}
+
+void FontQuizCompletionPosterView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        placeParts();
+    update();
+}
+
+/// Buttons leave Return to whoever holds them.
+void FontQuizCompletionPosterView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return event->ignore();
+    auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
+    (focused ? focused : m_doneButton)->click();
+}
 
 } // namespace lorva

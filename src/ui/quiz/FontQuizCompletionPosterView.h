@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/PageExport.h"
+#include "ui/quiz/FontQuizPosterPage.h"
+
 #include <QDate>
 #include <QString>
+#include <QVariantAnimation>
 #include <QWidget>
 
 namespace lorva {
@@ -22,11 +26,18 @@ struct FontQuizCounts
     bool operator==(const FontQuizCounts &) const = default;
 };
 
-/// The sentences of the poster. Month and ordinal are English, as the sentence is. Thread: any.
+/// The sentences of the poster. Month and ordinal are English, as the sentence is. A name from
+/// right-to-left scripts is isolated, so that it leaves the order of the rest alone; without a name
+/// nobody is named. Thread: any.
 QString posterText(const QString &fullName, const QDate &date);
 
-/// The end of the font quiz: what was sorted, as a poster, which can be kept as a picture.
-/// Thread: main.
+class PanelLabel;
+class TextButton;
+
+/// The end of the font quiz: what was sorted, as a poster, which can be kept as a picture. Its
+/// numbers bloom when it first shows a content; with reduced motion they are there at once.
+///
+/// Opaque. Thread: main.
 class FontQuizCompletionPosterView final : public QWidget
 {
     Q_OBJECT
@@ -42,14 +53,40 @@ public:
     /// Gives the keyboard to its first button.
     void focusPage();
 
+    /// Nothing blooms, and no picture is being written.
+    bool isSettled() const;
+    /// As it is kept: a sheet of its own size.
+    FontQuizPosterPage page() const;
+
 Q_SIGNALS:
     /// The user has seen it.
     void doneWanted();
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
+    void startBloom();
+    void setProgress(double progress);
+    void savePicture();
+    void placeParts();
+    FontQuizPosterPage laidOut(const FontQuizPosterSetting &setting) const;
+
     Counts m_counts;
     QDate m_completionDate;
-    QString m_fullName;
+    QString m_sentence;
+    TextButton *m_saveButton;
+    TextButton *m_doneButton;
+    PanelLabel *m_problemLabel;
+    QVariantAnimation m_bloom;
+    double m_progress = 0;
+    bool m_hasBloomed = false;
+    PageExport m_export;
 };
 
 } // namespace lorva
