@@ -145,10 +145,14 @@ void LorvaApplicationDelegate::openWantedQuiz()
         return;
     const LaunchQuiz phase = *std::exchange(m_wantedQuiz, std::nullopt);
     m_root->openQuiz();
-    if (FontQuizViewController *quiz = m_root->quiz(); quiz && phase == LaunchQuiz::playing)
-        quiz->start();
-    else if (quiz && phase == LaunchQuiz::poster)
+    FontQuizViewController *quiz = m_root->quiz();
+    if (!quiz || phase == LaunchQuiz::intro)
+        return;
+    // A picture plays up to there itself.
+    if (phase == LaunchQuiz::poster && !m_picture)
         quiz->showPoster();
+    else
+        quiz->start();
 }
 
 void LorvaApplicationDelegate::takeOver(const ProgramStart &start)

@@ -18,8 +18,15 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace lorva {
+
+namespace {
+
+constexpr int kPlayedCards = 8;
+
+} // namespace
 
 WindowPicture::WindowPicture(const LaunchOptions &options, Scene scene)
     : m_options(options)
@@ -44,8 +51,21 @@ void WindowPicture::open()
 {
     if (m_options.sheet)
         openSheet();
+    if (m_scene.root.isQuizOpen() && m_options.quiz != LaunchQuiz::intro)
+        playQuiz(m_options.quiz == LaunchQuiz::poster ? std::numeric_limits<int>::max()
+                                                      : kPlayedCards);
     if (m_options.welcome && m_scene.extras().welcome)
         m_scene.extras().welcome->settleForPicture(*m_options.welcome == LaunchWelcome::card);
+}
+
+/// Somebody has played for a while. What a picture sorts is kept nowhere.
+void WindowPicture::playQuiz(int cards)
+{
+    constexpr int kTiles[]{1, 2, 2, 3, 6, 1, 4, 2, 5, 3};
+    FontQuizViewController &quiz = *m_scene.root.quiz();
+    for (int card = 0; card < cards && quiz.phase() == FontQuizViewController::Phase::playing;
+         ++card)
+        quiz.choose(kTiles[card % int(std::size(kTiles))]);
 }
 
 void WindowPicture::openSheet()

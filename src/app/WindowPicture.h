@@ -47,6 +47,7 @@ public:
 
 private:
     void open();
+    void playQuiz(int cards);
     void openSheet();
     bool isOpen() const;
     bool knowsFolders() const;
