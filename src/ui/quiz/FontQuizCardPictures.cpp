@@ -6,7 +6,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <ranges>
 
 namespace lorva {
 
@@ -53,7 +52,8 @@ void FontQuizCardPictures::want(const std::vector<FontQuizCard> &cards)
 {
     dropUnwanted(cards);
     // What is asked for last is served first.
-    for (const FontQuizCard &card : std::ranges::reverse_view(cards)) {
+    for (size_t i = cards.size(); i-- > 0;) {
+        const FontQuizCard &card = cards[i];
         const auto [place, isNew] = m_entries.try_emplace(card.familyName, Entry{card, {}, {}});
         if (isNew)
             request(place->second);
