@@ -39,7 +39,7 @@ QImage painted(const std::vector<QPainterPath> &paths)
     QImage image(kCanvas, QImage::Format_Grayscale8);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.translate(kCanvas.width() / 2, kCanvas.height() / 2);
+    painter.translate(QRect({}, kCanvas).center());
     for (const QPainterPath &path : paths)
         painter.fillPath(path, Qt::black);
     return image;
@@ -184,7 +184,7 @@ std::vector<HostileOutline> hostileOutlines()
 {
     QPainterPath manyRings;
     for (int i = 0; i < 500; ++i)
-        manyRings.addEllipse(QPointF(i % 25 * 8, i / 25 * 8), 3, 3);
+        manyRings.addEllipse(QPoint(i % 25 * 8, i / 25 * 8), 3, 3);
     QPainterPath nested;
     for (int i = 0; i < 60; ++i)
         nested.addRect(i, i, 200 - 2 * i, 200 - 2 * i);
@@ -269,7 +269,7 @@ protected:
         for (int i = 0; i < count; ++i) {
             auto letter = makeFallingLetter(font, lettersToTry(i, {}));
             ASSERT_TRUE(letter);
-            m_scene.add(letter->parts, {{60.0 + i * 83 % 380, -90.0 - 130 * (i / 3)}, i * 0.7});
+            m_scene.add(letter->parts, {{60.0 + i * 83 % 380, -90.0 - 45 * i}, i * 0.7});
             m_letters.push_back(std::move(*letter));
         }
     }

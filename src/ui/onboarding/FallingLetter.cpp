@@ -19,8 +19,10 @@ namespace {
 constexpr double kLargestInk = 1.15;
 constexpr double kSmallestInk = 0.2;
 constexpr int kWorldEvery = 5;
+/// Neighbours are not neighbours here; without a common divisor with the count, so that all come.
+constexpr int kLatinStep = 8;
 
-constexpr std::u32string_view kLatin = U"agRQ&?@3SkeGBf2yMß§J";
+constexpr std::u32string_view kLatin = U"agRQ&?@3SkeGBf2yMß§JW";
 /// Of scripts that Latin families rarely have; one of each, so that every such family shows its
 /// own.
 constexpr std::u32string_view kWorld = U"عऄשЖกΩअկლশകதම한永ش";
@@ -83,7 +85,7 @@ std::optional<FallingLetter> makeFallingLetter(const Font &font, const std::u32s
 std::u32string lettersToTry(int number, std::optional<WritingScript> primaryScript)
 {
     const std::u32string own = turned(ownLetters(primaryScript), number);
-    const std::u32string latin = turned(kLatin, number * 7);
+    const std::u32string latin = turned(kLatin, number * kLatinStep);
     const std::u32string world = turned(kWorld, number / kWorldEvery);
     return number % kWorldEvery == kWorldEvery - 1 ? own + world + latin : own + latin + world;
 }

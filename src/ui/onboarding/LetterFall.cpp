@@ -101,7 +101,7 @@ LetterFall::LetterFall(std::unique_ptr<LetterSupply> supply, QSize size)
     m_supply->pointSize = [this](int number) { return pointSize(number); };
     // So that the first ones are ready when they are wanted.
     if (auto letter = m_supply->take())
-        drop(std::move(*letter));
+        drop(*letter);
 }
 
 double LetterFall::pointSize(int number) const
@@ -135,7 +135,7 @@ void LetterFall::letIn(nanoseconds time)
         // Those that are late do not come all at once.
         m_nextLetter = letter ? m_nextLetter + interval() : m_now + 1ns;
         if (letter)
-            drop(std::move(*letter));
+            drop(*letter);
     }
     if (count() >= m_wantedCount)
         m_supply.reset();
@@ -156,7 +156,7 @@ QPointF LetterFall::freePlace(QPointF at, double reach) const
     return at;
 }
 
-void LetterFall::drop(FallingLetter letter)
+void LetterFall::drop(const FallingLetter &letter)
 {
     const int number = count();
     if (number == 0)
@@ -170,7 +170,7 @@ void LetterFall::drop(FallingLetter letter)
                                    3.2 * (spread(number, kGolden + kSilver) - 0.5)};
     m_scene.add(letter.parts, entry);
     const int color = kColorOrder[size_t(number) % kColorOrder.size()];
-    m_letters.push_back({std::move(letter.outline), reach, color, {}, false});
+    m_letters.push_back({letter.outline, reach, color, {}, false});
 }
 
 void LetterFall::advance(nanoseconds time)
@@ -207,7 +207,7 @@ void LetterFall::settle()
         std::optional<FallingLetter> letter = m_supply->takeNow();
         if (!letter)
             break;
-        drop(std::move(*letter));
+        drop(*letter);
         for (int i = 0; i < 2; ++i)
             m_scene.advance(kShower / m_wantedCount / 2);
     }
@@ -222,9 +222,9 @@ QRect LetterFall::rectOf(const QTransform &transform, const Letter &letter) cons
     return QRectF(centre - reach, centre + reach).toAlignedRect();
 }
 
-QRect LetterFall::takeChanged()
+QRegion LetterFall::takeChanged()
 {
-    QRect changed;
+    QRegion changed;
     for (size_t i = 0; i < m_letters.size(); ++i) {
         Letter &letter = m_letters[i];
         const QTransform now = m_scene.transform(int(i));
@@ -239,14 +239,14 @@ QRect LetterFall::takeChanged()
     return changed & QRect(QPoint(), m_size);
 }
 
-void LetterFall::paint(QPainter &painter, const QRect &exposed, bool isDark) const
+void LetterFall::paint(QPainter &painter, const QRegion &exposed, bool isDark) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     const QTransform base = painter.transform();
     for (size_t i = 0; i < m_letters.size(); ++i) {
         const Letter &letter = m_letters[i];
         const QTransform now = m_scene.transform(int(i));
-        if (!rectOf(now, letter).intersects(exposed))
+        if (!exposed.intersects(rectOf(now, letter)))
             continue;
         painter.setTransform(now * base);
         painter.fillPath(letter.outline,

@@ -6,7 +6,7 @@
 #include "ui/onboarding/LetterSupply.h"
 
 #include <QPainterPath>
-#include <QRect>
+#include <QRegion>
 
 #include <chrono>
 #include <memory>
@@ -44,9 +44,9 @@ public:
     const LetterScene &scene() const { return m_scene; }
 
     /// What looks otherwise than at the last call.
-    QRect takeChanged();
+    QRegion takeChanged();
     /// The letters in `exposed`.
-    void paint(QPainter &painter, const QRect &exposed, bool isDark) const;
+    void paint(QPainter &painter, const QRegion &exposed, bool isDark) const;
 
 private:
     struct Letter
@@ -64,7 +64,7 @@ private:
     QRect rectOf(const QTransform &transform, const Letter &letter) const;
     void letIn(std::chrono::nanoseconds time);
     QPointF freePlace(QPointF at, double reach) const;
-    void drop(FallingLetter letter);
+    void drop(const FallingLetter &letter);
     std::chrono::nanoseconds interval() const;
 
     LetterScene m_scene;

@@ -108,7 +108,7 @@ struct LetterScene::Private
         addWall({corner.x / 2, corner.y + kWall / 2}, corner.x / 2 + kWall, kWall / 2);
     }
 
-    void addWall(const b2Vec2 &centre, float halfWidth, float halfHeight)
+    void addWall(const b2Vec2 &centre, float halfWidth, float halfHeight) const
     {
         b2PolygonShape shape;
         shape.SetAsBox(halfWidth, halfHeight, centre, 0);
@@ -173,7 +173,7 @@ struct LetterScene::Private
         }
     }
 
-    void bringBack(Letter &letter)
+    void bringBack(Letter &letter) const
     {
         const QPointF at = points(letter.body->GetPosition());
         const bool isInside = at.x() >= 0 && at.x() <= size.width() && at.y() <= size.height()

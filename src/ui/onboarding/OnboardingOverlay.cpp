@@ -196,7 +196,7 @@ void OnboardingOverlay::frame(nanoseconds passed)
 {
     const TraceStage stage("welcome: frame");
     const QPointer<OnboardingOverlay> self(this);
-    const QRect changed = moveOn(passed);
+    const QRegion changed = moveOn(passed);
     if (!self || isHidden())
         return;
     // At once, so that no frame is left out and each is measured whole.
@@ -205,12 +205,12 @@ void OnboardingOverlay::frame(nanoseconds passed)
     stopWhenQuiet();
 }
 
-QRect OnboardingOverlay::moveOn(nanoseconds passed)
+QRegion OnboardingOverlay::moveOn(nanoseconds passed)
 {
     m_phaseTime += passed;
     if (m_phase == Phase::leaving)
         return fadeOut();
-    QRect changed;
+    QRegion changed;
     if (m_fall) {
         m_fall->advance(passed);
         changed = m_fall->takeChanged();
@@ -351,7 +351,7 @@ void OnboardingOverlay::paintEvent(QPaintEvent *event)
     const bool isDark = isDarkDesktop();
     painter.fillRect(event->rect(), welcomeGround(isDark));
     if (m_fall)
-        m_fall->paint(painter, event->rect(), isDark);
+        m_fall->paint(painter, event->region(), isDark);
     if (m_cardProgress > 0 && cardRect().intersects(event->rect()))
         paintCard(painter);
 }
@@ -437,7 +437,7 @@ void OnboardingOverlay::leave()
     startClock();
 }
 
-QRect OnboardingOverlay::fadeOut()
+QRegion OnboardingOverlay::fadeOut()
 {
     if (m_phaseTime >= kFade) {
         m_clock->stop();

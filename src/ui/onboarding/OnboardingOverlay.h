@@ -70,7 +70,7 @@ private:
     void startClock();
     void stopWhenQuiet();
     void frame(std::chrono::nanoseconds passed);
-    QRect moveOn(std::chrono::nanoseconds passed);
+    QRegion moveOn(std::chrono::nanoseconds passed);
     void skip();
     void riseCard();
     QRect setCardProgress(double progress);
@@ -79,7 +79,7 @@ private:
     void paintCard(QPainter &painter);
     void end(End end);
     void leave();
-    QRect fadeOut();
+    QRegion fadeOut();
 
     const QPointer<QWidget> m_mainWindow;
     const Placement m_placement;

@@ -158,6 +158,7 @@ std::vector<QPolygonF> joinedTriangles(const QPolygonF &ring,
                                        int maximumCorners)
 {
     std::vector<Corners> polygons;
+    polygons.reserve(triangles.size());
     for (const TriangleCorners &corners : triangles)
         polygons.emplace_back(corners.begin(), corners.end());
     for (size_t at = 0; at < polygons.size();)
