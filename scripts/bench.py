@@ -19,6 +19,7 @@ import time
 from pathlib import Path
 
 import bench_detail
+import bench_quiz
 import bench_start
 import bench_text
 import bench_window
@@ -343,6 +344,7 @@ class Bench:
 
     def use_detail(self):
         bench_detail.add_rows(self, str(self.build / "src/app/lorva"), self.environment(True))
+        bench_quiz.add_rows(self, str(self.build / "src/app/lorva"), self.environment(True))
 
     # The Google Benchmark programs.
 

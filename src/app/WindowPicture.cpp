@@ -40,7 +40,7 @@ bool WindowPicture::isReady()
         return false;
     // The result may not have been drawn yet.
     m_scene.root.render();
-    if (!m_scene.root.isSettled())
+    if (!m_scene.root.isSettled() || playsCard())
         return false;
     if (!std::exchange(m_wasOpened, true))
         open();
@@ -51,21 +51,21 @@ void WindowPicture::open()
 {
     if (m_options.sheet)
         openSheet();
-    if (m_scene.root.isQuizOpen() && m_options.quiz != LaunchQuiz::intro)
-        playQuiz(m_options.quiz == LaunchQuiz::poster ? std::numeric_limits<int>::max()
-                                                      : kPlayedCards);
     if (m_options.welcome && m_scene.extras().welcome)
         m_scene.extras().welcome->settleForPicture(*m_options.welcome == LaunchWelcome::card);
 }
 
-/// Somebody has played for a while. What a picture sorts is kept nowhere.
-void WindowPicture::playQuiz(int cards)
+/// Somebody has played for a while. What a picture sorts is kept nowhere. True: a card was played.
+bool WindowPicture::playsCard()
 {
     constexpr int kTiles[]{1, 2, 2, 3, 6, 1, 4, 2, 5, 3};
-    FontQuizViewController &quiz = *m_scene.root.quiz();
-    for (int card = 0; card < cards && quiz.phase() == FontQuizViewController::Phase::playing;
-         ++card)
-        quiz.choose(kTiles[card % int(std::size(kTiles))]);
+    FontQuizViewController *quiz = m_scene.root.quiz();
+    const int wanted =
+        m_options.quiz == LaunchQuiz::poster ? std::numeric_limits<int>::max() : kPlayedCards;
+    if (!quiz || quiz->phase() != FontQuizViewController::Phase::playing || m_played >= wanted)
+        return false;
+    quiz->choose(kTiles[m_played++ % int(std::size(kTiles))]);
+    return true;
 }
 
 void WindowPicture::openSheet()

@@ -47,7 +47,7 @@ public:
 
 private:
     void open();
-    void playQuiz(int cards);
+    bool playsCard();
     void openSheet();
     bool isOpen() const;
     bool knowsFolders() const;
@@ -56,6 +56,7 @@ private:
     const LaunchOptions &m_options;
     const Scene m_scene;
     bool m_wasOpened = false;
+    int m_played = 0;
 };
 
 } // namespace lorva
