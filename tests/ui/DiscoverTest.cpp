@@ -132,6 +132,11 @@ TEST_F(DiscoverPage, DrawsWhatIsInSightAndWhatTheKeyboardReaches)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
     EXPECT_EQ(bar().value(), bar().maximum());
     EXPECT_TRUE(waitUntil([&] { return isDrawn("league"); }));
+    page->resize(400, 700);
+    EXPECT_TRUE(waitUntil([this] { return page->isSettled(); }));
+    EXPECT_TRUE(part<DiscoverArtworkView>(item("grilli-type"), "artworkView").image().isNull())
+        << "far away it takes no memory";
+    page->resize(884, 700);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_TRUE(page->rect().contains(
         item("grilli-type")

@@ -66,8 +66,7 @@ void DiscoverFoundryItem::setFoundry(const DiscoverFoundry &foundry)
     m_linkButton->setAccessibleName(tr("Visit %1").arg(foundry.title));
     m_linkButton->setToolTip(foundry.url.host());
     setAccessibleName(foundry.title);
-    m_run.cancel();
-    m_askedPixels = {};
+    releaseArtwork();
     layOut();
 }
 
@@ -85,6 +84,15 @@ void DiscoverFoundryItem::loadArtwork(QThreadPool &pool)
             return renderDiscoverArtwork(name, pixels);
         },
         [this](const QImage &image) { showArtwork(image); });
+}
+
+void DiscoverFoundryItem::releaseArtwork()
+{
+    m_run.cancel();
+    m_isLoading = false;
+    m_askedPixels = {};
+    m_artworkView->hide();
+    m_artworkView->setImage({});
 }
 
 void DiscoverFoundryItem::showArtwork(const QImage &image)

@@ -31,6 +31,8 @@ public:
     /// Has the artwork drawn on `pool` for the card's present size, unless it is there or on its
     /// way.
     void loadArtwork(QThreadPool &pool);
+    /// It is far out of sight.
+    void releaseArtwork();
     /// Nothing is on its way.
     bool isSettled() const { return !m_isLoading; }
     DiscoverLinkButton &linkButton() { return *m_linkButton; }

@@ -15,6 +15,8 @@
 #include <QScrollBar>
 #include <QStyle>
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
@@ -22,6 +24,8 @@ namespace {
 constexpr int kBarHeight = 52;
 /// Above and below what is in sight, for what comes next.
 constexpr int kAhead = 600;
+/// All of the artwork at two pixels a point takes 80 MB.
+constexpr int kFar = 3000;
 
 PaneColors pageColors()
 {
@@ -118,19 +122,24 @@ void DiscoverViewController::placeItems()
     bar->setValue(qRound(share * bar->maximum()));
 }
 
-bool DiscoverViewController::isInSight(const DiscoverFoundryItem &item) const
+/// In points; nothing for a card that is in sight.
+int DiscoverViewController::distanceOf(const DiscoverFoundryItem &item) const
 {
     const int top = item.y() + m_collectionView->y();
-    return top < m_scrollView->viewport()->height() + kAhead && top + item.height() > -kAhead;
+    return std::max({top - m_scrollView->viewport()->height(), -(top + item.height()), 0});
 }
 
 void DiscoverViewController::loadArtworkInSight()
 {
     if (!isVisible())
         return;
-    for (DiscoverFoundryItem *item : m_items)
-        if (isInSight(*item))
+    for (DiscoverFoundryItem *item : m_items) {
+        const int distance = distanceOf(*item);
+        if (distance <= kAhead)
             item->loadArtwork(m_pool);
+        else if (distance > kFar)
+            item->releaseArtwork();
+    }
 }
 
 void DiscoverViewController::focusPage()

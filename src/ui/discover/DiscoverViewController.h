@@ -45,7 +45,7 @@ private:
     void layOut();
     void placeItems();
     void loadArtworkInSight();
-    bool isInSight(const DiscoverFoundryItem &item) const;
+    int distanceOf(const DiscoverFoundryItem &item) const;
 
     const std::shared_ptr<DesktopOpener> m_desktop;
     const std::vector<DiscoverFoundry> m_foundries;
