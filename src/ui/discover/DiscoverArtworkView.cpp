@@ -5,8 +5,8 @@
 
 #include "ui/style/Palette.h"
 
+#include <QFile>
 #include <QPainter>
-#include <QPainterPath>
 #include <QSvgRenderer>
 
 // Resources of a static library are only linked in when someone asks for them; the macro must stand
