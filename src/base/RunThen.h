@@ -144,8 +144,9 @@ requires std::invocable<Work &, std::stop_token> RunHandle runThen(QThreadPool &
     new Receiver(guard, state, stop, std::move(done));
     // The pool copies its functions; the work may hold what cannot be copied.
     auto sharedWork = std::make_shared<Work>(std::move(work));
-    // Made before the order is passed, called and freed after it.
-    auto task = std::make_unique<std::function<void()>>(
+    // Made before the order is passed, called and freed after it; a pool that is cleared frees it,
+    // too.
+    auto task = std::make_shared<std::function<void()>>(
         [state, sharedWork, token = stop.get_token()]() mutable {
             std::optional<Outcome> outcome;
             if (!token.stop_requested())
@@ -156,9 +157,9 @@ requires std::invocable<Work &, std::stop_token> RunHandle runThen(QThreadPool &
         });
     sharedWork.reset();
     detail::passOrder();
-    pool.start([handedOver = task.release()] {
+    pool.start([task = std::move(task)]() mutable {
         detail::passOrder();
-        const std::unique_ptr<std::function<void()>> owned(handedOver);
+        const auto owned = std::move(task);
         (*owned)();
     });
     return RunHandle(std::move(stop));

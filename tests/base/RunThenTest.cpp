@@ -103,6 +103,22 @@ TEST_F(RunThen, AGuardThatDiesBeforeTheDeliveryGetsNone)
     EXPECT_EQ(delivered, 0);
 }
 
+TEST_F(RunThen, APoolThatIsClearedFreesTheWorkThatWaited)
+{
+    pool.setMaxThreadCount(1);
+    runThen(pool, guard.get(), heldWork(), [](int) {});
+    hasBegun.acquire();
+    auto input = std::make_shared<int>(1);
+    const std::weak_ptr<int> watched = input;
+    runThen(
+        pool, guard.get(), [input = std::move(input)](std::stop_token) { return *input; },
+        [this](int result) { delivered = result; });
+    pool.clear();
+    EXPECT_TRUE(watched.expired());
+    finish();
+    EXPECT_EQ(delivered, 0);
+}
+
 TEST_F(RunThen, CancellingStopsTheWorkAndTheDelivery)
 {
     RunHandle handle =

@@ -8,7 +8,7 @@
 #include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
 
-#include <QFile>
+#include <QAbstractButton>
 #include <QFileDialog>
 #include <QFontMetricsF>
 #include <QLabel>
@@ -79,34 +79,41 @@ QRectF boxOf(const FontQuizPosterPage::Text &line)
             metrics.horizontalAdvance(line.text), metrics.capHeight()};
 }
 
+/// Within the page, beside the buttons, and apart from each other.
+void expectRoomForEach(const FontQuizPosterPage &page, const QRectF &buttons)
+{
+    const QRectF paper = QRectF({}, page.size).adjusted(20, 40, -20, -20);
+    for (size_t i = 0; i < page.texts.size(); ++i) {
+        SCOPED_TRACE(page.texts[i].text.toStdString());
+        const QRectF box = boxOf(page.texts[i]);
+        EXPECT_TRUE(paper.contains(box)) << box.left() << ' ' << box.top() << ' ' << box.right();
+        EXPECT_FALSE(box.intersects(buttons));
+        for (size_t other = 0; other < i; ++other)
+            EXPECT_FALSE(box.intersects(boxOf(page.texts[other])));
+    }
+}
+
+void expectRoomOn(const QSizeF &size, const FontQuizCounts &counts, const QString &sentence)
+{
+    SCOPED_TRACE(testing::Message()
+                 << size.width() << ' ' << counts.total << ' ' << sentence.size());
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        const double left = direction == Qt::LeftToRight ? size.width() - 260 : 60;
+        expectRoomForEach(
+            fontQuizPosterPage(counts, sentence, {size, false, direction, QSizeF(200, 28), 1}),
+            QRectF(left, size.height() - 100, 200, 68));
+    }
+}
+
 TEST(QuizPosterTest, everythingFitsAndNothingOverlaps)
 {
-    const QString ordinary = posterText(kName, QDate(2026, 9, 23));
-    const QString wide = posterText(QString(300, u'm'), QDate(2026, 9, 23));
+    const QDate date(2026, 9, 23);
     const FontQuizCounts many{20'000, 12'000, 5'000, 1'000, 500, 1'000, 500};
     for (const QSizeF size : {QSizeF(640, 480), QSizeF(960, 800), QSizeF(1720, 920),
                               QSizeF(2560, 1440), QSizeF(1080, 1440)}) {
         for (const FontQuizCounts &counts : {FontQuizCounts(), kSorted, many}) {
-            for (const QString &sentence : {ordinary, wide}) {
-                for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-                    SCOPED_TRACE(testing::Message() << size.width() << ' ' << counts.total << ' '
-                                                    << sentence.size() << ' ' << int(direction));
-                    const FontQuizPosterPage page = fontQuizPosterPage(
-                        counts, sentence, {size, false, direction, QSizeF(200, 28), 1});
-                    const QRectF buttons(direction == Qt::LeftToRight ? size.width() - 260 : 60,
-                                         size.height() - 100, 200, 68);
-                    for (size_t i = 0; i < page.texts.size(); ++i) {
-                        const QRectF box = boxOf(page.texts[i]);
-                        EXPECT_TRUE(QRectF({}, size).adjusted(20, 40, -20, -20).contains(box))
-                            << page.texts[i].text.toStdString() << ' ' << box.left() << ' '
-                            << box.top() << ' ' << box.right();
-                        EXPECT_FALSE(box.intersects(buttons)) << page.texts[i].text.toStdString();
-                        for (size_t other = 0; other < i; ++other)
-                            EXPECT_FALSE(box.intersects(boxOf(page.texts[other])))
-                                << page.texts[i].text.toStdString();
-                    }
-                }
-            }
+            expectRoomOn(size, counts, posterText(kName, date));
+            expectRoomOn(size, counts, posterText(QString(300, u'm'), date));
         }
     }
 }
@@ -168,6 +175,7 @@ TEST_F(QuizPoster, BloomsOnceAndAtOnceWhereNothingIsToMove)
     const QImage whole = view.grab().toImage();
     view.hide();
     show(false);
+    EXPECT_FALSE(view.isSettled());
     auto *bloom = view.findChild<QVariantAnimation *>(QStringLiteral("quizPosterBloom"));
     bloom->pause();
     bloom->setCurrentTime(bloom->duration() / 3);
