@@ -22,6 +22,7 @@ import bench_detail
 import bench_quiz
 import bench_start
 import bench_text
+import bench_welcome
 import bench_window
 
 EXTENSIONS = {".otf", ".ttf", ".ttc", ".otc", ".dfont"}
@@ -345,6 +346,7 @@ class Bench:
     def use_detail(self):
         bench_detail.add_rows(self, str(self.build / "src/app/lorva"), self.environment(True))
         bench_quiz.add_rows(self, str(self.build / "src/app/lorva"), self.environment(True))
+        bench_welcome.add_rows(self, str(self.build / "src/app/lorva"), self.environment(True))
 
     # The Google Benchmark programs.
 

@@ -14,16 +14,20 @@ CARDS = 30
 CARD_DELAY_S = 0.6
 
 
+def frames_of(events, stage, begun):
+    """What the stages of that name took that began after that."""
+    frames = sorted(bench_window.durations_ms(events, stage, begun))
+    return {"frames": len(frames), "p50_ms": statistics.median(frames), "p99_ms": frames[int(len(frames) * 0.99)],
+            "worst_ms": frames[-1], "over_16_ms": sum(frame > 16 for frame in frames)}
+
+
 def play(window, hand):
     """From the first choice until the last card has landed."""
     bench_window.settle(window)
     begun = bench_window.now_us()
     for card in range(CARDS):
         hand.do("key", 1 + card % 6, "sleep", CARD_DELAY_S)
-    events = bench_window.settle(window)
-    frames = sorted(bench_window.durations_ms(events, "frame", begun))
-    return {"frames": len(frames), "p50_ms": statistics.median(frames), "p99_ms": frames[int(len(frames) * 0.99)],
-            "worst_ms": frames[-1], "over_16_ms": sum(frame > 16 for frame in frames)}
+    return frames_of(bench_window.settle(window), "frame", begun)
 
 
 def measure(program, environment):

@@ -135,7 +135,8 @@ void LorvaApplicationDelegate::applyDetailChoices(const LaunchOptions &options)
         m_root->detailActions().detailStageChanged(*options.detailStage);
     if (options.inspectorTab)
         m_root->showInspectorTab(*options.inspectorTab);
-    m_wantedQuiz = options.quiz;
+    if (options.quiz)
+        m_wantedQuiz = options.quiz;
 }
 
 /// The deck is dealt from the library, which has to be there.
@@ -144,6 +145,9 @@ void LorvaApplicationDelegate::openWantedQuiz()
     if (!m_wantedQuiz || m_model->isLoading())
         return;
     const LaunchQuiz phase = *std::exchange(m_wantedQuiz, std::nullopt);
+    // A game that is played goes on.
+    if (m_root->isQuizOpen())
+        return;
     m_root->openQuiz();
     FontQuizViewController *quiz = m_root->quiz();
     if (!quiz || phase == LaunchQuiz::intro)
@@ -166,6 +170,7 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
         if (!hasAlertSheet(*m_window)) {
             applyChoices(*options);
             applyDetailChoices(*options);
+            openWantedQuiz();
         }
         m_model->addFoldersForThisRun(options->folders);
     }

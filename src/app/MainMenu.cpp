@@ -333,7 +333,7 @@ void MainMenu::restLibraryActions()
 
 void MainMenu::update()
 {
-    if (std::exchange(m_isResting, m_targets.isQuizOpen()))
+    if (std::exchange(m_isResting, m_targets.isQuizOpen()) && !m_isResting)
         for (QAction *action : m_libraryActions)
             action->setEnabled(true);
     const QUndoStack &stack = m_targets.model.undoStack();

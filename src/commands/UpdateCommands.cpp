@@ -57,23 +57,29 @@ void UpdateCommands::checkForUpdates()
 
 void UpdateCommands::showProgress()
 {
-    m_isCancelled = false;
+    // It is the progress's own button that was pressed.
     const auto cancel = [this] {
-        m_isCancelled = true;
-        // It is its own button that was pressed.
         QMetaObject::invokeMethod(
-            this, [this] { m_progress.reset(); }, Qt::QueuedConnection);
+            this, [this] { cancelCheck(); }, Qt::QueuedConnection);
     };
     m_progress =
         m_presenter.showProgress({tr("Looking for a newer release…"), std::nullopt}, cancel);
+}
+
+/// Does nothing when the outcome came first.
+void UpdateCommands::cancelCheck()
+{
+    if (!m_progress)
+        return;
+    m_updater.cancelCheck();
+    m_progress.reset();
+    Q_EMIT changed();
 }
 
 void UpdateCommands::tell(const UpdateOutcome &outcome)
 {
     m_progress.reset();
     Q_EMIT changed();
-    if (m_isCancelled)
-        return;
     m_presenter.showAlert(
         updateAlert(outcome, m_runningVersion), [desktop = m_desktop, outcome](int button) {
             const bool isWanted = outcome.kind == UpdateOutcome::Kind::newer && button == 0;

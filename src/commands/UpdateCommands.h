@@ -40,6 +40,7 @@ Q_SIGNALS:
 
 private:
     void showProgress();
+    void cancelCheck();
     void tell(const UpdateOutcome &outcome);
 
     UpdaterController &m_updater;
@@ -50,8 +51,6 @@ private:
     /// What starting failed with.
     std::optional<Error> m_failure;
     std::unique_ptr<ProgressDisplay> m_progress;
-    /// The user does not wait any more.
-    bool m_isCancelled = false;
 };
 
 } // namespace lorva

@@ -18,8 +18,7 @@ class QNetworkReply;
 namespace lorva {
 
 /// Whether something may be fetched from there: https, or http on this computer itself
-/// (127.0.0.0/8,
-/// ::1, localhost); without a name or password in it. Fails with invalidValue.
+/// (127.0.0.0/8, ::1, localhost); without a name or password in it. Fails with invalidValue.
 Result<void> checkDownloadAddress(const QUrl &address);
 /// Whether a server at `from` may send us on to `to`: besides the above never from https to http,
 /// and from elsewhere never to this computer. Fails with permissionDenied.

@@ -62,6 +62,11 @@ void FeedUpdaterController::checkForUpdates()
         [this](const Result<QByteArray> &feed) { conclude(judge(feed)); });
 }
 
+void FeedUpdaterController::cancelCheck()
+{
+    m_download.reset();
+}
+
 UpdateOutcome FeedUpdaterController::judge(const Result<QByteArray> &feed) const
 {
     using Kind = UpdateOutcome::Kind;

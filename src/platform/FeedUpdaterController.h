@@ -46,6 +46,7 @@ public:
     Result<void> start() override;
     bool canCheckForUpdates() const override;
     void checkForUpdates() override;
+    void cancelCheck() override;
 
 private:
     Result<void> checkSettings() const;

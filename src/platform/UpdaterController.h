@@ -52,6 +52,8 @@ public:
     virtual bool canCheckForUpdates() const = 0;
     /// The user asks for a look; onOutcome is called once, later.
     virtual void checkForUpdates() = 0;
+    /// Ends a look that runs; onOutcome is not called for it.
+    virtual void cancelCheck() { }
 
     std::function<void(const UpdateOutcome &)> onOutcome;
 };

@@ -30,6 +30,7 @@ public:
         isLooking = true;
         ++looks;
     }
+    void cancelCheck() override { isLooking = false; }
     void answer(const UpdateOutcome &outcome)
     {
         isLooking = false;
@@ -105,14 +106,15 @@ TEST_F(UpdateCommandsTest, OpensThePageOfANewerReleaseIfTheUserWants)
     EXPECT_THAT(desktop->links, ElementsAre(kNew.page.toString()));
 }
 
-TEST_F(UpdateCommandsTest, SaysNothingToThoseWhoHaveStoppedWaiting)
+TEST_F(UpdateCommandsTest, EndsTheLookForThoseWhoStopWaiting)
 {
     commands.start();
     commands.checkForUpdates();
     presenter.progress.front()->cancel();
     EXPECT_TRUE(test::waitUntil([this] { return !presenter.progress.front()->isShown; }));
-    updater.answer({UpdateOutcome::Kind::newer, kNew});
+    EXPECT_FALSE(updater.isLooking);
     EXPECT_THAT(presenter.alerts, IsEmpty());
+    EXPECT_TRUE(commands.canCheckForUpdates()) << "at once";
     commands.checkForUpdates();
     updater.answer({UpdateOutcome::Kind::newer, kNew});
     EXPECT_EQ(presenter.alerts.size(), 1U) << "the next look is a new one";

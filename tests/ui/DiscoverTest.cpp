@@ -113,9 +113,13 @@ TEST_F(DiscoverPage, OpensTheSiteByKeyAndByClick)
     QTest::mouseClick(&item("grilli-type").linkButton(), Qt::LeftButton);
     QTest::mouseClick(&part<QWidget>(item("klim"), "imageContainer"), Qt::LeftButton);
     QTest::mouseClick(&item("klim"), Qt::LeftButton, {}, item("klim").rect().bottomLeft());
+    QTest::mousePress(&item("klim"), Qt::LeftButton, {}, item("klim").rect().bottomLeft());
+    QTest::mouseRelease(&item("klim"), Qt::LeftButton, {}, {50, 50});
+    QTest::mouseDClick(&item("klim"), Qt::LeftButton, {}, {50, 50});
     const QString klim = QStringLiteral("https://klim.co.nz");
     EXPECT_THAT(desktop->links,
-                ElementsAre(klim, QStringLiteral("https://www.grillitype.com"), klim));
+                ElementsAre(klim, QStringLiteral("https://www.grillitype.com"), klim, klim))
+        << "a double click opens once, a drag onto it nothing";
     EXPECT_EQ(item("klim").linkButton().accessibleDescription(), QStringLiteral("Open Website"));
 }
 
@@ -146,6 +150,7 @@ TEST_F(DiscoverPage, DrawsWhatIsInSightAndWhatTheKeyboardReaches)
     page->resize(700, 900);
     EXPECT_TRUE(waitUntil([&] { return isDrawn("grilli-type"); })) << "sharp in its new size";
     EXPECT_EQ(item("klim").width(), 636);
+    EXPECT_EQ(bar().pageStep(), 900 - 52 - 48) << "of a page something stays in sight";
 }
 
 TEST_F(DiscoverPage, StandsInForArtworkThatIsMissing)
@@ -164,8 +169,15 @@ TEST_F(DiscoverPage, StandsInForArtworkThatIsMissing)
 TEST_F(DiscoverPage, KeepsItsPlaceAndItsColoursWhenTheDesktopChanges)
 {
     open(discoverFoundries(), 700);
-    page->setLayoutDirection(Qt::RightToLeft);
+    bar().setValue(bar().maximum() / 2);
+    const auto isSeen = [this](const char *id) {
+        const QWidget &card = item(id);
+        return page->rect().contains(card.mapTo(page.get(), card.rect().center()));
+    };
+    ASSERT_TRUE(isSeen("optimo"));
     page->resize(1000, 700);
+    EXPECT_TRUE(isSeen("optimo")) << "in two columns, too";
+    page->setLayoutDirection(Qt::RightToLeft);
     EXPECT_GT(item("grilli-type").x(), item("klim").x());
     EXPECT_TRUE(waitUntil([this] { return page->isSettled(); }));
     setDarkDesktopOverride(true);
@@ -174,8 +186,8 @@ TEST_F(DiscoverPage, KeepsItsPlaceAndItsColoursWhenTheDesktopChanges)
     setDarkDesktopOverride(false);
     EXPECT_EQ(page->grab().toImage().pixelColor(4, 690), neutralColors(false).ground);
     desktop.reset();
-    page.reset();
     open();
+    QTest::mouseClick(&item("klim").linkButton(), Qt::LeftButton);
     page.reset();
 }
 

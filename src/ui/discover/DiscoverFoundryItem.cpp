@@ -14,6 +14,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <utility>
+
 namespace lorva {
 
 namespace {
@@ -80,8 +82,8 @@ void DiscoverFoundryItem::loadArtwork(QThreadPool &pool)
     m_isLoading = true;
     m_run = runThen(
         pool, this,
-        [name = m_foundry->imageName, pixels](const std::stop_token &) {
-            return renderDiscoverArtwork(name, pixels);
+        [name = m_foundry->imageName, pixels](const std::stop_token &stop) {
+            return stop.stop_requested() ? QImage() : renderDiscoverArtwork(name, pixels);
         },
         [this](const QImage &image) { showArtwork(image); });
 }
@@ -147,13 +149,29 @@ void DiscoverFoundryItem::paintEvent(QPaintEvent *)
                             DiscoverArtworkView::kRadius);
 }
 
+bool DiscoverFoundryItem::isOnArtwork(const QMouseEvent &event) const
+{
+    return event.button() == Qt::LeftButton
+        && m_imageContainer->geometry().contains(event.position().toPoint());
+}
+
+void DiscoverFoundryItem::mousePressEvent(QMouseEvent *event)
+{
+    m_isPressed = isOnArtwork(*event);
+    event->accept();
+}
+
+/// The second press of a double click opens nothing again.
+void DiscoverFoundryItem::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
 void DiscoverFoundryItem::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool isOnArtwork = m_imageContainer->geometry().contains(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && isOnArtwork)
+    event->accept();
+    if (std::exchange(m_isPressed, false) && isOnArtwork(*event))
         open();
-    else
-        QWidget::mouseReleaseEvent(event);
 }
 
 void DiscoverFoundryItem::changeEvent(QEvent *event)

@@ -40,12 +40,15 @@ public:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
     void layOut();
     void showArtwork(const QImage &image);
+    bool isOnArtwork(const QMouseEvent &event) const;
     void open();
 
     std::optional<DiscoverFoundry> m_foundry;
@@ -59,6 +62,8 @@ private:
     /// What was asked for last.
     QSize m_askedPixels;
     bool m_isLoading = false;
+    /// The button went down on the artwork.
+    bool m_isPressed = false;
     RunHandle m_run;
 };
 

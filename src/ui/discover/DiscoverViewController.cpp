@@ -79,6 +79,8 @@ DiscoverViewController::DiscoverViewController(std::shared_ptr<DesktopOpener> de
 
 DiscoverViewController::~DiscoverViewController()
 {
+    for (DiscoverFoundryItem *item : m_items)
+        item->releaseArtwork();
     m_pool.waitForDone();
 }
 
@@ -104,6 +106,9 @@ void DiscoverViewController::layOut()
         m_lastLayoutWidth = gridWidth;
         placeItems();
     }
+    // The scroll view takes its own height for a page at each resize.
+    m_scrollView->verticalScrollBar()->setPageStep(
+        std::max(m_scrollView->viewport()->height() - spacing::k48, spacing::k48));
     m_scrollView->adaptScrollBar();
     loadArtworkInSight();
 }
@@ -118,7 +123,6 @@ void DiscoverViewController::placeItems()
     for (size_t i = 0; i < m_items.size(); ++i)
         m_items[i]->setGeometry(QStyle::visualRect(layoutDirection(), m_collectionView->rect(),
                                                    layout.itemRect(int(i))));
-    bar->setPageStep(std::max(m_scrollView->viewport()->height() - spacing::k48, spacing::k48));
     bar->setValue(qRound(share * bar->maximum()));
 }
 
@@ -156,6 +160,15 @@ bool DiscoverViewController::isSettled() const
 void DiscoverViewController::paintEvent(QPaintEvent *event)
 {
     QPainter(this).fillRect(event->rect(), pageColors().background);
+}
+
+bool DiscoverViewController::event(QEvent *event)
+{
+    const bool isHandled = QWidget::event(event);
+    // On another screen pixels may be smaller.
+    if (event->type() == QEvent::ScreenChangeInternal)
+        loadArtworkInSight();
+    return isHandled;
 }
 
 void DiscoverViewController::resizeEvent(QResizeEvent *)

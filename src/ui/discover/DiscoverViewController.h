@@ -5,7 +5,6 @@
 #include "platform/DesktopOpener.h"
 #include "ui/discover/DiscoverFoundry.h"
 
-#include <QScrollArea>
 #include <QThreadPool>
 #include <QWidget>
 
@@ -35,6 +34,7 @@ public:
     bool isSettled() const;
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

@@ -22,7 +22,8 @@ constexpr int kMaximumParts = 40;
 /// point. An outline of many pieces, or of more points than any letter, gives the hull of what it
 /// has; one without any area gives nothing.
 ///
-/// Thread: any. Work is bounded: at most some milliseconds. Units: points; what lies farther than
+/// Thread: any. Work is bounded: milliseconds for letters, some
+/// tenths of a second for the worst that a font can hold. Units: points; what lies farther than
 /// kFarthestPart from the origin gives nothing.
 std::vector<QPolygonF> convexParts(const QPainterPath &outline);
 

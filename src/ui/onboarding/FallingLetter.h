@@ -24,7 +24,7 @@ struct FallingLetter
 
 /// The first of the characters that the font has and that has an outline; nothing where none has:
 /// fonts of pictures, and damaged ones. Ink that is much larger than type of that size is made
-/// smaller. Thread: any; takes up to some milliseconds.
+/// smaller. Thread: any; see convexParts() for the time it takes.
 std::optional<FallingLetter> makeFallingLetter(const Font &font, const std::u32string &characters);
 
 /// Characters worth looking at, in the order in which they are to be tried for the letter with that

@@ -40,6 +40,8 @@ public:
     void freeze();
     /// All letters come and fall at once: takes seconds. For a picture.
     void settle();
+    /// Letters are late.
+    bool isWaiting() const { return m_supply && m_supply->isWaiting(); }
     int count() const { return int(m_letters.size()); }
     const LetterScene &scene() const { return m_scene; }
 

@@ -38,6 +38,8 @@ public:
     std::optional<FallingLetter> takeNow();
     /// From now on letters of the system's font stand in while no family can give one.
     void allowSystemFont();
+    /// None is ready, and some are on their way.
+    bool isWaiting() const { return m_ready.empty() && m_pending > 0; }
     /// There are families to take letters from.
     bool hasFamilies() const { return !m_order.empty(); }
 

@@ -84,7 +84,6 @@ OnboardingOverlay::OnboardingOverlay(QWidget &mainWindow, Placement placement,
     setObjectName(QStringLiteral("OnboardingOverlay"));
     setWindowTitle(tr("Welcome to Lorva"));
     setAccessibleName(windowTitle());
-    setAccessibleDescription(tr("Letters of your fonts fall. Press any key to go on."));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     // What is dragged over the window ends here.
@@ -132,6 +131,7 @@ void OnboardingOverlay::begin(std::unique_ptr<LetterFall> fall)
     raise();
     activateWindow();
     if (m_fall) {
+        setAccessibleDescription(tr("Letters of your fonts fall. Press any key to go on."));
         takeFocus();
         startClock();
         return;
@@ -229,6 +229,7 @@ void OnboardingOverlay::skip()
 {
     m_fall->freeze();
     m_phase = Phase::card;
+    setAccessibleDescription({});
     setCardProgress(1);
     takeFocus();
     stopWhenQuiet();
@@ -241,6 +242,7 @@ void OnboardingOverlay::riseCard()
     if (m_fall)
         m_fall->endSupply();
     m_phase = isAnimated ? Phase::cardRises : Phase::card;
+    setAccessibleDescription({});
     m_phaseTime = nanoseconds(0);
     setCardProgress(isAnimated ? 0 : 1);
     m_card->show();
@@ -320,9 +322,10 @@ void OnboardingOverlay::keyPressEvent(QKeyEvent *event)
         return;
     if (m_phase == Phase::scene)
         return skip();
+    const bool isChord = event->modifiers() & ~Qt::KeypadModifier;
     const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
         || event->key() == Qt::Key_Space;
-    if (presses)
+    if (presses && !isChord)
         m_button->click();
 }
 

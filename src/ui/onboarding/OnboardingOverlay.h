@@ -15,7 +15,6 @@
 #include <functional>
 #include <memory>
 
-class QGraphicsOpacityEffect;
 class QPushButton;
 
 namespace lorva {
