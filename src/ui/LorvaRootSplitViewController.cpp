@@ -184,6 +184,8 @@ bool LorvaRootSplitViewController::showsInspector() const
 
 QString LorvaRootSplitViewController::title() const
 {
+    if (m_quiz)
+        return tr("Organize Fonts");
     return isDetailOpen() ? m_detail->state().family.familyName : m_browser->state().title;
 }
 

@@ -79,7 +79,7 @@ public:
     void showInspectorTab(FontInspectorViewController::Tab tab);
     /// The inspector is open beside the family, or over it.
     bool showsInspector() const;
-    /// Of what is shown: the source or the family.
+    /// Of what is shown: the source, the family or the quiz.
     QString title() const;
     /// The cards are shown; also beneath the quiz.
     bool isBrowserOpen() const { return m_pane == Pane::browser; }

@@ -115,7 +115,9 @@ TEST_F(DiscoverPage, OpensTheSiteByKeyAndByClick)
     QTest::mouseClick(&item("klim"), Qt::LeftButton, {}, item("klim").rect().bottomLeft());
     QTest::mousePress(&item("klim"), Qt::LeftButton, {}, item("klim").rect().bottomLeft());
     QTest::mouseRelease(&item("klim"), Qt::LeftButton, {}, {50, 50});
+    QTest::mouseClick(&item("klim"), Qt::LeftButton, {}, {50, 50});
     QTest::mouseDClick(&item("klim"), Qt::LeftButton, {}, {50, 50});
+    QTest::mouseRelease(&item("klim"), Qt::LeftButton, {}, {50, 50});
     const QString klim = QStringLiteral("https://klim.co.nz");
     EXPECT_THAT(desktop->links,
                 ElementsAre(klim, QStringLiteral("https://www.grillitype.com"), klim, klim))

@@ -266,17 +266,13 @@ QTransform LetterScene::transform(int index) const
 QRectF LetterScene::bounds(int index) const
 {
     const b2Body *body = d->letters[size_t(index)].body;
-    b2AABB box;
-    bool isFirst = true;
+    QRectF whole;
     for (const b2Fixture *fixture = body->GetFixtureList(); fixture; fixture = fixture->GetNext()) {
-        b2AABB part;
+        b2AABB part{b2Vec2_zero, b2Vec2_zero};
         fixture->GetShape()->ComputeAABB(&part, body->GetTransform(), 0);
-        if (std::exchange(isFirst, false))
-            box = part;
-        else
-            box.Combine(part);
+        whole |= QRectF(points(part.lowerBound), points(part.upperBound));
     }
-    return {points(box.lowerBound), points(box.upperBound)};
+    return whole;
 }
 
 void LetterScene::advance(nanoseconds time)

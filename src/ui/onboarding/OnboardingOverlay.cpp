@@ -154,6 +154,9 @@ void OnboardingOverlay::settleForPicture(std::unique_ptr<LetterFall> fall, bool 
 
 void OnboardingOverlay::coverMainWindow()
 {
+    // A window manager that makes it smaller would uncover what it hides.
+    if (m_placement == Placement::window)
+        setFixedSize(m_mainWindow->size());
     setGeometry(m_placement == Placement::window ? m_mainWindow->geometry() : m_mainWindow->rect());
 }
 
@@ -227,12 +230,12 @@ QRegion OnboardingOverlay::moveOn(nanoseconds passed)
 
 void OnboardingOverlay::skip()
 {
-    m_fall->freeze();
+    // Those in the air come to rest beneath the card.
+    m_fall->endSupply();
     m_phase = Phase::card;
     setAccessibleDescription({});
     setCardProgress(1);
     takeFocus();
-    stopWhenQuiet();
     update();
 }
 
