@@ -62,6 +62,9 @@ TEST(QuizPosterTest, anyNameLeavesTheSentenceInOrder)
         {QStringLiteral("Ada\u202e\nLovelace"), QStringLiteral("by Ada Lovelace on")},
         {QStringLiteral("\u05d9\u05e2\u05dc 2"),
          QStringLiteral("by \u2068\u05d9\u05e2\u05dc 2\u2069 on")},
+        {QStringLiteral("Ada \u200e Lovelace"), QStringLiteral("by Ada Lovelace on")},
+        {QString(99, u'm') + QStringLiteral("\U0001F600"),
+         QString(QStringLiteral("by ") + QString(99, u'm') + u'…')},
         {QString(300, u'm'), QString(QStringLiteral("by ") + QString(100, u'm') + u'…')},
     };
     for (const auto &row : rows) {

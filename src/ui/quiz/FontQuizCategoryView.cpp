@@ -3,6 +3,7 @@
 
 #include "ui/quiz/FontQuizCategoryView.h"
 
+#include "base/GroupedNumber.h"
 #include "ui/quiz/FontQuizGame.h"
 #include "ui/quiz/FontQuizGround.h"
 #include "ui/style/Palette.h"
@@ -46,7 +47,8 @@ FontQuizCategoryView::FontQuizCategoryView(int tile, QWidget *parent)
 
 void FontQuizCategoryView::describe(int count)
 {
-    setAccessibleName(tr("%1, key %2, %n fonts", nullptr, count).arg(text()).arg(m_tile));
+    const QString says = count == 1 ? tr("%1, key %2, %3 font") : tr("%1, key %2, %3 fonts");
+    setAccessibleName(says.arg(text(), locale().toString(m_tile), groupedNumber(count)));
 }
 
 void FontQuizCategoryView::setPile(std::vector<FontQuizShownCard> pile, int count)

@@ -3,6 +3,8 @@
 
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 
+#include "base/GroupedNumber.h"
+#include "base/TextBeginning.h"
 #include "ui/display/PanelParts.h"
 #include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
@@ -65,10 +67,10 @@ bool isRightToLeft(QChar character)
 
 QString shownName(const QString &fullName)
 {
-    QString name = fullName.simplified();
-    name.removeIf(isDirectionControl);
+    QString name = fullName;
+    name = name.removeIf(isDirectionControl).simplified();
     if (name.size() > kLongestName)
-        name = name.left(kLongestName).trimmed() + u'…';
+        name = textBeginning(name, kLongestName).trimmed() + u'…';
     if (!std::ranges::any_of(name, isRightToLeft))
         return name;
     // FIRST STRONG ISOLATE … POP DIRECTIONAL ISOLATE
@@ -86,7 +88,7 @@ QString spokenCounts(const FontQuizCounts &counts)
                                           {text("Decorative"), counts.decorative}};
     QStringList spoken;
     for (const auto &[name, count] : parts)
-        spoken << text("%1: %2").arg(name, QLocale().toString(count));
+        spoken << text("%1: %2").arg(name, groupedNumber(count));
     return QLocale().createSeparatedList(spoken);
 }
 
@@ -251,6 +253,9 @@ void FontQuizCompletionPosterView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return event->ignore();
+    // A key that is held down since the last card must not end it all.
+    if (event->isAutoRepeat())
+        return;
     auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
     (focused ? focused : m_doneButton)->click();
 }

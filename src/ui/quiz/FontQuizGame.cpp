@@ -100,7 +100,12 @@ Result<void> FontQuizGame::takeBack()
     const int steps = m_undoSteps - 1;
     m_model.undoStack().undo();
     m_undoSteps = steps;
-    return {};
+    if (!m_model.styleIDByFamily().contains(last->familyName))
+        return {};
+    // The stack has moved although the change was not taken: what it would undo next is another
+    // family's choice.
+    m_undoSteps = 0;
+    return m_model.setStyle({last->familyName}, std::nullopt);
 }
 
 void FontQuizGame::modelChanged()

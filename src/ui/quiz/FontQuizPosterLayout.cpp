@@ -3,6 +3,7 @@
 
 #include "ui/quiz/FontQuizPosterPage.h"
 
+#include "base/GroupedNumber.h"
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 #include "ui/quiz/FontQuizPosterLines.h"
 #include "ui/style/Palette.h"
@@ -12,7 +13,6 @@
 #include <QEasingCurve>
 #include <QFontMetricsF>
 #include <QLinearGradient>
-#include <QLocale>
 #include <QMarginsF>
 
 #include <algorithm>
@@ -105,7 +105,7 @@ std::array<QString, kCategories> formatted(const std::array<int, kCategories> &n
 {
     std::array<QString, kCategories> texts;
     std::ranges::transform(numbers, texts.begin(),
-                           [](int number) { return QLocale().toString(number); });
+                           [](int number) { return groupedNumber(number); });
     return texts;
 }
 
@@ -200,7 +200,7 @@ private:
     /// A large digit's own bearing would set it off from everything below.
     void putNumber(int number, const QFont &font, double x, double baseline, const QBrush &brush)
     {
-        const QString shown = QLocale().toString(number);
+        const QString shown = groupedNumber(number);
         const QRectF ink = QFontMetricsF(font).tightBoundingRect(shown);
         const double bearing = isRightToLeft() ? widthOf(shown, font) - ink.right() : ink.left();
         put(shown, font, x - bearing, baseline, brush);
@@ -248,7 +248,7 @@ private:
         const FontQuizNumberLayer &layer = m_layers[index + 1];
         const bool isZero = numbersOf(m_counts)[index] == 0;
         const double rise = (1 - layer.opacity) * spacing::k16 * m_unit;
-        put(QLocale().toString(layer.shown), font, x, baseline + rise,
+        put(groupedNumber(layer.shown), font, x, baseline + rise,
             withAlpha(m_colors.ink, layer.opacity * (isZero ? kZero : 1)));
     }
 
@@ -269,7 +269,7 @@ private:
     {
         QFont font = posterFont(kSizeTried, QFont::Bold);
         font.setLetterSpacing(QFont::PercentageSpacing, kTotalSpacing);
-        const QString number = QLocale().toString(m_counts.total);
+        const QString number = groupedNumber(m_counts.total);
         const double wide = widthOf(number, font);
         const double high = digitHeight(font);
         if (!(wide > 0) || !(high > 0))
@@ -291,8 +291,7 @@ private:
         const double top = m_room.top() + QFontMetricsF(labelFont).capHeight() + above;
         const QFont font = totalFont(top, below);
         const double height = digitHeight(font);
-        const QRectF ink =
-            QFontMetricsF(font).tightBoundingRect(QLocale().toString(m_counts.total));
+        const QRectF ink = QFontMetricsF(font).tightBoundingRect(groupedNumber(m_counts.total));
         const double baseline = m_foot - std::max(below, ink.bottom() + below / 2);
         const QRectF digits(0, baseline - height, 1, height);
         const double share = shareOf(m_setting.progress, 0, kTotalTime);

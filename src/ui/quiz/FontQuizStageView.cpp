@@ -36,6 +36,17 @@ constexpr double kProgressAlpha = 0.55;
 constexpr double kHintAlpha = 0.5;
 const QByteArray kFlightTrack = QByteArrayLiteral("flight");
 
+/// What a pile draws of a card; the large pictures of many would be kept for nothing.
+FontQuizCardPictures::Picture smallPicture(const FontQuizCardPictures::Picture &picture)
+{
+    if (!picture)
+        return nullptr;
+    auto small = std::make_shared<FontQuizCardPicture>();
+    small->image = small->half = small->quarter = picture->quarter;
+    small->isStandIn = picture->isStandIn;
+    return small;
+}
+
 double risen(double share)
 {
     return QEasingCurve(QEasingCurve::OutCubic).valueForProgress(share);
@@ -175,10 +186,11 @@ void FontQuizStageView::pictureArrived(const QString &)
 }
 
 /// The deck is as it will be when the card has arrived.
-void FontQuizStageView::fly(FontQuizShownCard card, const Flight &flight,
+void FontQuizStageView::fly(const QString &familyName, FontQuizShownCard card, const Flight &flight,
                             std::function<void()> done)
 {
     m_flyingPicture = card.picture;
+    m_flyingFamily = familyName;
     setNotice({});
     wantPictures();
     describeCard();
@@ -222,9 +234,8 @@ void FontQuizStageView::throwCard()
     const auto place = size_t(choice.tile - 1);
     const FontQuizPose top = fontQuizPilePose(m_layout.tiles[place], m_deck.counts()[place] - 1);
     FontQuizShownCard card = shown(choice.familyName, choice.theme);
-    m_flyingFamily = choice.familyName;
     flashTile(choice);
-    fly(std::move(card), {fontQuizRestPose(m_layout, 0), top, true, 1, kFlight},
+    fly(choice.familyName, std::move(card), {fontQuizRestPose(m_layout, 0), top, true, 1, kFlight},
         [this, choice] { land(choice); });
 }
 
@@ -243,7 +254,7 @@ void FontQuizStageView::land(const FontQuizDeck::Choice &choice)
 {
     auto &pile = m_landedPiles[size_t(choice.tile - 1)];
     pile.push_back({choice.familyName, choice.theme, m_deck.counts()[size_t(choice.tile - 1)] - 1,
-                    m_flyingPicture});
+                    smallPicture(m_flyingPicture)});
     if (int(pile.size()) > m_maxPileSize)
         pile.erase(pile.begin());
     showPile(choice.tile);
@@ -284,9 +295,8 @@ void FontQuizStageView::bringBack(const std::vector<FontQuizDeck::Choice> &taken
         return endFlight();
     const auto place = size_t(newest.tile - 1);
     const FontQuizPose pile = fontQuizPilePose(m_layout.tiles[place], m_deck.counts()[place]);
-    m_flyingFamily = newest.familyName;
-    fly(std::move(card), {pile, fontQuizRestPose(m_layout, 0), true, -1, kFlight},
-        [this] { endFlight(); });
+    fly(newest.familyName, std::move(card),
+        {pile, fontQuizRestPose(m_layout, 0), true, -1, kFlight}, [this] { endFlight(); });
 }
 
 void FontQuizStageView::putAside(const QString &familyName, const FontQuizCardTheme &theme)
@@ -296,7 +306,7 @@ void FontQuizStageView::putAside(const QString &familyName, const FontQuizCardTh
     aside.centre.rx() += (isRightToLeft() ? -0.3 : 0.3) * m_layout.card.width();
     aside.degrees = isRightToLeft() ? -4 : 4;
     aside.opacity = 0;
-    fly(shown(familyName, theme), {rest, aside}, [this] { endFlight(); });
+    fly(familyName, shown(familyName, theme), {rest, aside}, [this] { endFlight(); });
 }
 
 void FontQuizStageView::fadeAway(const QString &familyName, const FontQuizCardTheme &theme)
@@ -306,7 +316,7 @@ void FontQuizStageView::fadeAway(const QString &familyName, const FontQuizCardTh
     const FontQuizPose rest = fontQuizRestPose(m_layout, 0);
     FontQuizPose gone = rest;
     gone.opacity = 0;
-    fly(std::move(card), {rest, gone}, [this] { endFlight(); });
+    fly(familyName, std::move(card), {rest, gone}, [this] { endFlight(); });
 }
 
 void FontQuizStageView::setNotice(const QString &text)

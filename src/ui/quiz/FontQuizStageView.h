@@ -101,7 +101,8 @@ private:
     void describeCard();
     std::vector<FontQuizShownCard> deckCards(int first, double depthShift) const;
     FontQuizShownCard shown(const QString &familyName, const FontQuizCardTheme &theme) const;
-    void fly(FontQuizShownCard card, const Flight &flight, std::function<void()> done);
+    void fly(const QString &familyName, FontQuizShownCard card, const Flight &flight,
+             std::function<void()> done);
     void settleFlight();
     void endFlight();
     void takeColors();

@@ -16,6 +16,7 @@
 #include "ui/style/Style.h"
 #include "ui/style/TextButton.h"
 
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -25,6 +26,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kFade{320};
 constexpr std::chrono::milliseconds kBloom{600};
+/// Points.
+constexpr int kNameInNotice = 240;
 /// The wash is so faint that its steps cannot be seen; each repaints half of the window.
 constexpr int kBloomSteps = 8;
 
@@ -41,6 +44,13 @@ int typedNumber(const QKeyEvent &event)
         return 0;
     const QString text = event.text();
     return text.size() == 1 ? text[0].digitValue() : text.toInt();
+}
+
+/// So much of a name that the reason behind it is seen as well.
+QString inNotice(const QString &familyName)
+{
+    const QFontMetrics metrics(interfaceFont(InterfaceSize::label, InterfaceWeight::medium));
+    return metrics.elidedText(familyName.simplified(), Qt::ElideMiddle, kNameInNotice);
 }
 
 bool isReturn(const QKeyEvent &event)
@@ -139,6 +149,8 @@ void FontQuizViewController::setPhase(Phase phase)
         m_poster->setVisible(phase == Phase::done);
     m_closeButton->raise();
     m_veil->raise();
+    m_closeButton->setAccessibleDescription(
+        m_intro->isVisibleTo(this) && deck().isExhausted() ? m_intro->sentence() : QString());
     if (!isVisible())
         return;
     if (phase == Phase::playing)
@@ -173,7 +185,7 @@ void FontQuizViewController::choose(int tile)
     if (!written)
         return m_stage->setNotice(
             tr("“%1” could not be put into %2: %3")
-                .arg(family, FontQuizGame::tileName(tile), written.error().detail));
+                .arg(inNotice(family), FontQuizGame::tileName(tile), written.error().detail));
     noteCurrent();
     m_stage->throwCard();
 }
@@ -243,6 +255,11 @@ void FontQuizViewController::end()
 
 void FontQuizViewController::showEmpty()
 {
+    if (m_poster) {
+        m_poster->hide();
+        m_poster->deleteLater();
+        m_poster = nullptr;
+    }
     m_intro->setNumbers(0, 0);
     m_intro->setCards({});
     setPhase(Phase::done);
@@ -319,7 +336,9 @@ void FontQuizViewController::resizeEvent(QResizeEvent *)
 
 bool FontQuizViewController::event(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange)
+    // Another screen may have other pixels.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange
+        || event->type() == QEvent::ScreenChangeInternal)
         place();
     return QWidget::event(event);
 }
@@ -363,6 +382,9 @@ void FontQuizViewController::keyPressEvent(QKeyEvent *event)
     // A key that is held down must not sort one font after the other.
     if (event->isAutoRepeat())
         return;
+    // Buttons leave Return to whoever holds them.
+    if (isReturn(*event) && focusWidget() == m_closeButton)
+        return m_closeButton->click();
     if (m_phase == Phase::intro)
         introKey(*event);
     else if (m_phase == Phase::playing)
