@@ -206,16 +206,20 @@ private:
         put(shown, font, x - bearing, baseline, brush);
     }
 
+    /// Beside the corner, or above it where too little room is left there.
     void placeSentence(const QString &sentence)
     {
-        const double beside = m_setting.corner.width() + 2 * spacing::k20;
-        const double width = std::max(m_room.width() - beside, m_room.width() / 2);
-        const FontQuizPosterLines lines = fittingPosterLines(
-            sentence, scaled(kSentenceSize), width, m_setting.size.height() * kMostSentence);
+        const QSizeF corner = m_setting.corner;
+        const double beside = m_room.width() - corner.width() - 2 * spacing::k20;
+        const bool isAbove = beside < m_room.width() / 2;
+        const double above = isAbove ? corner.height() + spacing::k12 : 0;
+        const FontQuizPosterLines lines =
+            fittingPosterLines(sentence, scaled(kSentenceSize), isAbove ? m_room.width() : beside,
+                               m_setting.size.height() * kMostSentence - above);
         const double share = shareOf(m_setting.progress, 0.5, 0.5);
-        const double height = std::max(lines.height(), m_setting.corner.height());
-        double baseline = m_room.bottom() - height + QFontMetricsF(lines.font).ascent();
+        const double height = std::max(lines.height() + above, corner.height());
         m_foot = m_room.bottom() - height;
+        double baseline = m_foot + QFontMetricsF(lines.font).ascent();
         for (const FontQuizPosterLines::Line &line : lines.lines) {
             const double alpha = line.paragraph > 0 ? kQuiet : 1;
             if (!line.text.isEmpty())
