@@ -73,6 +73,69 @@ TEST_F(FontQuizChanges, ChangesFromElsewhereTakeCardsAndBringThemBack)
     EXPECT_EQ(current(), QStringLiteral("Face 002"));
 }
 
+TEST_F(FontQuizChanges, WhatOthersUndoAndRedoIsFollowed)
+{
+    play(2);
+    choose(3);
+    model().undoStack().undo();
+    land();
+    model().undoStack().redo();
+    EXPECT_TRUE(quiz->isAnimating()) << "it flies again";
+    land();
+    EXPECT_EQ(pile(3), 1U);
+    EXPECT_EQ(current(), QStringLiteral("Face 001"));
+    EXPECT_EQ(quiz->deck().size(), 2);
+
+    ASSERT_TRUE(model().setStyle({QStringLiteral("Face 001")}, QStringLiteral("serif")));
+    land();
+    land();
+    ASSERT_EQ(quiz->phase(), Phase::done);
+    EXPECT_EQ(poster()->counts().total, 1);
+    EXPECT_EQ(poster()->counts().display, 1);
+    model().undoStack().undo();
+    land();
+    EXPECT_EQ(quiz->phase(), Phase::playing);
+    EXPECT_EQ(current(), QStringLiteral("Face 001"));
+    press(Qt::Key_Backspace);
+    land();
+    EXPECT_EQ(current(), QStringLiteral("Face 000"));
+}
+
+TEST_F(FontQuizChanges, FamiliesThatComeBeforeItBeginsAreDealt)
+{
+    open(2);
+    library.addFamily(QStringLiteral("Late"));
+    ASSERT_TRUE(library.load());
+    EXPECT_EQ(quiz->deck().size(), 3);
+    EXPECT_FALSE(intro().sentence().contains(QStringLiteral("for you"))) << "none was sorted";
+    ASSERT_TRUE(model().setStyle({QStringLiteral("Late")}, QStringLiteral("serif")));
+    EXPECT_TRUE(intro().sentence().contains(QStringLiteral("sorted 1 for you, but 2 need")));
+    model().undoStack().undo();
+    EXPECT_EQ(quiz->deck().size(), 3);
+
+    press(Qt::Key_Return);
+    land();
+    library.addFamily(QStringLiteral("Later"));
+    ASSERT_TRUE(library.load());
+    EXPECT_EQ(quiz->deck().size(), 3) << "the cards are on the table";
+}
+
+TEST_F(FontQuizChanges, ALongNameLeavesRoomForTheReason)
+{
+    auto preferences = std::make_unique<StubbornPreferences>();
+    StubbornPreferences &stubborn = *preferences;
+    library.restart(TestHome::instance().makeFolder("quiz"), std::move(preferences));
+    library.addFamily(QString(160, u'W'));
+    ASSERT_TRUE(library.load());
+    reopen();
+    press(Qt::Key_Return);
+    land();
+    stubborn.refuses = true;
+    press(Qt::Key_4);
+    EXPECT_TRUE(notice().text().contains(u'…'));
+    EXPECT_LT(notice().fontMetrics().horizontalAdvance(notice().text()), notice().width());
+}
+
 TEST_F(FontQuizChanges, ANewCatalogInMidFlightTakesWhatHasVanished)
 {
     play(4);

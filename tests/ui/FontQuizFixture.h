@@ -29,6 +29,8 @@ protected:
     FontQuizFixture()
     {
         setReducedMotionOverride(false);
+        sources.random = [](quint32 bound) { return bound - 1; };
+        sources.today = [] { return QDate(2026, 3, 14); };
         window.resize(1240, 860);
     }
     ~FontQuizFixture() override
@@ -46,9 +48,6 @@ protected:
     }
     void reopen()
     {
-        FontQuizSources sources;
-        sources.random = [](quint32 bound) { return bound - 1; };
-        sources.today = [] { return QDate(2026, 3, 14); };
         quiz = std::make_unique<FontQuizViewController>(
             model(), makeFontResolver(model().fontLibraryService()), &window, sources);
         quiz->timeline().setManual();
@@ -109,7 +108,16 @@ protected:
     }
     size_t pile(int number) { return quiz->stage().landedPiles()[size_t(number - 1)].size(); }
 
+    bool settle()
+    {
+        return waitUntil([this] {
+            land();
+            return quiz->isSettled();
+        });
+    }
+
     LibraryFixture library;
+    FontQuizSources sources;
     QWidget window;
     std::unique_ptr<FontQuizViewController> quiz;
     int closed = 0;

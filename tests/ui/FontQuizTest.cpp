@@ -3,6 +3,9 @@
 
 #include "FontQuizFixture.h"
 
+#include <algorithm>
+#include <future>
+
 namespace lorva {
 namespace {
 
@@ -142,10 +145,17 @@ TEST_F(FontQuiz, PilesDrawOnlyTheirTopmostCardsAndGiveThemBack)
         choose(2);
     EXPECT_EQ(pile(2), size_t(quiz->stage().maxPileSize()));
     EXPECT_EQ(quiz->deck().counts()[1], 7);
+    ASSERT_TRUE(settle());
+    EXPECT_LT(quiz->stage().landedPiles()[1].front().picture->image.width(), 300);
+    press(Qt::Key_Backspace);
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(quiz->stage().landedPiles()[1].front().picture) << "the card that lay below";
+    choose(2);
     for (int left = 6; left >= 0; --left) {
         press(Qt::Key_Backspace);
         land();
         EXPECT_EQ(quiz->currentIndex(), left);
+        EXPECT_EQ(pile(2), size_t(std::min(left, 4)));
         EXPECT_TRUE(tile(2)->accessibleName().startsWith(
             QStringLiteral("Sans-Serif, key 2, %1 font").arg(left)));
     }
@@ -237,10 +247,7 @@ TEST_F(FontQuiz, AFaceThatCannotBeLoadedShowsTheSystemsAndSaysSo)
     ASSERT_TRUE(QFile::remove(library.fonts->files.front().displayText()));
     reopen();
     quiz->start();
-    ASSERT_TRUE(waitUntil([this] {
-        land();
-        return quiz->isSettled();
-    }));
+    ASSERT_TRUE(settle());
     EXPECT_TRUE(card().shownParts().familyNameLabel.text.contains(
         QStringLiteral("“Face 000” could not be loaded")))
         << card().shownParts().familyNameLabel.text.toStdString();
@@ -248,14 +255,45 @@ TEST_F(FontQuiz, AFaceThatCannotBeLoadedShowsTheSystemsAndSaysSo)
     EXPECT_EQ(card().shownParts().familyNameLabel.text, QStringLiteral("Face 001"));
 }
 
+TEST_F(FontQuiz, ThePosterNamesThePlayerWhoseNameComesLate)
+{
+    std::promise<QString> name;
+    sources.fullName = [answer = name.get_future().share()] { return answer.get(); };
+    play(1);
+    choose(1);
+    ASSERT_TRUE(poster()) << "nobody waits for it";
+    EXPECT_FALSE(poster()->accessibleDescription().contains(QStringLiteral("Ada")));
+    name.set_value(QStringLiteral("Ada Lovelace"));
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(poster()->accessibleDescription().contains(QStringLiteral("by Ada Lovelace on")));
+}
+
+TEST_F(FontQuiz, KeysForTheLastCardDoNotEndThePoster)
+{
+    play(1);
+    press(Qt::Key_6);
+    quiz->timeline().advance(FontQuizStageView::kFlight);
+    ASSERT_EQ(quiz->phase(), Phase::done);
+    press(Qt::Key_Return);
+    press(Qt::Key_Space);
+    EXPECT_EQ(closed, 0) << "before it can be seen";
+    land();
+    auto *done = part<QWidget>("QuizPoster.Done");
+    EXPECT_EQ(quiz->focusWidget(), done);
+    EXPECT_TRUE(done->accessibleDescription().contains(QStringLiteral("Decorative: 1")));
+    EXPECT_TRUE(done->accessibleDescription().contains(QStringLiteral("Organized by hand")));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(done, &held);
+    EXPECT_EQ(closed, 0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(closed, 1);
+}
+
 TEST_F(FontQuiz, CoversEveryPixelOfAScreenOfAnotherRatio)
 {
     play(3);
     choose(1);
-    ASSERT_TRUE(waitUntil([this] {
-        land();
-        return quiz->isSettled();
-    }));
+    ASSERT_TRUE(settle());
     const auto corner = [this](double ratio) {
         QImage image((QSizeF(quiz->size()) * ratio).toSize(), QImage::Format_RGB32);
         image.setDevicePixelRatio(ratio);

@@ -4,6 +4,7 @@
 #include "ui/quiz/FontQuizPosterPage.h"
 
 #include "base/GroupedNumber.h"
+#include "ui/quiz/FontQuizCategories.h"
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 #include "ui/quiz/FontQuizPosterLines.h"
 #include "ui/style/Palette.h"
@@ -22,7 +23,7 @@ namespace lorva {
 
 namespace {
 
-constexpr int kCategories = 6;
+constexpr int kCategories = kFontQuizTiles;
 /// A page of this many points, seen as a square, has type of the sizes below.
 constexpr double kUnitSide = 1180;
 constexpr double kLabelSize = 15;
@@ -86,8 +87,10 @@ std::array<int, kCategories> numbersOf(const FontQuizCounts &counts)
 
 std::array<QString, kCategories> names()
 {
-    return {text("Serif"), text("Sans-Serif"), text("Display"),
-            text("Mono"),  text("Script"),     text("Decorative")};
+    std::array<QString, kCategories> names;
+    for (int i = 0; i < kCategories; ++i)
+        names[size_t(i)] = fontQuizCategoryName(i + 1);
+    return names;
 }
 
 /// How high a digit stands over its baseline.

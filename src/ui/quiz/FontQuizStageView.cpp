@@ -19,6 +19,8 @@
 #include <QLabel>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
@@ -39,8 +41,8 @@ const QByteArray kFlightTrack = QByteArrayLiteral("flight");
 /// What a pile draws of a card; the large pictures of many would be kept for nothing.
 FontQuizCardPictures::Picture smallPicture(const FontQuizCardPictures::Picture &picture)
 {
-    if (!picture)
-        return nullptr;
+    if (!picture || picture->image.size() == picture->quarter.size())
+        return picture;
     auto small = std::make_shared<FontQuizCardPicture>();
     small->image = small->half = small->quarter = picture->quarter;
     small->isStandIn = picture->isStandIn;
@@ -121,6 +123,14 @@ void FontQuizStageView::wantPictures()
         if (const FontFamilyRecord *family = m_model.family(m_deck.families()[i]))
             cards.push_back(fontQuizCard(*family, m_deck.themeSequence()[size_t(i)]));
     }
+    for (const auto &pile : m_landedPiles) {
+        for (const LandedCard &card : pile) {
+            const FontFamilyRecord *family =
+                card.picture ? nullptr : m_model.family(card.familyName);
+            if (family)
+                cards.push_back(fontQuizCard(*family, card.theme));
+        }
+    }
     m_pictures->want(cards);
 }
 
@@ -170,6 +180,7 @@ void FontQuizStageView::describeCard()
 
 void FontQuizStageView::showDeck()
 {
+    fillPiles();
     wantPictures();
     describeCard();
     if (!m_isAnimating)
@@ -177,8 +188,27 @@ void FontQuizStageView::showDeck()
     update();
 }
 
-void FontQuizStageView::pictureArrived(const QString &)
+/// For the card where it flies or lies.
+void FontQuizStageView::takePicture(const QString &familyName)
 {
+    if (m_isAnimating && familyName == m_flyingFamily) {
+        FontQuizShownCard card = *m_flightView->card();
+        card.picture = m_flyingPicture = m_pictures->find(familyName);
+        m_flightView->setCard(std::move(card));
+    }
+    for (int tile = 1; tile <= kFontQuizTiles; ++tile) {
+        for (LandedCard &card : m_landedPiles[size_t(tile - 1)]) {
+            if (card.picture || card.familyName != familyName)
+                continue;
+            card.picture = smallPicture(m_pictures->find(familyName));
+            showPile(tile);
+        }
+    }
+}
+
+void FontQuizStageView::pictureArrived(const QString &familyName)
+{
+    takePicture(familyName);
     if (!m_isAnimating)
         m_cardView->setCards(deckCards(m_deck.currentIndex(), 0));
     if (onPictures)
@@ -230,7 +260,9 @@ void FontQuizStageView::endFlight()
 
 void FontQuizStageView::throwCard()
 {
+    settleFlight();
     const FontQuizDeck::Choice choice = *m_deck.lastChoice();
+    m_thrownFamily = choice.familyName;
     const auto place = size_t(choice.tile - 1);
     const FontQuizPose top = fontQuizPilePose(m_layout.tiles[place], m_deck.counts()[place] - 1);
     FontQuizShownCard card = shown(choice.familyName, choice.theme);
@@ -252,13 +284,54 @@ void FontQuizStageView::flashTile(const FontQuizDeck::Choice &choice)
 
 void FontQuizStageView::land(const FontQuizDeck::Choice &choice)
 {
-    auto &pile = m_landedPiles[size_t(choice.tile - 1)];
-    pile.push_back({choice.familyName, choice.theme, m_deck.counts()[size_t(choice.tile - 1)] - 1,
-                    smallPicture(m_flyingPicture)});
-    if (int(pile.size()) > m_maxPileSize)
-        pile.erase(pile.begin());
-    showPile(choice.tile);
+    m_thrownFamily.clear();
+    fillPile(choice.tile);
     endFlight();
+}
+
+FontQuizCardPictures::Picture FontQuizStageView::landedPicture(const QString &familyName) const
+{
+    for (const auto &pile : m_landedPiles) {
+        for (const LandedCard &card : pile) {
+            if (card.familyName == familyName)
+                return card.picture;
+        }
+    }
+    return nullptr;
+}
+
+FontQuizStageView::LandedCard FontQuizStageView::landed(const FontQuizDeck::Choice &choice,
+                                                        int number) const
+{
+    FontQuizCardPictures::Picture picture = landedPicture(choice.familyName);
+    if (!picture)
+        picture = smallPicture(shown(choice.familyName, choice.theme).picture);
+    return {choice.familyName, choice.theme, number, std::move(picture)};
+}
+
+/// As the deck has it: what lies deeper comes to light again when cards above it leave.
+void FontQuizStageView::fillPile(int tile)
+{
+    std::vector<LandedCard> pile;
+    int number = m_deck.counts()[size_t(tile - 1)];
+    for (const FontQuizDeck::Choice &choice : m_deck.topChoices(tile, m_maxPileSize + 1)) {
+        --number;
+        if (choice.familyName != m_thrownFamily && int(pile.size()) < m_maxPileSize)
+            pile.push_back(landed(choice, number));
+    }
+    std::reverse(pile.begin(), pile.end());
+    const int count = m_deck.counts()[size_t(tile - 1)];
+    const bool isShown = m_categoryViews[size_t(tile - 1)]->count() == count;
+    if (isShown && pile == m_landedPiles[size_t(tile - 1)])
+        return;
+    m_landedPiles[size_t(tile - 1)] = std::move(pile);
+    showPile(tile);
+}
+
+void FontQuizStageView::fillPiles()
+{
+    for (int tile = 1; tile <= kFontQuizTiles; ++tile)
+        fillPile(tile);
 }
 
 void FontQuizStageView::showPile(int tile)
@@ -271,26 +344,14 @@ void FontQuizStageView::showPile(int tile)
     m_categoryViews[place]->setPile(std::move(cards), m_deck.counts()[place]);
 }
 
-FontQuizCardPictures::Picture FontQuizStageView::dropFromPile(const FontQuizDeck::Choice &choice)
-{
-    FontQuizCardPictures::Picture picture;
-    std::erase_if(m_landedPiles[size_t(choice.tile - 1)], [&](const LandedCard &card) {
-        const bool isIt = card.familyName == choice.familyName;
-        if (isIt)
-            picture = card.picture;
-        return isIt;
-    });
-    showPile(choice.tile);
-    return picture;
-}
-
 void FontQuizStageView::bringBack(const std::vector<FontQuizDeck::Choice> &takenBack)
 {
-    settleFlight();
-    FontQuizShownCard card;
-    for (const FontQuizDeck::Choice &choice : takenBack)
-        card = {dropFromPile(choice), choice.theme, {}};
     const FontQuizDeck::Choice &newest = takenBack.back();
+    FontQuizShownCard card = shown(newest.familyName, newest.theme);
+    if (!card.picture)
+        card.picture = landedPicture(newest.familyName);
+    settleFlight();
+    fillPiles();
     if (m_deck.isExhausted() || m_deck.currentFamily() != newest.familyName)
         return endFlight();
     const auto place = size_t(newest.tile - 1);

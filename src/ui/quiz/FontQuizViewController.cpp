@@ -3,7 +3,7 @@
 
 #include "ui/quiz/FontQuizViewController.h"
 
-#include "platform/UserAccount.h"
+#include "base/RunThen.h"
 #include "ui/quiz/FontQuizCardView.h"
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 #include "ui/quiz/FontQuizGame.h"
@@ -19,6 +19,7 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QThreadPool>
 
 namespace lorva {
 
@@ -26,6 +27,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kFade{320};
 constexpr std::chrono::milliseconds kBloom{600};
+/// A picture of a larger window takes longer than a frame; what is shown next comes out of the bare
+/// ground then.
+constexpr double kMostGrabbedPixels = 2.4e6;
 /// Points.
 constexpr int kNameInNotice = 240;
 /// The wash is so faint that its steps cannot be seen; each repaints half of the window.
@@ -86,11 +90,26 @@ FontQuizViewController::FontQuizViewController(LorvaAppModel &model,
     m_stage->onSettled = [this] { endIfExhausted(); };
     m_stage->onPictures = [this] { showIntroCards(); };
     m_ground->onArrived = [this] { bloom(); };
-    m_game->onCatalog = [this] { m_stage->pictures().retryStandIns(); };
+    m_game->onCatalog = [this] { catalogChanged(); };
     m_game->onChange = [this](const FontQuizDeck::Difference &difference) {
         deckChanged(difference, m_currentFamily, m_currentTheme);
     };
+    askName();
     showIntro();
+}
+
+/// In the pool that nobody waits for while the program runs: closing must not take as long as an
+/// account database that does not answer.
+void FontQuizViewController::askName()
+{
+    runThen(
+        *QThreadPool::globalInstance(), this,
+        [ask = m_sources.fullName](const std::stop_token &) { return ask(); },
+        [this](const QString &name) {
+            m_fullName = name;
+            if (m_poster)
+                m_poster->setFullName(name);
+        });
 }
 
 FontQuizViewController::~FontQuizViewController() = default;
@@ -107,13 +126,21 @@ bool FontQuizViewController::isAnimating() const
 
 bool FontQuizViewController::isSettled() const
 {
-    return !m_timeline->isRunning() && m_ground->isComplete() && m_stage->pictures().isComplete();
+    return !m_timeline->isRunning() && m_fullName && m_ground->isComplete()
+        && m_stage->pictures().isComplete();
 }
 
 void FontQuizViewController::close() const
 {
     if (onClose)
         onClose();
+}
+
+void FontQuizViewController::catalogChanged()
+{
+    if (m_phase == Phase::intro)
+        showIntro();
+    m_stage->pictures().retryStandIns();
 }
 
 void FontQuizViewController::noteCurrent()
@@ -132,6 +159,15 @@ void FontQuizViewController::showIntro()
     noteCurrent();
     showIntroCards();
     setPhase(Phase::intro);
+    noteIntroSeen();
+}
+
+/// Saying so makes the model tell everybody, which is for later.
+void FontQuizViewController::noteIntroSeen()
+{
+    if (isVisible() && m_phase == Phase::intro && !deck().isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this] { m_model.setHasSeenQuizIntro(); }, Qt::QueuedConnection);
 }
 
 void FontQuizViewController::showIntroCards()
@@ -143,6 +179,8 @@ void FontQuizViewController::showIntroCards()
 void FontQuizViewController::setPhase(Phase phase)
 {
     m_phase = phase;
+    if (phase != Phase::intro)
+        m_game->begin();
     m_stage->setVisible(phase == Phase::playing);
     m_intro->setVisible(phase == Phase::intro || (phase == Phase::done && !m_poster));
     if (m_poster)
@@ -151,16 +189,34 @@ void FontQuizViewController::setPhase(Phase phase)
     m_veil->raise();
     m_closeButton->setAccessibleDescription(
         m_intro->isVisibleTo(this) && deck().isExhausted() ? m_intro->sentence() : QString());
-    if (!isVisible())
-        return;
-    if (phase == Phase::playing)
-        m_stage->cardView().setFocus(Qt::OtherFocusReason);
-    else if (m_poster)
-        m_poster->focusPage();
-    else if (deck().isExhausted())
+    if (isVisible())
+        focusPhase();
+}
+
+/// A key that was meant for the last card must not reach the end's button: that gets the keyboard
+/// when it can be seen.
+void FontQuizViewController::focusPhase()
+{
+    m_timeline->drop("focus");
+    if (m_phase == Phase::playing)
+        return m_stage->cardView().setFocus(Qt::OtherFocusReason);
+    if (m_phase == Phase::done) {
+        setFocus(Qt::OtherFocusReason);
+        m_timeline->run(
+            "focus", kFade, [](double) {}, [this] { focusEnd(); });
+    } else if (deck().isExhausted())
         m_closeButton->setFocus(Qt::OtherFocusReason);
-    else
+    else {
         m_intro->focusPage();
+    }
+}
+
+void FontQuizViewController::focusEnd()
+{
+    if (m_poster)
+        m_poster->focusPage();
+    else
+        m_closeButton->setFocus(Qt::OtherFocusReason);
 }
 
 void FontQuizViewController::start()
@@ -185,7 +241,7 @@ void FontQuizViewController::choose(int tile)
     if (!written)
         return m_stage->setNotice(
             tr("“%1” could not be put into %2: %3")
-                .arg(inNotice(family), FontQuizGame::tileName(tile), written.error().detail));
+                .arg(inNotice(family), fontQuizCategoryName(tile), written.error().detail));
     noteCurrent();
     m_stage->throwCard();
 }
@@ -217,12 +273,14 @@ void FontQuizViewController::deckChanged(const FontQuizDeck::Difference &differe
     noteCurrent();
     if (m_phase == Phase::intro)
         return showIntro();
-    if (m_phase == Phase::done && (difference.takenBack.empty() || deck().isExhausted()))
-        return;
+    if (m_phase == Phase::done && deck().isExhausted())
+        return countsChanged(difference);
     if (m_phase == Phase::done)
         resume();
     if (!difference.takenBack.empty())
         m_stage->bringBack(difference.takenBack);
+    else if (!difference.redone.empty() && difference.hasLostCurrent)
+        m_stage->throwCard();
     else if (difference.hasLostCurrent)
         m_stage->fadeAway(formerFamily, formerTheme);
     else
@@ -231,7 +289,14 @@ void FontQuizViewController::deckChanged(const FontQuizDeck::Difference &differe
         endIfExhausted();
 }
 
-/// A choice does not hold any longer, and the game goes on.
+/// What the end tells is not so any more, but there is no card to go on with.
+void FontQuizViewController::countsChanged(const FontQuizDeck::Difference &difference)
+{
+    if (!difference.takenBack.empty() || !difference.redone.empty())
+        end();
+}
+
+/// There are cards again, and the game goes on.
 void FontQuizViewController::resume()
 {
     fadeFromHere();
@@ -272,7 +337,7 @@ void FontQuizViewController::showPoster()
         connect(m_poster, &FontQuizCompletionPosterView::doneWanted, this,
                 &FontQuizViewController::close);
     }
-    m_poster->setContent(countsOf(deck()), m_sources.today(), userFullName());
+    m_poster->setContent(countsOf(deck()), m_sources.today(), m_fullName.value_or(QString()));
     m_poster->setGeometry(rect());
     setPhase(Phase::done);
 }
@@ -284,7 +349,9 @@ void FontQuizViewController::fadeFromHere()
         return;
     m_timeline->drop("fade");
     m_veil->setStrength(0);
-    m_veil->cover(grab());
+    const bool isLarge =
+        double(width()) * height() * devicePixelRatioF() * devicePixelRatioF() > kMostGrabbedPixels;
+    m_veil->cover(isLarge ? QPixmap() : grab(), fontQuizColors(isDarkDesktop()).ground);
     m_timeline->run("fade", kFade, [this](double share) { m_veil->setStrength(1 - share); });
 }
 
@@ -347,9 +414,7 @@ void FontQuizViewController::showEvent(QShowEvent *)
 {
     place();
     setPhase(m_phase);
-    if (m_phase == Phase::intro && !deck().isEmpty())
-        QMetaObject::invokeMethod(
-            this, [this] { m_model.setHasSeenQuizIntro(); }, Qt::QueuedConnection);
+    noteIntroSeen();
 }
 
 void FontQuizViewController::paintEvent(QPaintEvent *event)
