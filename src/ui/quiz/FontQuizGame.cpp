@@ -8,6 +8,8 @@
 
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace lorva {
 
 namespace {
@@ -23,11 +25,10 @@ QSet<QString> familyNames(const FontFamilyList &families)
 
 } // namespace
 
-FontQuizGame::FontQuizGame(LorvaAppModel &model, const FontQuizDeck::Random &random,
-                           QObject *parent)
+FontQuizGame::FontQuizGame(LorvaAppModel &model, FontQuizDeck::Random random, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_random(random)
+    , m_random(std::move(random))
     , m_catalogGeneration(model.catalogGeneration())
     , m_membershipGeneration(model.membershipGeneration())
 {

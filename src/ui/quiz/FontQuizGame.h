@@ -21,7 +21,7 @@ class FontQuizGame final : public QObject
 {
     Q_OBJECT
 public:
-    FontQuizGame(LorvaAppModel &model, const FontQuizDeck::Random &random, QObject *parent);
+    FontQuizGame(LorvaAppModel &model, FontQuizDeck::Random random, QObject *parent);
 
     const FontQuizDeck &deck() const { return m_deck; }
     /// How many families had a category when the deck was dealt, or have got one elsewhere since.
