@@ -78,6 +78,11 @@ TEST(FontQuizCard, ShowsWhatItsFaceCanDraw)
          QStringLiteral("ACPSacps")},
         {"Runes", U"ᚠᚡᚢᚣᚤᚥᚦᚧ", WritingScript::latin, QStringLiteral("ᚠᚡᚢᚣᚤᚥ"),
          QStringLiteral("ᚠᚡᚢᚣᚤᚥᚦᚧ")},
+        {"Icons",
+         U"\uF000\uF001\uF002",
+         WritingScript::latin,
+         QStringLiteral("\uF000\uF001\uF002"),
+         {}},
     };
     for (const auto &row : rows) {
         const auto parts = partsFor(QString::fromUtf8(row.family), row.characters, row.script);

@@ -134,6 +134,53 @@ TEST(FontQuizDeck, FollowsWhatHappensToItsFamilies)
     }
 }
 
+TEST(FontQuizDeck, WhatHasLeftComesBackWhenItsReasonIsGone)
+{
+    struct Step
+    {
+        /// Letters: families in "serif", and all that there are (null: as before).
+        const char *styled;
+        const char *present;
+        const char *expected;
+        int index;
+    };
+    const struct
+    {
+        const char *what;
+        std::vector<Step> steps;
+    } rows[]{
+        {"sorted elsewhere and undone", {{"AC", nullptr, "ABD", 1}, {"A", nullptr, "ABDC", 1}}},
+        {"vanished for a while", {{"A", "ABD", "ABD", 1}, {"A", "ABCD", "ABDC", 1}}},
+        {"still away when another is undone",
+         {{"A", "ABD", "ABD", 1}, {"AB", nullptr, "AD", 1}, {"A", nullptr, "ADB", 1}}},
+        {"undone and redone", {{"", nullptr, "ABCD", 0}, {"A", nullptr, "ABCD", 1}}},
+        {"undone and redone while away",
+         {{"", "BCD", "BCD", 0}, {"A", "BCD", "BCD", 0}, {"A", "ABCD", "ABCD", 1}}},
+    };
+    for (const auto &row : rows) {
+        FontQuizDeck deck = deckOf(4);
+        std::map<QString, FontQuizCardTheme> themes;
+        for (int i = 0; i < deck.size(); ++i)
+            themes[deck.families()[i]] = deck.themeSequence()[size_t(i)];
+        deck.choose(1);
+        for (const Step &step : row.steps) {
+            QHash<QString, QString> styles;
+            for (const QString &name : names(step.styled))
+                styles.insert(name, QStringLiteral("serif"));
+            const QStringList there = names(step.present ? step.present : "");
+            const QSet<QString> present(there.begin(), there.end());
+            (void)deck.reconcile(styles, step.present ? &present : nullptr);
+            EXPECT_EQ(deck.families(), names(step.expected)) << row.what;
+            EXPECT_EQ(deck.currentIndex(), step.index) << row.what;
+            EXPECT_EQ(deck.counts()[0], step.index) << row.what;
+        }
+        EXPECT_EQ(deck.themeSequence().size(), size_t(deck.size()));
+        for (qsizetype place = 0; place < deck.families().size(); ++place)
+            EXPECT_EQ(deck.themeSequence()[size_t(place)], themes[deck.families()[place]])
+                << row.what;
+    }
+}
+
 TEST(FontQuizDeck, CardColoursCanBeRead)
 {
     for (const FontQuizCardTheme &theme : fontQuizCardThemes())

@@ -1,153 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
-#include "support/LibraryFixture.h"
-#include "ui/quiz/FontQuizCardView.h"
-#include "ui/quiz/FontQuizCategoryView.h"
-#include "ui/quiz/FontQuizCompletionPosterView.h"
-#include "ui/quiz/FontQuizFlightView.h"
-#include "ui/quiz/FontQuizIntroView.h"
-#include "ui/quiz/FontQuizStageView.h"
-#include "ui/quiz/FontQuizViewController.h"
-#include "ui/style/ReducedMotion.h"
+#include "FontQuizFixture.h"
 
-#include <QLabel>
-#include <QLocale>
-#include <QTest>
-
-#include <gmock/gmock.h>
+#include <algorithm>
+#include <future>
 
 namespace lorva {
 namespace {
 
-using namespace std::chrono_literals;
-using test::LibraryFixture;
 using test::TestHome;
 using test::waitUntil;
 using Phase = FontQuizViewController::Phase;
 
-/// Takes no change while it is told so.
-class StubbornPreferences final : public ValuePreferenceStore
-{
-public:
-    bool refuses = false;
-
-    void inTransaction(std::function<void()> change) override
-    {
-        if (!refuses)
-            change();
-    }
-    bool writeWaitingChanges() override { return true; }
-    bool takeChangesElsewhere() override { return false; }
-    PreferenceStoreStatus status() const override { return {}; }
-
-private:
-    std::optional<PreferenceRow> row(const QString &key) const override
-    {
-        const auto found = m_rows.find(key);
-        return found == m_rows.end() ? std::nullopt : std::optional(found->second);
-    }
-    void setRow(const QString &key, const std::optional<PreferenceRow> &row) override
-    {
-        m_rows.erase(key);
-        if (row)
-            m_rows.emplace(key, *row);
-    }
-
-    std::map<QString, PreferenceRow> m_rows;
-};
-
-class FontQuiz : public testing::Test
-{
-protected:
-    FontQuiz()
-    {
-        setReducedMotionOverride(false);
-        window.resize(1240, 860);
-    }
-    ~FontQuiz() override
-    {
-        quiz.reset();
-        QLocale::setDefault(QLocale::c());
-    }
-
-    /// Families "Face 000" …, dealt in their order.
-    void open(int families)
-    {
-        library.addFamilies(QStringLiteral("Face"), families);
-        ASSERT_TRUE(library.load());
-        reopen();
-    }
-    void reopen()
-    {
-        FontQuizSources sources;
-        sources.random = [](quint32 bound) { return bound - 1; };
-        sources.today = [] { return QDate(2026, 3, 14); };
-        quiz = std::make_unique<FontQuizViewController>(
-            model(), makeFontResolver(model().fontLibraryService()), &window, sources);
-        quiz->timeline().setManual();
-        quiz->onClose = [this] { ++closed; };
-        quiz->setGeometry(window.rect());
-        window.show();
-        quiz->show();
-    }
-    void play(int families)
-    {
-        open(families);
-        press(Qt::Key_Return);
-        land();
-    }
-
-    LorvaAppModel &model() { return *library.model; }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QWidget *target = quiz->focusWidget() ? quiz->focusWidget() : quiz.get();
-        QTest::keyClick(target, key, modifiers);
-    }
-    void type(const QString &text, int key, Qt::KeyboardModifiers modifiers, bool repeats = false)
-    {
-        QKeyEvent event(QEvent::KeyPress, key, modifiers, text, repeats);
-        QCoreApplication::sendEvent(quiz.get(), &event);
-    }
-    /// Whatever moves arrives.
-    void land() { quiz->timeline().advance(2s); }
-    void choose(int tile)
-    {
-        press(Qt::Key(Qt::Key_0 + tile));
-        land();
-    }
-    QString current() const
-    {
-        return quiz->deck().isExhausted() ? QString() : quiz->deck().currentFamily();
-    }
-    QString styleOf(const char *family)
-    {
-        return model().styleIDByFamily().value(QString::fromLatin1(family));
-    }
-    template <class Part>
-    Part *part(const char *name)
-    {
-        return quiz->findChild<Part *>(QString::fromLatin1(name));
-    }
-    FontQuizCategoryView *tile(int number)
-    {
-        const QByteArray name = "FontQuizCategoryView." + QByteArray::number(number);
-        return part<FontQuizCategoryView>(name.constData());
-    }
-    FontQuizIntroView &intro() { return *part<FontQuizIntroView>("FontQuizIntroView"); }
-    FontQuizCardView &card() { return *part<FontQuizCardView>("FontQuizCardView"); }
-    QLabel &notice() { return *part<QLabel>("FontQuizNotice"); }
-    FontQuizCompletionPosterView *poster()
-    {
-        return part<FontQuizCompletionPosterView>("FontQuizCompletionPosterView");
-    }
-    size_t pile(int number) { return quiz->stage().landedPiles()[size_t(number - 1)].size(); }
-
-    LibraryFixture library;
-    QWidget window;
-    std::unique_ptr<FontQuizViewController> quiz;
-    int closed = 0;
-};
+using namespace std::chrono_literals;
+using FontQuiz = test::FontQuizFixture;
 
 TEST_F(FontQuiz, TheIntroductionCountsWithTheRegionsSeparators)
 {
@@ -189,7 +56,7 @@ TEST_F(FontQuiz, AFamilyIsSortedByKeyAndByClickAndWrittenAtOnce)
     EXPECT_EQ(pile(3), 0U);
     land();
     EXPECT_EQ(pile(3), 1U);
-    EXPECT_EQ(tile(3)->accessibleName(), QStringLiteral("Display, key 3, 1 fonts"));
+    EXPECT_EQ(tile(3)->accessibleName(), QStringLiteral("Display, key 3, 1 font"));
     QTest::mouseClick(tile(6), Qt::LeftButton);
     land();
     EXPECT_EQ(styleOf("Face 001"), QStringLiteral("decorative"));
@@ -278,12 +145,19 @@ TEST_F(FontQuiz, PilesDrawOnlyTheirTopmostCardsAndGiveThemBack)
         choose(2);
     EXPECT_EQ(pile(2), size_t(quiz->stage().maxPileSize()));
     EXPECT_EQ(quiz->deck().counts()[1], 7);
+    ASSERT_TRUE(settle());
+    EXPECT_LT(quiz->stage().landedPiles()[1].front().picture->image.width(), 300);
+    press(Qt::Key_Backspace);
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(quiz->stage().landedPiles()[1].front().picture) << "the card that lay below";
+    choose(2);
     for (int left = 6; left >= 0; --left) {
         press(Qt::Key_Backspace);
         land();
         EXPECT_EQ(quiz->currentIndex(), left);
-        EXPECT_EQ(tile(2)->accessibleName(),
-                  QStringLiteral("Sans-Serif, key 2, %1 fonts").arg(left));
+        EXPECT_EQ(pile(2), size_t(std::min(left, 4)));
+        EXPECT_TRUE(tile(2)->accessibleName().startsWith(
+            QStringLiteral("Sans-Serif, key 2, %1 font").arg(left)));
     }
     EXPECT_EQ(pile(2), 0U);
     EXPECT_TRUE(model().styleIDByFamily().isEmpty());
@@ -321,120 +195,6 @@ TEST_F(FontQuiz, SkippedFamiliesComeAgainAtTheEnd)
     EXPECT_FALSE(quiz->isAnimating()) << "there is no other one";
 }
 
-TEST_F(FontQuiz, AFailedChoiceKeepsTheCardAndSaysWhy)
-{
-    auto preferences = std::make_unique<StubbornPreferences>();
-    StubbornPreferences &stubborn = *preferences;
-    library.restart(TestHome::instance().makeFolder("quiz"), std::move(preferences));
-    play(2);
-    stubborn.refuses = true;
-    press(Qt::Key_4);
-    EXPECT_FALSE(quiz->isAnimating());
-    EXPECT_EQ(current(), QStringLiteral("Face 000"));
-    EXPECT_TRUE(notice().isVisible());
-    EXPECT_TRUE(notice().text().contains(QStringLiteral("the preferences took no change")));
-    stubborn.refuses = false;
-    press(Qt::Key_4);
-    EXPECT_FALSE(notice().isVisible());
-    EXPECT_EQ(styleOf("Face 000"), QStringLiteral("mono"));
-}
-
-TEST_F(FontQuiz, ChangesFromElsewhereTakeCardsAndBringThemBack)
-{
-    play(5);
-    choose(2);
-    ASSERT_TRUE(model().setStyle({QStringLiteral("Face 001")}, QStringLiteral("serif")));
-    EXPECT_TRUE(quiz->isAnimating()) << "it fades";
-    land();
-    EXPECT_EQ(current(), QStringLiteral("Face 002"));
-    EXPECT_EQ(quiz->deck().size(), 4);
-    ASSERT_TRUE(model().setStyle({QStringLiteral("Face 004")}, QStringLiteral("serif")));
-    EXPECT_FALSE(quiz->isAnimating()) << "nobody saw that card";
-    EXPECT_EQ(quiz->deck().size(), 3);
-
-    choose(5);
-    model().undoStack().undo();
-    land();
-    EXPECT_EQ(current(), QStringLiteral("Face 002"));
-    EXPECT_EQ(pile(5), 0U);
-    EXPECT_EQ(card().accessibleName(), QStringLiteral("Face 002"));
-
-    press(Qt::Key_5);
-    model().undoStack().undo();
-    EXPECT_EQ(pile(5), 0U) << "taken back while it flew";
-    land();
-    EXPECT_EQ(current(), QStringLiteral("Face 002"));
-}
-
-TEST_F(FontQuiz, ANewCatalogInMidFlightTakesWhatHasVanished)
-{
-    play(4);
-    press(Qt::Key_1);
-    library.fonts->files.erase(library.fonts->files.begin() + 1);
-    ASSERT_TRUE(library.load());
-    land();
-    EXPECT_EQ(current(), QStringLiteral("Face 002"));
-    EXPECT_EQ(quiz->deck().size(), 3);
-    EXPECT_EQ(pile(1), 1U) << "the card that flew has landed all the same";
-    press(Qt::Key_1);
-    library.fonts->files.clear();
-    ASSERT_TRUE(library.load());
-    land();
-    land();
-    EXPECT_EQ(quiz->phase(), Phase::done) << "two were sorted, no other is left";
-    ASSERT_TRUE(poster());
-    EXPECT_EQ(poster()->counts().serif, 2);
-}
-
-TEST_F(FontQuiz, ADeckEmptiedElsewhereIsSaidToBeCategorized)
-{
-    for (const bool hasBegun : {false, true}) {
-        open(2);
-        if (hasBegun)
-            press(Qt::Key_Space);
-        land();
-        ASSERT_TRUE(model().setStyle({QStringLiteral("Face 000"), QStringLiteral("Face 001")},
-                                     QStringLiteral("serif")));
-        land();
-        land();
-        EXPECT_TRUE(intro().isVisible());
-        EXPECT_EQ(intro().sentence(), QStringLiteral("Every font is already categorized."));
-        EXPECT_FALSE(poster());
-        press(Qt::Key_Return);
-        EXPECT_NE(quiz->phase(), Phase::playing);
-        ASSERT_TRUE(model().setStyle({QStringLiteral("Face 000"), QStringLiteral("Face 001")},
-                                     std::nullopt));
-    }
-}
-
-TEST_F(FontQuiz, ThePosterFollowsTheLastCardAndALateUndoResumes)
-{
-    play(3);
-    choose(1);
-    choose(5);
-    press(Qt::Key_1);
-    EXPECT_EQ(quiz->phase(), Phase::playing) << "the last card still flies";
-    land();
-    ASSERT_EQ(quiz->phase(), Phase::done);
-    ASSERT_TRUE(poster());
-    FontQuizCounts expected;
-    expected.total = 3;
-    expected.serif = 2;
-    expected.script = 1;
-    EXPECT_EQ(poster()->counts(), expected);
-    EXPECT_EQ(poster()->completionDate(), QDate(2026, 3, 14));
-
-    model().undoStack().undo();
-    land();
-    EXPECT_EQ(quiz->phase(), Phase::playing);
-    EXPECT_FALSE(poster()->isVisible());
-    choose(2);
-    EXPECT_EQ(poster()->counts().sans, 1);
-    EXPECT_TRUE(poster()->isVisible());
-    Q_EMIT poster()->doneWanted();
-    EXPECT_EQ(closed, 1);
-}
-
 TEST_F(FontQuiz, EscapeAndTheButtonCloseItInEveryPhase)
 {
     open(1);
@@ -451,6 +211,10 @@ TEST_F(FontQuiz, EscapeAndTheButtonCloseItInEveryPhase)
     choose(1);
     EXPECT_EQ(quiz->phase(), Phase::done);
     EXPECT_TRUE(closes());
+    quiz->onClose = [this] { ++closed; };
+    part<QWidget>("FontQuizViewController.Close")->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(closed, 7);
     quiz->onClose = [this] { quiz.release()->deleteLater(); };
     press(Qt::Key_Escape);
     EXPECT_FALSE(quiz) << "it may be deleted by its own key";
@@ -483,15 +247,62 @@ TEST_F(FontQuiz, AFaceThatCannotBeLoadedShowsTheSystemsAndSaysSo)
     ASSERT_TRUE(QFile::remove(library.fonts->files.front().displayText()));
     reopen();
     quiz->start();
-    ASSERT_TRUE(waitUntil([this] {
-        land();
-        return quiz->isSettled();
-    }));
+    ASSERT_TRUE(settle());
     EXPECT_TRUE(card().shownParts().familyNameLabel.text.contains(
         QStringLiteral("“Face 000” could not be loaded")))
         << card().shownParts().familyNameLabel.text.toStdString();
     choose(1);
     EXPECT_EQ(card().shownParts().familyNameLabel.text, QStringLiteral("Face 001"));
+}
+
+TEST_F(FontQuiz, ThePosterNamesThePlayerWhoseNameComesLate)
+{
+    std::promise<QString> name;
+    sources.fullName = [answer = name.get_future().share()] { return answer.get(); };
+    play(1);
+    choose(1);
+    ASSERT_TRUE(poster()) << "nobody waits for it";
+    EXPECT_FALSE(poster()->accessibleDescription().contains(QStringLiteral("Ada")));
+    name.set_value(QStringLiteral("Ada Lovelace"));
+    ASSERT_TRUE(settle());
+    EXPECT_TRUE(poster()->accessibleDescription().contains(QStringLiteral("by Ada Lovelace on")));
+}
+
+TEST_F(FontQuiz, KeysForTheLastCardDoNotEndThePoster)
+{
+    play(1);
+    press(Qt::Key_6);
+    quiz->timeline().advance(FontQuizStageView::kFlight);
+    ASSERT_EQ(quiz->phase(), Phase::done);
+    press(Qt::Key_Return);
+    press(Qt::Key_Space);
+    EXPECT_EQ(closed, 0) << "before it can be seen";
+    land();
+    auto *done = part<QWidget>("QuizPoster.Done");
+    EXPECT_EQ(quiz->focusWidget(), done);
+    EXPECT_TRUE(done->accessibleDescription().contains(QStringLiteral("Decorative: 1")));
+    EXPECT_TRUE(done->accessibleDescription().contains(QStringLiteral("Organized by hand")));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(done, &held);
+    EXPECT_EQ(closed, 0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(FontQuiz, CoversEveryPixelOfAScreenOfAnotherRatio)
+{
+    play(3);
+    choose(1);
+    ASSERT_TRUE(settle());
+    const auto corner = [this](double ratio) {
+        QImage image((QSizeF(quiz->size()) * ratio).toSize(), QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::magenta);
+        quiz->render(&image);
+        return image.pixelColor(image.width() - 5, image.height() - 5);
+    };
+    EXPECT_EQ(corner(2), corner(1));
+    EXPECT_EQ(corner(1.5), corner(1));
 }
 
 TEST_F(FontQuiz, MayBeDeletedWhileFacesArriveAndCardsFly)

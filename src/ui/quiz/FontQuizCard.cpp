@@ -3,6 +3,7 @@
 
 #include "ui/quiz/FontQuizCard.h"
 
+#include "base/TextBeginning.h"
 #include "catalog/RepresentativeStyle.h"
 #include "text/CharacterSet.h"
 #include "text/GlyphPainter.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace lorva {
 
@@ -55,6 +57,13 @@ bool canDraw(const Font &font, const QString &text)
     });
 }
 
+/// Icons often have no characters but private ones.
+bool isSymbol(char32_t scalar)
+{
+    return QChar::category(scalar) == QChar::Other_PrivateUse
+        || (QChar::isPrint(scalar) && !QChar::isSpace(scalar) && !QChar::isMark(scalar));
+}
+
 /// Characters of the face's own, letters if it has any, for faces of scripts that have no sample.
 QString ownSample(const Font &font, int count)
 {
@@ -65,8 +74,7 @@ QString ownSample(const Font &font, int count)
         for (char32_t scalar = range.first; scalar <= range.last; ++scalar) {
             if (QChar::isLetter(scalar) && int(letters.size()) < count)
                 letters += scalar;
-            else if (QChar::isPrint(scalar) && !QChar::isSpace(scalar) && !QChar::isMark(scalar)
-                     && int(others.size()) < count)
+            else if (isSymbol(scalar) && int(others.size()) < count)
                 others += scalar;
         }
         if (int(letters.size()) == count)
@@ -86,7 +94,7 @@ QString sample(const FontQuizCard &card, const Font &font, int ownCharacters)
 
 QString previewText(const FontQuizCard &card, const Font &font)
 {
-    const QString name = card.familyName.simplified().left(kLongestName);
+    const QString name = textBeginning(card.familyName.simplified(), kLongestName);
     return !name.isEmpty() && canDraw(font, name) ? name : sample(card, font, kPreviewLetters);
 }
 

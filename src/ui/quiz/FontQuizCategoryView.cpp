@@ -3,7 +3,8 @@
 
 #include "ui/quiz/FontQuizCategoryView.h"
 
-#include "ui/quiz/FontQuizGame.h"
+#include "base/GroupedNumber.h"
+#include "ui/quiz/FontQuizCategories.h"
 #include "ui/quiz/FontQuizGround.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
@@ -12,6 +13,8 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
+
+#include <utility>
 
 namespace lorva {
 
@@ -32,27 +35,29 @@ FontQuizCategoryView::FontQuizCategoryView(int tile, QWidget *parent)
     , m_tile(tile)
 {
     setObjectName(QStringLiteral("FontQuizCategoryView.%1").arg(tile));
-    setText(FontQuizGame::tileName(tile));
+    setText(fontQuizCategoryName(tile));
     // A click must not take the keyboard away from the cards.
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::PointingHandCursor);
-    describe(0);
+    describe();
     connect(this, &QAbstractButton::clicked, this, [this] {
         if (onClick)
             onClick();
     });
 }
 
-void FontQuizCategoryView::describe(int count)
+void FontQuizCategoryView::describe()
 {
-    setAccessibleName(tr("%1, key %2, %n fonts", nullptr, count).arg(text()).arg(m_tile));
+    const QString says = m_count == 1 ? tr("%1, key %2, %3 font") : tr("%1, key %2, %3 fonts");
+    setAccessibleName(says.arg(text(), locale().toString(m_tile), groupedNumber(m_count)));
 }
 
 void FontQuizCategoryView::setPile(std::vector<FontQuizShownCard> pile, int count)
 {
     m_pile = std::move(pile);
-    describe(count);
+    if (std::exchange(m_count, count) != count)
+        describe();
     update();
 }
 

@@ -27,6 +27,7 @@ public:
     /// not.
     void setPile(std::vector<FontQuizShownCard> pile, int count);
     const std::vector<FontQuizShownCard> &pile() const { return m_pile; }
+    int count() const { return m_count; }
     /// The tile lights up in the colour of the card that it was chosen for, `strength` 0 … 1.
     void setFlash(const QColor &color, double strength);
     double flash() const { return m_flash; }
@@ -40,10 +41,11 @@ protected:
 private:
     void paintSurface(QPainter &painter) const;
     void paintTexts(QPainter &painter) const;
-    void describe(int count);
+    void describe();
 
     const int m_tile;
     std::vector<FontQuizShownCard> m_pile;
+    int m_count = 0;
     QColor m_flashColor;
     double m_flash = 0;
 };

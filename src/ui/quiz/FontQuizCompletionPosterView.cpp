@@ -3,7 +3,10 @@
 
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 
+#include "base/GroupedNumber.h"
+#include "base/TextBeginning.h"
 #include "ui/display/PanelParts.h"
+#include "ui/quiz/FontQuizCategories.h"
 #include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
 #include "ui/style/Style.h"
@@ -65,10 +68,10 @@ bool isRightToLeft(QChar character)
 
 QString shownName(const QString &fullName)
 {
-    QString name = fullName.simplified();
-    name.removeIf(isDirectionControl);
+    QString name = fullName;
+    name = name.removeIf(isDirectionControl).simplified();
     if (name.size() > kLongestName)
-        name = name.left(kLongestName).trimmed() + u'…';
+        name = textBeginning(name, kLongestName).trimmed() + u'…';
     if (!std::ranges::any_of(name, isRightToLeft))
         return name;
     // FIRST STRONG ISOLATE … POP DIRECTIONAL ISOLATE
@@ -77,16 +80,12 @@ QString shownName(const QString &fullName)
 
 QString spokenCounts(const FontQuizCounts &counts)
 {
-    const std::pair<QString, int> parts[]{{text("Fonts organized"), counts.total},
-                                          {text("Serif"), counts.serif},
-                                          {text("Sans-Serif"), counts.sans},
-                                          {text("Display"), counts.display},
-                                          {text("Mono"), counts.mono},
-                                          {text("Script"), counts.script},
-                                          {text("Decorative"), counts.decorative}};
-    QStringList spoken;
-    for (const auto &[name, count] : parts)
-        spoken << text("%1: %2").arg(name, QLocale().toString(count));
+    const int sorted[]{counts.serif, counts.sans,   counts.display,
+                       counts.mono,  counts.script, counts.decorative};
+    const QString part = text("%1: %2");
+    QStringList spoken{part.arg(text("Fonts organized"), groupedNumber(counts.total))};
+    for (int tile = 1; tile <= kFontQuizTiles; ++tile)
+        spoken << part.arg(fontQuizCategoryName(tile), groupedNumber(sorted[tile - 1]));
     return QLocale().createSeparatedList(spoken);
 }
 
@@ -139,9 +138,8 @@ void FontQuizCompletionPosterView::setContent(const Counts &counts, const QDate 
 {
     m_counts = counts;
     m_completionDate = completionDate;
-    m_sentence = posterText(fullName, completionDate);
+    setFullName(fullName);
     setAccessibleName(spokenCounts(counts));
-    setAccessibleDescription(m_sentence);
     m_hasBloomed = false;
     m_bloom.stop();
     setProgress(0);
@@ -149,9 +147,17 @@ void FontQuizCompletionPosterView::setContent(const Counts &counts, const QDate 
         startBloom();
 }
 
+void FontQuizCompletionPosterView::setFullName(const QString &fullName)
+{
+    m_sentence = posterText(fullName, m_completionDate);
+    setAccessibleDescription(m_sentence);
+    m_doneButton->setAccessibleDescription(m_sentence + u'\n' + spokenCounts(m_counts));
+    update();
+}
+
 void FontQuizCompletionPosterView::focusPage()
 {
-    m_saveButton->setFocus(Qt::OtherFocusReason);
+    m_doneButton->setFocus(Qt::OtherFocusReason);
 }
 
 bool FontQuizCompletionPosterView::isSettled() const
@@ -251,6 +257,9 @@ void FontQuizCompletionPosterView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return event->ignore();
+    // A key that is held down since the last card must not end it all.
+    if (event->isAutoRepeat())
+        return;
     auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
     (focused ? focused : m_doneButton)->click();
 }

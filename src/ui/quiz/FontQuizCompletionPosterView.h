@@ -48,9 +48,12 @@ public:
     ~FontQuizCompletionPosterView() override;
 
     void setContent(const Counts &counts, const QDate &completionDate, const QString &fullName);
+    /// The player's name is known now; nothing blooms anew.
+    void setFullName(const QString &fullName);
     const Counts &counts() const { return m_counts; }
     QDate completionDate() const { return m_completionDate; }
-    /// Gives the keyboard to its first button.
+    /// Gives the keyboard to the button that ends it, which tells assistive technology what the
+    /// poster says.
     void focusPage();
 
     /// Nothing blooms, and no picture is being written.

@@ -6,24 +6,13 @@
 #include "base/NotificationCentre.h"
 #include "model/LorvaAppModel.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
-#include <array>
+#include <utility>
 
 namespace lorva {
 
 namespace {
-
-constexpr std::array kCategoryIDs{"serif", "sans", "display", "mono", "script", "decorative"};
-constexpr std::array kTileNames{
-    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Serif"),
-    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Sans-Serif"),
-    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Display"),
-    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Mono"),
-    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Script"),
-    QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Decorative"),
-};
 
 QSet<QString> familyNames(const FontFamilyList &families)
 {
@@ -36,24 +25,14 @@ QSet<QString> familyNames(const FontFamilyList &families)
 
 } // namespace
 
-QString FontQuizGame::categoryID(int tile)
-{
-    return QString::fromLatin1(kCategoryIDs[size_t(tile - 1)]);
-}
-
-QString FontQuizGame::tileName(int tile)
-{
-    return QCoreApplication::translate("lorva::FontQuizCategoryView", kTileNames[size_t(tile - 1)]);
-}
-
-FontQuizGame::FontQuizGame(LorvaAppModel &model, const FontQuizDeck::Random &random,
-                           QObject *parent)
+FontQuizGame::FontQuizGame(LorvaAppModel &model, FontQuizDeck::Random random, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_deck(*model.allFamilies(), model.styleIDByFamily(), random)
+    , m_random(std::move(random))
     , m_catalogGeneration(model.catalogGeneration())
     , m_membershipGeneration(model.membershipGeneration())
 {
+    deal();
     NotificationCentre::shared().observe(LorvaAppModel::changeNotification(), this,
                                          [this](const void *sender) {
                                              if (sender == &m_model)
@@ -62,9 +41,13 @@ FontQuizGame::FontQuizGame(LorvaAppModel &model, const FontQuizDeck::Random &ran
     connect(&m_model.undoStack(), &QUndoStack::indexChanged, this, &FontQuizGame::forgetSteps);
 }
 
-int FontQuizGame::sortedElsewhere() const
+/// Cards that are seen already stay where they are if all of them still are what waits.
+void FontQuizGame::deal()
 {
-    return int(m_model.allFamilies()->size()) - m_deck.size();
+    const FontFamilyList families = m_model.allFamilies();
+    if (!m_deck.isDealtFrom(*families, m_model.styleIDByFamily()))
+        m_deck = FontQuizDeck(*families, m_model.styleIDByFamily(), m_random);
+    m_dealtFrom = int(families->size());
 }
 
 /// Somebody else has done, undone or redone something.
@@ -79,7 +62,8 @@ Result<void> FontQuizGame::choose(int tile)
     const int indexBefore = m_model.undoStack().index();
     {
         const QScopedValueRollback own(m_isOwnChange, true);
-        const Result<void> written = m_model.setStyle({m_deck.currentFamily()}, categoryID(tile));
+        const Result<void> written =
+            m_model.setStyle({m_deck.currentFamily()}, fontQuizCategoryID(tile));
         if (!written)
             return written;
     }
@@ -100,7 +84,12 @@ Result<void> FontQuizGame::takeBack()
     const int steps = m_undoSteps - 1;
     m_model.undoStack().undo();
     m_undoSteps = steps;
-    return {};
+    if (!m_model.styleIDByFamily().contains(last->familyName))
+        return {};
+    // The stack has moved although the change was not taken: what it would undo next is another
+    // family's choice.
+    m_undoSteps = 0;
+    return m_model.setStyle({last->familyName}, std::nullopt);
 }
 
 void FontQuizGame::modelChanged()
@@ -112,6 +101,15 @@ void FontQuizGame::modelChanged()
         return;
     m_catalogGeneration = m_model.catalogGeneration();
     m_membershipGeneration = m_model.membershipGeneration();
+    if (!hasOtherCatalog || m_hasBegun)
+        return reconcile(hasOtherCatalog);
+    deal();
+    if (onCatalog)
+        onCatalog();
+}
+
+void FontQuizGame::reconcile(bool hasOtherCatalog)
+{
     const QSet<QString> present =
         hasOtherCatalog ? familyNames(m_model.allFamilies()) : QSet<QString>();
     const FontQuizDeck::Difference difference =

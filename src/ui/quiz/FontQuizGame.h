@@ -21,14 +21,14 @@ class FontQuizGame final : public QObject
 {
     Q_OBJECT
 public:
-    FontQuizGame(LorvaAppModel &model, const FontQuizDeck::Random &random, QObject *parent);
+    FontQuizGame(LorvaAppModel &model, FontQuizDeck::Random random, QObject *parent);
 
     const FontQuizDeck &deck() const { return m_deck; }
     /// How many families had a category when the deck was dealt, or have got one elsewhere since.
-    int sortedElsewhere() const;
-    /// The category of a tile, 1 … 6: its id and its name, which is shown.
-    static QString categoryID(int tile);
-    static QString tileName(int tile);
+    int sortedElsewhere() const { return m_dealtFrom - m_deck.size(); }
+    /// The player has seen the cards. Until then another catalog is dealt anew, afterwards the
+    /// deck only loses what has vanished and what others sort.
+    void begin() { m_hasBegun = true; }
 
     /// Puts the current family into the tile's category, at once and lastingly. Changes nothing
     /// when it fails; the error is fit to be shown.
@@ -40,15 +40,21 @@ public:
 
     /// What happened to the deck other than by choose() and skip().
     std::function<void(const FontQuizDeck::Difference &)> onChange;
-    /// The catalog is another one: its fonts may be.
+    /// The catalog is another one: its fonts may be, and before begin() the deck, too.
     std::function<void()> onCatalog;
 
 private:
+    void deal();
     void modelChanged();
+    void reconcile(bool hasOtherCatalog);
     void forgetSteps();
 
     LorvaAppModel &m_model;
+    const FontQuizDeck::Random m_random;
     FontQuizDeck m_deck;
+    /// So many families there were.
+    int m_dealtFrom = 0;
+    bool m_hasBegun = false;
     qint64 m_catalogGeneration;
     qint64 m_membershipGeneration;
     /// So many choices are the last commands that can be undone.

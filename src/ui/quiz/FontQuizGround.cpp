@@ -3,7 +3,6 @@
 
 #include "ui/quiz/FontQuizGround.h"
 
-#include "platform/ThreadPriority.h"
 #include "ui/quiz/FontQuizLayout.h"
 #include "ui/style/DeviceSpace.h"
 #include "ui/style/Palette.h"
@@ -89,6 +88,7 @@ FontQuizGround::FontQuizGround(QObject *parent)
 
 FontQuizGround::~FontQuizGround()
 {
+    m_painting.cancel();
     m_pool.clear();
     m_pool.waitForDone();
 }
@@ -123,18 +123,27 @@ QRect FontQuizGround::bloomRect() const
     return rect.toAlignedRect().intersected(QRect(QPoint(0, 0), m_look.size));
 }
 
-void FontQuizGround::paint(QPainter &painter, const QRect &exposed) const
+/// Pixel for pixel; smeared over the others where these are not the pixels that it was made for.
+void FontQuizGround::draw(QPainter &painter, const QImage &image) const
 {
     const DeviceSpace device(painter);
+    if (qFuzzyCompare(device.ratio(), m_look.devicePixelRatio))
+        device.drawImage({}, {}, image);
+    else
+        painter.drawImage(QRectF(QPointF(0, 0), m_look.size), image, QRectF(image.rect()));
+}
+
+void FontQuizGround::paint(QPainter &painter, const QRect &exposed) const
+{
     const QSize wanted = (QSizeF(m_look.size) * m_look.devicePixelRatio).toSize();
     if (m_image.size() != wanted)
         return painter.fillRect(exposed, fontQuizColors(m_look.isDark).ground);
     const double before = painter.opacity();
     const bool isComing = m_share < 1 && !m_former.isNull();
     if (isComing)
-        device.drawImage({}, {}, m_former);
+        draw(painter, m_former);
     painter.setOpacity(isComing ? before * m_share : before);
-    device.drawImage({}, {}, m_image);
+    draw(painter, m_image);
     painter.setOpacity(before);
 }
 

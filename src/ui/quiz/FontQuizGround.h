@@ -64,6 +64,7 @@ public:
 
 private:
     void accept(const Look &look, const QImage &image);
+    void draw(QPainter &painter, const QImage &image) const;
 
     QThreadPool m_pool;
     RunHandle m_painting;

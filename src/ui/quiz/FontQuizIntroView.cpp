@@ -25,6 +25,7 @@ namespace {
 constexpr int kTitleSize = 34;
 constexpr int kColumn = 460;
 constexpr double kFanScale = 0.4;
+constexpr double kLeastFanScale = 0.12;
 /// What the fan takes, to the height of one card.
 constexpr double kFanHeight = 1.5;
 constexpr double kSentenceAlpha = 0.7;
@@ -111,9 +112,8 @@ FontQuizIntroView::Places FontQuizIntroView::places() const
     const int textHeight = text.heightFor(column);
     const int titleHeight = m_isEmpty ? 0 : QFontMetrics(titleFont()).height();
     const int below = titleHeight + spacing::k16 + textHeight + spacing::k32 + kButton.height();
-    const double scale =
-        std::clamp((height() - below - 160.0) / (kFontQuizCardSize.height() * kFanHeight), 0.12,
-                   std::min(kFanScale, width() / 1900.0));
+    const double room = (height() - below - 160.0) / (kFontQuizCardSize.height() * kFanHeight);
+    const double scale = std::max(kLeastFanScale, std::min({kFanScale, width() / 1900.0, room}));
     const int fan = m_isEmpty ? 0 : int(kFontQuizCardSize.height() * scale * kFanHeight);
     const int gap = m_isEmpty ? 0 : spacing::k40;
     int y = (height() - fan - gap - below) / 2;

@@ -3,6 +3,8 @@
 
 #include "ui/quiz/FontQuizPosterPage.h"
 
+#include "base/GroupedNumber.h"
+#include "ui/quiz/FontQuizCategories.h"
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 #include "ui/quiz/FontQuizPosterLines.h"
 #include "ui/style/Palette.h"
@@ -12,7 +14,6 @@
 #include <QEasingCurve>
 #include <QFontMetricsF>
 #include <QLinearGradient>
-#include <QLocale>
 #include <QMarginsF>
 
 #include <algorithm>
@@ -22,7 +23,7 @@ namespace lorva {
 
 namespace {
 
-constexpr int kCategories = 6;
+constexpr int kCategories = kFontQuizTiles;
 /// A page of this many points, seen as a square, has type of the sizes below.
 constexpr double kUnitSide = 1180;
 constexpr double kLabelSize = 15;
@@ -86,8 +87,10 @@ std::array<int, kCategories> numbersOf(const FontQuizCounts &counts)
 
 std::array<QString, kCategories> names()
 {
-    return {text("Serif"), text("Sans-Serif"), text("Display"),
-            text("Mono"),  text("Script"),     text("Decorative")};
+    std::array<QString, kCategories> names;
+    for (int i = 0; i < kCategories; ++i)
+        names[size_t(i)] = fontQuizCategoryName(i + 1);
+    return names;
 }
 
 /// How high a digit stands over its baseline.
@@ -105,7 +108,7 @@ std::array<QString, kCategories> formatted(const std::array<int, kCategories> &n
 {
     std::array<QString, kCategories> texts;
     std::ranges::transform(numbers, texts.begin(),
-                           [](int number) { return QLocale().toString(number); });
+                           [](int number) { return groupedNumber(number); });
     return texts;
 }
 
@@ -200,22 +203,26 @@ private:
     /// A large digit's own bearing would set it off from everything below.
     void putNumber(int number, const QFont &font, double x, double baseline, const QBrush &brush)
     {
-        const QString shown = QLocale().toString(number);
+        const QString shown = groupedNumber(number);
         const QRectF ink = QFontMetricsF(font).tightBoundingRect(shown);
         const double bearing = isRightToLeft() ? widthOf(shown, font) - ink.right() : ink.left();
         put(shown, font, x - bearing, baseline, brush);
     }
 
+    /// Beside the corner, or above it where too little room is left there.
     void placeSentence(const QString &sentence)
     {
-        const double beside = m_setting.corner.width() + 2 * spacing::k20;
-        const double width = std::max(m_room.width() - beside, m_room.width() / 2);
-        const FontQuizPosterLines lines = fittingPosterLines(
-            sentence, scaled(kSentenceSize), width, m_setting.size.height() * kMostSentence);
+        const QSizeF corner = m_setting.corner;
+        const double beside = m_room.width() - corner.width() - 2 * spacing::k20;
+        const bool isAbove = beside < m_room.width() / 2;
+        const double above = isAbove ? corner.height() + spacing::k12 : 0;
+        const FontQuizPosterLines lines =
+            fittingPosterLines(sentence, scaled(kSentenceSize), isAbove ? m_room.width() : beside,
+                               m_setting.size.height() * kMostSentence - above);
         const double share = shareOf(m_setting.progress, 0.5, 0.5);
-        const double height = std::max(lines.height(), m_setting.corner.height());
-        double baseline = m_room.bottom() - height + QFontMetricsF(lines.font).ascent();
+        const double height = std::max(lines.height() + above, corner.height());
         m_foot = m_room.bottom() - height;
+        double baseline = m_foot + QFontMetricsF(lines.font).ascent();
         for (const FontQuizPosterLines::Line &line : lines.lines) {
             const double alpha = line.paragraph > 0 ? kQuiet : 1;
             if (!line.text.isEmpty())
@@ -248,7 +255,7 @@ private:
         const FontQuizNumberLayer &layer = m_layers[index + 1];
         const bool isZero = numbersOf(m_counts)[index] == 0;
         const double rise = (1 - layer.opacity) * spacing::k16 * m_unit;
-        put(QLocale().toString(layer.shown), font, x, baseline + rise,
+        put(groupedNumber(layer.shown), font, x, baseline + rise,
             withAlpha(m_colors.ink, layer.opacity * (isZero ? kZero : 1)));
     }
 
@@ -269,7 +276,7 @@ private:
     {
         QFont font = posterFont(kSizeTried, QFont::Bold);
         font.setLetterSpacing(QFont::PercentageSpacing, kTotalSpacing);
-        const QString number = QLocale().toString(m_counts.total);
+        const QString number = groupedNumber(m_counts.total);
         const double wide = widthOf(number, font);
         const double high = digitHeight(font);
         if (!(wide > 0) || !(high > 0))
@@ -291,8 +298,7 @@ private:
         const double top = m_room.top() + QFontMetricsF(labelFont).capHeight() + above;
         const QFont font = totalFont(top, below);
         const double height = digitHeight(font);
-        const QRectF ink =
-            QFontMetricsF(font).tightBoundingRect(QLocale().toString(m_counts.total));
+        const QRectF ink = QFontMetricsF(font).tightBoundingRect(groupedNumber(m_counts.total));
         const double baseline = m_foot - std::max(below, ink.bottom() + below / 2);
         const QRectF digits(0, baseline - height, 1, height);
         const double share = shareOf(m_setting.progress, 0, kTotalTime);

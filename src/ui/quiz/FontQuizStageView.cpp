@@ -19,6 +19,8 @@
 #include <QLabel>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
@@ -110,6 +112,14 @@ void FontQuizStageView::wantPictures()
         if (const FontFamilyRecord *family = m_model.family(m_deck.families()[i]))
             cards.push_back(fontQuizCard(*family, m_deck.themeSequence()[size_t(i)]));
     }
+    for (const auto &pile : m_landedPiles) {
+        for (const LandedCard &card : pile) {
+            const FontFamilyRecord *family =
+                card.picture ? nullptr : m_model.family(card.familyName);
+            if (family)
+                cards.push_back(fontQuizCard(*family, card.theme));
+        }
+    }
     m_pictures->want(cards);
 }
 
@@ -159,6 +169,7 @@ void FontQuizStageView::describeCard()
 
 void FontQuizStageView::showDeck()
 {
+    fillPiles();
     wantPictures();
     describeCard();
     if (!m_isAnimating)
@@ -166,8 +177,9 @@ void FontQuizStageView::showDeck()
     update();
 }
 
-void FontQuizStageView::pictureArrived(const QString &)
+void FontQuizStageView::pictureArrived(const QString &familyName)
 {
+    takePicture(familyName);
     if (!m_isAnimating)
         m_cardView->setCards(deckCards(m_deck.currentIndex(), 0));
     if (onPictures)
@@ -175,10 +187,11 @@ void FontQuizStageView::pictureArrived(const QString &)
 }
 
 /// The deck is as it will be when the card has arrived.
-void FontQuizStageView::fly(FontQuizShownCard card, const Flight &flight,
+void FontQuizStageView::fly(const QString &familyName, FontQuizShownCard card, const Flight &flight,
                             std::function<void()> done)
 {
     m_flyingPicture = card.picture;
+    m_flyingFamily = familyName;
     setNotice({});
     wantPictures();
     describeCard();
@@ -218,13 +231,14 @@ void FontQuizStageView::endFlight()
 
 void FontQuizStageView::throwCard()
 {
+    settleFlight();
     const FontQuizDeck::Choice choice = *m_deck.lastChoice();
+    m_thrownFamily = choice.familyName;
     const auto place = size_t(choice.tile - 1);
     const FontQuizPose top = fontQuizPilePose(m_layout.tiles[place], m_deck.counts()[place] - 1);
     FontQuizShownCard card = shown(choice.familyName, choice.theme);
-    m_flyingFamily = choice.familyName;
     flashTile(choice);
-    fly(std::move(card), {fontQuizRestPose(m_layout, 0), top, true, 1, kFlight},
+    fly(choice.familyName, std::move(card), {fontQuizRestPose(m_layout, 0), top, true, 1, kFlight},
         [this, choice] { land(choice); });
 }
 
@@ -241,52 +255,25 @@ void FontQuizStageView::flashTile(const FontQuizDeck::Choice &choice)
 
 void FontQuizStageView::land(const FontQuizDeck::Choice &choice)
 {
-    auto &pile = m_landedPiles[size_t(choice.tile - 1)];
-    pile.push_back({choice.familyName, choice.theme, m_deck.counts()[size_t(choice.tile - 1)] - 1,
-                    m_flyingPicture});
-    if (int(pile.size()) > m_maxPileSize)
-        pile.erase(pile.begin());
-    showPile(choice.tile);
+    m_thrownFamily.clear();
+    fillPile(choice.tile);
     endFlight();
-}
-
-void FontQuizStageView::showPile(int tile)
-{
-    const auto place = size_t(tile - 1);
-    std::vector<FontQuizShownCard> cards;
-    for (const LandedCard &card : m_landedPiles[place])
-        cards.push_back(
-            {card.picture, card.theme, fontQuizPilePose(m_layout.tiles[place], card.number)});
-    m_categoryViews[place]->setPile(std::move(cards), m_deck.counts()[place]);
-}
-
-FontQuizCardPictures::Picture FontQuizStageView::dropFromPile(const FontQuizDeck::Choice &choice)
-{
-    FontQuizCardPictures::Picture picture;
-    std::erase_if(m_landedPiles[size_t(choice.tile - 1)], [&](const LandedCard &card) {
-        const bool isIt = card.familyName == choice.familyName;
-        if (isIt)
-            picture = card.picture;
-        return isIt;
-    });
-    showPile(choice.tile);
-    return picture;
 }
 
 void FontQuizStageView::bringBack(const std::vector<FontQuizDeck::Choice> &takenBack)
 {
-    settleFlight();
-    FontQuizShownCard card;
-    for (const FontQuizDeck::Choice &choice : takenBack)
-        card = {dropFromPile(choice), choice.theme, {}};
     const FontQuizDeck::Choice &newest = takenBack.back();
+    FontQuizShownCard card = shown(newest.familyName, newest.theme);
+    if (!card.picture)
+        card.picture = landedPicture(newest.familyName);
+    settleFlight();
+    fillPiles();
     if (m_deck.isExhausted() || m_deck.currentFamily() != newest.familyName)
         return endFlight();
     const auto place = size_t(newest.tile - 1);
     const FontQuizPose pile = fontQuizPilePose(m_layout.tiles[place], m_deck.counts()[place]);
-    m_flyingFamily = newest.familyName;
-    fly(std::move(card), {pile, fontQuizRestPose(m_layout, 0), true, -1, kFlight},
-        [this] { endFlight(); });
+    fly(newest.familyName, std::move(card),
+        {pile, fontQuizRestPose(m_layout, 0), true, -1, kFlight}, [this] { endFlight(); });
 }
 
 void FontQuizStageView::putAside(const QString &familyName, const FontQuizCardTheme &theme)
@@ -296,7 +283,7 @@ void FontQuizStageView::putAside(const QString &familyName, const FontQuizCardTh
     aside.centre.rx() += (isRightToLeft() ? -0.3 : 0.3) * m_layout.card.width();
     aside.degrees = isRightToLeft() ? -4 : 4;
     aside.opacity = 0;
-    fly(shown(familyName, theme), {rest, aside}, [this] { endFlight(); });
+    fly(familyName, shown(familyName, theme), {rest, aside}, [this] { endFlight(); });
 }
 
 void FontQuizStageView::fadeAway(const QString &familyName, const FontQuizCardTheme &theme)
@@ -306,7 +293,7 @@ void FontQuizStageView::fadeAway(const QString &familyName, const FontQuizCardTh
     const FontQuizPose rest = fontQuizRestPose(m_layout, 0);
     FontQuizPose gone = rest;
     gone.opacity = 0;
-    fly(std::move(card), {rest, gone}, [this] { endFlight(); });
+    fly(familyName, std::move(card), {rest, gone}, [this] { endFlight(); });
 }
 
 void FontQuizStageView::setNotice(const QString &text)

@@ -38,7 +38,10 @@ public:
         FontQuizCardTheme theme;
         /// From 0; says how it lies.
         int number = 0;
+        /// As small as a pile draws it; null: blank, until it has arrived.
         FontQuizCardPictures::Picture picture;
+
+        bool operator==(const LandedCard &) const = default;
     };
     using LandedPiles = std::array<std::vector<LandedCard>, kFontQuizTiles>;
 
@@ -62,7 +65,8 @@ public:
     void place();
     /// Shows the deck as it is, at once.
     void showDeck();
-    /// The deck's last choice was just made: its card flies to the pile, and the next ones rise.
+    /// The deck's last choice was just made, or made again: its card flies to the pile, and the
+    /// next ones rise.
     void throwCard();
     /// The card that was current was put aside, or taken away.
     void putAside(const QString &familyName, const FontQuizCardTheme &theme);
@@ -101,14 +105,19 @@ private:
     void describeCard();
     std::vector<FontQuizShownCard> deckCards(int first, double depthShift) const;
     FontQuizShownCard shown(const QString &familyName, const FontQuizCardTheme &theme) const;
-    void fly(FontQuizShownCard card, const Flight &flight, std::function<void()> done);
+    void fly(const QString &familyName, FontQuizShownCard card, const Flight &flight,
+             std::function<void()> done);
     void settleFlight();
     void endFlight();
     void takeColors();
     void land(const FontQuizDeck::Choice &choice);
     void flashTile(const FontQuizDeck::Choice &choice);
-    FontQuizCardPictures::Picture dropFromPile(const FontQuizDeck::Choice &choice);
+    FontQuizCardPictures::Picture landedPicture(const QString &familyName) const;
+    LandedCard landed(const FontQuizDeck::Choice &choice, int number) const;
+    void fillPile(int tile);
+    void fillPiles();
     void showPile(int tile);
+    void takePicture(const QString &familyName);
     void pictureArrived(const QString &familyName);
 
     const LorvaAppModel &m_model;
@@ -121,6 +130,8 @@ private:
     FontQuizFlightView *m_flightView;
     FontQuizLayout m_layout;
     LandedPiles m_landedPiles;
+    /// It is on its way to a pile on which the deck has it already; else empty.
+    QString m_thrownFamily;
     const int m_maxPileSize = 4;
     bool m_isAnimating = false;
     /// Of the card that flies, or flew last: it may have left the pictures that are wanted.

@@ -16,9 +16,10 @@ FontQuizVeil::FontQuizVeil(QWidget *parent)
     hide();
 }
 
-void FontQuizVeil::cover(const QPixmap &former)
+void FontQuizVeil::cover(const QPixmap &former, const QColor &ground)
 {
     m_former = former;
+    m_ground = ground;
     setGeometry(parentWidget()->rect());
     setStrength(1);
     raise();
@@ -39,7 +40,10 @@ void FontQuizVeil::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setOpacity(m_strength);
-    painter.drawPixmap(0, 0, m_former);
+    if (m_former.isNull())
+        painter.fillRect(rect(), m_ground);
+    else
+        painter.drawPixmap(0, 0, m_former);
 }
 
 } // namespace lorva

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QPixmap>
 #include <QWidget>
 
@@ -15,8 +16,8 @@ class FontQuizVeil final : public QWidget
 public:
     explicit FontQuizVeil(QWidget *parent);
 
-    /// Covers all of the parent.
-    void cover(const QPixmap &former);
+    /// Covers all of the parent; with `ground` if the picture is null.
+    void cover(const QPixmap &former, const QColor &ground);
     /// 1: only the picture is seen; 0: it is let go.
     void setStrength(double strength);
 
@@ -25,6 +26,7 @@ protected:
 
 private:
     QPixmap m_former;
+    QColor m_ground;
     double m_strength = 0;
 };
 

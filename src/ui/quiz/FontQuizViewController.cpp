@@ -3,7 +3,7 @@
 
 #include "ui/quiz/FontQuizViewController.h"
 
-#include "platform/UserAccount.h"
+#include "base/RunThen.h"
 #include "ui/quiz/FontQuizCardView.h"
 #include "ui/quiz/FontQuizCompletionPosterView.h"
 #include "ui/quiz/FontQuizGame.h"
@@ -16,8 +16,9 @@
 #include "ui/style/Style.h"
 #include "ui/style/TextButton.h"
 
-#include <QKeyEvent>
+#include <QFontMetrics>
 #include <QPainter>
+#include <QThreadPool>
 
 namespace lorva {
 
@@ -25,6 +26,11 @@ namespace {
 
 constexpr std::chrono::milliseconds kFade{320};
 constexpr std::chrono::milliseconds kBloom{600};
+/// A picture of a larger window takes longer than a frame; what is shown next comes out of the bare
+/// ground then.
+constexpr double kMostGrabbedPixels = 2.4e6;
+/// Points.
+constexpr int kNameInNotice = 240;
 /// The wash is so faint that its steps cannot be seen; each repaints half of the window.
 constexpr int kBloomSteps = 8;
 
@@ -34,18 +40,11 @@ FontQuizCounts countsOf(const FontQuizDeck &deck)
     return {deck.currentIndex(), piles[0], piles[1], piles[2], piles[3], piles[4], piles[5]};
 }
 
-/// The number that a key press types, on whatever keyboard; 0 for none.
-int typedNumber(const QKeyEvent &event)
+/// So much of a name that the reason behind it is seen as well.
+QString inNotice(const QString &familyName)
 {
-    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return 0;
-    const QString text = event.text();
-    return text.size() == 1 ? text[0].digitValue() : text.toInt();
-}
-
-bool isReturn(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const QFontMetrics metrics(interfaceFont(InterfaceSize::label, InterfaceWeight::medium));
+    return metrics.elidedText(familyName.simplified(), Qt::ElideMiddle, kNameInNotice);
 }
 
 } // namespace
@@ -76,11 +75,26 @@ FontQuizViewController::FontQuizViewController(LorvaAppModel &model,
     m_stage->onSettled = [this] { endIfExhausted(); };
     m_stage->onPictures = [this] { showIntroCards(); };
     m_ground->onArrived = [this] { bloom(); };
-    m_game->onCatalog = [this] { m_stage->pictures().retryStandIns(); };
+    m_game->onCatalog = [this] { catalogChanged(); };
     m_game->onChange = [this](const FontQuizDeck::Difference &difference) {
         deckChanged(difference, m_currentFamily, m_currentTheme);
     };
+    askName();
     showIntro();
+}
+
+/// In the pool that nobody waits for while the program runs: closing must not take as long as an
+/// account database that does not answer.
+void FontQuizViewController::askName()
+{
+    runThen(
+        *QThreadPool::globalInstance(), this,
+        [ask = m_sources.fullName](const std::stop_token &) { return ask(); },
+        [this](const QString &name) {
+            m_fullName = name;
+            if (m_poster)
+                m_poster->setFullName(name);
+        });
 }
 
 FontQuizViewController::~FontQuizViewController() = default;
@@ -97,13 +111,21 @@ bool FontQuizViewController::isAnimating() const
 
 bool FontQuizViewController::isSettled() const
 {
-    return !m_timeline->isRunning() && m_ground->isComplete() && m_stage->pictures().isComplete();
+    return !m_timeline->isRunning() && m_fullName && m_ground->isComplete()
+        && m_stage->pictures().isComplete();
 }
 
 void FontQuizViewController::close() const
 {
     if (onClose)
         onClose();
+}
+
+void FontQuizViewController::catalogChanged()
+{
+    if (m_phase == Phase::intro)
+        showIntro();
+    m_stage->pictures().retryStandIns();
 }
 
 void FontQuizViewController::noteCurrent()
@@ -122,6 +144,15 @@ void FontQuizViewController::showIntro()
     noteCurrent();
     showIntroCards();
     setPhase(Phase::intro);
+    noteIntroSeen();
+}
+
+/// Saying so makes the model tell everybody, which is for later.
+void FontQuizViewController::noteIntroSeen()
+{
+    if (isVisible() && m_phase == Phase::intro && !deck().isEmpty())
+        QMetaObject::invokeMethod(
+            this, [this] { m_model.setHasSeenQuizIntro(); }, Qt::QueuedConnection);
 }
 
 void FontQuizViewController::showIntroCards()
@@ -133,22 +164,44 @@ void FontQuizViewController::showIntroCards()
 void FontQuizViewController::setPhase(Phase phase)
 {
     m_phase = phase;
+    if (phase != Phase::intro)
+        m_game->begin();
     m_stage->setVisible(phase == Phase::playing);
     m_intro->setVisible(phase == Phase::intro || (phase == Phase::done && !m_poster));
     if (m_poster)
         m_poster->setVisible(phase == Phase::done);
     m_closeButton->raise();
     m_veil->raise();
-    if (!isVisible())
-        return;
-    if (phase == Phase::playing)
-        m_stage->cardView().setFocus(Qt::OtherFocusReason);
-    else if (m_poster)
-        m_poster->focusPage();
-    else if (deck().isExhausted())
+    m_closeButton->setAccessibleDescription(
+        m_intro->isVisibleTo(this) && deck().isExhausted() ? m_intro->sentence() : QString());
+    if (isVisible())
+        focusPhase();
+}
+
+/// A key that was meant for the last card must not reach the end's button: that gets the keyboard
+/// when it can be seen.
+void FontQuizViewController::focusPhase()
+{
+    m_timeline->drop("focus");
+    if (m_phase == Phase::playing)
+        return m_stage->cardView().setFocus(Qt::OtherFocusReason);
+    if (m_phase == Phase::done) {
+        setFocus(Qt::OtherFocusReason);
+        m_timeline->run(
+            "focus", kFade, [](double) {}, [this] { focusEnd(); });
+    } else if (deck().isExhausted())
         m_closeButton->setFocus(Qt::OtherFocusReason);
-    else
+    else {
         m_intro->focusPage();
+    }
+}
+
+void FontQuizViewController::focusEnd()
+{
+    if (m_poster)
+        m_poster->focusPage();
+    else
+        m_closeButton->setFocus(Qt::OtherFocusReason);
 }
 
 void FontQuizViewController::start()
@@ -173,7 +226,7 @@ void FontQuizViewController::choose(int tile)
     if (!written)
         return m_stage->setNotice(
             tr("“%1” could not be put into %2: %3")
-                .arg(family, FontQuizGame::tileName(tile), written.error().detail));
+                .arg(inNotice(family), fontQuizCategoryName(tile), written.error().detail));
     noteCurrent();
     m_stage->throwCard();
 }
@@ -205,12 +258,14 @@ void FontQuizViewController::deckChanged(const FontQuizDeck::Difference &differe
     noteCurrent();
     if (m_phase == Phase::intro)
         return showIntro();
-    if (m_phase == Phase::done && (difference.takenBack.empty() || deck().isExhausted()))
-        return;
+    if (m_phase == Phase::done && deck().isExhausted())
+        return countsChanged(difference);
     if (m_phase == Phase::done)
         resume();
     if (!difference.takenBack.empty())
         m_stage->bringBack(difference.takenBack);
+    else if (!difference.redone.empty() && difference.hasLostCurrent)
+        m_stage->throwCard();
     else if (difference.hasLostCurrent)
         m_stage->fadeAway(formerFamily, formerTheme);
     else
@@ -219,7 +274,14 @@ void FontQuizViewController::deckChanged(const FontQuizDeck::Difference &differe
         endIfExhausted();
 }
 
-/// A choice does not hold any longer, and the game goes on.
+/// What the end tells is not so any more, but there is no card to go on with.
+void FontQuizViewController::countsChanged(const FontQuizDeck::Difference &difference)
+{
+    if (!difference.takenBack.empty() || !difference.redone.empty())
+        end();
+}
+
+/// There are cards again, and the game goes on.
 void FontQuizViewController::resume()
 {
     fadeFromHere();
@@ -243,6 +305,11 @@ void FontQuizViewController::end()
 
 void FontQuizViewController::showEmpty()
 {
+    if (m_poster) {
+        m_poster->hide();
+        m_poster->deleteLater();
+        m_poster = nullptr;
+    }
     m_intro->setNumbers(0, 0);
     m_intro->setCards({});
     setPhase(Phase::done);
@@ -255,7 +322,7 @@ void FontQuizViewController::showPoster()
         connect(m_poster, &FontQuizCompletionPosterView::doneWanted, this,
                 &FontQuizViewController::close);
     }
-    m_poster->setContent(countsOf(deck()), m_sources.today(), userFullName());
+    m_poster->setContent(countsOf(deck()), m_sources.today(), m_fullName.value_or(QString()));
     m_poster->setGeometry(rect());
     setPhase(Phase::done);
 }
@@ -267,7 +334,9 @@ void FontQuizViewController::fadeFromHere()
         return;
     m_timeline->drop("fade");
     m_veil->setStrength(0);
-    m_veil->cover(grab());
+    const bool isLarge =
+        double(width()) * height() * devicePixelRatioF() * devicePixelRatioF() > kMostGrabbedPixels;
+    m_veil->cover(isLarge ? QPixmap() : grab(), fontQuizColors(isDarkDesktop()).ground);
     m_timeline->run("fade", kFade, [this](double share) { m_veil->setStrength(1 - share); });
 }
 
@@ -319,7 +388,9 @@ void FontQuizViewController::resizeEvent(QResizeEvent *)
 
 bool FontQuizViewController::event(QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange)
+    // Another screen may have other pixels.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange
+        || event->type() == QEvent::ScreenChangeInternal)
         place();
     return QWidget::event(event);
 }
@@ -328,63 +399,13 @@ void FontQuizViewController::showEvent(QShowEvent *)
 {
     place();
     setPhase(m_phase);
-    if (m_phase == Phase::intro && !deck().isEmpty())
-        QMetaObject::invokeMethod(
-            this, [this] { m_model.setHasSeenQuizIntro(); }, Qt::QueuedConnection);
+    noteIntroSeen();
 }
 
 void FontQuizViewController::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     m_ground->paint(painter, event->rect());
-}
-
-void FontQuizViewController::introKey(const QKeyEvent &event)
-{
-    if (isReturn(event) || event.key() == Qt::Key_Space)
-        start();
-}
-
-void FontQuizViewController::playingKey(const QKeyEvent &event)
-{
-    if (event.key() == Qt::Key_Space)
-        return skip();
-    if (event.key() == Qt::Key_Backspace)
-        return takeBack();
-    choose(typedNumber(event));
-}
-
-void FontQuizViewController::keyPressEvent(QKeyEvent *event)
-{
-    // Nothing that lies below hears of a key.
-    event->accept();
-    if (event->key() == Qt::Key_Escape)
-        return close();
-    // A key that is held down must not sort one font after the other.
-    if (event->isAutoRepeat())
-        return;
-    if (m_phase == Phase::intro)
-        introKey(*event);
-    else if (m_phase == Phase::playing)
-        playingKey(*event);
-    else if (event->key() == Qt::Key_Backspace)
-        takeBack();
-}
-
-bool FontQuizViewController::focusNextPrevChild(bool next)
-{
-    QWidget *const from = focusWidget() ? focusWidget() : this;
-    const auto step = [next](QWidget *widget) {
-        return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
-    };
-    for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
-        if (isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
-            && (widget->focusPolicy() & Qt::TabFocus)) {
-            widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-            break;
-        }
-    }
-    return true;
 }
 
 } // namespace lorva

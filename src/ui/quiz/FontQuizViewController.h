@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/LorvaAppModel.h"
+#include "platform/UserAccount.h"
 #include "ui/preview/FontResolver.h"
 #include "ui/quiz/FontQuizDeck.h"
 #include "ui/quiz/FontQuizTimeline.h"
@@ -12,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace lorva {
 
@@ -28,6 +30,8 @@ struct FontQuizSources
 {
     FontQuizDeck::Random random = FontQuizDeck::systemRandom();
     std::function<QDate()> today = [] { return QDate::currentDate(); };
+    /// Asked by a worker: it may have to wait for the network.
+    std::function<QString()> fullName = userFullName;
 };
 
 /// The font quiz: deals the families that have no style category yet, one card at a time; the
@@ -84,11 +88,17 @@ private:
     void close() const;
     void place();
     void placeClose();
+    void askName();
     void setPhase(Phase phase);
+    void focusPhase();
+    void focusEnd();
     void showIntro();
     void showIntroCards();
     void deckChanged(const FontQuizDeck::Difference &difference, const QString &formerFamily,
                      const FontQuizCardTheme &formerTheme);
+    void countsChanged(const FontQuizDeck::Difference &difference);
+    void catalogChanged();
+    void noteIntroSeen();
     void noteCurrent();
     void resume();
     void endIfExhausted();
@@ -104,6 +114,8 @@ private:
     LorvaAppModel &m_model;
     const FontQuizSources m_sources;
     Phase m_phase = Phase::intro;
+    /// Nothing while it is asked for.
+    std::optional<QString> m_fullName;
     FontQuizTimeline *m_timeline;
     FontQuizGame *m_game;
     FontQuizGround *m_ground;

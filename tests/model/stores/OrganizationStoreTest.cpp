@@ -9,11 +9,10 @@
 #include "model/stores/OrganizationChanges.h"
 #include "model/stores/StyleStore.h"
 #include "platform/SqlitePreferenceStore.h"
+#include "support/MemoryPreferences.h"
 #include "support/TestHome.h"
 
 #include <gmock/gmock.h>
-
-#include <map>
 
 namespace lorva {
 namespace {
@@ -125,7 +124,7 @@ TEST_F(OrganizationStoreTest, onlyThePartThatDiffersIsWritten)
 
 /// A store whose file is locked for long: every change runs on what is in memory, and once more
 /// over what the file has come to hold by then.
-class LockedStore final : public ValuePreferenceStore
+class LockedStore final : public test::MemoryPreferences
 {
 public:
     void inTransaction(std::function<void()> change) override
@@ -137,13 +136,11 @@ public:
         m_isInside = wasInside;
     }
     bool writeWaitingChanges() override { return m_waiting.empty(); }
-    bool takeChangesElsewhere() override { return false; }
-    PreferenceStoreStatus status() const override { return {}; }
 
     /// The lock is gone: what waits runs over what `fill` puts there.
     void release(const std::function<void(PreferenceStore &)> &fill)
     {
-        m_rows.clear();
+        clear();
         const auto waiting = std::exchange(m_waiting, {});
         fill(*this);
         m_waiting.clear();
@@ -152,19 +149,6 @@ public:
     }
 
 private:
-    std::optional<PreferenceRow> row(const QString &key) const override
-    {
-        const auto found = m_rows.find(key);
-        return found == m_rows.end() ? std::nullopt : std::optional(found->second);
-    }
-    void setRow(const QString &key, const std::optional<PreferenceRow> &row) override
-    {
-        m_rows.erase(key);
-        if (row)
-            m_rows.emplace(key, *row);
-    }
-
-    std::map<QString, PreferenceRow> m_rows;
     std::vector<std::function<void()>> m_waiting;
     bool m_isInside = false;
 };
