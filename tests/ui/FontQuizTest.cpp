@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "FontQuizFixture.h"
+#include "ui/quiz/FontQuizGround.h"
+#include "ui/style/Palette.h"
 
 #include <algorithm>
 #include <future>
@@ -64,6 +66,39 @@ TEST_F(FontQuiz, AFamilyIsSortedByKeyAndByClickAndWrittenAtOnce)
 
     quiz.reset();
     EXPECT_EQ(styleOf("Face 000"), QStringLiteral("display")) << "leaving midway keeps it";
+}
+
+TEST_F(FontQuiz, AHeldKeySortsOneFontHoweverTheDesktopTellsIt)
+{
+    play(4);
+    const auto send = [this](QEvent::Type type, quint64 time) {
+        QKeyEvent event(type, Qt::Key_5, Qt::NoModifier, QStringLiteral("5"));
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(quiz.get(), &event);
+        land();
+    };
+    send(QEvent::KeyPress, 1000);
+    for (const quint64 repeated : {1500, 1530, 1560}) {
+        send(QEvent::KeyRelease, repeated);
+        send(QEvent::KeyPress, repeated);
+    }
+    EXPECT_EQ(quiz->currentIndex(), 1);
+    send(QEvent::KeyRelease, 1590);
+    send(QEvent::KeyPress, 1700);
+    EXPECT_EQ(quiz->currentIndex(), 2) << "pressed anew";
+}
+
+TEST_F(FontQuiz, StandsOnPlainGroundWithoutACard)
+{
+    setReducedMotionOverride(true);
+    open(0);
+    EXPECT_EQ(intro().sentence(), QStringLiteral("Every font is already categorized."));
+    ASSERT_TRUE(settle());
+    const QColor ground = fontQuizColors(isDarkDesktop()).ground;
+    EXPECT_TRUE(waitUntil([&] {
+        const QImage image = quiz->grab().toImage();
+        return image.pixelColor(image.width() / 2, image.height() / 3) == ground;
+    }));
 }
 
 TEST_F(FontQuiz, OnlyTheNumbersOfTilesChoose)

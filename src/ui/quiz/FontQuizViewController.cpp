@@ -342,8 +342,12 @@ void FontQuizViewController::fadeFromHere()
 
 void FontQuizViewController::updateGround()
 {
-    m_ground->setLook({size(), m_stage->quizLayout().card.center(), devicePixelRatioF(),
-                       m_currentTheme.background, isDarkDesktop()});
+    const bool isDark = isDarkDesktop();
+    // Without a card there is no colour to wash it with.
+    const QColor wash = m_currentTheme.background.isValid() ? m_currentTheme.background
+                                                            : fontQuizColors(isDark).ground;
+    m_ground->setLook(
+        {size(), m_stage->quizLayout().card.center(), devicePixelRatioF(), wash, isDark});
 }
 
 /// The wash in the colour of the next card has been painted.

@@ -82,6 +82,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
@@ -108,6 +109,7 @@ private:
     void updateGround();
     void bloom();
     bool isPlayable() const;
+    bool isHeldStill(const QKeyEvent &event) const;
     void introKey(const QKeyEvent &event);
     void playingKey(const QKeyEvent &event);
 
@@ -129,6 +131,9 @@ private:
     /// The current card as it was shown last.
     QString m_currentFamily;
     FontQuizCardTheme m_currentTheme;
+    /// The key that was let go last, and the time stamp of that.
+    int m_releasedKey = 0;
+    quint64 m_releasedAt = 0;
 };
 
 } // namespace lorva

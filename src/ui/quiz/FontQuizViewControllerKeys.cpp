@@ -44,6 +44,20 @@ void FontQuizViewController::playingKey(const QKeyEvent &event)
     choose(typedNumber(event));
 }
 
+/// A busy X11 client tells repeats as releases and presses of the same moment.
+bool FontQuizViewController::isHeldStill(const QKeyEvent &event) const
+{
+    return event.timestamp() != 0 && event.timestamp() == m_releasedAt
+        && event.key() == m_releasedKey;
+}
+
+void FontQuizViewController::keyReleaseEvent(QKeyEvent *event)
+{
+    event->accept();
+    m_releasedAt = event->timestamp();
+    m_releasedKey = event->key();
+}
+
 void FontQuizViewController::keyPressEvent(QKeyEvent *event)
 {
     // Nothing that lies below hears of a key.
@@ -51,7 +65,7 @@ void FontQuizViewController::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape)
         return close();
     // A key that is held down must not sort one font after the other.
-    if (event->isAutoRepeat())
+    if (event->isAutoRepeat() || isHeldStill(*event))
         return;
     // Buttons leave Return to whoever holds them.
     if (isReturn(*event) && focusWidget() == m_closeButton)
