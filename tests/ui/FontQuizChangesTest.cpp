@@ -90,6 +90,7 @@ TEST_F(FontQuizChanges, WhatOthersUndoAndRedoIsFollowed)
     land();
     land();
     ASSERT_EQ(quiz->phase(), Phase::done);
+    ASSERT_TRUE(poster());
     EXPECT_EQ(poster()->counts().total, 1);
     EXPECT_EQ(poster()->counts().display, 1);
     model().undoStack().undo();
