@@ -156,12 +156,13 @@ requires std::invocable<Work &, std::stop_token> RunHandle runThen(QThreadPool &
             detail::handOver(*state, std::move(outcome));
         });
     sharedWork.reset();
-    detail::passOrder();
-    pool.start([task = std::move(task)]() mutable {
+    std::function<void()> run = [task = std::move(task)]() mutable {
         detail::passOrder();
         const auto owned = std::move(task);
         (*owned)();
-    });
+    };
+    detail::passOrder();
+    pool.start(std::move(run));
     return RunHandle(std::move(stop));
 }
 
