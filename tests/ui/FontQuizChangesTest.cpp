@@ -10,7 +10,6 @@ namespace lorva {
 namespace {
 
 using test::TestHome;
-using test::waitUntil;
 using Phase = FontQuizViewController::Phase;
 
 using test::StubbornPreferences;

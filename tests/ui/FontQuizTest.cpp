@@ -11,7 +11,6 @@
 namespace lorva {
 namespace {
 
-using test::TestHome;
 using test::waitUntil;
 using Phase = FontQuizViewController::Phase;
 
