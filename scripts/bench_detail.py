@@ -3,7 +3,6 @@
 """Opens families in the window on a real X server, scrolls through their characters and drags an axis, and
 reads from the trace how long that took."""
 import statistics
-from pathlib import Path
 
 import bench_window
 
@@ -12,21 +11,12 @@ CJK = "Noto Sans CJK JP"
 VARIABLE = "Inter"
 TEXT = ("Sphinx of black quartz, judge my vow. Pack my box with five dozen liquor jugs. How vexingly quick daft "
         "zebras jump! The five boxing wizards jump quickly; bright vixens jump, dozy fowl quack at all of it.")
-CONF = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd">
-<fontconfig>{}<cachedir prefix="xdg">fontconfig</cachedir></fontconfig>
-"""
 # Of fonts that the tests install: the one with most characters, a variable one, one for the interface.
 FOLDERS = ("opentype/noto", "truetype/inter-vf", "truetype/dejavu")
 # In the window of 1720×920 that the program opens: the page, and the first axis of the inspector.
 PAGE, AXIS_Y, AXIS_FROM, AXIS_TO = (800, 700), 160, 1452, 1700
 WHEEL_CLICKS, WHEEL_DELAY_MS = 3000, 2
 DRAG_STEP, DRAG_DELAY_S = 2, 0.012
-
-
-def frames_ms(events, after_us):
-    frames = sorted(bench_window.durations_ms(events, "frame", after_us))
-    return {"frames": len(frames), "p99_ms": frames[int(len(frames) * 0.99)], "worst_ms": frames[-1],
-            "over_16_ms": sum(frame > 16 for frame in frames)}
 
 
 def open_family(window, hand):
@@ -43,19 +33,14 @@ def open_family(window, hand):
 
 def measure(program, environment):
     """One use of a large face and one of a variable one."""
-    home = Path(environment["HOME"])
-    conf = home / "detail-fonts.conf"
-    conf.write_text(CONF.format("".join(f"<dir>{FONTS}/{folder}</dir>" for folder in FOLDERS)))
-    environment = {**environment, "FONTCONFIG_FILE": str(conf)}
-    empty = home / "no-fonts"
-    empty.mkdir(exist_ok=True)
+    environment, empty = bench_window.home_with_fonts(environment, (f"{FONTS}/{folder}" for folder in FOLDERS))
     result = {}
     with bench_window.used(program, empty, environment, ("--select", CJK)) as (window, hand):
         result["cjk"] = open_family(window, hand)
         hand.point(PAGE)
         begun = bench_window.now_us()
         hand.do("click", "--repeat", WHEEL_CLICKS, "--delay", WHEEL_DELAY_MS, 5)
-        result["scroll"] = frames_ms(bench_window.settle(window), begun)
+        result["scroll"] = bench_window.frames_of(bench_window.settle(window), "frame", begun)
     with bench_window.used(program, empty, environment, ("--select", VARIABLE, "--text", TEXT)) as (window, hand):
         result["variable"] = open_family(window, hand)
         hand.do("mousemove", "--window", hand.window, AXIS_FROM, AXIS_Y, "mousedown", 1)
@@ -63,7 +48,7 @@ def measure(program, environment):
         steps = [word for x in range(AXIS_FROM, AXIS_TO, DRAG_STEP)
                  for word in ("mousemove", "--window", hand.window, x, AXIS_Y, "sleep", DRAG_DELAY_S)]
         hand.do(*steps, "mouseup", 1)
-        result["drag"] = frames_ms(bench_window.settle(window), begun)
+        result["drag"] = bench_window.frames_of(bench_window.settle(window), "frame", begun)
         result["drag"]["moves"] = len(range(AXIS_FROM, AXIS_TO, DRAG_STEP))
     return result
 

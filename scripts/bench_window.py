@@ -4,8 +4,10 @@
 import contextlib
 import os
 import shutil
+import statistics
 import subprocess
 import time
+from pathlib import Path
 
 import bench_start
 
@@ -15,6 +17,9 @@ WHEEL_CLICKS = 7000
 # As fast as a free-spinning wheel; faster, and the server would join the events.
 WHEEL_DELAY_MS = 2
 QUIET_S = 0.4
+FONTS_CONF = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>{}<cachedir prefix="xdg">fontconfig</cachedir></fontconfig>
+"""
 # In the window of 1720×920 that the program opens.
 CARDS, BLACK, WHITE, ACTIVE, ALL = (1000, 500), (1239, 26), (1212, 26), (60, 80), (60, 52)
 
@@ -73,6 +78,32 @@ def durations_ms(events, name, after_us):
                 took.append((event["ts"] - begun[event["tid"]]) / 1000)
             del begun[event["tid"]]
     return took
+
+
+def frames_of(events, stage, after_us):
+    """What the stages of that name took that began later than that."""
+    frames = sorted(durations_ms(events, stage, after_us))
+    return {"frames": len(frames), "p50_ms": statistics.median(frames), "p99_ms": frames[int(len(frames) * 0.99)],
+            "worst_ms": frames[-1], "over_16_ms": sum(frame > 16 for frame in frames)}
+
+
+def home_with_fonts(environment, folders):
+    """The environment with these folders as the system's fonts, and a library folder that holds none."""
+    home = Path(environment["HOME"])
+    conf = home / "fonts.conf"
+    conf.write_text(FONTS_CONF.format("".join(f"<dir>{folder}</dir>" for folder in folders)))
+    empty = home / "no-fonts"
+    empty.mkdir(exist_ok=True)
+    return {**environment, "FONTCONFIG_FILE": str(conf)}, empty
+
+
+def add_frame_rows(bench, key, half, games):
+    """Three rows of what frames_of() gave in each game: the median, which `half` names, the 99th percentile and
+    the worst."""
+    bench.figures[f"used_{key}"] = games
+    for suffix, what, figure in zip(("", "_99", "_worst"), (half, "99 of 100 of them", "the worst of them"),
+                                    ("p50_ms", "p99_ms", "worst_ms")):
+        bench.add_against_bar(f"{key}_frame{suffix}", what, statistics.median(game[figure] for game in games), 16)
 
 
 def now_us():

@@ -33,7 +33,6 @@ constexpr nanoseconds kRise = 520ms;
 constexpr nanoseconds kFade = 350ms;
 constexpr int kRiseHeight = 28;
 constexpr int kWindowMargin = spacing::k24;
-constexpr double kRadius = 14;
 constexpr double kBodyAlpha = 0.72;
 constexpr double kNoteAlpha = 0.6;
 /// Where the eye rests; the pile lies below.
@@ -256,7 +255,7 @@ void OnboardingOverlay::riseCard()
 
 QRect OnboardingOverlay::setCardProgress(double progress)
 {
-    const QRect before = cardRect();
+    const QRect before = m_card->surfaceRect();
     if (m_cardProgress == 0 && progress > 0) {
         QAccessibleEvent shown(m_card, QAccessible::DialogStart);
         QAccessible::updateAccessibility(&shown);
@@ -271,7 +270,7 @@ QRect OnboardingOverlay::setCardProgress(double progress)
         effect->setOpacity(m_cardProgress);
     m_card->setVisible(progress > 0 || m_phase != Phase::scene);
     placeCard();
-    return before | cardRect();
+    return before | m_card->surfaceRect();
 }
 
 void OnboardingOverlay::placeCard()
@@ -283,11 +282,6 @@ void OnboardingOverlay::placeCard()
                                std::max(kWindowMargin, lowest));
     const int below = int(kRiseHeight * (1 - m_cardProgress));
     m_card->move((width() - m_card->width()) / 2, top + below);
-}
-
-QRect OnboardingOverlay::cardRect() const
-{
-    return SoftShadow::outerRect(m_card->geometry());
 }
 
 bool OnboardingOverlay::event(QEvent *event)
@@ -358,27 +352,10 @@ void OnboardingOverlay::paintEvent(QPaintEvent *event)
     painter.fillRect(event->rect(), welcomeGround(isDark));
     if (m_fall)
         m_fall->paint(painter, event->region(), isDark);
-    if (m_cardProgress > 0 && cardRect().intersects(event->rect()))
-        paintCard(painter);
-}
-
-void OnboardingOverlay::paintCard(QPainter &painter)
-{
-    const bool isDark = isDarkDesktop();
-    const NeutralColors colors = neutralColors(isDark);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setOpacity(m_cardProgress);
-    m_shadow.draw(painter, cardRect(), kRadius);
-    const QRectF card = m_card->geometry();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colors.ground);
-    painter.drawRoundedRect(card, kRadius, kRadius);
-    if (!isDark)
+    if (m_cardProgress == 0 || !m_card->surfaceRect().intersects(event->rect()))
         return;
-    // A shadow is not seen on a dark ground.
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(withAlpha(colors.text, 0.13), 1));
-    painter.drawRoundedRect(card.adjusted(0.5, 0.5, -0.5, -0.5), kRadius - 0.5, kRadius - 0.5);
+    painter.setOpacity(m_cardProgress);
+    m_card->paintSurface(painter);
 }
 
 void OnboardingOverlay::resizeEvent(QResizeEvent *)

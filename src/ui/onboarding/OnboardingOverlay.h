@@ -5,7 +5,6 @@
 #include "ui/onboarding/FrameClock.h"
 #include "ui/onboarding/LetterFall.h"
 #include "ui/onboarding/OnboardingOverlayController.h"
-#include "ui/style/SoftShadow.h"
 
 #include <QPixmap>
 #include <QPointer>
@@ -74,8 +73,6 @@ private:
     void riseCard();
     QRect setCardProgress(double progress);
     void placeCard();
-    QRect cardRect() const;
-    void paintCard(QPainter &painter);
     void end(End end);
     void leave();
     QRegion fadeOut();
@@ -88,7 +85,6 @@ private:
     std::unique_ptr<LetterFall> m_fall;
     SheetPanel *m_card = nullptr;
     QPushButton *m_button = nullptr;
-    SoftShadow m_shadow;
     Phase m_phase = Phase::scene;
     bool m_isClockRunning = false;
     std::chrono::nanoseconds m_phaseTime{0};

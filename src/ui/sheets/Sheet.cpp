@@ -23,7 +23,6 @@ namespace lorva {
 namespace {
 
 constexpr int kWindowMargin = spacing::k24;
-constexpr double kRadius = 14;
 constexpr int kFadeMilliseconds = 150;
 constexpr double kDimOnLight = 0.18;
 constexpr double kDimOnDark = 0.4;
@@ -250,24 +249,11 @@ void Sheet::dismiss()
 
 void Sheet::paintEvent(QPaintEvent *)
 {
-    const bool isDark = isDarkDesktop();
-    const NeutralColors colors = neutralColors(isDark);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(),
-                     withAlpha(Qt::black, (isDark ? kDimOnDark : kDimOnLight) * m_progress));
+    painter.fillRect(
+        rect(), withAlpha(Qt::black, (isDarkDesktop() ? kDimOnDark : kDimOnLight) * m_progress));
     painter.setOpacity(m_progress);
-    m_shadow.draw(painter, SoftShadow::outerRect(m_panel->geometry()), kRadius);
-    const QRectF panel = m_panel->geometry();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colors.ground);
-    painter.drawRoundedRect(panel, kRadius, kRadius);
-    if (!isDark)
-        return;
-    // A shadow is not seen on a dark ground.
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(withAlpha(colors.text, 0.13), 1));
-    painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), kRadius - 0.5, kRadius - 0.5);
+    m_panel->paintSurface(painter);
 }
 
 void Sheet::changeEvent(QEvent *event)

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "ui/sheets/SheetPanel.h"
-#include "ui/style/SoftShadow.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -77,7 +76,6 @@ private:
     QPushButton *m_default = nullptr;
     QWidget *m_firstFocus = nullptr;
     Qt::FocusReason m_firstReason = Qt::OtherFocusReason;
-    SoftShadow m_shadow;
     double m_progress = 1.0;
     bool m_isDismissed = false;
 };

@@ -24,6 +24,8 @@ namespace {
 constexpr int kUsualWidth = 480;
 constexpr int kFooterGap = spacing::k24;
 constexpr int kFillerGap = spacing::k16;
+constexpr double kRadius = 14;
+constexpr double kDarkEdgeAlpha = 0.13;
 
 QAccessibleInterface *makeAccessible(const QString &, QObject *object)
 {
@@ -141,6 +143,24 @@ void SheetPanel::reveal(const QWidget &control)
     // What is higher than the room shows its middle.
     const int reach = std::min(control.height() / 2 + spacing::k8, m_area->height() / 2);
     m_area->ensureVisible(centre.x(), centre.y(), 0, reach);
+}
+
+void SheetPanel::paintSurface(QPainter &painter)
+{
+    const bool isDark = isDarkDesktop();
+    const NeutralColors colors = neutralColors(isDark);
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_shadow.draw(painter, surfaceRect(), kRadius);
+    const QRectF panel = geometry();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors.ground);
+    painter.drawRoundedRect(panel, kRadius, kRadius);
+    if (!isDark)
+        return;
+    // A shadow is not seen on a dark ground.
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(withAlpha(colors.text, kDarkEdgeAlpha), 1));
+    painter.drawRoundedRect(panel.adjusted(0.5, 0.5, -0.5, -0.5), kRadius - 0.5, kRadius - 0.5);
 }
 
 void SheetPanel::paintEvent(QPaintEvent *)

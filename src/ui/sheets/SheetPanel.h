@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/style/SoftShadow.h"
 #include "ui/style/Style.h"
 
 #include <QAccessible>
@@ -20,7 +21,7 @@ class SheetText;
 /// The panel of a sheet: a column of texts and controls that scrolls where there is no room for
 /// it, perhaps a list that takes what is left, and the line of buttons, which always stays.
 ///
-/// Draws only hairlines: the ground is the sheet's. Thread: main. Units: points.
+/// Draws only hairlines itself: what it lies on draws its surface. Thread: main. Units: points.
 class SheetPanel final : public QWidget
 {
     Q_OBJECT
@@ -42,6 +43,10 @@ public:
     void fitInto(QSize room);
     /// Scrolls the column to one of its controls.
     void reveal(const QWidget &control);
+    /// What paintSurface() covers, in the parent's points: the shadow reaches beyond the panel.
+    QRect surfaceRect() const { return SoftShadow::outerRect(geometry()); }
+    /// Its shadow and its ground, for the parent's paintEvent(); keeps the painter's opacity.
+    void paintSurface(QPainter &painter);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -66,6 +71,7 @@ private:
     int m_fillerMinimum = 0;
     int m_fillerPreferred = 0;
     SheetFooter *m_footer;
+    SoftShadow m_shadow;
 };
 
 } // namespace lorva
