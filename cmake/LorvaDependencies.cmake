@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Lorva developers
 # SPDX-License-Identifier: MIT
 # Every library the project uses, found once. CONTRIBUTING.md says what each is for.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Concurrent DBus Network Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Concurrent DBus LinguistTools Network Svg)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(HARFBUZZ REQUIRED IMPORTED_TARGET harfbuzz>=6.0)
 pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig>=2.14)

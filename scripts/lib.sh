@@ -19,6 +19,9 @@ packages_build="
   qt6-base-dev          Qt Core, Gui, Widgets, Concurrent, DBus, Network, Test, and the platform plugins
   qt6-svg-dev           Qt Svg: the symbol images
   qt6-wayland           lets the window run on Wayland itself
+  qt6-tools-dev         finds the next two by CMake
+  qt6-l10n-tools        lrelease and lupdate: the texts in other languages
+  qt6-translations-l10n  what the toolkit itself says in them
   libharfbuzz-dev       reads, shapes and outlines fonts
   libfontconfig-dev     knows the system's fonts
   libicu-dev            script and bidirectional runs, folding, collation

@@ -5,9 +5,11 @@
 #include "app/LorvaApplicationDelegate.h"
 #include "app/ProgramServices.h"
 #include "base/Trace.h"
+#include "base/Translations.h"
 #include "platform/linux/DBusSingleInstance.h"
 #include "platform/linux/ProcessMemory.h"
 #include "platform/linux/SmallFontconfig.h"
+#include "platform/UserLanguages.h"
 
 #include <QApplication>
 
@@ -22,6 +24,13 @@ namespace {
 
 constexpr int kExitUsage = 2;
 
+lorva::Result<lorva::LaunchOptions> readOptions(int argc, char **argv)
+{
+    return lorva::parseLaunchOptions(
+        std::span<const char *const>(argv, size_t(argc)).subspan(argc > 0 ? 1 : 0),
+        lorva::FilePath::workingFolder());
+}
+
 bool isSet(const char *variable)
 {
     const char *value = std::getenv(variable);
@@ -33,11 +42,59 @@ bool hasDisplay()
     return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
 }
 
+void installUsersTranslations()
+{
+    lorva::installTranslations(lorva::textLanguageFor(lorva::userLanguages()));
+}
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(lorva)
+};
+
+/// Lets texts for the terminal be made in the user's language; for a process that opens no window.
+class TerminalTexts
+{
+public:
+    explicit TerminalTexts(char **argv)
+        : m_application(m_argumentCount, argv)
+    {
+        installUsersTranslations();
+    }
+
+private:
+    int m_argumentCount = 1;
+    const QCoreApplication m_application;
+};
+
 void sayNoDisplay()
 {
-    std::fputs("lorva: no display to open a window on; start it in a desktop session, or make a "
-               "picture with --screenshot FILE\n",
-               stderr);
+    std::fprintf(stderr, "lorva: %s\n",
+                 qUtf8Printable(Texts::tr("no display to open a window on; start it in a desktop "
+                                          "session, or make a picture with --screenshot FILE")));
+}
+
+/// What there is to say to a start that opens no window; gives the exit code.
+int answerInTerminal(int argc, char **argv)
+{
+    const TerminalTexts texts(argv);
+    // Read again, since what is wrong with it was put into English words.
+    const auto options = readOptions(argc, argv);
+    if (!options) {
+        std::fprintf(stderr, "lorva: %s\n",
+                     qUtf8Printable(Texts::tr("%1; see lorva --help").arg(options.error().detail)));
+        return kExitUsage;
+    }
+    if (options->showsHelp) {
+        std::fputs(qUtf8Printable(lorva::launchHelp()), stdout);
+        return 0;
+    }
+    if (options->showsVersion) {
+        std::puts("lorva " LORVA_VERSION);
+        return 0;
+    }
+    sayNoDisplay();
+    return kExitUsage;
 }
 
 /// Qt ends the process with a core dump when the display that the environment names does not
@@ -81,30 +138,15 @@ lorva::ProgramStart thisStart(int argc, char **argv)
 int main(int argc, char **argv)
 {
     lorva::keepMemoryTogether();
-    const auto options = lorva::parseLaunchOptions(
-        std::span<const char *const>(argv, size_t(argc)).subspan(argc > 0 ? 1 : 0),
-        lorva::FilePath::workingFolder());
-    if (!options) {
-        std::fprintf(stderr, "lorva: %s; see lorva --help\n", qPrintable(options.error().detail));
-        return kExitUsage;
-    }
-    if (options->showsHelp) {
-        std::fputs(qPrintable(lorva::launchHelp()), stdout);
-        return 0;
-    }
-    if (options->showsVersion) {
-        std::puts("lorva " LORVA_VERSION);
-        return 0;
-    }
-    if (options->screenshot)
+    const auto options = readOptions(argc, argv);
+    const bool isPicture = options && options->screenshot;
+    if (!options || options->showsHelp || options->showsVersion || (!isPicture && !hasDisplay()))
+        return answerInTerminal(argc, argv);
+    if (isPicture)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    else if (!hasDisplay()) {
-        sayNoDisplay();
-        return kExitUsage;
-    }
 
     lorva::DBusSingleInstance instance;
-    if (!options->screenshot)
+    if (!isPicture)
         instance.beginClaim(thisStart(argc, argv));
     auto catalogCache = lorva::LorvaApplicationDelegate::beginReadingCatalog(*options);
     // Before the application object: its font database is filled from the process's configuration.
@@ -112,7 +154,7 @@ int main(int argc, char **argv)
         const lorva::TraceStage stage("start: interface fonts");
         lorva::useSmallFontconfigForInterface();
     }
-    if (!options->screenshot && instance.claim() == lorva::SingleInstance::Claim::handedOver)
+    if (!isPicture && instance.claim() == lorva::SingleInstance::Claim::handedOver)
         return 0;
     QCoreApplication::setApplicationName(QStringLiteral("Lorva"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LORVA_VERSION));
@@ -124,6 +166,7 @@ int main(int argc, char **argv)
     QApplication application(qtArgumentCount, argv);
     applicationStage.end();
     qInstallMessageHandler(usual);
+    installUsersTranslations();
 
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache),
                                              lorva::programParts());

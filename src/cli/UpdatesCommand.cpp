@@ -139,11 +139,6 @@ int runUpdatesCommand(std::span<const QByteArray> words)
         print(kHelp);
         return finish();
     }
-    // Its event loop carries the answer; the words are read already.
-    int qtArgumentCount = 1;
-    char name[] = "lorvactl";
-    char *qtArguments[]{name, nullptr};
-    const QCoreApplication application(qtArgumentCount, qtArguments);
     if (const Result<void> done = run(*arguments); !done)
         return fail("updates", done.error());
     return finish();

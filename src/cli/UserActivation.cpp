@@ -10,28 +10,11 @@
 
 #include <QEventLoop>
 
-#include <clocale>
-
 namespace lorva::cli {
 
 namespace {
 
 constexpr std::chrono::seconds kPatienceAtEnd(5);
-
-/// Qt has something to say about locales that are not UTF-8; a command's errors are its own.
-void saysNothing(QtMsgType, const QMessageLogContext &, const QString &) { }
-
-std::unique_ptr<QCoreApplication> makeApplication()
-{
-    static char name[] = "lorvactl";
-    static char *arguments[]{name, nullptr};
-    static int count = 1;
-    const QtMessageHandler usual = qInstallMessageHandler(saysNothing);
-    auto application = std::make_unique<QCoreApplication>(count, arguments);
-    qInstallMessageHandler(usual);
-    std::setlocale(LC_NUMERIC, "C");
-    return application;
-}
 
 void waitFor(const std::function<void(std::function<void()> done)> &start)
 {
@@ -48,8 +31,7 @@ void waitFor(const std::function<void(std::function<void()> done)> &start)
 } // namespace
 
 UserActivation::UserActivation(Purpose purpose)
-    : m_application(makeApplication())
-    , m_folders(xdgFolders())
+    : m_folders(xdgFolders())
     , m_watchedFolders(m_user.preferences())
     , m_service(std::make_unique<FontInstallationService>(
           std::make_unique<FontInstallationStore>(m_user.preferences()),

@@ -6,14 +6,14 @@
 #include "install/FontInstallationService.h"
 #include "install/WatchedFolderStore.h"
 
-#include <QCoreApplication>
+#include <memory>
 
 namespace lorva::cli {
 
 struct ActivationRequest;
 
-/// What this user has switched on, opened for one command. Thread: main; owns the event loop that
-/// runs end in.
+/// What this user has switched on, opened for one command. Thread: main, whose event loop runs end
+/// in.
 class UserActivation
 {
 public:
@@ -45,7 +45,6 @@ public:
     Result<void> finishWriting();
 
 private:
-    const std::unique_ptr<QCoreApplication> m_application;
     const PlatformFolders m_folders;
     UserOrganization m_user;
     WatchedFolderStore m_watchedFolders;

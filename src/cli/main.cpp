@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "base/Translations.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "platform/UserLanguages.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <algorithm>
 #include <clocale>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -66,14 +70,31 @@ constexpr Command kCommands[]{
     {"updates", lorva::cli::runUpdatesCommand},
 };
 
+/// Qt has something to say about locales that are not UTF-8; a command's errors are its own.
+void saysNothing(QtMsgType, const QMessageLogContext &, const QString &) { }
+
+/// For runs that end in an event loop, and for texts in the user's language. The command's words
+/// are its own: the application gets none.
+std::unique_ptr<QCoreApplication> makeApplication()
+{
+    static char name[] = "lorvactl";
+    static char *arguments[]{name, nullptr};
+    static int count = 1;
+    const QtMessageHandler usual = qInstallMessageHandler(saysNothing);
+    auto application = std::make_unique<QCoreApplication>(count, arguments);
+    qInstallMessageHandler(usual);
+    std::setlocale(LC_NUMERIC, "C");
+    lorva::installTranslations(lorva::textLanguageFor(lorva::userLanguages()));
+    return application;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     using namespace lorva::cli;
     keepStandardStreamsOpen();
-    std::setlocale(LC_ALL, "");
-    std::setlocale(LC_NUMERIC, "C");
+    const auto application = makeApplication();
     // A command says itself what failed, in one line. QT_LOGGING_RULES still brings the log back.
     QLoggingCategory::setFilterRules(QStringLiteral("lorva.*.warning=false"));
     const std::vector<QByteArray> words(argv + std::min(argc, 1), argv + argc);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "base/Translations.h"
 #include "support/TestHome.h"
 
 #include <QApplication>
@@ -15,5 +16,6 @@ int main(int argc, char **argv)
         return RUN_ALL_TESTS();
     lorva::test::TestHome::instance().setUp();
     QApplication application(argc, argv);
+    lorva::installTranslations(QStringLiteral("en"));
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+
+namespace lorva::cli {
+
+/// What lorvactl says to people, in their language: Texts::tr("…"). What programs read stays as it
+/// is: names of commands and options, JSON.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(lorvactl)
+};
+
+} // namespace lorva::cli
