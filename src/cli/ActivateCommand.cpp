@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
+#include "cli/HelpText.h"
 #include "cli/SwitchingCommand.h"
+#include "cli/Texts.h"
 #include "commands/ActivationPlans.h"
 #include "commands/ActivationTexts.h"
 #include "model/records/RecordsJson.h"
@@ -10,30 +12,33 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl activate [OPTION]... FAMILY|FILE...\n"
-    "       lorvactl activate [OPTION]... -\n"
-    "       lorvactl activate [OPTION]... --collection NAME\n"
-    "\n"
-    "Makes fonts of watched folders, and font files, available to every program. One line for "
-    "each\n"
-    "file: \"copied\", \"registered\" or, when a file of its name is there already, \"skipped\"; a "
-    "tab;\n"
-    "the file. \"also\", a tab, a family: it has faces in these files, too. Nothing is replaced.\n"
-    "\n"
-    "A word with a slash is a file, every other one a family; a lone - reads families from "
-    "standard\n"
-    "input, one per line.\n"
-    "\n"
-    "  --method copy      copy the files into your Fonts folder: works even if the originals move\n"
-    "                     or go offline\n"
-    "  --method register  activate them where they are, for as long as they stay there\n"
-    "                     (without --method, the one chosen as the default)\n"
-    "  --collection NAME  the families of this collection; may be given more than once\n"
-    "  --folder DIR       take in the fonts below DIR too; may be given more than once\n"
-    "  --dry-run          only tell what would be done\n"
-    "  --json             one JSON object instead of lines\n"
-    "  --help             show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl activate [OPTION]... FAMILY|FILE...",
+                     "lorvactl activate [OPTION]... -",
+                     "lorvactl activate [OPTION]... --collection NAME"},
+                    21)
+        .paragraph(
+            Texts::tr("Makes fonts of watched folders, and font files, available to every program. "
+                      "One line for each file: \"copied\", \"registered\" or, when a file of its "
+                      "name is there already, \"skipped\"; a tab; the file. \"also\", a tab, a "
+                      "family: it has faces in these files, too. Nothing is replaced."))
+        .paragraph(Texts::tr("A word with a slash is a file, every other one a family; a lone - "
+                             "reads families from standard input, one per line."))
+        .entries({{"--method copy",
+                   Texts::tr("copy the files into your Fonts folder: works even if the originals "
+                             "move or go offline")},
+                  {"--method register",
+                   Texts::tr("activate them where they are, for as long as they stay there")},
+                  {"", Texts::tr("(without --method, the one chosen as the default)")},
+                  {"--collection NAME",
+                   Texts::tr("the families of this collection; may be given more than once")},
+                  {"--folder DIR",
+                   Texts::tr("take in the fonts below DIR too; may be given more than once")},
+                  {"--dry-run", Texts::tr("only tell what would be done")},
+                  {"--json", Texts::tr("one JSON object instead of lines")},
+                  helpEntry()});
+}
 
 /// The method given, else the one stored.
 Result<InstallMethod> wantedMethod(const Arguments &arguments,
@@ -42,13 +47,13 @@ Result<InstallMethod> wantedMethod(const Arguments &arguments,
     if (const std::optional<QByteArray> name = arguments.value("--method")) {
         if (const auto method = installMethodFromName(QString::fromUtf8(*name)))
             return *method;
-        return failure(ErrorKind::usage, QStringLiteral("--method takes copy or register"));
+        return failure(ErrorKind::usage, Texts::tr("--method takes copy or register"));
     }
     if (const auto stored = service.defaultMethod())
         return *stored;
     return failure(ErrorKind::usage,
-                   QStringLiteral("activate needs --method copy or --method register, as no "
-                                  "default is chosen"));
+                   Texts::tr("activate needs --method copy or --method register, as no "
+                             "default is chosen"));
 }
 
 /// Somebody who gave a file must not be told that it is active when only its name is.
@@ -67,7 +72,7 @@ class ActivateCommand final : public SwitchingCommand
 {
 public:
     ActivateCommand()
-        : SwitchingCommand("activate", kHelp, "--method")
+        : SwitchingCommand("activate", help, "--method")
     {
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ActivationChecks.h"
 
+#include "cli/Texts.h"
 #include "cli/Words.h"
 #include "install/FontPlaces.h"
 #include "install/Reconciliation.h"
@@ -80,19 +81,19 @@ void addFiles(const std::vector<FilePath> &files, State state, const QString &te
 void addDiskFindings(const DiskFindings &found, Findings &findings)
 {
     addFiles(found.lostRegistrations, State::wrong,
-             QStringLiteral("registered, but its link is missing, so that no program sees it; the "
-                            "next activation makes it again"),
+             Texts::tr("registered, but its link is missing, so that no program sees it; the "
+                       "next activation makes it again"),
              findings);
     addFiles(found.goneFiles, State::note,
-             QStringLiteral("registered, but gone; its registration will be withdrawn"), findings);
+             Texts::tr("registered, but gone; its registration will be withdrawn"), findings);
     addFiles(found.unknownRegistrations, State::note,
-             QStringLiteral("active by a link that the books do not know; they will take it in"),
+             Texts::tr("active by a link that the books do not know; they will take it in"),
              findings);
     addFiles(found.brokenRegistrations, State::note,
-             QStringLiteral("gone, and the books do not know its link, which will be removed"),
+             Texts::tr("gone, and the books do not know its link, which will be removed"),
              findings);
     addFiles(found.goneCopies, State::note,
-             QStringLiteral("a copy that has gone from the Fonts folder; the books will forget it"),
+             Texts::tr("a copy that has gone from the Fonts folder; the books will forget it"),
              findings);
 }
 
@@ -109,14 +110,14 @@ bool addRunFindings(const PlatformFolders &folders, Findings &findings)
     const FilePath lock = folders.activationLock();
     if (isLocked(lock)) {
         findings.push_back({State::note, lock.displayText(),
-                            QStringLiteral("another program is switching fonts on or off now")});
+                            Texts::tr("another program is switching fonts on or off now")});
         return true;
     }
     const FilePath journal = folders.activationJournal();
     if (::access(journal.c_str(), F_OK) == 0)
         findings.push_back({State::note, journal.displayText(),
-                            QStringLiteral("a program ended while it switched fonts on or off; the "
-                                           "next activation finishes its books")});
+                            Texts::tr("a program ended while it switched fonts on or off; the "
+                                      "next activation finishes its books")});
     return false;
 }
 
@@ -127,13 +128,13 @@ void addPlaceFinding(const WatchedFolder &folder, const MountTable &mounts, Find
     const Result<FilePath> resolved = resolvedFolder(url);
     if (url.isEmpty() || !resolved)
         findings.push_back(
-            {State::note, about, QStringLiteral("not there now; its place in the list is kept")});
+            {State::note, about, Texts::tr("not there now; its place in the list is kept")});
     else if (mounts.isRemote(*resolved))
         findings.push_back({State::note, about,
-                            QStringLiteral("on a volume where others' changes are not noticed; "
-                                           "the window looks when it becomes active")});
+                            Texts::tr("on a volume where others' changes are not noticed; "
+                                      "the window looks when it becomes active")});
     else
-        findings.push_back({State::well, about, QStringLiteral("watched")});
+        findings.push_back({State::well, about, Texts::tr("watched")});
 }
 
 void addOverlaps(const std::vector<WatchedFolder> &folders, Findings &findings)
@@ -145,8 +146,8 @@ void addOverlaps(const std::vector<WatchedFolder> &folders, Findings &findings)
             const bool isRepeated = path == other && inner > outer;
             if (isRepeated || (path != other && path.isInside(other)))
                 findings.push_back({State::note, path.displayText(),
-                                    QStringLiteral("lies in %1, which is watched too; each font "
-                                                   "counts once")
+                                    Texts::tr("lies in %1, which is watched too; each font "
+                                              "counts once")
                                         .arg(other.displayText())});
         }
     }
@@ -170,7 +171,7 @@ void checkActivation(Examined &examined, Findings &findings)
         return;
     const ActivationBooks::Contents &books = tools.books->contents();
     findings.push_back({State::well, folders.userFonts.displayText(),
-                        QStringLiteral("books and disk agree: %1 copied, %2 registered")
+                        Texts::tr("books and disk agree: %1 copied, %2 registered")
                             .arg(books.origins.size())
                             .arg(books.registeredURLs.size())});
 }
@@ -186,10 +187,10 @@ void checkSandbox(Examined &examined, Findings &findings)
     if (outside > 0)
         findings.push_back(
             {State::note, QStringLiteral("sandboxes"),
-             QStringLiteral("%1 outside the Fonts folder registered in place: programs in "
-                            "sandboxes, such as those from Flatpak or Snap, cannot see what is "
-                            "not copied")
-                 .arg(fontFiles(outside))});
+             Texts::tr("%n font files outside the Fonts folder registered in place: programs in "
+                       "sandboxes, such as those from Flatpak or Snap, cannot see what is not "
+                       "copied",
+                       nullptr, int(outside))});
 }
 
 void checkWatchedFolders(Examined &examined, Findings &findings)

@@ -8,8 +8,10 @@
 #include "cli/FamilyListing.h"
 #include "cli/FamilyNames.h"
 #include "cli/GroupingNames.h"
+#include "cli/GroupingTexts.h"
 #include "cli/Input.h"
 #include "cli/Library.h"
+#include "cli/Texts.h"
 #include "cli/UserActivation.h"
 #include "cli/Words.h"
 #include "install/FontPlaces.h"
@@ -41,7 +43,7 @@ Result<std::vector<QString>> givenCollections(const Arguments &arguments)
         if (!name)
             return tl::unexpected(name.error());
         if (name->isEmpty())
-            return failure(ErrorKind::usage, QStringLiteral("--collection takes no empty name"));
+            return failure(ErrorKind::usage, Texts::tr("--collection takes no empty name"));
         names.push_back(*std::move(name));
     }
     return names;
@@ -65,7 +67,7 @@ Result<QStringList> membersOf(const std::vector<QString> &collections, UserOrgan
         return tl::unexpected(organization.error());
     const std::vector<FontCollectionRecord> &all = organization->collections;
     for (const QString &typed : collections) {
-        const auto place = findGrouping(groupingNames(all), typed, QStringLiteral("collection"));
+        const auto place = findGrouping(groupingNames(all), typed, kCollectionTexts);
         if (!place)
             return tl::unexpected(place.error());
         members += all[*place].familyNames;
@@ -89,7 +91,8 @@ Result<QStringList> typedFamilies(const QStringList &typed, const FamilyNames &k
             continue;
         }
         if (family.error().kind == ErrorKind::notFound && isFileHere(word))
-            family.error().detail += QStringLiteral("; the file of that name is ./%1").arg(word);
+            family.error().detail =
+                Texts::tr("%1; the file of that name is ./%2").arg(family.error().detail, word);
         return family;
     }
     return found;
@@ -111,7 +114,7 @@ Result<QStringList> wantedFamilies(const ActivationRequest &request, const Famil
         if (known.contains(member))
             wanted->push_back(member);
         else
-            warn(QStringLiteral("this machine has no family %1").arg(quoted(member)));
+            warn(Texts::tr("this machine has no family %1").arg(quoted(member)));
     }
     wanted->removeDuplicates();
     return wanted;
@@ -137,10 +140,10 @@ std::optional<QString> whyUnusable(const FilePath &file)
 {
     struct stat info;
     if (::stat(file.c_str(), &info) != 0)
-        return errno == ENOENT ? QStringLiteral("File not found")
+        return errno == ENOENT ? Texts::tr("File not found")
                                : systemFailure(errno, "read", file).value().detail;
     if (S_ISDIR(info.st_mode))
-        return QStringLiteral("this is a folder; name the font files in it");
+        return Texts::tr("this is a folder; name the font files in it");
     if (::access(file.c_str(), R_OK) != 0)
         return systemFailure(errno, "read", file).value().detail;
     return std::nullopt;
@@ -161,7 +164,7 @@ void addFile(const FilePath &file, ActivationSubjects &found)
         family->styles.push_back(entry.style);
     }
     if (families.empty())
-        found.unusableFiles.emplace(file, QStringLiteral("it holds no font that can be read"));
+        found.unusableFiles.emplace(file, Texts::tr("it holds no font that can be read"));
     for (FontFamilyRecord &family : families)
         found.subjects.push_back({std::move(family), file});
 }
@@ -199,7 +202,7 @@ Result<ActivationRequest> activationRequest(const Arguments &arguments)
     if (!families)
         return tl::unexpected(families.error());
     if (!names.empty() && families->isEmpty())
-        return failure(ErrorKind::usage, QStringLiteral("standard input names no family"));
+        return failure(ErrorKind::usage, Texts::tr("standard input names no family"));
     Result<std::vector<QString>> collections = givenCollections(arguments);
     if (!collections)
         return tl::unexpected(collections.error());

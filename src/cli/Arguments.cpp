@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Arguments.h"
 
+#include "cli/Texts.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -38,12 +40,12 @@ Result<Arguments> Arguments::parse(std::span<const QByteArray> words,
         const auto spec = std::find_if(options.begin(), options.end(),
                                        [&](const OptionSpec &o) { return o.name == name; });
         if (spec == options.end())
-            return failure(ErrorKind::usage, QStringLiteral("unknown option %1").arg(shown(name)));
+            return failure(ErrorKind::usage, Texts::tr("unknown option %1").arg(shown(name)));
         const bool takesValue = spec->value == OptionSpec::Value::required;
         if (!takesValue && equals >= 0)
-            return failure(ErrorKind::usage, QStringLiteral("%1 takes no value").arg(shown(name)));
+            return failure(ErrorKind::usage, Texts::tr("%1 takes no value").arg(shown(name)));
         if (takesValue && equals < 0 && i + 1 == words.size())
-            return failure(ErrorKind::usage, QStringLiteral("%1 needs a value").arg(shown(name)));
+            return failure(ErrorKind::usage, Texts::tr("%1 needs a value").arg(shown(name)));
         QByteArray value;
         if (takesValue)
             value = equals >= 0 ? word.mid(equals + 1) : words[++i];
@@ -79,7 +81,7 @@ Result<int> wholeNumber(QByteArrayView option, const QByteArray &value, int leas
     const int parsed = value.toInt(&isNumber);
     if (!isNumber || parsed < least || parsed > most) {
         return failure(ErrorKind::usage,
-                       QStringLiteral("%1 takes a whole number from %2 to %3")
+                       Texts::tr("%1 takes a whole number from %2 to %3")
                            .arg(shown(option), QString::number(least), QString::number(most)));
     }
     return parsed;
@@ -91,7 +93,7 @@ Result<double> number(QByteArrayView option, const QByteArray &value, double lea
     const double parsed = value.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(parsed) || parsed < least || parsed > most) {
         return failure(ErrorKind::usage,
-                       QStringLiteral("%1 takes a number from %2 to %3")
+                       Texts::tr("%1 takes a number from %2 to %3")
                            .arg(shown(option), QString::number(least), QString::number(most)));
     }
     return parsed;
@@ -102,7 +104,7 @@ Result<QString> text(QByteArrayView option, const QByteArray &value)
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString decoded = decoder.decode(value);
     if (decoder.hasError())
-        return failure(ErrorKind::usage, QStringLiteral("%1 takes UTF-8 text").arg(shown(option)));
+        return failure(ErrorKind::usage, Texts::tr("%1 takes UTF-8 text").arg(shown(option)));
     return decoded;
 }
 

@@ -2,35 +2,37 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/GroupingCommand.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "model/stores/OrganizationChanges.h"
 
 namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl collections [list [COLLECTION]] [--json]\n"
-    "       lorvactl collections create NAME [FAMILY]...\n"
-    "       lorvactl collections rename COLLECTION NAME\n"
-    "       lorvactl collections delete COLLECTION\n"
-    "       lorvactl collections add|remove|set COLLECTION FAMILY...\n"
-    "\n"
-    "Lists the collections, one line each: the name, a tab, the number of families; or the "
-    "families\n"
-    "of one, in their order. Changes are seen at once by a window that is open.\n"
-    "\n"
-    "  add            puts families into a collection, at its end\n"
-    "  remove         takes families out of it\n"
-    "  set            makes these families its members, in this order, and no others\n"
-    "\n"
-    "COLLECTION is its id, which --json shows, or its name, in any case unless that fits several.\n"
-    "FAMILY is the name of a family of this machine or of a collection; a lone - reads names from\n"
-    "standard input, one per line. A command is done whole or not at all.\n"
-    "\n"
-    "  --json         JSON instead of lines\n"
-    "  --missing      take names of families that this machine lacks, for when their fonts come\n"
-    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl collections [list [COLLECTION]] [--json]",
+                     "lorvactl collections create NAME [FAMILY]...",
+                     "lorvactl collections rename COLLECTION NAME",
+                     "lorvactl collections delete COLLECTION",
+                     "lorvactl collections add|remove|set COLLECTION FAMILY..."})
+        .paragraph(Texts::tr(
+            "Lists the collections, one line each: the name, a tab, the number of families; or the "
+            "families of one, in their order. Changes are seen at once by a window that is open."))
+        .entries(
+            {{"add", Texts::tr("puts families into a collection, at its end")},
+             {"remove", Texts::tr("takes families out of it")},
+             {"set", Texts::tr("makes these families its members, in this order, and no others")}})
+        .paragraph(Texts::tr("COLLECTION is its id, which --json shows, or its name, in any case "
+                             "unless that fits several. FAMILY is the name of a family of this "
+                             "machine or of a collection; a lone - reads names from standard "
+                             "input, one per line. A command is done whole or not at all."))
+        .entries({{"--json", Texts::tr("JSON instead of lines")},
+                  missingEntry(),
+                  folderEntry(),
+                  helpEntry()});
+}
 
 std::vector<FontCollectionRecord> collections(const Organization &organization)
 {
@@ -41,17 +43,12 @@ std::vector<FontCollectionRecord> collections(const Organization &organization)
 
 int runCollectionsCommand(std::span<const QByteArray> words)
 {
-    static const GroupingKind kKind{"collections",
-                                    QStringLiteral("collection"),
-                                    OrganizationPart::collections,
-                                    collections,
-                                    createCollection,
-                                    renameCollection,
-                                    deleteCollection,
-                                    addFamilies,
-                                    removeFamilies,
-                                    setFamilies};
-    return runGroupingCommand(kKind, kHelp, words);
+    static const GroupingKind kKind{
+        "collections",    kCollectionTexts, OrganizationPart::collections,
+        collections,      createCollection, renameCollection,
+        deleteCollection, addFamilies,      removeFamilies,
+        setFamilies};
+    return runGroupingCommand(kKind, help, words);
 }
 
 } // namespace lorva::cli

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Console.h"
 
+#include "cli/Texts.h"
+
 #include <QList>
 #include <QStringDecoder>
 
@@ -96,7 +98,7 @@ void printText(const QString &text)
 int finish()
 {
     if (std::fflush(stdout) != 0 || writeError)
-        return fail(QStringLiteral("cannot write the output: %1")
+        return fail(Texts::tr("cannot write the output: %1")
                         .arg(QString::fromLocal8Bit(std::strerror(errno))));
     return exitOk;
 }
@@ -117,8 +119,7 @@ int failUsage(std::string_view command, const QString &message)
     const QByteArray help = command.empty()
         ? QByteArray("lorvactl --help")
         : "lorvactl " + QByteArray(command.data(), qsizetype(command.size())) + " --help";
-    std::fprintf(stderr, "lorvactl: %s; see %s\n", singleLine(message).toUtf8().constData(),
-                 help.constData());
+    warn(Texts::tr("%1; see %2").arg(message, QString::fromUtf8(help)));
     return exitUsage;
 }
 

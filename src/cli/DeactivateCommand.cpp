@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
+#include "cli/HelpText.h"
 #include "cli/SwitchingCommand.h"
+#include "cli/Texts.h"
 #include "commands/ActivationPlans.h"
 #include "commands/ActivationTexts.h"
 #include "install/InstallationRuns.h"
@@ -10,28 +12,31 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl deactivate [OPTION]... FAMILY|FILE...\n"
-    "       lorvactl deactivate [OPTION]... -\n"
-    "       lorvactl deactivate [OPTION]... --collection NAME\n"
-    "\n"
-    "Withdraws fonts from all programs. Registrations end, and copies in the Fonts folder go to "
-    "the\n"
-    "Trash; your original files are not touched. Where Lorva does not know the original, the file\n"
-    "stays unless --to says where it is to go. One line for each file: \"withdrawn\", \"trashed\" "
-    "or\n"
-    "\"moved\"; a tab; the file. \"also\", a tab, a family: it has faces in these files, too.\n"
-    "\n"
-    "A word with a slash is a file, every other one a family; a lone - reads families from "
-    "standard\n"
-    "input, one per line.\n"
-    "\n"
-    "  --to DIR           move the copies there instead, under a free name; made if it is missing\n"
-    "  --collection NAME  the families of this collection; may be given more than once\n"
-    "  --folder DIR       take in the fonts below DIR too; may be given more than once\n"
-    "  --dry-run          only tell what would be done\n"
-    "  --json             one JSON object instead of lines\n"
-    "  --help             show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl deactivate [OPTION]... FAMILY|FILE...",
+                     "lorvactl deactivate [OPTION]... -",
+                     "lorvactl deactivate [OPTION]... --collection NAME"},
+                    21)
+        .paragraph(Texts::tr(
+            "Withdraws fonts from all programs. Registrations end, and copies in the Fonts folder "
+            "go to the Trash; your original files are not touched. Where Lorva does not know the "
+            "original, the file stays unless --to says where it is to go. One line for each file: "
+            "\"withdrawn\", \"trashed\" or \"moved\"; a tab; the file. \"also\", a tab, a family: "
+            "it has faces in these files, too."))
+        .paragraph(Texts::tr("A word with a slash is a file, every other one a family; a lone - "
+                             "reads families from standard input, one per line."))
+        .entries(
+            {{"--to DIR",
+              Texts::tr("move the copies there instead, under a free name; made if it is missing")},
+             {"--collection NAME",
+              Texts::tr("the families of this collection; may be given more than once")},
+             {"--folder DIR",
+              Texts::tr("take in the fonts below DIR too; may be given more than once")},
+             {"--dry-run", Texts::tr("only tell what would be done")},
+             {"--json", Texts::tr("one JSON object instead of lines")},
+             helpEntry()});
+}
 
 using Class = FileActivationClass;
 
@@ -42,7 +47,7 @@ Result<std::optional<FilePath>> givenDestination(const Arguments &arguments,
     if (!word)
         return std::nullopt;
     if (word->isEmpty())
-        return failure(ErrorKind::usage, QStringLiteral("--to needs the name of a folder"));
+        return failure(ErrorKind::usage, Texts::tr("--to needs the name of a folder"));
     const FilePath destination = FilePath::absolute(*word);
     if (const Result<void> checked = checkDestination(destination, folders); !checked)
         return tl::unexpected(checked.error());
@@ -64,7 +69,7 @@ class DeactivateCommand final : public SwitchingCommand
 {
 public:
     DeactivateCommand()
-        : SwitchingCommand("deactivate", kHelp, "--to")
+        : SwitchingCommand("deactivate", help, "--to")
     {
     }
 
@@ -81,8 +86,8 @@ protected:
     Families choose(const ActivationSubjects &found, const ActivationBooks &books,
                     FileReasons &failures) const override
     {
-        const QString reason = QStringLiteral(
-            "Lorva didn't install it, so the original is not known; --to DIR moves it");
+        const QString reason =
+            Texts::tr("Lorva didn't install it, so the original is not known; --to DIR moves it");
         return chosenFamilies(found, books, takesPartInDeactivation, [&](const FilePath &file) {
             const Class meaning = books.classify(file);
             if (meaning != Class::copied && meaning != Class::registered)

@@ -7,11 +7,13 @@
 #include "catalog/PersistedCache.h"
 #include "cli/ActivationChecks.h"
 #include "cli/PreferenceKeys.h"
+#include "cli/Texts.h"
 #include "cli/Words.h"
 #include "model/records/RecordsJson.h"
 #include "platform/PreferenceFilesAside.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace lorva::cli {
 
@@ -24,7 +26,8 @@ const QString kKeptMark = QStringLiteral(".unreadable");
 
 QString bytes(qint64 size)
 {
-    return size == 1 ? QStringLiteral("1 byte") : QStringLiteral("%1 bytes").arg(size);
+    const int most = std::numeric_limits<int>::max();
+    return Texts::tr("%1 bytes", nullptr, int(std::min<qint64>(size, most))).arg(size);
 }
 
 void checkPreferenceFile(Examined &examined, Findings &findings)
@@ -33,14 +36,14 @@ void checkPreferenceFile(Examined &examined, Findings &findings)
     const QString about = look.file.displayText();
     if (!look.exists)
         findings.push_back(
-            {State::well, about, QStringLiteral("not there yet; the first change makes it")});
+            {State::well, about, Texts::tr("not there yet; the first change makes it")});
     else if (look.rows)
         findings.push_back({State::well, about,
-                            QStringLiteral("%1, preferences: %2")
+                            Texts::tr("%1, preferences: %2")
                                 .arg(bytes(look.size), QString::number(look.rows->size()))});
     else
         findings.push_back(
-            {State::wrong, about, QStringLiteral("cannot be read: ") + look.rows.error().detail});
+            {State::wrong, about, Texts::tr("cannot be read: %1").arg(look.rows.error().detail)});
 }
 
 void checkPreferencesWritable(Examined &examined, Findings &findings)
@@ -48,41 +51,38 @@ void checkPreferencesWritable(Examined &examined, Findings &findings)
     const FilePath &file = examined.preferences.file;
     const Result<void> writable = checkWritable(file);
     if (writable)
-        findings.push_back(
-            {State::well, file.displayText(), QStringLiteral("changes can be written")});
+        findings.push_back({State::well, file.displayText(), Texts::tr("changes can be written")});
     else
         findings.push_back(
             {State::wrong, file.displayText(),
-             QStringLiteral("changes cannot be written: ") + writable.error().detail});
+             Texts::tr("changes cannot be written: %1").arg(writable.error().detail)});
 }
 
 void checkPreferencesAside(Examined &examined, Findings &findings)
 {
     for (const FilePath &file : preferencesAside(examined.preferences.file))
         findings.push_back({State::note, file.displayText(),
-                            QStringLiteral("damaged preferences that were moved aside")});
+                            Texts::tr("damaged preferences that were moved aside")});
 }
 
 Finding entryFinding(const QString &key, const PreferenceRow &row)
 {
-    const QString shape =
-        QStringLiteral("%1, %2").arg(QString::fromUtf8(row.kind), bytes(row.value.size()));
+    const QString shape = listed({QString::fromUtf8(row.kind), bytes(row.value.size())});
     if (key.contains(kKeptMark))
         return {State::note, key,
-                QStringLiteral("%1, kept because it could not be read when it was replaced")
-                    .arg(shape)};
+                Texts::tr("%1, kept because it could not be read when it was replaced").arg(shape)};
     const std::vector<KnownPreference> &all = knownPreferences();
     const auto known = std::find_if(all.begin(), all.end(),
                                     [&](const KnownPreference &each) { return each.key == key; });
     if (known == all.end())
         return {State::note, key,
-                QStringLiteral("%1, unknown to this version, which leaves it alone").arg(shape)};
+                Texts::tr("%1, unknown to this version, which leaves it alone").arg(shape)};
     const Result<QString> described = describeStored(*known, row);
     if (described)
-        return {State::well, key, QStringLiteral("%1: %2").arg(shape, *described)};
+        return {State::well, key, Texts::tr("%1: %2").arg(shape, *described)};
     return {State::wrong, key,
-            QStringLiteral("%1, cannot be read: %2; it counts as absent, and is kept when it is "
-                           "replaced")
+            Texts::tr("%1, cannot be read: %2; it counts as absent, and is kept when it is "
+                      "replaced")
                 .arg(shape, described.error().detail)};
 }
 
@@ -94,12 +94,12 @@ void checkPreferenceEntries(Examined &examined, Findings &findings)
         findings.push_back(entryFinding(key, row));
 }
 
-/// A cache file, and how it is written.
+/// A cache file.
 struct CacheFile
 {
     FilePath path;
-    /// "by the next scan".
-    QString whenReplaced;
+    /// That it is of no use, why, and when it is written anew.
+    QString (*noUse)(const QString &reason);
 };
 
 /// The bytes of a cache file; adds a finding where there are none.
@@ -110,10 +110,10 @@ std::optional<QByteArray> readCache(const CacheFile &file, Findings &findings)
     if (json)
         return *std::move(json);
     if (json.error().kind == ErrorKind::notFound)
-        findings.push_back({State::well, about, QStringLiteral("not there yet")});
+        findings.push_back({State::well, about, Texts::tr("not there yet")});
     else
         findings.push_back(
-            {State::wrong, about, QStringLiteral("cannot be read: ") + json.error().detail});
+            {State::wrong, about, Texts::tr("cannot be read: %1").arg(json.error().detail)});
     return std::nullopt;
 }
 
@@ -129,24 +129,22 @@ std::optional<T> examineCache(const CacheFile &file, Result<T> (*decode)(QByteAr
     const QString about = file.path.displayText();
     Result<T> held = decode(*json);
     if (!held) {
-        findings.push_back({State::note, about,
-                            QStringLiteral("of no use, and replaced %1: %2")
-                                .arg(file.whenReplaced, held.error().detail)});
+        findings.push_back({State::note, about, file.noUse(held.error().detail)});
         return std::nullopt;
     }
-    findings.push_back(
-        {State::well, about, QStringLiteral("%1, %2").arg(bytes(json->size()), count(*held))});
+    findings.push_back({State::well, about, listed({bytes(json->size()), count(*held)})});
     return *std::move(held);
 }
 
 void checkParseCache(Examined &examined, Findings &findings)
 {
     const auto count = [](const PersistedCache &cache) {
-        return QStringLiteral("%1 font files, %2")
-            .arg(QString::number(cache.files.size()), families(cache.identities.size()));
+        return listed({fontFiles(cache.files.size()), families(cache.identities.size())});
     };
-    examineCache({examined.folders.parseCache(), QStringLiteral("by the next scan")},
-                 decodePersistedCache, count, findings);
+    const auto noUse = [](const QString &reason) {
+        return Texts::tr("of no use, and replaced by the next scan: %1").arg(reason);
+    };
+    examineCache({examined.folders.parseCache(), noUse}, decodePersistedCache, count, findings);
 }
 
 void checkCatalog(Examined &examined, Findings &findings)
@@ -154,9 +152,12 @@ void checkCatalog(Examined &examined, Findings &findings)
     const auto count = [](const CatalogSnapshot &snapshot) {
         return families(qsizetype(snapshot.families->size()));
     };
-    const auto snapshot = examineCache({examined.folders.catalogSnapshot(),
-                                        QStringLiteral("when the window has next read the fonts")},
-                                       decodeSnapshot, count, findings);
+    const auto noUse = [](const QString &reason) {
+        return Texts::tr("of no use, and replaced when the window has next read the fonts: %1")
+            .arg(reason);
+    };
+    const auto snapshot =
+        examineCache({examined.folders.catalogSnapshot(), noUse}, decodeSnapshot, count, findings);
     if (!snapshot)
         return;
     examined.catalogFamilies.emplace();
@@ -198,9 +199,9 @@ void checkMissingFamilies(Examined &examined, Findings &findings)
     const qsizetype all = named.size();
     const qsizetype missing = named.subtract(*examined.catalogFamilies).size();
     const QString text = missing == 0
-        ? QStringLiteral("all families that it names are in the last catalog: %1").arg(all)
-        : QStringLiteral("%1 of the %2 families that it names are not in the last catalog")
-              .arg(missing)
+        ? Texts::tr("all families that it names are in the last catalog: %1").arg(all)
+        : Texts::tr("%n of the %1 families that it names are not in the last catalog", nullptr,
+                    int(missing))
               .arg(all);
     findings.push_back(
         {missing > 0 ? State::note : State::well, QStringLiteral("organisation"), text});

@@ -5,6 +5,9 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/DoctorChecks.h"
+#include "cli/EnglishTexts.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "platform/linux/XdgFolders.h"
 
 #include <algorithm>
@@ -13,20 +16,19 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl doctor [--json]\n"
-    "\n"
-    "Tells how preferences, caches, active fonts and watched folders fare, and changes nothing.\n"
-    "One line for each finding: \"ok\", \"note\" or \"wrong\", a tab, the file or preference, a "
-    "tab,\n"
-    "what there is to say. A note is worth knowing, but nothing is out of order: preferences of\n"
-    "another version, damaged ones that were kept beside new ones, a cache of no use that will be\n"
-    "written anew, books that the next activation brings into line with the disk.\n"
-    "\n"
-    "  --json         one JSON object instead\n"
-    "  --help         show this help\n"
-    "\n"
-    "Exit status: 0 all is well, 1 something is wrong.\n";
+HelpText help()
+{
+    return HelpText({"lorvactl doctor [--json]"})
+        .paragraph(Texts::tr(
+            "Tells how preferences, caches, active fonts and watched folders fare, and changes "
+            "nothing. One line for each finding: \"ok\", \"note\" or \"wrong\", a tab, the file or "
+            "preference, a tab, what there is to say. A note is worth knowing, but nothing is out "
+            "of order: preferences of another version, damaged ones that were kept beside new "
+            "ones, a cache of no use that will be written anew, books that the next activation "
+            "brings into line with the disk."))
+        .entries({{"--json", Texts::tr("one JSON object instead")}, helpEntry()})
+        .paragraph(Texts::tr("Exit status: 0 all is well, 1 something is wrong."));
+}
 
 std::string_view stateName(Finding::State state)
 {
@@ -90,6 +92,7 @@ Findings findingsOf(Examined &examined)
 
 int run(bool isJson)
 {
+    const auto english = englishFor(isJson);
     const PlatformFolders folders = xdgFolders();
     Examined examined{folders, lookAtPreferences(folders.applicationSupport), std::nullopt};
     const Findings findings = findingsOf(examined);
@@ -113,12 +116,10 @@ int runDoctorCommand(std::span<const QByteArray> words)
         words, {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}});
     if (!arguments)
         return failUsage("doctor", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (!arguments->positional().empty())
-        return failUsage("doctor", QStringLiteral("doctor takes no words"));
+        return failUsage("doctor", Texts::tr("doctor takes no words"));
     return run(arguments->has("--json"));
 }
 

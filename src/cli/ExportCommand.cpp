@@ -4,7 +4,9 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
 #include "cli/OutputFile.h"
+#include "cli/Texts.h"
 #include "cli/UserOrganization.h"
 #include "model/stores/OrganizationFile.h"
 
@@ -12,14 +14,17 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl export [-o FILE]\n"
-    "\n"
-    "Writes collections, styles, what you said about foundries, and display settings as one JSON\n"
-    "document, for another machine or for version control. Equal organisations give equal bytes.\n"
-    "\n"
-    "  -o FILE        the file to write, whole or not at all; standard output if not given\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl export [-o FILE]"})
+        .paragraph(Texts::tr("Writes collections, styles, what you said about foundries, and "
+                             "display settings as one JSON document, for another machine or for "
+                             "version control. Equal organisations give equal bytes."))
+        .entries(
+            {{"-o FILE",
+              Texts::tr("the file to write, whole or not at all; standard output if not given")},
+             helpEntry()});
+}
 
 Result<void> run(const Arguments &arguments)
 {
@@ -54,12 +59,10 @@ int runExportCommand(std::span<const QByteArray> words)
         Arguments::parse(words, {{"--help", Value::none}, {"-h", Value::none}, {"-o"}});
     if (!arguments)
         return failUsage("export", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (!arguments->positional().empty() || arguments->value("-o") == QByteArray(""))
-        return failUsage("export", QStringLiteral("export takes a file as -o FILE"));
+        return failUsage("export", Texts::tr("export takes a file as -o FILE"));
     if (const Result<void> done = run(*arguments); !done)
         return fail("export", done.error());
     return finish();

@@ -3,6 +3,7 @@
 #include "cli/FaceReport.h"
 
 #include "catalog/FaceReading.h"
+#include "cli/Texts.h"
 #include "text/GlyphNames.h"
 
 #include <algorithm>
@@ -54,15 +55,15 @@ QString formatText(int formatNumber)
 {
     switch (formatNumber) {
     case 1:
-        return QStringLiteral("TrueType");
+        return Texts::tr("TrueType");
     case 2:
-        return QStringLiteral("PostScript");
+        return Texts::tr("PostScript");
     case 3:
-        return QStringLiteral("OpenType (CFF)");
+        return Texts::tr("OpenType (CFF)");
     case 4:
-        return QStringLiteral("OpenType (TrueType)");
+        return Texts::tr("OpenType (TrueType)");
     default:
-        return QStringLiteral("Unknown");
+        return Texts::tr("Unknown");
     }
 }
 
@@ -93,7 +94,7 @@ Result<FaceReport> reportFaces(const FilePath &path, GlyphListing glyphs)
     }
     if (report.faces.empty())
         return failure(ErrorKind::malformed,
-                       path.displayText() + QStringLiteral(": holds no face that can be read"));
+                       Texts::tr("%1: holds no face that can be read").arg(path.displayText()));
     return report;
 }
 

@@ -6,7 +6,8 @@
 
 namespace lorva::cli {
 
-/// A text that every face has, what it is called for people, and its key in JSON.
+/// A text that every face has, what it is called for people, for Texts::tr(), and its
+/// key in JSON.
 struct NamedText
 {
     const char *title;
@@ -15,14 +16,15 @@ struct NamedText
 };
 
 inline constexpr NamedText kFaceTexts[]{
-    {"Family", "familyName", &FaceNames::family},
-    {"Style", "styleName", &FaceNames::style},
-    {"PostScript name", "postScriptName", &FaceNames::postScriptName},
-    {"Full name", "fullName", &FaceNames::fullName},
-    {"Version", "version", &FaceNames::version},
-    {"Manufacturer", "manufacturer", &FaceNames::manufacturer},
-    {"Designer", "designer", &FaceNames::designer},
-    {"Copyright", "copyright", &FaceNames::copyright},
+    {QT_TRANSLATE_NOOP("lorvactl", "Family"), "familyName", &FaceNames::family},
+    {QT_TRANSLATE_NOOP("lorvactl", "Style"), "styleName", &FaceNames::style},
+    {QT_TRANSLATE_NOOP("lorvactl", "PostScript name"), "postScriptName",
+     &FaceNames::postScriptName},
+    {QT_TRANSLATE_NOOP("lorvactl", "Full name"), "fullName", &FaceNames::fullName},
+    {QT_TRANSLATE_NOOP("lorvactl", "Version"), "version", &FaceNames::version},
+    {QT_TRANSLATE_NOOP("lorvactl", "Manufacturer"), "manufacturer", &FaceNames::manufacturer},
+    {QT_TRANSLATE_NOOP("lorvactl", "Designer"), "designer", &FaceNames::designer},
+    {QT_TRANSLATE_NOOP("lorvactl", "Copyright"), "copyright", &FaceNames::copyright},
 };
 
 } // namespace lorva::cli

@@ -3,12 +3,13 @@
 #include "cli/FamilyNames.h"
 
 #include "cli/Console.h"
+#include "cli/Texts.h"
 #include "cli/Words.h"
 #include "model/stores/OrganizationNames.h"
 
 namespace lorva::cli {
 
-FamilyNames::FamilyNames(const QStringList &names, QString whole)
+FamilyNames::FamilyNames(const QStringList &names, FamiliesOf whole)
     : m_whole(std::move(whole))
 {
     add(names);
@@ -46,9 +47,9 @@ Result<QString> FamilyNames::find(const QString &typed, Unknown unknown) const
     if (alike.size() == 1)
         return alike.front();
     if (alike.size() > 1)
-        return failure(ErrorKind::invalidValue,
-                       QStringLiteral("several families are called %1: %2")
-                           .arg(quoted(typed), alike.join(QStringLiteral(", "))));
+        return failure(
+            ErrorKind::invalidValue,
+            Texts::tr("several families are called %1: %2").arg(quoted(typed), listed(alike)));
     if (unknown == Unknown::isKept)
         return typed;
     return tl::unexpected(unknownFamily(typed));
@@ -57,8 +58,9 @@ Result<QString> FamilyNames::find(const QString &typed, Unknown unknown) const
 Error FamilyNames::unknownFamily(const QString &typed) const
 {
     return {ErrorKind::notFound,
-            m_whole.isEmpty() ? QStringLiteral("there is no family %1").arg(quoted(typed))
-                              : QStringLiteral("%1 is not in %2").arg(quoted(typed), m_whole)};
+            m_whole.texts
+                ? Texts::tr(m_whole.texts->lacksFamily).arg(quoted(typed), quoted(m_whole.name))
+                : Texts::tr("there is no family %1").arg(quoted(typed))};
 }
 
 Result<QStringList> FamilyNames::find(const QStringList &typed, Unknown unknown) const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "cli/GroupingTexts.h"
 #include "model/records/Organization.h"
 
 #include <QHash>
@@ -11,12 +12,19 @@
 
 namespace lorva::cli {
 
+/// The grouping that families belong to, for errors.
+struct FamiliesOf
+{
+    const GroupingTexts *texts = nullptr;
+    QString name;
+};
+
 /// Families, to be found by what somebody typed.
 class FamilyNames
 {
 public:
-    /// `whole`: what all of them belong to, for errors: "collection "Posters"".
-    explicit FamilyNames(const QStringList &names = {}, QString whole = {});
+    /// `whole`: what all of them belong to, if they belong to something.
+    explicit FamilyNames(const QStringList &names = {}, FamiliesOf whole = {});
 
     void add(const QStringList &names);
     /// The members of all groupings, also those that this machine lacks.
@@ -35,7 +43,7 @@ private:
 
     Error unknownFamily(const QString &typed) const;
 
-    const QString m_whole;
+    const FamiliesOf m_whole;
     QSet<QString> m_names;
     QHash<QString, QString> m_nameByPrintedForm;
     QHash<QString, QStringList> m_namesByFoldedForm;

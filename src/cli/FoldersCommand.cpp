@@ -4,6 +4,8 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "cli/UserActivation.h"
 #include "cli/Words.h"
 #include "install/WatchedFontRegistrar.h"
@@ -14,25 +16,22 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl folders [list] [--json]\n"
-    "       lorvactl folders add DIR...\n"
-    "       lorvactl folders remove DIR|ID...\n"
-    "\n"
-    "Lists the watched folders, whose fonts belong to your library: the folder, a tab, the number\n"
-    "of font files in it, or \"not there\". Changes are seen at once by a window that is open; no "
-    "file\n"
-    "is touched. A command is done whole or not at all.\n"
-    "\n"
-    "  add            watches folders; one that is watched already stays as it is\n"
-    "  remove         ends that; what was activated from there stays active\n"
-    "\n"
-    "ID is what --json shows.\n"
-    "\n"
-    "  --json         one JSON array of folders instead of lines; add and remove show what they "
-    "added\n"
-    "                 or removed\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl folders [list] [--json]", "lorvactl folders add DIR...",
+                     "lorvactl folders remove DIR|ID..."})
+        .paragraph(Texts::tr(
+            "Lists the watched folders, whose fonts belong to your library: the folder, a tab, the "
+            "number of font files in it, or \"not there\". Changes are seen at once by a window "
+            "that is open; no file is touched. A command is done whole or not at all."))
+        .entries({{"add", Texts::tr("watches folders; one that is watched already stays as it is")},
+                  {"remove", Texts::tr("ends that; what was activated from there stays active")}})
+        .paragraph(Texts::tr("ID is what --json shows."))
+        .entries({{"--json",
+                   Texts::tr("one JSON array of folders instead of lines; add and remove show what "
+                             "they added or removed")},
+                  helpEntry()});
+}
 
 using Folders = std::vector<WatchedFolder>;
 using Part = OrganizationPart;
@@ -67,21 +66,29 @@ void printJson(const Folders &folders)
     print(QByteArray(out.take() + '\n'));
 }
 
+/// The same in every language, for scripts.
+QString stateWords(std::optional<size_t> count)
+{
+    if (!count)
+        return QStringLiteral("not there");
+    return *count == 1 ? QStringLiteral("1 font file")
+                       : QStringLiteral("%1 font files").arg(*count);
+}
+
 void printFolders(const Folders &folders, bool isJson)
 {
     if (isJson)
         return printJson(folders);
     for (const WatchedFolder &each : folders) {
         const std::optional<size_t> count = fontFileCount(each);
-        const QString state = count ? fontFiles(qsizetype(*count)) : QStringLiteral("not there");
-        printText(QString(singleLine(each.lastKnownPath) % u'\t' % state % u'\n'));
+        printText(QString(singleLine(each.lastKnownPath) % u'\t' % stateWords(count) % u'\n'));
     }
 }
 
 Result<void> list(std::span<const QByteArray> words, bool isJson)
 {
     if (!words.empty())
-        return failure(ErrorKind::usage, QStringLiteral("list takes fewer words"));
+        return failure(ErrorKind::usage, Texts::tr("list takes fewer words"));
     UserActivation activation(UserActivation::Purpose::looks);
     if (const auto checked = activation.checkShown({Part::watchedFolders}); !checked)
         return checked;
@@ -92,11 +99,11 @@ Result<void> list(std::span<const QByteArray> words, bool isJson)
 Result<FilePath> folderToAdd(const QByteArray &word)
 {
     if (word.isEmpty())
-        return failure(ErrorKind::usage, QStringLiteral("add takes no empty name"));
+        return failure(ErrorKind::usage, Texts::tr("add takes no empty name"));
     Result<FilePath> folder = resolvedFolder(FilePath::absolute(word));
     if (folder && !folder->isUtf8())
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("the path %1 is no UTF-8 text").arg(singleLine(*folder)));
+                       Texts::tr("the path %1 is no UTF-8 text").arg(singleLine(*folder)));
     return folder;
 }
 
@@ -123,7 +130,7 @@ Result<void> add(std::span<const QByteArray> words, bool isJson)
 Result<WatchedFolder> wanted(const QByteArray &word, const Folders &folders)
 {
     if (word.isEmpty())
-        return failure(ErrorKind::usage, QStringLiteral("remove takes no empty name"));
+        return failure(ErrorKind::usage, Texts::tr("remove takes no empty name"));
     FilePath typed = FilePath::absolute(word);
     while (typed.bytes().size() > 1 && typed.bytes().endsWith('/'))
         typed = FilePath(typed.bytes().chopped(1));
@@ -134,9 +141,8 @@ Result<WatchedFolder> wanted(const QByteArray &word, const Folders &folders)
     });
     if (found != folders.end())
         return *found;
-    return failure(
-        ErrorKind::notFound,
-        QStringLiteral("there is no watched folder %1").arg(quoted(QString::fromUtf8(word))));
+    return failure(ErrorKind::notFound,
+                   Texts::tr("there is no watched folder %1").arg(quoted(QString::fromUtf8(word))));
 }
 
 Result<Folders> wantedFolders(std::span<const QByteArray> words, const Folders &folders)
@@ -188,10 +194,10 @@ Result<void> run(const Arguments &arguments)
         return list(rest, isJson);
     const bool isAdd = verb == "add";
     if (!isAdd && verb != "remove")
-        return failure(ErrorKind::usage, QStringLiteral("unknown verb ") + QString::fromUtf8(verb));
+        return failure(ErrorKind::usage, Texts::tr("unknown verb %1").arg(QString::fromUtf8(verb)));
     if (rest.empty())
         return failure(ErrorKind::usage,
-                       QStringLiteral("%1 needs a folder").arg(QString::fromUtf8(verb)));
+                       Texts::tr("%1 needs a folder").arg(QString::fromUtf8(verb)));
     return isAdd ? add(rest, isJson) : remove(rest, isJson);
 }
 
@@ -204,10 +210,8 @@ int runFoldersCommand(std::span<const QByteArray> words)
         words, {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}});
     if (!arguments)
         return failUsage("folders", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (const Result<void> done = run(*arguments); !done)
         return fail("folders", done.error());
     return finish();

@@ -4,7 +4,9 @@
 #include "cli/FamilyListing.h"
 #include "cli/GroupingListing.h"
 #include "cli/GroupingNames.h"
+#include "cli/HelpText.h"
 #include "cli/Library.h"
+#include "cli/Texts.h"
 #include "cli/UserOrganization.h"
 #include "cli/Verbs.h"
 #include "cli/Words.h"
@@ -17,38 +19,40 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl foundries [list [FOUNDRY]] [--hidden] [--json] [--folder DIR]...\n"
-    "       lorvactl foundries rename FOUNDRY NAME | rename FOUNDRY --original\n"
-    "       lorvactl foundries delete|hide|show FOUNDRY\n"
-    "       lorvactl foundries add|remove|set FOUNDRY FAMILY...\n"
-    "       lorvactl foundries reset FAMILY...\n"
-    "\n"
-    "Lists the foundries of this machine's fonts with two families at least, corrected by what "
-    "you\n"
-    "said, one line each: the name, a tab, the number of families; or the families of one. "
-    "Changes\n"
-    "are seen at once by a window that is open.\n"
-    "\n"
-    "  rename         shows the foundry under another name, or under its own with --original\n"
-    "  delete, hide   hides it, its families stay in the library; list --hidden shows such ones\n"
-    "  show           brings it back\n"
-    "  add            moves families to it, whatever their fonts say\n"
-    "  remove         takes families out of it; they are of no foundry then\n"
-    "  set            makes these families its own; others that their fonts count to it are of no\n"
-    "                 foundry then\n"
-    "  reset          lets the fonts of families say it again\n"
-    "\n"
-    "FOUNDRY is its id, which --json shows, or its name, in any case unless that fits several.\n"
-    "FAMILY is the name of a family of this machine or of one that you sorted; a lone - reads\n"
-    "names from standard input, one per line. A command is done whole or not at all.\n"
-    "\n"
-    "  --json         JSON instead of lines\n"
-    "  --missing      take names of families that this machine lacks, for when their fonts come\n"
-    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
-    "  --help         show this help\n";
-
-const QString kNoun = QStringLiteral("foundry");
+HelpText help()
+{
+    return HelpText({"lorvactl foundries [list [FOUNDRY]] [--hidden] [--json] [--folder DIR]...",
+                     "lorvactl foundries rename FOUNDRY NAME | rename FOUNDRY --original",
+                     "lorvactl foundries delete|hide|show FOUNDRY",
+                     "lorvactl foundries add|remove|set FOUNDRY FAMILY...",
+                     "lorvactl foundries reset FAMILY..."})
+        .paragraph(Texts::tr(
+            "Lists the foundries of this machine's fonts with two families at least, corrected by "
+            "what you said, one line each: the name, a tab, the number of families; or the "
+            "families of one. Changes are seen at once by a window that is open."))
+        .entries(
+            {{"rename",
+              Texts::tr("shows the foundry under another name, or under its own with --original")},
+             {"delete, hide",
+              Texts::tr(
+                  "hides it, its families stay in the library; list --hidden shows such ones")},
+             {"show", Texts::tr("brings it back")},
+             {"add", Texts::tr("moves families to it, whatever their fonts say")},
+             {"remove", Texts::tr("takes families out of it; they are of no foundry then")},
+             {"set",
+              Texts::tr("makes these families its own; others that their fonts count to it are of "
+                        "no foundry then")},
+             {"reset", Texts::tr("lets the fonts of families say it again")}})
+        .paragraph(
+            Texts::tr("FOUNDRY is its id, which --json shows, or its name, in any case unless that "
+                      "fits several. FAMILY is the name of a family of this machine or of one that "
+                      "you sorted; a lone - reads names from standard input, one per line. A "
+                      "command is done whole or not at all."))
+        .entries({{"--json", Texts::tr("JSON instead of lines")},
+                  missingEntry(),
+                  folderEntry(),
+                  helpEntry()});
+}
 
 /// What the fonts of the machine say.
 struct FontsSay
@@ -95,7 +99,7 @@ std::vector<GroupingName> allFoundries(const FontsSay &fonts, const FoundryCorre
 
 Result<GroupingName> wanted(const std::vector<GroupingName> &foundries, const QString &typed)
 {
-    const Result<size_t> place = findGrouping(foundries, typed, kNoun);
+    const Result<size_t> place = findGrouping(foundries, typed, kFoundryTexts);
     return place ? Result<GroupingName>(foundries[*place]) : tl::unexpected(place.error());
 }
 
@@ -176,7 +180,7 @@ Result<void> list(const VerbRequest &request)
         return {};
     }
     const Result<size_t> place =
-        findGrouping(groupingNames(foundries), request.subjects.front(), kNoun);
+        findGrouping(groupingNames(foundries), request.subjects.front(), kFoundryTexts);
     if (!place)
         return tl::unexpected(place.error());
     printGrouping(foundries[*place], request.isJson);
@@ -186,15 +190,14 @@ Result<void> list(const VerbRequest &request)
 Result<void> refuseToCreate(const VerbRequest &)
 {
     return failure(ErrorKind::unsupported,
-                   QStringLiteral("a foundry comes from the fonts and cannot be created; rename "
-                                  "one, or add families to one"));
+                   Texts::tr("a foundry comes from the fonts and cannot be created; rename "
+                             "one, or add families to one"));
 }
 
 Result<void> rename(const VerbRequest &request)
 {
     if (request.isOriginal == (request.subjects.size() == 2))
-        return failure(ErrorKind::usage,
-                       QStringLiteral("rename needs either a new name or --original"));
+        return failure(ErrorKind::usage, Texts::tr("rename needs either a new name or --original"));
     return changeFoundry(request,
                          [](Organization &organization, const FontsSay &,
                             const GroupingName &foundry, const VerbRequest &asked) {
@@ -229,9 +232,9 @@ Result<void> addFamilies(Organization &organization, const FontsSay &fonts,
                          const GroupingName &foundry, const VerbRequest &request)
 {
     if (fonts.familiesOf(foundry.id).isEmpty())
-        return failure(ErrorKind::notFound,
-                       QStringLiteral("no fonts of this machine are of the foundry %1")
-                           .arg(quoted(foundry.name)));
+        return failure(
+            ErrorKind::notFound,
+            Texts::tr("no fonts of this machine are of the foundry %1").arg(quoted(foundry.name)));
     const Result<QStringList> families = knownFamilies(fonts, organization, request);
     if (!families)
         return tl::unexpected(families.error());
@@ -243,7 +246,7 @@ Result<void> removeFamilies(Organization &organization, const FontsSay &fonts,
                             const GroupingName &foundry, const VerbRequest &request)
 {
     const FamilyNames members(membersOf(fonts, organization, foundry.id),
-                              QString(kNoun % u' ' % quoted(foundry.name)));
+                              {&kFoundryTexts, foundry.name});
     const auto families = members.find(request.families, FamilyNames::Unknown::fails);
     if (!families)
         return tl::unexpected(families.error());
@@ -297,7 +300,7 @@ int runFoundriesCommand(std::span<const QByteArray> words)
         {"set", 1, 1, Families::some, "--missing --folder", changing(setFamilies)},
         {"reset", 0, 0, Families::some, "--missing --folder", reset},
     };
-    return runVerb("foundries", kHelp, verbs, words);
+    return runVerb("foundries", help, verbs, words);
 }
 
 } // namespace lorva::cli

@@ -22,7 +22,7 @@ Result<FontCollectionRecord> wanted(const GroupingKind &kind, const Organization
                                     const QString &typed)
 {
     std::vector<FontCollectionRecord> all = kind.groupings(organization);
-    const Result<size_t> place = findGrouping(groupingNames(all), typed, kind.noun);
+    const Result<size_t> place = findGrouping(groupingNames(all), typed, kind.texts);
     if (!place)
         return tl::unexpected(place.error());
     return std::move(all[*place]);
@@ -52,9 +52,8 @@ Result<void> checkNameFree(const GroupingKind &kind, const Organization &organiz
     const QString comparable = comparableName(cleanedName(name));
     for (const FontCollectionRecord &each : kind.groupings(organization)) {
         if (each.id != ownID && comparableName(each.name) == comparable)
-            return failure(
-                ErrorKind::invalidValue,
-                QStringLiteral("there is a %1 %2 already").arg(kind.noun, quoted(each.name)));
+            return failure(ErrorKind::invalidValue,
+                           Texts::tr(kind.texts.taken).arg(quoted(each.name)));
     }
     return {};
 }
@@ -129,8 +128,7 @@ Result<void> removeFamilies(const GroupingKind &kind, const VerbRequest &request
         const auto grouping = wanted(kind, organization, request.subjects.front());
         if (!grouping)
             return tl::unexpected(grouping.error());
-        const FamilyNames members(grouping->familyNames,
-                                  QString(kind.noun % u' ' % quoted(grouping->name)));
+        const FamilyNames members(grouping->familyNames, {&kind.texts, grouping->name});
         const auto families = members.find(request.families, FamilyNames::Unknown::fails);
         if (!families)
             return tl::unexpected(families.error());
@@ -140,7 +138,7 @@ Result<void> removeFamilies(const GroupingKind &kind, const VerbRequest &request
 
 } // namespace
 
-int runGroupingCommand(const GroupingKind &kind, QByteArrayView help,
+int runGroupingCommand(const GroupingKind &kind, HelpText (*help)(),
                        std::span<const QByteArray> words)
 {
     using Families = Verb::Families;

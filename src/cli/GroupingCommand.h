@@ -3,10 +3,12 @@
 #pragma once
 
 #include "base/Result.h"
+#include "cli/GroupingTexts.h"
+#include "cli/HelpText.h"
 #include "cli/PreferenceKeys.h"
 #include "model/records/Organization.h"
 
-#include <QByteArrayView>
+#include <QByteArray>
 
 #include <span>
 #include <string_view>
@@ -17,8 +19,7 @@ namespace lorva::cli {
 struct GroupingKind
 {
     std::string_view command;
-    /// "collection".
-    QString noun;
+    GroupingTexts texts;
     OrganizationPart part;
     /// All groupings, in their order; the record is the shape that both share.
     std::vector<FontCollectionRecord> (*groupings)(const Organization &);
@@ -32,7 +33,7 @@ struct GroupingKind
 };
 
 /// The verbs list, create, rename, delete, add, remove and set; gives the exit code.
-int runGroupingCommand(const GroupingKind &kind, QByteArrayView help,
+int runGroupingCommand(const GroupingKind &kind, HelpText (*help)(),
                        std::span<const QByteArray> words);
 
 } // namespace lorva::cli

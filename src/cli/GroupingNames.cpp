@@ -32,7 +32,7 @@ QString idsOf(const std::vector<GroupingName> &groupings, const std::vector<size
     QStringList ids;
     for (const size_t place : places)
         ids.push_back(groupings[place].id);
-    return ids.join(QStringLiteral(", "));
+    return listed(ids);
 }
 
 /// The strictest first; whoever copies an id means that one.
@@ -56,7 +56,7 @@ std::vector<Fits> waysToMean(const QString &typed)
 } // namespace
 
 Result<size_t> findGrouping(const std::vector<GroupingName> &groupings, const QString &typed,
-                            const QString &noun)
+                            const GroupingTexts &texts)
 {
     for (const Fits &fits : waysToMean(typed)) {
         const std::vector<size_t> found = placesWhere(groupings, fits);
@@ -64,11 +64,9 @@ Result<size_t> findGrouping(const std::vector<GroupingName> &groupings, const QS
             return found.front();
         if (found.size() > 1)
             return failure(ErrorKind::invalidValue,
-                           QStringLiteral("there is more than one %1 %2; their ids: %3")
-                               .arg(noun, quoted(typed), idsOf(groupings, found)));
+                           Texts::tr(texts.ambiguous).arg(quoted(typed), idsOf(groupings, found)));
     }
-    return failure(ErrorKind::notFound,
-                   QStringLiteral("there is no %1 %2").arg(noun, quoted(typed)));
+    return failure(ErrorKind::notFound, Texts::tr(texts.unknown).arg(quoted(typed)));
 }
 
 } // namespace lorva::cli

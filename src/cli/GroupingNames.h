@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "cli/GroupingTexts.h"
 
 #include <QString>
 
@@ -29,8 +30,8 @@ std::vector<GroupingName> groupingNames(const std::vector<Record> &records)
 
 /// The place of the one that is meant: by its id, else by its name, else by its name as lorvactl
 /// prints it or as it would be stored, else by its name in another case. Fails with notFound for
-/// none, and with invalidValue for several, whose ids the error lists. `noun`: "collection".
+/// none, and with invalidValue for several, whose ids the error lists.
 Result<size_t> findGrouping(const std::vector<GroupingName> &groupings, const QString &typed,
-                            const QString &noun);
+                            const GroupingTexts &texts);
 
 } // namespace lorva::cli

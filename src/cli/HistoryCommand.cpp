@@ -4,6 +4,8 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "install/ActivationHistory.h"
 #include "platform/linux/XdgFolders.h"
 
@@ -13,24 +15,21 @@ namespace {
 
 constexpr int kMostRuns = 1'000'000;
 
-constexpr char kHelp[] =
-    "Usage: lorvactl history [--limit N] [--json|--csv]\n"
-    "\n"
-    "Tells what was switched on and off here, in the window and by lorvactl, the newest first. "
-    "One\n"
-    "line for each time: when, a tab, \"copied\", \"registered\", \"deactivated\", \"moved\" or "
-    "\"restored\",\n"
-    "a tab, the families; after \"moved\" a tab, and where to. Then a line for each file, which "
-    "begins\n"
-    "with a tab: \"done\", \"skipped\" (its name was taken), \"failed\" or \"left\" (it was "
-    "stopped "
-    "before),\n"
-    "a tab, the file; after \"failed\" a tab, and why.\n"
-    "\n"
-    "  --limit N          only the newest N times\n"
-    "  --json             one JSON array instead of lines\n"
-    "  --csv              a table for spreadsheets instead, one row for each file\n"
-    "  --help             show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl history [--limit N] [--json|--csv]"}, 21)
+        .paragraph(Texts::tr(
+            "Tells what was switched on and off here, in the window and by lorvactl, the newest "
+            "first. One line for each time: when, a tab, \"copied\", \"registered\", "
+            "\"deactivated\", \"moved\" or \"restored\", a tab, the families; after \"moved\" a "
+            "tab, and where to. Then a line for each file, which begins with a tab: \"done\", "
+            "\"skipped\" (its name was taken), \"failed\" or \"left\" (it was stopped before), a "
+            "tab, the file; after \"failed\" a tab, and why."))
+        .entries({{"--limit N", Texts::tr("only the newest N times")},
+                  {"--json", Texts::tr("one JSON array instead of lines")},
+                  {"--csv", Texts::tr("a table for spreadsheets instead, one row for each file")},
+                  helpEntry()});
+}
 
 using Entry = ActivationHistoryEntry;
 
@@ -106,9 +105,9 @@ Result<void> run(const Arguments &arguments)
         return tl::unexpected(limit.error());
     const bool isJson = arguments.has("--json");
     if (isJson && arguments.has("--csv"))
-        return failure(ErrorKind::usage, QStringLiteral("history takes --json or --csv, not both"));
+        return failure(ErrorKind::usage, Texts::tr("history takes --json or --csv, not both"));
     if (!arguments.positional().empty())
-        return failure(ErrorKind::usage, QStringLiteral("history takes no further words"));
+        return failure(ErrorKind::usage, Texts::tr("history takes no further words"));
     const auto entries = ActivationHistory(xdgFolders().activationHistory()).read(size_t(*limit));
     if (!entries)
         return tl::unexpected(entries.error());
@@ -136,10 +135,8 @@ int runHistoryCommand(std::span<const QByteArray> words)
                                                           {"--limit"}});
     if (!arguments)
         return failUsage("history", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (const Result<void> done = run(*arguments); !done)
         return fail("history", done.error());
     return finish();

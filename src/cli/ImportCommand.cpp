@@ -6,8 +6,11 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/EditText.h"
+#include "cli/HelpText.h"
 #include "cli/Input.h"
+#include "cli/Texts.h"
 #include "cli/UserOrganization.h"
+#include "cli/Words.h"
 #include "model/stores/OrganizationFile.h"
 #include "platform/linux/XdgFolders.h"
 
@@ -20,21 +23,23 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl import FILE [--replace] [--dry-run]\n"
-    "\n"
-    "Takes in what lorvactl export wrote; a lone - reads standard input. Collections and styles "
-    "of\n"
-    "the same id or name take the file's families in, others come anew, and what the file says\n"
-    "about foundries and display settings wins; nothing is taken away. Families that this machine\n"
-    "lacks stay members, for when their fonts come. Tells what changed, one line each. Done whole\n"
-    "or not at all.\n"
-    "\n"
-    "  --replace      make collections, styles and foundries what the file says and nothing else;\n"
-    "                 what was there is first written to a file beside the preferences; the\n"
-    "                 window no longer sorts families into styles by itself\n"
-    "  --dry-run      only tell what would change\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl import FILE [--replace] [--dry-run]"})
+        .paragraph(Texts::tr(
+            "Takes in what lorvactl export wrote; a lone - reads standard input. Collections and "
+            "styles of the same id or name take the file's families in, others come anew, and what "
+            "the file says about foundries and display settings wins; nothing is taken away. "
+            "Families that this machine lacks stay members, for when their fonts come. Tells what "
+            "changed, one line each. Done whole or not at all."))
+        .entries(
+            {{"--replace",
+              Texts::tr("make collections, styles and foundries what the file says and nothing "
+                        "else; what was there is first written to a file beside the preferences; "
+                        "the window no longer sorts families into styles by itself")},
+             {"--dry-run", Texts::tr("only tell what would change")},
+             helpEntry()});
+}
 
 enum class Mode { merge, replace };
 
@@ -54,10 +59,10 @@ Result<OrganizationFile> readFile(const QByteArray &word)
         return tl::unexpected(bytes.error());
     Result<OrganizationFile> file = decodeOrganizationFile(*bytes);
     if (!file)
-        return failure(file.error().kind,
-                       QStringLiteral("%1: %2").arg(isInput ? QStringLiteral("standard input")
-                                                            : path.displayText(),
-                                                    file.error().detail));
+        return failure(
+            file.error().kind,
+            Texts::tr("%1: %2").arg(isInput ? Texts::tr("standard input") : path.displayText(),
+                                    file.error().detail));
     return file;
 }
 
@@ -103,7 +108,7 @@ QStringList mendedLines(const std::vector<UnreadablePart> &parts)
 {
     QStringList lines;
     for (const UnreadablePart &each : parts)
-        lines.push_back(QStringLiteral("preference %1: made anew").arg(each.key));
+        lines.push_back(Texts::tr("preference %1: made anew").arg(each.key));
     return lines;
 }
 
@@ -212,8 +217,8 @@ void warnOfReplaced(const Report &report, const PreferenceStore &preferences)
     QStringList keys;
     for (const UnreadablePart &each : report.steps.unreadable)
         keys.push_back(each.key);
-    warn(QStringLiteral("%1 lacks what could not be read: %2")
-             .arg(report.backup->displayText(), keys.join(QStringLiteral(", "))));
+    warn(Texts::tr("%1 lacks what could not be read: %2")
+             .arg(report.backup->displayText(), listed(keys)));
 }
 
 Report importFile(const Plan &plan)
@@ -247,7 +252,7 @@ Report tryImport(const Plan &plan)
     report.result = user.checkRead();
     for (const UnreadablePart &each : report.steps.replaced) {
         if (report.result)
-            warn(QStringLiteral("%1; what stands there would be kept").arg(textOf(each)));
+            warn(Texts::tr("%1; what stands there would be kept").arg(textOf(each)));
     }
     return report;
 }
@@ -264,9 +269,9 @@ Result<void> run(const Arguments &arguments)
     for (const QString &line : report.steps.lines)
         printText(QString(singleLine(line) + u'\n'));
     if (report.steps.lines.isEmpty())
-        print("nothing to change\n");
+        printText(QString(Texts::tr("nothing to change") % u'\n'));
     if (report.backup)
-        printText(QStringLiteral("what was there: %1\n").arg(singleLine(*report.backup)));
+        printText(QString(Texts::tr("what was there: %1").arg(singleLine(*report.backup)) % u'\n'));
     return {};
 }
 
@@ -282,12 +287,10 @@ int runImportCommand(std::span<const QByteArray> words)
                                                           {"--dry-run", Value::none}});
     if (!arguments)
         return failUsage("import", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (arguments->positional().size() != 1 || arguments->positional().front().isEmpty())
-        return failUsage("import", QStringLiteral("import takes one file"));
+        return failUsage("import", Texts::tr("import takes one file"));
     if (const Result<void> done = run(*arguments); !done)
         return fail("import", done.error());
     return finish();

@@ -3,6 +3,7 @@
 #include "cli/Input.h"
 
 #include "cli/Arguments.h"
+#include "cli/Texts.h"
 
 #include <cerrno>
 #include <cstring>
@@ -22,7 +23,7 @@ Result<QStringList> linesOfStandardInput()
         return tl::unexpected(bytes.error());
     const Result<QString> decoded = text("standard input", *bytes);
     if (!decoded)
-        return failure(ErrorKind::usage, QStringLiteral("standard input is not UTF-8 text"));
+        return failure(ErrorKind::usage, Texts::tr("standard input is not UTF-8 text"));
     QStringList lines = decoded->split(u'\n', Qt::SkipEmptyParts);
     for (QString &line : lines) {
         if (line.endsWith(u'\r'))
@@ -44,14 +45,14 @@ Result<QByteArray> readStandardInput(qint64 mostBytes)
             continue;
         if (got < 0)
             return failure(ErrorKind::ioFailure,
-                           QStringLiteral("cannot read standard input: %1")
+                           Texts::tr("cannot read standard input: %1")
                                .arg(QString::fromLocal8Bit(std::strerror(errno))));
         if (got == 0)
             return bytes;
         bytes.append(buffer, got);
         if (bytes.size() > mostBytes)
             return failure(ErrorKind::tooLarge,
-                           QStringLiteral("standard input has more than %1 bytes").arg(mostBytes));
+                           Texts::tr("standard input has more than %1 bytes").arg(mostBytes));
     }
 }
 
@@ -63,11 +64,9 @@ Result<QStringList> namedFamilies(std::span<const QByteArray> words)
     for (const QByteArray &word : words) {
         Result<QString> name = text("FAMILY", word);
         if (!name)
-            return failure(ErrorKind::usage,
-                           QStringLiteral("the name of a family must be UTF-8 text"));
+            return failure(ErrorKind::usage, Texts::tr("the name of a family must be UTF-8 text"));
         if (name->isEmpty())
-            return failure(ErrorKind::usage,
-                           QStringLiteral("the name of a family cannot be empty"));
+            return failure(ErrorKind::usage, Texts::tr("the name of a family cannot be empty"));
         names.push_back(*std::move(name));
     }
     return names;

@@ -5,6 +5,7 @@
 #include "base/Json.h"
 #include "base/SystemError.h"
 #include "cli/PreferenceLook.h"
+#include "cli/Texts.h"
 #include "install/WatchedFolderStore.h"
 #include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/XdgFolders.h"
@@ -22,7 +23,7 @@ tl::unexpected<Error> folderFailure(int code, const FilePath &folder)
 {
     if (code == ENOENT)
         return failure(ErrorKind::notFound,
-                       QStringLiteral("there is no folder ") + folder.displayText());
+                       Texts::tr("there is no folder %1").arg(folder.displayText()));
     return systemFailure(code, "read", folder);
 }
 
@@ -39,7 +40,7 @@ Result<std::vector<WatchedFolder>> storedFolders()
     const std::optional<PreferenceValue> value = preferenceOfRow(row->second);
     const QByteArray *const json = value ? std::get_if<QByteArray>(&*value) : nullptr;
     if (!json)
-        return failure(ErrorKind::typeMismatch, QStringLiteral("they are no data"));
+        return failure(ErrorKind::typeMismatch, Texts::tr("they are no data"));
     return decodeJson<std::vector<WatchedFolder>>(*json);
 }
 
@@ -51,14 +52,14 @@ Result<std::vector<FilePath>> givenFolders(const Arguments &arguments)
     for (const QByteArray &word : arguments.values("--folder")) {
         // "$UNSET" would else be the working folder.
         if (word.isEmpty())
-            return failure(ErrorKind::usage, QStringLiteral("--folder needs the name of a folder"));
+            return failure(ErrorKind::usage, Texts::tr("--folder needs the name of a folder"));
         const FilePath folder = FilePath::absolute(word);
         struct stat info;
         if (::stat(folder.c_str(), &info) != 0)
             return folderFailure(errno, folder);
         if (!S_ISDIR(info.st_mode))
             return failure(ErrorKind::invalidValue,
-                           folder.displayText() + QStringLiteral(" is no folder"));
+                           Texts::tr("%1 is no folder").arg(folder.displayText()));
         if (::access(folder.c_str(), R_OK | X_OK) != 0)
             return folderFailure(errno, folder);
         folders.push_back(folder);
@@ -70,7 +71,7 @@ std::vector<FilePath> withWatchedFolders(std::vector<FilePath> given, LookupTrou
 {
     const Result<std::vector<WatchedFolder>> stored = storedFolders();
     if (!stored && trouble == LookupTrouble::isTold)
-        warn(QStringLiteral("the watched folders cannot be read (%1); they are left out")
+        warn(Texts::tr("the watched folders cannot be read (%1); they are left out")
                  .arg(stored.error().detail));
     std::vector<FilePath> folders;
     for (const WatchedFolder &each : stored.value_or(std::vector<WatchedFolder>())) {

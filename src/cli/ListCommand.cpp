@@ -4,24 +4,29 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/FamilyListing.h"
+#include "cli/HelpText.h"
 #include "cli/Library.h"
+#include "cli/Texts.h"
+#include "cli/Words.h"
 #include "model/records/RecordsJson.h"
 
 namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl list [--json] [--script NAME] [--folder DIR]...\n"
-    "\n"
-    "Lists the font families of this machine, one line each: the name, a tab, the styles.\n"
-    "Characters that would break a line are written as escapes (\\n, \\u{202e}).\n"
-    "\n"
-    "  --json         one JSON array of families instead\n"
-    "  --script NAME  only families that can set latin, japanese, korean, simplifiedChinese or\n"
-    "                 traditionalChinese\n"
-    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl list [--json] [--script NAME] [--folder DIR]..."})
+        .paragraph(Texts::tr(
+            "Lists the font families of this machine, one line each: the name, a tab, the styles. "
+            "Characters that would break a line are written as escapes (\\n, \\u{202e})."))
+        .entries({{"--json", Texts::tr("one JSON array of families instead")},
+                  {"--script NAME",
+                   Texts::tr("only families that can set latin, japanese, korean, "
+                             "simplifiedChinese or traditionalChinese")},
+                  folderEntry(),
+                  helpEntry()});
+}
 
 /// The script of `--script`, whatever its case; nothing without the option.
 Result<std::optional<WritingScript>> wantedScript(const Arguments &arguments)
@@ -35,8 +40,7 @@ Result<std::optional<WritingScript>> wantedScript(const Arguments &arguments)
             return script;
         known.push_back(storedName(script));
     }
-    return failure(ErrorKind::usage,
-                   QStringLiteral("--script takes ") + known.join(QStringLiteral(", ")));
+    return failure(ErrorKind::usage, Texts::tr("--script takes %1").arg(listed(known)));
 }
 
 void keepOnly(WritingScript script, std::vector<FontFamilyRecord> &families)
@@ -59,12 +63,10 @@ int runListCommand(std::span<const QByteArray> words)
                                                           {"--folder"}});
     if (!arguments)
         return failUsage("list", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (!arguments->positional().empty())
-        return failUsage("list", QStringLiteral("list takes folders as --folder DIR"));
+        return failUsage("list", Texts::tr("list takes folders as --folder DIR"));
     const auto script = wantedScript(*arguments);
     if (!script)
         return failUsage("list", script.error().detail);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PreferenceKeys.h"
 
+#include "cli/Texts.h"
 #include "install/WatchedFolder.h"
 #include "model/records/RecordsJson.h"
 #include "platform/PreferenceStore.h"
@@ -12,7 +13,7 @@ namespace {
 
 QString counted(qsizetype count)
 {
-    return count == 1 ? QStringLiteral("1 entry") : QStringLiteral("%1 entries").arg(count);
+    return Texts::tr("%n entries", nullptr, int(count));
 }
 
 template <class T>
@@ -24,7 +25,7 @@ Result<QString> describeJson(const PreferenceValue &value)
     if constexpr (requires { decoded->size(); })
         return counted(qsizetype(decoded->size()));
     else
-        return QStringLiteral("readable");
+        return Texts::tr("readable");
 }
 
 template <class T>
@@ -49,7 +50,7 @@ Result<QString> describeMethod(const PreferenceValue &value)
     const QString &name = std::get<QString>(value);
     if (installMethodFromName(name))
         return name;
-    return failure(ErrorKind::invalidValue, QStringLiteral("neither copy nor register"));
+    return failure(ErrorKind::invalidValue, Texts::tr("neither copy nor register"));
 }
 
 /// What the store holds under the key, if it is of the kind that is expected there.
@@ -72,16 +73,15 @@ std::optional<PreferenceValue> heldValue(const KnownPreference &known,
 
 tl::unexpected<Error> otherKind(const KnownPreference &known)
 {
-    return failure(
-        ErrorKind::typeMismatch,
-        QStringLiteral("not a whole value of kind %1").arg(QString::fromLatin1(known.kind)));
+    return failure(ErrorKind::typeMismatch,
+                   Texts::tr("not a whole value of kind %1").arg(QString::fromLatin1(known.kind)));
 }
 
 } // namespace
 
 const std::vector<KnownPreference> &knownPreferences()
 {
-    using Texts = QHash<QString, QString>;
+    using Dictionary = QHash<QString, QString>;
     using Settings = std::map<QString, SourceDisplaySettings>;
     using Part = OrganizationPart;
     static const std::vector<KnownPreference> kKnown{
@@ -98,16 +98,17 @@ const std::vector<KnownPreference> &knownPreferences()
              return !edit.dismissed.isEmpty() || !edit.broughtBack.isEmpty();
          }},
         {"vantrel.merid.foundryOverrides", "stringDictionary", Part::foundries,
-         describeCount<Texts>,
+         describeCount<Dictionary>,
          [](const OrganizationEdit &edit) { return !edit.foundryOverrides.empty(); }},
         {"vantrel.merid.foundryNameOverrides", "stringDictionary", Part::foundries,
-         describeCount<Texts>,
+         describeCount<Dictionary>,
          [](const OrganizationEdit &edit) { return !edit.foundryNames.empty(); }},
         {"vantrel.merid.fontInstallations", "data", Part::activation,
          describeJson<std::map<QString, QString>>},
         {"vantrel.merid.lorvaRegisteredURLs", "stringArray", Part::activation,
          describeCount<QStringList>},
-        {"vantrel.merid.fontOrigins", "stringDictionary", Part::activation, describeCount<Texts>},
+        {"vantrel.merid.fontOrigins", "stringDictionary", Part::activation,
+         describeCount<Dictionary>},
         {"vantrel.merid.defaultInstallMethod", "string", Part::activation, describeMethod},
         {"vantrel.merid.watchedFolders", "data", Part::watchedFolders,
          describeJson<std::vector<WatchedFolder>>},

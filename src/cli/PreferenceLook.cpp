@@ -4,6 +4,7 @@
 
 #include "base/SystemError.h"
 #include "base/WholeFile.h"
+#include "cli/Texts.h"
 #include "platform/PreferenceDatabase.h"
 
 #include <QTemporaryDir>
@@ -90,7 +91,7 @@ Result<Rows> readCopy(const FilePath &copy)
     if (!checked)
         return damaged(checked.error().detail);
     if (checked->empty() || checked->front().front() != "ok")
-        return damaged(QStringLiteral("the database is damaged"));
+        return damaged(Texts::tr("the database is damaged"));
     const auto tables =
         connection->run("SELECT name FROM sqlite_schema WHERE name = 'preferences'");
     if (tables && tables->empty())
@@ -109,7 +110,7 @@ Result<Rows> readOnce(const FilePath &file)
     const QTemporaryDir folder;
     if (!folder.isValid())
         return failure(ErrorKind::ioFailure,
-                       QStringLiteral("no folder for a copy: ") + folder.errorString());
+                       Texts::tr("no folder for a copy: %1").arg(folder.errorString()));
     const FilePath copy = FilePath::fromText(folder.filePath(QStringLiteral("copy.sqlite")));
     const Result<void> copied = copyParts(file, copy);
     return copied ? readCopy(copy) : tl::unexpected(copied.error());
@@ -156,7 +157,7 @@ Result<void> checkUnlocked(const FilePath &file)
     }
     if (!writer)
         return {};
-    return failure(ErrorKind::cancelled, QStringLiteral("process %1 keeps it locked").arg(*writer));
+    return failure(ErrorKind::cancelled, Texts::tr("process %1 keeps it locked").arg(*writer));
 }
 
 /// As the effective user, as whoever opens a file is judged.
@@ -175,7 +176,7 @@ Result<void> checkFile(const FilePath &file)
         return errno == ENOENT ? Result<void>() : systemFailure(errno, "look at", file);
     if (!S_ISREG(info.st_mode))
         return failure(ErrorKind::notRegularFile,
-                       QStringLiteral("%1 is no regular file").arg(file.displayText()));
+                       Texts::tr("%1 is no regular file").arg(file.displayText()));
     return checkAccess(file, R_OK | W_OK);
 }
 
@@ -195,7 +196,7 @@ Result<void> checkSpace(const FilePath &folder)
     if (quint64(info.f_bavail) * info.f_frsize >= kLeastFreeBytes)
         return {};
     return failure(ErrorKind::ioFailure,
-                   QStringLiteral("no space is left in %1").arg(folder.displayText()));
+                   Texts::tr("no space is left in %1").arg(folder.displayText()));
 }
 
 } // namespace

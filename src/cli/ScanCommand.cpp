@@ -4,7 +4,10 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
 #include "cli/Library.h"
+#include "cli/TextColumns.h"
+#include "cli/Texts.h"
 #include "install/WatchedFontRegistrar.h"
 
 #include <QLocale>
@@ -13,15 +16,14 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl scan [--json] [--folder DIR]...\n"
-    "\n"
-    "Reads the fonts of this machine that have changed since the last scan, writes down what it\n"
-    "learned for the next one, and tells what it did and how long each step took.\n"
-    "\n"
-    "  --json         one JSON object instead\n"
-    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl scan [--json] [--folder DIR]..."})
+        .paragraph(Texts::tr(
+            "Reads the fonts of this machine that have changed since the last scan, writes down "
+            "what it learned for the next one, and tells what it did and how long each step took."))
+        .entries({{"--json", Texts::tr("one JSON object instead")}, folderEntry(), helpEntry()});
+}
 
 using Clock = std::chrono::steady_clock;
 
@@ -35,17 +37,21 @@ struct Summary
 
 struct Step
 {
+    /// For Texts::tr().
     const char *title;
     const char *key;
     ScanReport::Duration ScanReport::*time;
 };
 
+/// Of the steps, and of the space before and after them.
+constexpr int kTitleColumns = 20;
+
 constexpr Step kSteps[]{
-    {"Read the cache", "cache", &ScanReport::readingCache},
-    {"Find files", "enumerating", &ScanReport::enumerating},
-    {"Read faces", "scanning", &ScanReport::scanning},
-    {"Identify families", "identifying", &ScanReport::identifying},
-    {"Group families", "preparing", &ScanReport::preparing},
+    {QT_TRANSLATE_NOOP("lorvactl", "Read the cache"), "cache", &ScanReport::readingCache},
+    {QT_TRANSLATE_NOOP("lorvactl", "Find files"), "enumerating", &ScanReport::enumerating},
+    {QT_TRANSLATE_NOOP("lorvactl", "Read faces"), "scanning", &ScanReport::scanning},
+    {QT_TRANSLATE_NOOP("lorvactl", "Identify families"), "identifying", &ScanReport::identifying},
+    {QT_TRANSLATE_NOOP("lorvactl", "Group families"), "preparing", &ScanReport::preparing},
 };
 
 double milliseconds(Clock::duration time)
@@ -55,9 +61,9 @@ double milliseconds(Clock::duration time)
 
 QString timeLine(const QString &title, Clock::duration time)
 {
-    return QStringLiteral("  %1%2 ms\n")
-        .arg(title.leftJustified(18))
-        .arg(QString::number(milliseconds(time), 'f', 1), 9);
+    const QString number = QString::number(milliseconds(time), 'f', 1);
+    //: a time in milliseconds
+    return QStringLiteral("  %1\t%2\n").arg(title, Texts::tr("%1 ms").arg(number, 9));
 }
 
 QString counted(qint64 count)
@@ -68,15 +74,21 @@ QString counted(qint64 count)
 QString summaryText(const Summary &summary)
 {
     const ScanReport &report = summary.report;
-    QString text = QStringLiteral("Fonts: %1 found, %2 read, %3 unchanged\n")
-                       .arg(counted(report.filesFound), counted(report.filesRead),
-                            counted(report.filesReused));
-    text += QStringLiteral("Families: %1 with %2 styles, %3 newly identified\n")
-                .arg(counted(summary.families), counted(summary.faces),
-                     counted(report.familiesIdentified));
+    QString text =
+        Texts::tr("Fonts: %1 found, %2 read, %3 unchanged")
+            .arg(counted(report.filesFound), counted(report.filesRead), counted(report.filesReused))
+        % u'\n';
+    //: the part "%1 with %2" of what a scan found
+    const QString styles =
+        Texts::tr("%1 styles", nullptr, int(summary.faces)).arg(counted(summary.faces));
+    text += Texts::tr("Families: %1 with %2, %3 newly identified")
+                .arg(counted(summary.families), styles, counted(report.familiesIdentified))
+        % u'\n';
+    QString times;
     for (const Step &step : kSteps)
-        text += timeLine(QString::fromLatin1(step.title), report.*step.time);
-    return text + timeLine(QStringLiteral("In all"), summary.total);
+        times += timeLine(Texts::tr(step.title), report.*step.time);
+    times += timeLine(Texts::tr("In all"), summary.total);
+    return text + alignedAtTabs(times, kTitleColumns);
 }
 
 QByteArray summaryJson(const Summary &summary)
@@ -147,12 +159,10 @@ int runScanCommand(std::span<const QByteArray> words)
         {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}, {"--folder"}});
     if (!arguments)
         return failUsage("scan", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (!arguments->positional().empty())
-        return failUsage("scan", QStringLiteral("scan takes folders as --folder DIR"));
+        return failUsage("scan", Texts::tr("scan takes folders as --folder DIR"));
     const Result<std::vector<FilePath>> folders = givenFolders(*arguments);
     if (!folders)
         return fail("scan", folders.error());

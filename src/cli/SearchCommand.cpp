@@ -3,7 +3,9 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/FamilyListing.h"
+#include "cli/HelpText.h"
 #include "cli/Library.h"
+#include "cli/Texts.h"
 #include "model/records/RecordsJson.h"
 #include "organize/SearchText.h"
 
@@ -11,17 +13,17 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl search TEXT [--json] [--folder DIR]...\n"
-    "\n"
-    "Lists the font families that the window's search field finds: those with TEXT in their name, "
-    "in\n"
-    "a name in another language or in their manufacturer's name, whatever its case, accents and\n"
-    "width, Hiragana for Katakana. One line each: the name, a tab, the styles.\n"
-    "\n"
-    "  --json         one JSON array of families instead\n"
-    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl search TEXT [--json] [--folder DIR]..."})
+        .paragraph(Texts::tr("Lists the font families that the window's search field finds: those "
+                             "with TEXT in their name, in a name in another language or in their "
+                             "manufacturer's name, whatever its case, accents and width, Hiragana "
+                             "for Katakana. One line each: the name, a tab, the styles."))
+        .entries({{"--json", Texts::tr("one JSON array of families instead")},
+                  folderEntry(),
+                  helpEntry()});
+}
 
 Result<void> run(const Arguments &arguments)
 {
@@ -54,12 +56,10 @@ int runSearchCommand(std::span<const QByteArray> words)
         {{"--help", Value::none}, {"-h", Value::none}, {"--json", Value::none}, {"--folder"}});
     if (!arguments)
         return failUsage("search", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (arguments->positional().size() != 1)
-        return failUsage("search", QStringLiteral("search takes one text"));
+        return failUsage("search", Texts::tr("search takes one text"));
     if (const Result<void> done = run(*arguments); !done)
         return fail("search", done.error());
     return finish();

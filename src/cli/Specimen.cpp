@@ -6,6 +6,7 @@
 #include "cli/OutputFile.h"
 #include "cli/SpecimenFont.h"
 #include "cli/SpecimenPage.h"
+#include "cli/Texts.h"
 
 namespace lorva::cli {
 
@@ -24,10 +25,10 @@ Result<std::vector<QString>> writeSpecimen(const SpecimenRequest &request)
     if (page.size.height() > kMaxSpecimenSide)
         return failure(
             ErrorKind::tooLarge,
-            QStringLiteral("the text needs %1 pixels of height; give a --height up to %2")
+            Texts::tr("the text needs %1 pixels of height; give a --height up to %2")
                 .arg(QString::number(page.size.height()), QString::number(kMaxSpecimenSide)));
     if (page.isCropped)
-        notes.push_back(QStringLiteral("the picture is too small for all of the text"));
+        notes.push_back(Texts::tr("the picture is too small for all of the text"));
     const Result<QByteArray> bytes = encodedSpecimen(page, *format);
     if (!bytes)
         return tl::unexpected(bytes.error());

@@ -2,36 +2,40 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
 #include "cli/SpecimenOptions.h"
+#include "cli/Texts.h"
 
 namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl specimen FILE -o PICTURE [OPTION]...\n"
-    "\n"
-    "Draws text in a face of a font file. In an SVG or PDF the letters are outlines; no font is\n"
-    "embedded.\n"
-    "\n"
-    "  -o PICTURE         what to write, a .png, .svg or .pdf by its name; never a font file\n"
-    "  --text TEXT        what to draw; a pangram if not given\n"
-    "  --face N           which face of a collection, from 0\n"
-    "  --instance NAME    a named instance of a variable face\n"
-    "  --variations LIST  values of axes: wght=650,wdth=80\n"
-    "  --features LIST    OpenType features: smcp,onum=0,ss01=1,-liga,+dlig\n"
-    "  --palette N        which palette of a colour font, from 0\n"
-    "  --language TAG     for forms of that language: ja, zh-Hant, sr (BCP 47)\n"
-    "  --direction ltr | rtl | auto\n"
-    "                     of the text; auto, by its first letter, if not given\n"
-    "  --letter-spacing N pixels after each letter, -1000 to 1000\n"
-    "  --size N           pixels per em, 1 to 4096; 48 if not given\n"
-    "  --width N          pixels, 1 to 16384; the text wraps. As wide as the text if not given\n"
-    "  --height N         pixels, 1 to 16384; as high as the text if not given\n"
-    "  --color #RRGGBB    of the text; black if not given\n"
-    "  --background #RRGGBB | transparent\n"
-    "                     white if not given\n"
-    "  --help             show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl specimen FILE -o PICTURE [OPTION]..."}, 21)
+        .paragraph(Texts::tr("Draws text in a face of a font file. In an SVG or PDF the letters "
+                             "are outlines; no font is embedded."))
+        .entries(
+            {{"-o PICTURE",
+              Texts::tr("what to write, a .png, .svg or .pdf by its name; never a font file")},
+             {"--text TEXT", Texts::tr("what to draw; a pangram if not given")},
+             {"--face N", Texts::tr("which face of a collection, from 0")},
+             {"--instance NAME", Texts::tr("a named instance of a variable face")},
+             {"--variations LIST", Texts::tr("values of axes: wght=650,wdth=80")},
+             {"--features LIST", Texts::tr("OpenType features: smcp,onum=0,ss01=1,-liga,+dlig")},
+             {"--palette N", Texts::tr("which palette of a colour font, from 0")},
+             {"--language TAG", Texts::tr("for forms of that language: ja, zh-Hant, sr (BCP 47)")},
+             {"--direction ltr | rtl | auto",
+              Texts::tr("of the text; auto, by its first letter, if not given")},
+             {"--letter-spacing N", Texts::tr("pixels after each letter, -1000 to 1000")},
+             {"--size N", Texts::tr("pixels per em, 1 to 4096; 48 if not given")},
+             {"--width N",
+              Texts::tr("pixels, 1 to 16384; the text wraps. As wide as the text if not given")},
+             {"--height N", Texts::tr("pixels, 1 to 16384; as high as the text if not given")},
+             {"--color #RRGGBB", Texts::tr("of the text; black if not given")},
+             {"--background #RRGGBB | transparent", Texts::tr("white if not given")},
+             helpEntry()});
+}
 
 /// Reads options into a request one after the other; the first failure sticks.
 class RequestReader
@@ -64,10 +68,10 @@ private:
 Result<SpecimenRequest> specimenRequest(const Arguments &arguments)
 {
     if (arguments.positional().size() != 1)
-        return failure(ErrorKind::usage, QStringLiteral("specimen takes one font file"));
+        return failure(ErrorKind::usage, Texts::tr("specimen takes one font file"));
     if (arguments.value("-o").value_or(QByteArray()).isEmpty())
         return failure(ErrorKind::usage,
-                       QStringLiteral("specimen needs a picture to write: -o PICTURE"));
+                       Texts::tr("specimen needs a picture to write: -o PICTURE"));
     const auto within = [](int most) {
         return [most](QByteArrayView option, const QByteArray &value) {
             return wholeNumber(option, value, 1, most);
@@ -135,10 +139,8 @@ int runSpecimenCommand(std::span<const QByteArray> words)
                                                           {"--background"}});
     if (!arguments)
         return failUsage("specimen", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     const Result<SpecimenRequest> request = specimenRequest(*arguments);
     if (!request)
         return failUsage("specimen", request.error().detail);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/SpecimenFont.h"
 
+#include "cli/Texts.h"
+#include "cli/Words.h"
 #include "text/FontFeatures.h"
 
 #include <QStringList>
@@ -27,8 +29,8 @@ Result<FaceKey> faceKey(const FontFile &file, const SpecimenRequest &request)
         });
     if (found == instances.end())
         return failure(ErrorKind::notFound,
-                       QStringLiteral("%1: the face has no instance \"%2\"")
-                           .arg(request.font.displayText(), request.instance));
+                       Texts::tr("%1: the face has no instance %2")
+                           .arg(request.font.displayText(), quoted(request.instance)));
     key.namedInstance = int(found - instances.begin());
     return key;
 }
@@ -51,10 +53,10 @@ tl::unexpected<Error> unknownAxis(const FontFace &face, FontTag tag)
         known << tagText(axis.tag);
     const QString name = face.path().displayText();
     return known.isEmpty()
-        ? failure(ErrorKind::notFound, QStringLiteral("%1: the face has no axes").arg(name))
+        ? failure(ErrorKind::notFound, Texts::tr("%1: the face has no axes").arg(name))
         : failure(ErrorKind::notFound,
-                  QStringLiteral("%1: the face has no axis \"%2\", only %3")
-                      .arg(name, tagText(tag), known.join(u", ")));
+                  Texts::tr("%1: the face has no axis %2, only %3")
+                      .arg(name, quoted(tagText(tag)), listed(known)));
 }
 
 /// The setting within the axis's reach.
@@ -66,7 +68,7 @@ Result<VariationSetting> reachable(const FontFace &face, VariationSetting settin
         return unknownAxis(face, setting.tag);
     const double value = std::clamp(setting.value, axis->minValue, axis->maxValue);
     if (value != setting.value) {
-        notes.push_back(QStringLiteral("%1 goes from %2 to %3: drawn with %4 instead of %5")
+        notes.push_back(Texts::tr("%1 goes from %2 to %3: drawn with %4 instead of %5")
                             .arg(tagText(setting.tag), QString::number(axis->minValue),
                                  QString::number(axis->maxValue), QString::number(value),
                                  QString::number(setting.value)));
@@ -83,7 +85,7 @@ void noteMissingFeatures(const FontFace &face, const SpecimenRequest &request,
     for (const FeatureSetting &setting : request.features) {
         if (std::find(known.begin(), known.end(), setting.tag) == known.end())
             notes.push_back(
-                QStringLiteral("the face has no feature \"%1\"").arg(tagText(setting.tag)));
+                Texts::tr("the face has no feature %1").arg(quoted(tagText(setting.tag))));
     }
 }
 
@@ -94,8 +96,8 @@ Result<void> checkPalette(const FontFace &face, int index)
         return {};
     const QString name = face.path().displayText();
     return failure(ErrorKind::notFound,
-                   count == 0 ? QStringLiteral("%1: the face has no palettes").arg(name)
-                              : QStringLiteral("%1: the face has no palette %2, only 0 to %3")
+                   count == 0 ? Texts::tr("%1: the face has no palettes").arg(name)
+                              : Texts::tr("%1: the face has no palette %2, only 0 to %3")
                                     .arg(name, QString::number(index), QString::number(count - 1)));
 }
 

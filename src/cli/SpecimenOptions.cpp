@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/SpecimenOptions.h"
 
+#include "cli/Texts.h"
+
 #include <QRegularExpression>
 
 #include <cmath>
@@ -10,11 +12,10 @@ namespace lorva::cli {
 
 namespace {
 
-tl::unexpected<Error> wrong(QByteArrayView option, const char *takes)
+/// `text`: of what the option takes, with a place for its name.
+tl::unexpected<Error> wrong(QByteArrayView option, const QString &text)
 {
-    return failure(
-        ErrorKind::usage,
-        QStringLiteral("%1 takes %2").arg(QString::fromUtf8(option), QLatin1String(takes)));
+    return failure(ErrorKind::usage, text.arg(QString::fromUtf8(option)));
 }
 
 std::optional<quint32> featureValue(const QByteArray &text)
@@ -82,7 +83,7 @@ Result<std::vector<FeatureSetting>> featureList(QByteArrayView option, const QBy
 {
     const auto settings = list(value, featureSetting);
     if (!settings)
-        return wrong(option, "a list of features as smcp,onum=0,-liga");
+        return wrong(option, Texts::tr("%1 takes a list of features as smcp,onum=0,-liga"));
     return *settings;
 }
 
@@ -90,7 +91,7 @@ Result<std::vector<VariationSetting>> variationList(QByteArrayView option, const
 {
     const auto settings = list(value, variationSetting);
     if (!settings)
-        return wrong(option, "a list of axes as wght=650,wdth=80");
+        return wrong(option, Texts::tr("%1 takes a list of axes as wght=650,wdth=80"));
     return *settings;
 }
 
@@ -106,7 +107,8 @@ Result<QByteArray> languageTag(QByteArrayView option, const QByteArray &value)
         QRegularExpression::CaseInsensitiveOption);
     constexpr qsizetype kMaxLength = 100;
     if (value.size() > kMaxLength || !wellFormed.match(QString::fromUtf8(value)).hasMatch())
-        return wrong(option, "a language as ja, zh-Hant or sr-Latn-RS (BCP 47)");
+        return wrong(option,
+                     Texts::tr("%1 takes a language as ja, zh-Hant or sr-Latn-RS (BCP 47)"));
     return value;
 }
 
@@ -118,14 +120,14 @@ Result<TextDirection> textDirection(QByteArrayView option, const QByteArray &val
         return TextDirection::leftToRight;
     if (value == "rtl")
         return TextDirection::rightToLeft;
-    return wrong(option, "ltr, rtl or auto");
+    return wrong(option, Texts::tr("%1 takes ltr, rtl or auto"));
 }
 
 Result<QColor> color(QByteArrayView option, const QByteArray &value)
 {
     const QColor parsed = QColor::fromString(QString::fromUtf8(value));
     if (value.size() != 7 || !value.startsWith('#') || !parsed.isValid())
-        return wrong(option, "a colour as #RRGGBB");
+        return wrong(option, Texts::tr("%1 takes a colour as #RRGGBB"));
     return parsed;
 }
 

@@ -4,6 +4,8 @@
 #include "cli/ActivationSubjects.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "cli/UserActivation.h"
 #include "model/records/RecordsJson.h"
 
@@ -11,22 +13,25 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl status [OPTION]... [FAMILY|FILE]...\n"
-    "\n"
-    "Tells what is available to every program, one line for each family: the name, a tab,\n"
-    "\"active (copied)\", \"active (registered)\", \"active (system)\", \"partly active\" or\n"
-    "\"inactive\". Of families that are named it tells of the files too, each on a line that "
-    "begins\n"
-    "with a tab: what it is (copied, registered, inactive, system), a tab, the file; of copies "
-    "then\n"
-    "a tab, and where they came from; of originals that were copied a tab, and what is active for\n"
-    "them. A word with a slash is a file; its families are then judged by that file alone.\n"
-    "\n"
-    "  --collection NAME  the families of this collection; may be given more than once\n"
-    "  --folder DIR       take in the fonts below DIR too; may be given more than once\n"
-    "  --json             one JSON array of families instead, always with their files\n"
-    "  --help             show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl status [OPTION]... [FAMILY|FILE]..."}, 21)
+        .paragraph(Texts::tr(
+            "Tells what is available to every program, one line for each family: the name, a tab, "
+            "\"active (copied)\", \"active (registered)\", \"active (system)\", \"partly active\" "
+            "or \"inactive\". Of families that are named it tells of the files too, each on a line "
+            "that begins with a tab: what it is (copied, registered, inactive, system), a tab, the "
+            "file; of copies then a tab, and where they came from; of originals that were copied a "
+            "tab, and what is active for them. A word with a slash is a file; its families are "
+            "then judged by that file alone."))
+        .entries(
+            {{"--collection NAME",
+              Texts::tr("the families of this collection; may be given more than once")},
+             {"--folder DIR",
+              Texts::tr("take in the fonts below DIR too; may be given more than once")},
+             {"--json", Texts::tr("one JSON array of families instead, always with their files")},
+             helpEntry()});
+}
 
 QString classWord(FileActivationClass meaning)
 {
@@ -181,10 +186,8 @@ int runStatusCommand(std::span<const QByteArray> words)
                                                           {"--folder"}});
     if (!arguments)
         return failUsage("status", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     const Result<int> code = run(*arguments);
     return code ? *code : fail("status", code.error());
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/GroupingCommand.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "cli/Words.h"
 #include "model/records/StyleCategories.h"
 #include "model/stores/OrganizationChanges.h"
@@ -12,32 +14,34 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl styles [list [STYLE]] [--json]\n"
-    "       lorvactl styles create NAME [FAMILY]...\n"
-    "       lorvactl styles rename STYLE NAME\n"
-    "       lorvactl styles delete STYLE\n"
-    "       lorvactl styles add|remove|set STYLE FAMILY...\n"
-    "\n"
-    "Lists the styles, one line each: the name, a tab, the number of families; or the families of\n"
-    "one, by name. Changes are seen at once by a window that is open. The window sorts families\n"
-    "into styles by their names once, at its first start.\n"
-    "\n"
-    "  create         a style of your own\n"
-    "  rename         only a style of your own, not one of those that every library has\n"
-    "  delete         likewise; its families are in no style then\n"
-    "  add            moves families there: a family is in one style at most\n"
-    "  remove         takes families out of it; they are in no style then\n"
-    "  set            makes these families its members; those that leave are in no style then\n"
-    "\n"
-    "STYLE is its id, which --json shows, or its name, in any case unless that fits several.\n"
-    "FAMILY is the name of a family of this machine or of a style; a lone - reads names from\n"
-    "standard input, one per line. A command is done whole or not at all.\n"
-    "\n"
-    "  --json         JSON instead of lines\n"
-    "  --missing      take names of families that this machine lacks, for when their fonts come\n"
-    "  --folder DIR   take in the fonts below DIR too, beside those of the watched folders\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl styles [list [STYLE]] [--json]",
+                     "lorvactl styles create NAME [FAMILY]...", "lorvactl styles rename STYLE NAME",
+                     "lorvactl styles delete STYLE",
+                     "lorvactl styles add|remove|set STYLE FAMILY..."})
+        .paragraph(Texts::tr(
+            "Lists the styles, one line each: the name, a tab, the number of families; or the "
+            "families of one, by name. Changes are seen at once by a window that is open. The "
+            "window sorts families into styles by their names once, at its first start."))
+        .entries({{"create", Texts::tr("a style of your own")},
+                  {"rename",
+                   Texts::tr("only a style of your own, not one of those that every library has")},
+                  {"delete", Texts::tr("likewise; its families are in no style then")},
+                  {"add", Texts::tr("moves families there: a family is in one style at most")},
+                  {"remove", Texts::tr("takes families out of it; they are in no style then")},
+                  {"set",
+                   Texts::tr(
+                       "makes these families its members; those that leave are in no style then")}})
+        .paragraph(Texts::tr(
+            "STYLE is its id, which --json shows, or its name, in any case unless that fits "
+            "several. FAMILY is the name of a family of this machine or of a style; a lone - reads "
+            "names from standard input, one per line. A command is done whole or not at all."))
+        .entries({{"--json", Texts::tr("JSON instead of lines")},
+                  missingEntry(),
+                  folderEntry(),
+                  helpEntry()});
+}
 
 std::vector<FontCollectionRecord> categories(const Organization &organization)
 {
@@ -53,8 +57,8 @@ Result<void> checkOwn(const Organization &organization, const QString &id)
     for (const FontStyleCategoryRecord &category : organization.styleCategories) {
         if (category.id == id && isDefaultStyleCategory(id))
             return failure(ErrorKind::invalidValue,
-                           QStringLiteral("every library has the style %1, which cannot be renamed "
-                                          "or deleted")
+                           Texts::tr("every library has the style %1, which cannot be renamed "
+                                     "or deleted")
                                .arg(quoted(category.name)));
     }
     return {};
@@ -100,17 +104,11 @@ Result<void> setMembers(Organization &organization, const QString &id, const QSt
 
 int runStylesCommand(std::span<const QByteArray> words)
 {
-    static const GroupingKind kKind{"styles",
-                                    QStringLiteral("style"),
-                                    OrganizationPart::styles,
-                                    categories,
-                                    createStyleCategory,
-                                    renameStyle,
-                                    deleteStyle,
-                                    addToStyle,
-                                    removeFromStyle,
+    static const GroupingKind kKind{"styles",    kStyleTexts,         OrganizationPart::styles,
+                                    categories,  createStyleCategory, renameStyle,
+                                    deleteStyle, addToStyle,          removeFromStyle,
                                     setMembers};
-    return runGroupingCommand(kKind, kHelp, words);
+    return runGroupingCommand(kKind, help, words);
 }
 
 } // namespace lorva::cli

@@ -3,10 +3,12 @@
 #include "cli/SwitchingCommand.h"
 
 #include "cli/Console.h"
+#include "cli/EnglishTexts.h"
+#include "cli/Texts.h"
 
 namespace lorva::cli {
 
-SwitchingCommand::SwitchingCommand(std::string_view name, QByteArrayView help, QByteArray option)
+SwitchingCommand::SwitchingCommand(std::string_view name, HelpText (*help)(), QByteArray option)
     : m_name(name)
     , m_help(help)
     , m_option(std::move(option))
@@ -28,10 +30,8 @@ int SwitchingCommand::run(std::span<const QByteArray> words)
                                                           {"--folder"}});
     if (!arguments)
         return failUsage(m_name, arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(m_help);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(m_help());
     const Result<int> code = perform(*arguments);
     return code ? *code : fail(m_name, code.error());
 }
@@ -44,7 +44,7 @@ Result<int> SwitchingCommand::perform(const Arguments &arguments)
         return tl::unexpected(request.error());
     if (request->isEmpty())
         return failure(ErrorKind::usage,
-                       QStringLiteral("%1 needs a family, a file or --collection")
+                       Texts::tr("%1 needs a family, a file or --collection")
                            .arg(QLatin1String(m_name.data(), qsizetype(m_name.size()))));
     UserActivation activation(purposeOf(*request));
     if (const auto checked = activation.checkChanged({Part::activation, Part::watchedFolders});
@@ -52,6 +52,8 @@ Result<int> SwitchingCommand::perform(const Arguments &arguments)
         return tl::unexpected(checked.error());
     if (const Result<void> read = readOption(arguments, activation); !read)
         return tl::unexpected(read.error());
+    // A reason is told twice: in JSON, and on standard error.
+    const auto english = englishFor(request->isJson);
     activation.reconcile();
     const Result<ActivationSubjects> found = findSubjects(*request, activation);
     if (!found)

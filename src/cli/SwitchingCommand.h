@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/ActivationReport.h"
+#include "cli/HelpText.h"
 #include "cli/UserActivation.h"
 
 #include <span>
@@ -15,7 +16,7 @@ class SwitchingCommand
 {
 public:
     /// `option`: the one, with a value, that no other command has.
-    SwitchingCommand(std::string_view name, QByteArrayView help, QByteArray option);
+    SwitchingCommand(std::string_view name, HelpText (*help)(), QByteArray option);
     virtual ~SwitchingCommand();
     SwitchingCommand(const SwitchingCommand &) = delete;
     SwitchingCommand &operator=(const SwitchingCommand &) = delete;
@@ -46,7 +47,7 @@ private:
                                UserActivation &activation) const;
 
     const std::string_view m_name;
-    const QByteArrayView m_help;
+    HelpText (*const m_help)();
     const QByteArray m_option;
 };
 

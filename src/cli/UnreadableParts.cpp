@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/UnreadableParts.h"
 
+#include "cli/Texts.h"
 #include "platform/PreferenceStore.h"
 
 #include <algorithm>
@@ -67,12 +68,12 @@ std::vector<UnreadablePart> replacedParts(const std::vector<UnreadablePart> &par
 
 QString textOf(const UnreadablePart &part)
 {
-    return QStringLiteral("the preference %1 cannot be read (%2)").arg(part.key, part.reason);
+    return Texts::tr("the preference %1 cannot be read (%2)").arg(part.key, part.reason);
 }
 
 QString textOfKept(const UnreadablePart &part, const PreferenceStore &preferences)
 {
-    return QStringLiteral("%1; what stood there is kept as %2")
+    return Texts::tr("%1; what stood there is kept as %2")
         .arg(textOf(part), lastKeptKey(part.key, preferences));
 }
 

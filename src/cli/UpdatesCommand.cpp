@@ -4,6 +4,8 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "platform/FeedUpdaterController.h"
 
 #include <QCoreApplication>
@@ -12,20 +14,24 @@ namespace lorva::cli {
 
 namespace {
 
-constexpr char kHelp[] =
-    "Usage: lorvactl updates [--json] [--feed URL] [--key KEY]\n"
-    "\n"
-    "Asks the makers of Lorva over the network whether there is a newer release. Nothing is\n"
-    "downloaded or installed. One line tells that this is the newest; of a newer one the first\n"
-    "line tells version, day and page, and the second, if there is one, what is new. The exit\n"
-    "status is 0 in both cases, and 1 when neither could be found out, as in a build whose\n"
-    "updates come with the system's.\n"
-    "\n"
-    "  --json         one JSON object instead: isNewer, runningVersion, version, date, page,\n"
-    "                 summary\n"
-    "  --feed URL     ask there instead, https or on this computer; to try out a feed\n"
-    "  --key KEY      the feed's Ed25519 key, 32 bytes in Base64, instead of the makers'\n"
-    "  --help         show this help\n";
+HelpText help()
+{
+    return HelpText({"lorvactl updates [--json] [--feed URL] [--key KEY]"})
+        .paragraph(Texts::tr(
+            "Asks the makers of Lorva over the network whether there is a newer release. Nothing "
+            "is downloaded or installed. One line tells that this is the newest; of a newer one "
+            "the first line tells version, day and page, and the second, if there is one, what is "
+            "new. The exit status is 0 in both cases, and 1 when neither could be found out, as in "
+            "a build whose updates come with the system's."))
+        .entries({{"--json",
+                   Texts::tr("one JSON object instead: isNewer, runningVersion, version, date, "
+                             "page, summary")},
+                  {"--feed URL",
+                   Texts::tr("ask there instead, https or on this computer; to try out a feed")},
+                  {"--key KEY",
+                   Texts::tr("the feed's Ed25519 key, 32 bytes in Base64, instead of the makers'")},
+                  helpEntry()});
+}
 
 QString runningVersion()
 {
@@ -38,7 +44,7 @@ Result<ReleaseFeedSettings> wantedFeed(const Arguments &arguments)
     if (const std::optional<QByteArray> address = arguments.value("--feed")) {
         settings.address = QUrl::fromEncoded(*address, QUrl::StrictMode);
         if (settings.address.isEmpty())
-            return failure(ErrorKind::usage, QStringLiteral("--feed needs an address"));
+            return failure(ErrorKind::usage, Texts::tr("--feed needs an address"));
     }
     settings.publicKey = arguments.value("--key").value_or(settings.publicKey);
     return settings;
@@ -67,12 +73,13 @@ QString pageOf(const Release &release)
 void printLines(const Release &release, bool isNewer)
 {
     if (!isNewer) {
-        printText(QStringLiteral("Lorva %1 is up to date\n").arg(runningVersion()));
+        printText(QString(Texts::tr("Lorva %1 is up to date").arg(runningVersion()) % u'\n'));
         return;
     }
-    printText(QStringLiteral("Lorva %1 was released on %2; this is %3: %4\n")
-                  .arg(release.version, release.date.toString(Qt::ISODate), runningVersion(),
-                       pageOf(release)));
+    const QString news = Texts::tr("Lorva %1 was released on %2; this is %3: %4")
+                             .arg(release.version, release.date.toString(Qt::ISODate),
+                                  runningVersion(), pageOf(release));
+    printText(QString(news % u'\n'));
     if (!release.summary.isEmpty())
         printText(QString(singleLine(release.summary) % u'\n'));
 }
@@ -99,7 +106,7 @@ void printJson(const Release &release, bool isNewer)
 Result<void> run(const Arguments &arguments)
 {
     if (!arguments.positional().empty())
-        return failure(ErrorKind::usage, QStringLiteral("updates takes no further words"));
+        return failure(ErrorKind::usage, Texts::tr("updates takes no further words"));
     const Result<ReleaseFeedSettings> settings = wantedFeed(arguments);
     if (!settings)
         return tl::unexpected(settings.error());
@@ -107,8 +114,8 @@ Result<void> run(const Arguments &arguments)
     const Result<void> started = updater.start();
     if (!started && started.error().kind == ErrorKind::unsupported)
         return failure(ErrorKind::unsupported,
-                       QStringLiteral("this build does not look for new versions: the system's "
-                                      "software updates bring them"));
+                       Texts::tr("this build does not look for new versions: the system's "
+                                 "software updates bring them"));
     if (!started)
         return started;
     bool isNewer = false;
@@ -135,10 +142,8 @@ int runUpdatesCommand(std::span<const QByteArray> words)
                                                           {"--key"}});
     if (!arguments)
         return failUsage("updates", arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(kHelp);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (const Result<void> done = run(*arguments); !done)
         return fail("updates", done.error());
     return finish();

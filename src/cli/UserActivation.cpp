@@ -4,6 +4,7 @@
 
 #include "cli/ActivationSubjects.h"
 #include "cli/Console.h"
+#include "cli/Texts.h"
 #include "platform/linux/DesktopTrash.h"
 #include "platform/linux/LinkFolderRegistrar.h"
 #include "platform/linux/XdgFolders.h"
@@ -49,7 +50,7 @@ Result<void> UserActivation::checkShown(std::initializer_list<OrganizationPart> 
         return checked;
     for (const UnreadablePart &each : unreadableParts(m_user.preferences(), shown))
         return failure(ErrorKind::malformed,
-                       QStringLiteral("%1; lorvactl doctor tells more").arg(textOf(each)));
+                       Texts::tr("%1; lorvactl doctor tells more").arg(textOf(each)));
     return {};
 }
 
@@ -58,7 +59,7 @@ Result<void> UserActivation::checkChanged(std::initializer_list<OrganizationPart
     if (const Result<void> checked = m_user.checkRead(); !checked)
         return checked;
     for (const UnreadablePart &each : unreadableParts(m_user.preferences(), changed))
-        warn(QStringLiteral("%1 and counts as absent").arg(textOf(each)));
+        warn(Texts::tr("%1 and counts as absent").arg(textOf(each)));
     return {};
 }
 

@@ -4,6 +4,7 @@
 
 #include "cli/Console.h"
 #include "cli/PreferenceLook.h"
+#include "cli/Texts.h"
 #include "platform/linux/XdgFolders.h"
 #include "platform/PreferenceDatabase.h"
 #include "platform/PreferenceFilesAside.h"
@@ -62,7 +63,7 @@ Result<Organization> UserOrganization::load(std::initializer_list<OrganizationPa
     for (const UnreadablePart &each : unreadableParts(m_preferences)) {
         if (std::find(shown.begin(), shown.end(), each.part) != shown.end())
             return failure(ErrorKind::malformed,
-                           QStringLiteral("%1; lorvactl doctor tells more").arg(textOf(each)));
+                           Texts::tr("%1; lorvactl doctor tells more").arg(textOf(each)));
     }
     Organization organization = m_organization.load();
     if (const Result<void> checked = checkRead(); !checked)
@@ -96,7 +97,7 @@ Result<void> UserOrganization::checkRead() const
     for (const FilePath &aside : preferencesAside(m_file)) {
         if (std::find(m_asideBefore.begin(), m_asideBefore.end(), aside) == m_asideBefore.end())
             return failure(ErrorKind::malformed,
-                           QStringLiteral("%1 could not be read and was moved to %2")
+                           Texts::tr("%1 could not be read and was moved to %2")
                                .arg(m_file.displayText(), aside.displayText()));
     }
     // Where there are none yet, and none can be made, nobody has sorted anything.
@@ -105,7 +106,7 @@ Result<void> UserOrganization::checkRead() const
     const PreferenceStoreStatus status = m_preferences.status();
     if (areWhole(status, m_file))
         return {};
-    return tl::unexpected(failureOf(status, QStringLiteral("the preferences could not be read")));
+    return tl::unexpected(failureOf(status, Texts::tr("the preferences could not be read")));
 }
 
 Result<void> UserOrganization::checkWritten() const
@@ -113,8 +114,7 @@ Result<void> UserOrganization::checkWritten() const
     const PreferenceStoreStatus status = m_preferences.status();
     if (status.waitingChanges == 0)
         return {};
-    return tl::unexpected(
-        failureOf(status, QStringLiteral("the preferences could not be written")));
+    return tl::unexpected(failureOf(status, Texts::tr("the preferences could not be written")));
 }
 
 } // namespace lorva::cli

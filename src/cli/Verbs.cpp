@@ -5,6 +5,7 @@
 #include "cli/Console.h"
 #include "cli/Input.h"
 #include "cli/Library.h"
+#include "cli/Texts.h"
 
 #include <algorithm>
 
@@ -27,7 +28,7 @@ Result<const Verb *> wantedVerb(std::span<const Verb> verbs, const Arguments &ar
     const auto verb = std::find_if(verbs.begin(), verbs.end(),
                                    [&](const Verb &each) { return word == each.name; });
     if (verb == verbs.end())
-        return usage(QStringLiteral("unknown verb ") + QString::fromUtf8(word));
+        return usage(Texts::tr("unknown verb %1").arg(QString::fromUtf8(word)));
     return &*verb;
 }
 
@@ -36,8 +37,8 @@ Result<void> checkOptions(const Verb &verb, const Arguments &arguments)
     const QList<QByteArray> known = verb.options.split(' ');
     for (const char *option : kOptions) {
         if (arguments.has(option) && !known.contains(option))
-            return usage(QStringLiteral("%1 takes no %2")
-                             .arg(QLatin1String(verb.name), QLatin1String(option)));
+            return usage(
+                Texts::tr("%1 takes no %2").arg(QLatin1String(verb.name), QLatin1String(option)));
     }
     return {};
 }
@@ -49,7 +50,7 @@ Result<void> readSubjects(const Verb &verb, std::span<const QByteArray> words, V
         if (!subject)
             return tl::unexpected(subject.error());
         if (subject->isEmpty())
-            return usage(QStringLiteral("%1 takes no empty name").arg(QLatin1String(verb.name)));
+            return usage(Texts::tr("%1 takes no empty name").arg(QLatin1String(verb.name)));
         request.subjects.push_back(*std::move(subject));
     }
     return {};
@@ -61,16 +62,16 @@ Result<void> readWords(const Verb &verb, std::span<const QByteArray> words, Verb
     const bool isShort = words.size() < size_t(verb.leastSubjects)
         || (verb.families == Verb::Families::some && words.size() == subjects);
     if (isShort)
-        return usage(QStringLiteral("%1 needs more words").arg(QLatin1String(verb.name)));
+        return usage(Texts::tr("%1 needs more words").arg(QLatin1String(verb.name)));
     if (verb.families == Verb::Families::none && words.size() > subjects)
-        return usage(QStringLiteral("%1 takes fewer words").arg(QLatin1String(verb.name)));
+        return usage(Texts::tr("%1 takes fewer words").arg(QLatin1String(verb.name)));
     if (Result<void> read = readSubjects(verb, words.first(subjects), request); !read)
         return read;
     Result<QStringList> families = namedFamilies(words.subspan(subjects));
     if (!families)
         return tl::unexpected(families.error());
     if (verb.families == Verb::Families::some && families->isEmpty())
-        return usage(QStringLiteral("%1 needs a family, and standard input names none")
+        return usage(Texts::tr("%1 needs a family, and standard input names none")
                          .arg(QLatin1String(verb.name)));
     request.families = *std::move(families);
     return {};
@@ -108,7 +109,7 @@ Result<void> run(std::span<const Verb> verbs, const Arguments &arguments)
 
 } // namespace
 
-int runVerb(std::string_view command, QByteArrayView help, std::span<const Verb> verbs,
+int runVerb(std::string_view command, HelpText (*help)(), std::span<const Verb> verbs,
             std::span<const QByteArray> words)
 {
     using Value = OptionSpec::Value;
@@ -122,10 +123,8 @@ int runVerb(std::string_view command, QByteArrayView help, std::span<const Verb>
                                                           {"--folder"}});
     if (!arguments)
         return failUsage(command, arguments.error().detail);
-    if (arguments->has("--help") || arguments->has("-h")) {
-        print(help);
-        return finish();
-    }
+    if (arguments->has("--help") || arguments->has("-h"))
+        return showHelp(help());
     if (const Result<void> done = run(verbs, *arguments); !done)
         return fail(command, done.error());
     return finish();

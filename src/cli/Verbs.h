@@ -6,6 +6,7 @@
 #include "base/Result.h"
 #include "cli/Arguments.h"
 #include "cli/FamilyNames.h"
+#include "cli/HelpText.h"
 
 #include <QStringList>
 
@@ -40,7 +41,7 @@ struct Verb
 
 /// Runs the verb that the words begin with, the first one without any, and ends the output; gives
 /// the exit code.
-int runVerb(std::string_view command, QByteArrayView help, std::span<const Verb> verbs,
+int runVerb(std::string_view command, HelpText (*help)(), std::span<const Verb> verbs,
             std::span<const QByteArray> words);
 
 } // namespace lorva::cli

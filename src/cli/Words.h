@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/Texts.h"
+
 #include <QString>
+#include <QStringList>
 
 namespace lorva::cli {
 
@@ -11,19 +14,27 @@ namespace lorva::cli {
 /// As every name stands in a message.
 inline QString quoted(const QString &name)
 {
-    return QStringLiteral("\"%1\"").arg(name);
+    //: a name within a message, in the quotation marks of the language
+    return Texts::tr("\"%1\"").arg(name);
+}
+
+/// The parts one after the other.
+inline QString listed(const QStringList &parts)
+{
+    //: between the parts of a list
+    return parts.join(Texts::tr(", "));
 }
 
 /// "1 family", "2 families".
 inline QString families(qsizetype count)
 {
-    return count == 1 ? QStringLiteral("1 family") : QStringLiteral("%1 families").arg(count);
+    return Texts::tr("%n families", nullptr, int(count));
 }
 
 /// "1 font file", "2 font files".
 inline QString fontFiles(qsizetype count)
 {
-    return count == 1 ? QStringLiteral("1 font file") : QStringLiteral("%1 font files").arg(count);
+    return Texts::tr("%n font files", nullptr, int(count));
 }
 
 } // namespace lorva::cli

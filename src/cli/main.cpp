@@ -3,6 +3,8 @@
 #include "base/Translations.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
+#include "cli/HelpText.h"
+#include "cli/Texts.h"
 #include "platform/UserLanguages.h"
 
 #include <QByteArray>
@@ -14,35 +16,34 @@
 #include <memory>
 #include <vector>
 
+namespace lorva::cli {
+
 namespace {
 
-constexpr char kHelp[] = "Usage: lorvactl COMMAND [OPTION]...\n"
-                         "\n"
-                         "  list         list the font families of this machine\n"
-                         "  search       list those that a search finds\n"
-                         "  scan         read the fonts that changed, and tell what that took\n"
-                         "  info         show what a font file says about its faces\n"
-                         "  specimen     draw text in a font: PNG, SVG or PDF\n"
-                         "\n"
-                         "  collections  list, make and change collections\n"
-                         "  styles       list, make and change styles\n"
-                         "  foundries    list and correct the foundries\n"
-                         "  export       write all of that to a file\n"
-                         "  import       take it in from such a file\n"
-                         "\n"
-                         "  activate     make fonts available to every program\n"
-                         "  deactivate   withdraw them again\n"
-                         "  status       tell what is active, and how\n"
-                         "  folders      list, add and remove watched folders\n"
-                         "  history      tell what was switched on and off, and when\n"
-                         "\n"
-                         "  doctor       tell how preferences, caches and activation fare\n"
-                         "  updates      ask whether there is a newer release of Lorva\n"
-                         "\n"
-                         "  --help       show this help; also after a command\n"
-                         "  --version    show the version\n"
-                         "\n"
-                         "Exit status: 0 done, 1 failed, 2 the command was not understood.\n";
+HelpText help()
+{
+    return HelpText({"lorvactl COMMAND [OPTION]..."}, 15)
+        .entries({{"list", Texts::tr("list the font families of this machine")},
+                  {"search", Texts::tr("list those that a search finds")},
+                  {"scan", Texts::tr("read the fonts that changed, and tell what that took")},
+                  {"info", Texts::tr("show what a font file says about its faces")},
+                  {"specimen", Texts::tr("draw text in a font: PNG, SVG or PDF")}})
+        .entries({{"collections", Texts::tr("list, make and change collections")},
+                  {"styles", Texts::tr("list, make and change styles")},
+                  {"foundries", Texts::tr("list and correct the foundries")},
+                  {"export", Texts::tr("write all of that to a file")},
+                  {"import", Texts::tr("take it in from such a file")}})
+        .entries({{"activate", Texts::tr("make fonts available to every program")},
+                  {"deactivate", Texts::tr("withdraw them again")},
+                  {"status", Texts::tr("tell what is active, and how")},
+                  {"folders", Texts::tr("list, add and remove watched folders")},
+                  {"history", Texts::tr("tell what was switched on and off, and when")}})
+        .entries({{"doctor", Texts::tr("tell how preferences, caches and activation fare")},
+                  {"updates", Texts::tr("ask whether there is a newer release of Lorva")}})
+        .entries({{"--help", Texts::tr("show this help; also after a command")},
+                  {"--version", Texts::tr("show the version")}})
+        .paragraph(Texts::tr("Exit status: 0 done, 1 failed, 2 the command was not understood."));
+}
 
 struct Command
 {
@@ -51,23 +52,15 @@ struct Command
 };
 
 constexpr Command kCommands[]{
-    {"list", lorva::cli::runListCommand},
-    {"search", lorva::cli::runSearchCommand},
-    {"scan", lorva::cli::runScanCommand},
-    {"info", lorva::cli::runInfoCommand},
-    {"specimen", lorva::cli::runSpecimenCommand},
-    {"collections", lorva::cli::runCollectionsCommand},
-    {"styles", lorva::cli::runStylesCommand},
-    {"foundries", lorva::cli::runFoundriesCommand},
-    {"export", lorva::cli::runExportCommand},
-    {"import", lorva::cli::runImportCommand},
-    {"activate", lorva::cli::runActivateCommand},
-    {"deactivate", lorva::cli::runDeactivateCommand},
-    {"status", lorva::cli::runStatusCommand},
-    {"folders", lorva::cli::runFoldersCommand},
-    {"history", lorva::cli::runHistoryCommand},
-    {"doctor", lorva::cli::runDoctorCommand},
-    {"updates", lorva::cli::runUpdatesCommand},
+    {"list", runListCommand},         {"search", runSearchCommand},
+    {"scan", runScanCommand},         {"info", runInfoCommand},
+    {"specimen", runSpecimenCommand}, {"collections", runCollectionsCommand},
+    {"styles", runStylesCommand},     {"foundries", runFoundriesCommand},
+    {"export", runExportCommand},     {"import", runImportCommand},
+    {"activate", runActivateCommand}, {"deactivate", runDeactivateCommand},
+    {"status", runStatusCommand},     {"folders", runFoldersCommand},
+    {"history", runHistoryCommand},   {"doctor", runDoctorCommand},
+    {"updates", runUpdatesCommand},
 };
 
 /// Qt has something to say about locales that are not UTF-8; a command's errors are its own.
@@ -84,11 +77,13 @@ std::unique_ptr<QCoreApplication> makeApplication()
     auto application = std::make_unique<QCoreApplication>(count, arguments);
     qInstallMessageHandler(usual);
     std::setlocale(LC_NUMERIC, "C");
-    lorva::installTranslations(lorva::textLanguageFor(lorva::userLanguages()));
+    installTranslations(textLanguageFor(userLanguages()));
     return application;
 }
 
 } // namespace
+
+} // namespace lorva::cli
 
 int main(int argc, char **argv)
 {
@@ -99,12 +94,10 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules(QStringLiteral("lorva.*.warning=false"));
     const std::vector<QByteArray> words(argv + std::min(argc, 1), argv + argc);
     if (words.empty())
-        return failUsage({}, QStringLiteral("a command is missing"));
+        return failUsage({}, Texts::tr("a command is missing"));
     const QByteArray &first = words.front();
-    if (first == "--help" || first == "-h" || first == "help") {
-        print(kHelp);
-        return finish();
-    }
+    if (first == "--help" || first == "-h" || first == "help")
+        return showHelp(help());
     if (first == "--version") {
         print("lorvactl " LORVA_VERSION "\n");
         return finish();
@@ -112,6 +105,6 @@ int main(int argc, char **argv)
     const auto command = std::find_if(std::begin(kCommands), std::end(kCommands),
                                       [&](const Command &each) { return first == each.name; });
     if (command == std::end(kCommands))
-        return failUsage({}, QStringLiteral("unknown command ") + QString::fromUtf8(first));
+        return failUsage({}, Texts::tr("unknown command %1").arg(QString::fromUtf8(first)));
     return command->run(std::span(words).subspan(1));
 }

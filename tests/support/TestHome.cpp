@@ -70,6 +70,7 @@ void TestHome::setUp()
     ::setenv("FONTCONFIG_FILE", root().child("fonts.conf").c_str(), 1);
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
     ::setenv("LC_ALL", "C.UTF-8", 1);
+    ::unsetenv("LANGUAGE");
 }
 
 FilePath writeFile(const FilePath &folder, const QByteArray &name, const QByteArray &bytes)
