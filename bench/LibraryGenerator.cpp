@@ -58,7 +58,7 @@ Result<void> makeEmptyFolder(const FilePath &folder)
     QDir directory(textOf(folder));
     if (readStamp(folder)) {
         if (!directory.removeRecursively())
-            return systemFailure(errno, "empty", folder);
+            return systemFailure(errno, FileAction::empty, folder);
     } else if (directory.exists()
                && !directory.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System
                                      | QDir::NoDotAndDotDot)) {
@@ -76,12 +76,12 @@ Result<void> writeFile(const FilePath &path, const QByteArray &bytes)
     if (descriptor < 0 && errno == ENOENT && makeFolders(path.parent()))
         descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (descriptor < 0)
-        return systemFailure(errno, "write", path);
+        return systemFailure(errno, FileAction::write, path);
     const ssize_t written = ::write(descriptor, bytes.constData(), size_t(bytes.size()));
     const int code = written < 0 ? errno : ENOSPC;
     ::close(descriptor);
     if (written != bytes.size())
-        return systemFailure(code, "write", path);
+        return systemFailure(code, FileAction::write, path);
     return {};
 }
 

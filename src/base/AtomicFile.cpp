@@ -4,6 +4,7 @@
 
 #include "base/SystemError.h"
 
+#include <QCoreApplication>
 #include <QRandomGenerator>
 
 #include <cerrno>
@@ -19,6 +20,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(AtomicFile)
+};
 
 constexpr int kNameAttempts = 16;
 
@@ -184,15 +190,14 @@ int replace(const FilePath &target, QByteArrayView bytes, Naming naming)
 Result<void> writeFileAtomically(const FilePath &path, QByteArrayView bytes)
 {
     if (isTakenByNoFile(path))
-        return failure(
-            ErrorKind::notRegularFile,
-            QStringLiteral("cannot write %1: not a regular file").arg(path.displayText()));
+        return failure(ErrorKind::notRegularFile,
+                       Texts::tr("cannot write %1: not a regular file").arg(path.displayText()));
     const FilePath target = withLinksFollowed(path);
     int code = replace(target, bytes, Naming::whenWritten);
     if (code != 0)
         code = replace(target, bytes, Naming::atOnce);
     if (code != 0)
-        return systemFailure(code, "write", path);
+        return systemFailure(code, FileAction::write, path);
     flushFolder(target.parent());
     return {};
 }

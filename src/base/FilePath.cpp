@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/FilePath.h"
 
+#include <QCoreApplication>
+
 #include <cstdlib>
 
 #include <unistd.h>
@@ -9,6 +11,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FilePath)
+};
 
 constexpr QByteArrayView kScheme = "file:";
 
@@ -26,12 +33,11 @@ int hexValue(char digit)
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
-tl::unexpected<Error> badUrl(QByteArrayView url, const char *why)
+tl::unexpected<Error> badUrl(QByteArrayView url, const QString &why)
 {
     const QString shown =
         FilePath(url.first(std::min<qsizetype>(url.size(), 200)).toByteArray()).displayText();
-    return failure(ErrorKind::invalidValue,
-                   QStringLiteral("\"%1\" is no file URL: %2").arg(shown, QLatin1String(why)));
+    return failure(ErrorKind::invalidValue, Texts::tr("\"%1\" is no file URL: %2").arg(shown, why));
 }
 
 /// Takes "//host" off the front of what follows the scheme; false for a host that is not this
@@ -87,19 +93,19 @@ Result<FilePath> FilePath::fromUrl(QByteArrayView url)
 {
     if (url.size() < kScheme.size()
         || url.first(kScheme.size()).compare(kScheme, Qt::CaseInsensitive) != 0)
-        return badUrl(url, "it does not begin with file:");
+        return badUrl(url, Texts::tr("it does not begin with file:"));
     QByteArrayView rest = url.sliced(kScheme.size());
     if (!dropAuthority(rest))
-        return badUrl(url, "it names another host");
+        return badUrl(url, Texts::tr("it names another host"));
     if (!rest.startsWith('/'))
-        return badUrl(url, "its path is not absolute");
+        return badUrl(url, Texts::tr("its path is not absolute"));
     if (rest.contains('?') || rest.contains('#'))
-        return badUrl(url, "it has a query or a fragment");
+        return badUrl(url, Texts::tr("it has a query or a fragment"));
     std::optional<QByteArray> bytes = percentDecoded(rest);
     if (!bytes)
-        return badUrl(url, "it has a broken percent escape");
+        return badUrl(url, Texts::tr("it has a broken percent escape"));
     if (bytes->contains('\0'))
-        return badUrl(url, "it contains a NUL");
+        return badUrl(url, Texts::tr("it contains a NUL"));
     return FilePath(*std::move(bytes));
 }
 

@@ -6,6 +6,7 @@
 #include "base/JsonReader.h"
 #include "base/JsonWriter.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 
@@ -170,7 +171,8 @@ void readJsonName(JsonReader &in, JsonNames<E> names, E &out)
     if (const std::optional<E> value = fromJsonName(names, text.bytes))
         out = *value;
     else
-        in.fail(ErrorKind::invalidValue, QStringLiteral("unknown value"));
+        in.fail(ErrorKind::invalidValue,
+                QCoreApplication::translate("JsonReader", "unknown value"));
 }
 
 /// Decodes a whole document; nothing is built from a damaged one.
@@ -261,7 +263,8 @@ void readJson(JsonReader &in, T &out)
     qint64 value = 0;
     in.read(value);
     if (!std::in_range<T>(value))
-        in.fail(ErrorKind::invalidValue, QStringLiteral("the integer is out of range"));
+        in.fail(ErrorKind::invalidValue,
+                QCoreApplication::translate("JsonReader", "the integer is out of range"));
     else
         out = T(value);
 }
@@ -289,7 +292,8 @@ void readJsonMap(JsonReader &in, Map &out)
     in.readObject([&](std::string_view key) {
         const QString name = QString::fromUtf8(key.data(), qsizetype(key.size()));
         if (out.contains(name))
-            in.fail(ErrorKind::malformed, QStringLiteral("duplicate key"));
+            in.fail(ErrorKind::malformed,
+                    QCoreApplication::translate("JsonReader", "duplicate key"));
         else
             readJson(in, out[name]);
     });

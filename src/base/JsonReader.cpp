@@ -5,6 +5,8 @@
 #include "base/JsonFieldFinder.h"
 #include "base/JsonPlace.h"
 
+#include <QCoreApplication>
+
 #include <simdjson.h>
 
 #include <cstring>
@@ -16,26 +18,31 @@ namespace ondemand = simdjson::ondemand;
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JsonReader)
+};
+
 constexpr qsizetype kPadding = simdjson::SIMDJSON_PADDING;
 
 QString malformedText(simdjson::error_code code)
 {
     switch (code) {
     case simdjson::EMPTY:
-        return QStringLiteral("the document is empty");
+        return Texts::tr("the document is empty");
     case simdjson::UTF8_ERROR:
-        return QStringLiteral("invalid UTF-8");
+        return Texts::tr("invalid UTF-8");
     case simdjson::UNESCAPED_CHARS:
-        return QStringLiteral("control character in a string");
+        return Texts::tr("control character in a string");
     case simdjson::UNCLOSED_STRING:
-        return QStringLiteral("unclosed string");
+        return Texts::tr("unclosed string");
     case simdjson::STRING_ERROR:
-        return QStringLiteral("broken escape in a string");
+        return Texts::tr("broken escape in a string");
     case simdjson::CAPACITY:
     case simdjson::MEMALLOC:
-        return QStringLiteral("the document is too large");
+        return Texts::tr("the document is too large");
     default:
-        return QStringLiteral("malformed JSON");
+        return Texts::tr("malformed JSON");
     }
 }
 
@@ -94,15 +101,12 @@ struct JsonReader::Impl
     }
 
     /// For a container that does not open: it may be another type, or cut off.
-    void failOpening(simdjson::error_code code, const char *expected)
+    void failOpening(simdjson::error_code code, const QString &expected)
     {
         code == simdjson::INCORRECT_TYPE ? failType(expected) : failMalformed(code);
     }
 
-    void failType(const char *expected)
-    {
-        fail(ErrorKind::typeMismatch, QLatin1String("expected ") + QLatin1String(expected));
-    }
+    void failType(const QString &expected) { fail(ErrorKind::typeMismatch, expected); }
 
     void wrapPlace(const QString &outer) { place = joinedPlace(outer, place); }
 
@@ -112,7 +116,7 @@ struct JsonReader::Impl
         if (error)
             return false;
         if (!isWaiting)
-            fail(ErrorKind::usage, QStringLiteral("the value was read already"));
+            fail(ErrorKind::usage, Texts::tr("the value was read already"));
         return std::exchange(isWaiting, false);
     }
 
@@ -127,7 +131,7 @@ struct JsonReader::Impl
     {
         if (++depth <= kMaxDepth)
             return true;
-        fail(ErrorKind::malformed, QStringLiteral("nested too deeply"));
+        fail(ErrorKind::malformed, Texts::tr("nested too deeply"));
         return false;
     }
 
@@ -155,7 +159,7 @@ std::optional<std::string_view> JsonReader::Impl::takeString()
 {
     const std::string_view raw = token();
     if (!raw.starts_with('"')) {
-        failType("a string");
+        failType(Texts::tr("expected a string"));
         return std::nullopt;
     }
     // Nearly all strings hold no escape, so they can be read where they lie.
@@ -279,9 +283,9 @@ void JsonReader::read(qint64 &out)
     if (!m_impl->withValue([](auto &each) { return each.get_int64(); }).get(value))
         out = value;
     else if (looksLikeInteger(m_impl->token()))
-        m_impl->fail(ErrorKind::invalidValue, QStringLiteral("the integer is out of range"));
+        m_impl->fail(ErrorKind::invalidValue, Texts::tr("the integer is out of range"));
     else
-        m_impl->failType("an integer");
+        m_impl->failType(Texts::tr("expected an integer"));
 }
 
 void JsonReader::read(double &out)
@@ -289,7 +293,7 @@ void JsonReader::read(double &out)
     if (!m_impl->take())
         return;
     if (m_impl->withValue([](auto &each) { return each.get_double(); }).get(out))
-        m_impl->failType("a number");
+        m_impl->failType(Texts::tr("expected a number"));
 }
 
 void JsonReader::read(bool &out)
@@ -297,7 +301,7 @@ void JsonReader::read(bool &out)
     if (!m_impl->take())
         return;
     if (m_impl->withValue([](auto &each) { return each.get_bool(); }).get(out))
-        m_impl->failType("true or false");
+        m_impl->failType(Texts::tr("expected true or false"));
 }
 
 void JsonReader::readData(QByteArray &out)
@@ -314,7 +318,7 @@ void JsonReader::readData(QByteArray &out)
     if (decoded && isPadded)
         out = *decoded;
     else
-        fail(ErrorKind::invalidValue, QStringLiteral("broken base64"));
+        fail(ErrorKind::invalidValue, Texts::tr("broken base64"));
 }
 
 bool JsonReader::readNull()
@@ -351,7 +355,7 @@ void JsonReader::readElements(void *function, void (*call)(void *))
     if (!impl.take() || !impl.enter())
         return;
     if (const auto code = impl.withValue([](auto &each) { return each.get_array(); }).get(array))
-        return impl.failOpening(code, "an array");
+        return impl.failOpening(code, Texts::tr("expected an array"));
     qsizetype index = 0;
     for (auto element : array) {
         ondemand::value value;
@@ -375,7 +379,7 @@ void JsonReader::readMembers(void *function, void (*call)(void *, std::string_vi
     if (!impl.take() || !impl.enter())
         return;
     if (const auto code = impl.withValue([](auto &each) { return each.get_object(); }).get(object))
-        return impl.failOpening(code, "an object");
+        return impl.failOpening(code, Texts::tr("expected an object"));
     for (auto each : object) {
         ondemand::field field;
         if (const auto code = std::move(each).get(field))
@@ -400,7 +404,7 @@ void JsonReader::readFields(std::span<const JsonField> fields)
     if (!impl.take() || !impl.enter())
         return;
     if (const auto code = impl.withValue([](auto &each) { return each.get_object(); }).get(object))
-        return impl.failOpening(code, "an object");
+        return impl.failOpening(code, Texts::tr("expected an object"));
     FieldFinder finder(fields);
     for (auto each : object) {
         ondemand::field field;
@@ -426,12 +430,13 @@ void JsonReader::readFields(std::span<const JsonField> fields)
         else if (finder.markSeen(index))
             fields[index].read(*this, fields[index].target);
         else
-            impl.fail(ErrorKind::malformed, QStringLiteral("duplicate key"));
+            impl.fail(ErrorKind::malformed, Texts::tr("duplicate key"));
         if (impl.error)
             return impl.wrapPlace(placeOfKey(name));
     }
     if (const JsonField *missing = finder.firstMissing())
-        impl.fail(ErrorKind::missingKey, QStringLiteral("missing"), placeOfKey(missing->name));
+        //: A key that must be there, in a JSON document.
+        impl.fail(ErrorKind::missingKey, Texts::tr("missing"), placeOfKey(missing->name));
     --impl.depth;
 }
 
@@ -449,13 +454,14 @@ std::optional<Error> JsonReader::finish()
 {
     Impl &impl = *m_impl;
     if (!impl.error && impl.isWaiting)
-        impl.fail(ErrorKind::usage, QStringLiteral("nothing was read"));
+        impl.fail(ErrorKind::usage, Texts::tr("nothing was read"));
     // At the end, and only there, the document has no place to stand any more.
     if (!impl.error && impl.document.current_location().error() != simdjson::OUT_OF_BOUNDS)
-        impl.fail(ErrorKind::malformed, QStringLiteral("text after the end"));
+        impl.fail(ErrorKind::malformed, Texts::tr("text after the end"));
     if (!impl.error || impl.place.isEmpty())
         return impl.error;
-    return Error{impl.error->kind, impl.place + QLatin1String(": ") + impl.error->detail};
+    //: A place in a JSON document, and what is wrong there.
+    return Error{impl.error->kind, Texts::tr("%1: %2").arg(impl.place, impl.error->detail)};
 }
 
 } // namespace lorva

@@ -24,8 +24,8 @@ enum class ErrorKind {
     invalidValue,
 };
 
-/// One failure. `detail` is one line in English without a final full stop, fit to follow "lorvactl:
-/// ".
+/// One failure. `detail` is one line in the user's language without a final full stop, fit to
+/// follow "lorvactl: ".
 struct Error
 {
     ErrorKind kind = ErrorKind::ioFailure;

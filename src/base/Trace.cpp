@@ -5,6 +5,8 @@
 #include "base/JsonWriter.h"
 #include "base/SystemError.h"
 
+#include <QCoreApplication>
+
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
@@ -20,6 +22,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Trace)
+};
 
 constexpr int kOff = -1;
 constexpr int kNotAsked = -2;
@@ -42,7 +49,7 @@ Result<int> openTraceFile(const FilePath &path)
     constexpr int kFlags = O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     const int descriptor = ::open(path.c_str(), kFlags, 0600);
     if (descriptor < 0)
-        return systemFailure(errno, "write the trace", path);
+        return systemFailure(errno, FileAction::writeTrace, path);
     struct stat info
     {
     };
@@ -52,10 +59,10 @@ Result<int> openTraceFile(const FilePath &path)
     const int code = errno;
     ::close(descriptor);
     if (isRegular)
-        return systemFailure(code, "empty the trace", path);
+        return systemFailure(code, FileAction::emptyTrace, path);
     return failure(
         ErrorKind::notRegularFile,
-        QStringLiteral("cannot write the trace %1: not a regular file").arg(path.displayText()));
+        Texts::tr("cannot write the trace %1: not a regular file").arg(path.displayText()));
 }
 
 /// One call for one piece, so that pieces of several threads never mix and none is lost with the

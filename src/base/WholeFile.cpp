@@ -5,6 +5,8 @@
 #include "base/AtomicFile.h"
 #include "base/SystemError.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 
 #include <fcntl.h>
@@ -14,6 +16,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(WholeFile)
+};
 
 /// Space behind the bytes, so that a reader that appends a little to them need not move them.
 constexpr qint64 kSpareBytes = 256;
@@ -40,18 +47,18 @@ private:
     const int m_number;
 };
 
-tl::unexpected<Error> notRegular(const FilePath &path, const char *what)
+tl::unexpected<Error> notRegular(const FilePath &path)
 {
     return failure(ErrorKind::notRegularFile,
-                   QStringLiteral("%1 %2").arg(path.displayText(), QLatin1String(what)));
+                   Texts::tr("%1 is not a regular file").arg(path.displayText()));
 }
 
 tl::unexpected<Error> openFailure(int code, const FilePath &path)
 {
     // Sockets, and devices that are not there.
     if (code == ENXIO || code == ENODEV)
-        return notRegular(path, "is not a regular file");
-    return systemFailure(code, "read", path);
+        return notRegular(path);
+    return systemFailure(code, FileAction::read, path);
 }
 
 /// Reads until `bytes` is full or the file ends; 0 or the system's error number.
@@ -96,17 +103,17 @@ Result<QByteArray> readWholeFile(const FilePath &path, qint64 mostBytes)
         return openFailure(errno, path);
     struct stat info;
     if (::fstat(file.number(), &info) != 0)
-        return systemFailure(errno, "read", path);
+        return systemFailure(errno, FileAction::read, path);
     if (!S_ISREG(info.st_mode))
-        return notRegular(path, "is not a regular file");
+        return notRegular(path);
     // Before anything is allocated.
     if (info.st_size > mostBytes)
-        return systemFailure(EFBIG, "read", path);
+        return systemFailure(EFBIG, FileAction::read, path);
     QByteArray bytes;
     bytes.reserve(info.st_size + kSpareBytes);
     bytes.resize(info.st_size);
     if (const int code = fill(file, bytes))
-        return systemFailure(code, "read", path);
+        return systemFailure(code, FileAction::read, path);
     return bytes;
 }
 
@@ -129,8 +136,10 @@ Result<void> makeFolders(const FilePath &folder)
     if (code == 0)
         return {};
     if (code == EEXIST || code == ENOTDIR)
-        return notRegular(folder, "cannot be made: a file has that name");
-    return systemFailure(code, "make", folder);
+        return failure(
+            ErrorKind::notRegularFile,
+            Texts::tr("%1 cannot be made: a file has that name").arg(folder.displayText()));
+    return systemFailure(code, FileAction::make, folder);
 }
 
 } // namespace lorva

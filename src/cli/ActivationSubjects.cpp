@@ -141,11 +141,11 @@ std::optional<QString> whyUnusable(const FilePath &file)
     struct stat info;
     if (::stat(file.c_str(), &info) != 0)
         return errno == ENOENT ? Texts::tr("File not found")
-                               : systemFailure(errno, "read", file).value().detail;
+                               : systemFailure(errno, FileAction::read, file).value().detail;
     if (S_ISDIR(info.st_mode))
         return Texts::tr("this is a folder; name the font files in it");
     if (::access(file.c_str(), R_OK) != 0)
-        return systemFailure(errno, "read", file).value().detail;
+        return systemFailure(errno, FileAction::read, file).value().detail;
     return std::nullopt;
 }
 

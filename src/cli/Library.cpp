@@ -24,7 +24,7 @@ tl::unexpected<Error> folderFailure(int code, const FilePath &folder)
     if (code == ENOENT)
         return failure(ErrorKind::notFound,
                        Texts::tr("there is no folder %1").arg(folder.displayText()));
-    return systemFailure(code, "read", folder);
+    return systemFailure(code, FileAction::read, folder);
 }
 
 /// Looks without opening the preferences: a command that lists fonts makes, mends and locks

@@ -165,7 +165,7 @@ Result<void> checkAccess(const FilePath &path, int mode)
 {
     if (::faccessat(AT_FDCWD, path.c_str(), mode, AT_EACCESS) == 0)
         return {};
-    return systemFailure(errno, "write", path);
+    return systemFailure(errno, FileAction::write, path);
 }
 
 /// The file itself, which may yet have to be made.
@@ -173,7 +173,7 @@ Result<void> checkFile(const FilePath &file)
 {
     struct stat info = {};
     if (::stat(file.c_str(), &info) != 0)
-        return errno == ENOENT ? Result<void>() : systemFailure(errno, "look at", file);
+        return errno == ENOENT ? Result<void>() : systemFailure(errno, FileAction::lookAt, file);
     if (!S_ISREG(info.st_mode))
         return failure(ErrorKind::notRegularFile,
                        Texts::tr("%1 is no regular file").arg(file.displayText()));
@@ -192,7 +192,7 @@ Result<void> checkSpace(const FilePath &folder)
 {
     struct statvfs info = {};
     if (::statvfs(folder.c_str(), &info) != 0)
-        return systemFailure(errno, "look at", folder);
+        return systemFailure(errno, FileAction::lookAt, folder);
     if (quint64(info.f_bavail) * info.f_frsize >= kLeastFreeBytes)
         return {};
     return failure(ErrorKind::ioFailure,

@@ -236,7 +236,7 @@ Result<void> ActivationHistory::append(const ActivationHistoryEntry &entry) cons
     const QByteArray line = lineOf(entry);
     const tl::expected<qint64, int> size = appendLine(m_file, line);
     if (!size)
-        return systemFailure(size.error(), "write", m_file);
+        return systemFailure(size.error(), FileAction::write, m_file);
     if (*size <= kLargestSize)
         return {};
     // What is larger than anything of ours is somebody else's, and not worth keeping.

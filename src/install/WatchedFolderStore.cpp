@@ -6,6 +6,7 @@
 #include "install/FolderEntries.h"
 #include "model/stores/StoredValue.h"
 
+#include <QCoreApplication>
 #include <QUuid>
 
 #include <algorithm>
@@ -18,6 +19,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(WatchedFolderStore)
+};
 
 using Folders = std::vector<WatchedFolder>;
 
@@ -130,10 +136,10 @@ Result<FilePath> resolvedFolder(const FilePath &folder)
     struct stat info;
     const std::optional<FilePath> path = realPath(folder);
     if (!path || ::stat(path->c_str(), &info) != 0)
-        return systemFailure(errno, "find", folder);
+        return systemFailure(errno, FileAction::find, folder);
     if (!S_ISDIR(info.st_mode))
         return failure(ErrorKind::notRegularFile,
-                       QStringLiteral("%1 is no folder").arg(folder.displayText()));
+                       Texts::tr("%1 is no folder").arg(folder.displayText()));
     return *path;
 }
 

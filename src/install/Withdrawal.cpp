@@ -13,6 +13,8 @@
 #include "platform/FolderEntries.h"
 #include "platform/Trash.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cerrno>
 #include <set>
@@ -23,6 +25,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Withdrawal)
+};
 
 /// What the run is to do, sorted out before the first file is touched.
 struct WithdrawalPlan
@@ -264,17 +271,17 @@ Result<void> checkDestination(const FilePath &destination, const PlatformFolders
     struct stat info;
     if (::stat(existing.c_str(), &info) == 0 && !S_ISDIR(info.st_mode))
         return failure(ErrorKind::invalidValue,
-                       QString(existing.displayText() % QStringLiteral(" is no folder")));
+                       Texts::tr("%1 is no folder").arg(existing.displayText()));
     const FontPlaces places(folders);
     // What is to be made in a folder that exists may be a Fonts folder as well.
     for (const FilePath &folder : {existing, destination}) {
         if (places.placeOf(folder.child("font")) != FontPlace::elsewhere)
             return failure(ErrorKind::invalidValue,
-                           QStringLiteral("%1 lies in a Fonts folder, where fonts are active")
+                           Texts::tr("%1 lies in a Fonts folder, where fonts are active")
                                .arg(destination.displayText()));
     }
     if (::access(existing.c_str(), W_OK | X_OK) != 0)
-        return systemFailure(errno, "write into", existing);
+        return systemFailure(errno, FileAction::writeInto, existing);
     return {};
 }
 

@@ -7,6 +7,7 @@
 #include "platform/FolderEntries.h"
 #include "platform/NewFile.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -28,12 +29,17 @@ Q_LOGGING_CATEGORY(fileTransferLog, "lorva.platform.transfer", QtWarningMsg)
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FileTransfer)
+};
+
 // O_NONBLOCK: opening a FIFO that nobody writes to would wait for ever.
 constexpr int kReadFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
 constexpr size_t kBlockBytes = 131072;
 
 /// For callers a file that grows past a limit is a disk that is full.
-tl::unexpected<Error> transferFailure(int code, const char *action, const FilePath &path)
+tl::unexpected<Error> transferFailure(int code, FileAction action, const FilePath &path)
 {
     tl::unexpected<Error> failed = systemFailure(code, action, path);
     if (failed.value().kind == ErrorKind::tooLarge)
@@ -44,13 +50,13 @@ tl::unexpected<Error> transferFailure(int code, const char *action, const FilePa
 tl::unexpected<Error> notRegular(const FilePath &path)
 {
     return failure(ErrorKind::notRegularFile,
-                   QStringLiteral("%1 is not a regular file").arg(path.displayText()));
+                   Texts::tr("%1 is not a regular file").arg(path.displayText()));
 }
 
 tl::unexpected<Error> changedMeanwhile(const FilePath &path)
 {
     return failure(ErrorKind::ioFailure,
-                   QStringLiteral("%1 changed while it was read").arg(path.displayText()));
+                   Texts::tr("%1 changed while it was read").arg(path.displayText()));
 }
 
 struct Source
@@ -66,7 +72,7 @@ Result<Source> openSource(const FilePath &path)
     if (!source.file.isOpen() && (errno == ENXIO || errno == ENODEV))
         return notRegular(path);
     if (!source.file.isOpen() || ::fstat(source.file.number(), &source.info) != 0)
-        return transferFailure(errno, "read", path);
+        return transferFailure(errno, FileAction::read, path);
     if (!S_ISREG(source.info.st_mode))
         return notRegular(path);
     return source;
@@ -89,7 +95,7 @@ std::optional<Result<Transfer>> lookAtDestination(const FilePath &path)
         return Transfer::destinationExists;
     if (errno == ENOENT)
         return std::nullopt;
-    return transferFailure(errno, "write", path);
+    return transferFailure(errno, FileAction::write, path);
 }
 
 /// Until the new name is on the disk, the source may not go; so without that there is no copy.
@@ -99,7 +105,7 @@ Result<Transfer> flushName(const FilePath &destination)
     if (code == 0)
         return Transfer::done;
     ::unlink(destination.c_str());
-    return transferFailure(code, "write", destination);
+    return transferFailure(code, FileAction::write, destination);
 }
 
 /// An outcome, or why this way of naming does not work in that folder: then another may be tried.
@@ -113,12 +119,12 @@ Result<Transfer> fill(NewFile &copy, const Source &source, const FilePath &from,
 {
     if (const NewFile::Failure failed = copy.fillFrom(source.file.number(), source.info.st_size);
         failed.code != 0)
-        return transferFailure(failed.code, failed.isSource ? "read" : "write",
+        return transferFailure(failed.code, failed.isSource ? FileAction::read : FileAction::write,
                                failed.isSource ? from : to);
     if (copy.size() != source.info.st_size || !isUnchanged(source))
         return changedMeanwhile(from);
     if (const int code = copy.flush(source.info.st_mtim))
-        return transferFailure(code, "write", to);
+        return transferFailure(code, FileAction::write, to);
     return Transfer::done;
 }
 
@@ -129,7 +135,7 @@ Attempt copyAs(NewFile::Naming naming, const Source &source, const FilePath &fro
     if (const int code = copy.create(to.parent()))
         return {std::nullopt, code};
     if (::lseek(source.file.number(), 0, SEEK_SET) != 0)
-        return {transferFailure(errno, "read", from)};
+        return {transferFailure(errno, FileAction::read, from)};
     if (const Result<Transfer> filled = fill(copy, source, from, to); !filled)
         return {filled};
     const int code = copy.takeName(to);
@@ -188,7 +194,7 @@ void forgetCachedBytes(const FilePath &path)
 Result<Transfer> removeSource(const FilePath &source, const FilePath &destination)
 {
     if (::unlink(source.c_str()) != 0)
-        return withdraw(destination, transferFailure(errno, "remove", source));
+        return withdraw(destination, transferFailure(errno, FileAction::remove, source));
     std::ignore = flushFolder(source.parent());
     return Transfer::done;
 }
@@ -200,10 +206,11 @@ Result<Transfer> moveFileAcross(const FilePath &source, const FilePath &destinat
         return copied;
     forgetCachedBytes(destination);
     if (!haveEqualBytes(source, destination))
-        return withdraw(destination,
-                        failure(ErrorKind::ioFailure,
-                                QStringLiteral("the copy %1 differs from its source")
-                                    .arg(destination.displayText())));
+        return withdraw(
+            destination,
+            failure(
+                ErrorKind::ioFailure,
+                Texts::tr("the copy %1 differs from its source").arg(destination.displayText())));
     return removeSource(source, destination);
 }
 
@@ -220,12 +227,12 @@ Result<Transfer> moveLinkAcross(const FilePath &source, const FilePath &destinat
 {
     std::optional<QByteArray> target = linkTarget(source);
     if (!target)
-        return transferFailure(errno, "read", source);
+        return transferFailure(errno, FileAction::read, source);
     if (!target->startsWith('/'))
         target = source.parent().child(*target).bytes();
     if (::symlink(target->constData(), destination.c_str()) != 0)
         return errno == EEXIST ? Result<Transfer>(Transfer::destinationExists)
-                               : transferFailure(errno, "write", destination);
+                               : transferFailure(errno, FileAction::write, destination);
     if (const Result<Transfer> flushed = flushName(destination); !flushed)
         return flushed;
     return removeSource(source, destination);
@@ -241,7 +248,7 @@ Result<Transfer> moveAcross(const FilePath &source, const FilePath &destination)
 {
     struct stat info;
     if (::lstat(source.c_str(), &info) != 0)
-        return transferFailure(errno, "move", source);
+        return transferFailure(errno, FileAction::move, source);
     if (S_ISLNK(info.st_mode))
         return moveLinkAcross(source, destination);
     return S_ISREG(info.st_mode) ? moveFileAcross(source, destination) : notRegular(source);
@@ -269,7 +276,7 @@ Result<Transfer> copyToNewFile(const FilePath &source, const FilePath &destinati
         attempt = copyAs(NewFile::Naming::atOnce, *opened, source, destination);
     if (attempt.outcome)
         return *std::move(attempt.outcome);
-    return transferFailure(attempt.namingCode, "write", destination);
+    return transferFailure(attempt.namingCode, FileAction::write, destination);
 }
 
 Result<Transfer> moveToNewFile(const FilePath &source, const FilePath &destination)
@@ -282,7 +289,7 @@ Result<Transfer> moveToNewFile(const FilePath &source, const FilePath &destinati
     if (code == EXDEV)
         return moveAcross(source, destination);
     if (code != 0)
-        return transferFailure(code, "move", source);
+        return transferFailure(code, FileAction::move, source);
     flushBothFolders(source, destination);
     return Transfer::done;
 }

@@ -6,6 +6,7 @@
 #include "base/WholeFile.h"
 #include "platform/FileDescriptor.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 
 #include <algorithm>
@@ -21,6 +22,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RunLock)
+};
 
 using namespace std::chrono_literals;
 
@@ -88,14 +94,14 @@ Result<RunLock> RunLock::take(const FilePath &file, std::chrono::milliseconds pa
     for (;;) {
         FileDescriptor opened = openLockFile(file);
         if (!opened.isOpen())
-            return systemFailure(errno, "lock", file);
+            return systemFailure(errno, FileAction::lock, file);
         const Attempt attempt = tryLock(opened.number(), file);
         if (attempt == Attempt::got)
             return RunLock(opened.release());
         if (deadline.hasExpired() || stop.stop_requested())
             return failure(
                 ErrorKind::cancelled,
-                QStringLiteral("cannot lock %1: another process holds it").arg(file.displayText()));
+                Texts::tr("cannot lock %1: another process holds it").arg(file.displayText()));
         std::this_thread::sleep_for(
             std::min(kPause, std::chrono::milliseconds(deadline.remainingTime() + 1)));
     }

@@ -6,6 +6,8 @@
 #include "platform/linux/TrashFolder.h"
 #include "platform/linux/XdgFolders.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
@@ -19,16 +21,21 @@ namespace lorva {
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(DesktopTrash)
+};
+
 tl::unexpected<Error> hasNoTrash(const FilePath &file)
 {
     return failure(
         ErrorKind::unsupported,
-        QStringLiteral("cannot move %1 to the Trash: its volume has none").arg(file.displayText()));
+        Texts::tr("cannot move %1 to the Trash: its volume has none").arg(file.displayText()));
 }
 
 tl::unexpected<Error> trashFailure(int code, const FilePath &file)
 {
-    tl::unexpected<Error> failed = systemFailure(code, "move to the Trash", file);
+    tl::unexpected<Error> failed = systemFailure(code, FileAction::moveToTrash, file);
     // That is about the note on the file; whoever calls is told what became of the file.
     if (failed.value().kind == ErrorKind::tooLarge)
         failed.value().kind = ErrorKind::ioFailure;
@@ -66,9 +73,9 @@ tl::unexpected<Error> giveBackFailure(int code, const FilePath &place, const Fil
 {
     if (code == EEXIST)
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("cannot take %1 from the Trash: the name is taken")
+                       Texts::tr("cannot take %1 from the Trash: the name is taken")
                            .arg(destination.displayText()));
-    tl::unexpected<Error> failed = systemFailure(code, "take from the Trash", place);
+    tl::unexpected<Error> failed = systemFailure(code, FileAction::takeFromTrash, place);
     const bool isAboutDestination = failed.value().kind == ErrorKind::notFound
         && place.parent().fileName() == "files" && isThere(place);
     if (isAboutDestination || failed.value().kind == ErrorKind::notRegularFile)
@@ -103,7 +110,7 @@ Result<FilePath> realFolderOf(const FilePath &file)
     };
     const std::unique_ptr<char, FreeMemory> real(::realpath(file.parent().c_str(), nullptr));
     if (!real)
-        return systemFailure(errno, "find", file);
+        return systemFailure(errno, FileAction::find, file);
     return FilePath(QByteArray(real.get()));
 }
 
@@ -168,7 +175,7 @@ Result<FilePath> DesktopTrash::moveToTrash(const FilePath &file)
 {
     struct stat info;
     if (::lstat(file.c_str(), &info) != 0)
-        return systemFailure(errno, "find", file);
+        return systemFailure(errno, FileAction::find, file);
     const Result<FilePath> folder = realFolderOf(file);
     if (!folder)
         return tl::unexpected(folder.error());

@@ -104,7 +104,7 @@ Result<void> BackgroundImageStore::remove(const QString &fileName) const
         return {};
     if (errno == ENOENT)
         return noSuchImage();
-    return systemFailure(errno, "remove", file);
+    return systemFailure(errno, FileAction::remove, file);
 }
 
 } // namespace lorva
