@@ -3,6 +3,7 @@
 
 #include "platform/FeedDownload.h"
 
+#include <QCoreApplication>
 #include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -13,6 +14,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FeedDownload)
+};
 
 constexpr int kMostRedirects = 3;
 
@@ -59,14 +65,14 @@ tl::unexpected<Error> connectionFailure(const QNetworkReply &reply)
 {
     const bool isImpostor = reply.error() == QNetworkReply::SslHandshakeFailedError;
     return failure(isImpostor ? ErrorKind::permissionDenied : ErrorKind::ioFailure,
-                   QStringLiteral("cannot read the release feed: %1").arg(reply.errorString()));
+                   Texts::tr("cannot read the release feed: %1").arg(reply.errorString()));
 }
 
 tl::unexpected<Error> noFile(int status)
 {
     return failure(
         ErrorKind::notFound,
-        QStringLiteral("the release server gives no feed: it answers with status %1").arg(status));
+        Texts::tr("the release server gives no feed: it answers with status %1").arg(status));
 }
 
 } // namespace
@@ -76,14 +82,14 @@ Result<void> checkDownloadAddress(const QUrl &address)
     const bool isHttp = address.scheme() == QLatin1String("http");
     if (!address.isValid() || address.host().isEmpty() || (!isHttp && !isHttps(address)))
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("the release feed's address is no https address"));
+                       Texts::tr("the release feed's address is no https address"));
     if (!address.userInfo().isEmpty())
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("the release feed's address has a name or password in it"));
+                       Texts::tr("the release feed's address has a name or password in it"));
     if (isHttp && !isThisComputer(address))
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("the release feed's address is not secure: it must begin "
-                                      "with https"));
+                       Texts::tr("the release feed's address is not secure: it must begin "
+                                 "with https"));
     return {};
 }
 
@@ -93,7 +99,7 @@ Result<void> checkRedirect(const QUrl &from, const QUrl &to)
     const bool comesHome = isThisComputer(to) && !isThisComputer(from);
     if (!checkDownloadAddress(to) || isWeaker || comesHome)
         return failure(ErrorKind::permissionDenied,
-                       QStringLiteral("the release server leads to an address that is not secure"));
+                       Texts::tr("the release server leads to an address that is not secure"));
     return {};
 }
 
@@ -104,8 +110,8 @@ FeedDownload::FeedDownload(Wanted wanted, Done done)
 {
     m_patience.setSingleShot(true);
     QObject::connect(&m_patience, &QTimer::timeout, m_network.get(), [this] {
-        finish(failure(ErrorKind::cancelled,
-                       QStringLiteral("the release server took too long to answer")));
+        finish(
+            failure(ErrorKind::cancelled, Texts::tr("the release server took too long to answer")));
     });
     m_patience.start(m_wanted.patience);
     get(m_wanted.address);
@@ -131,7 +137,7 @@ void FeedDownload::read()
 {
     m_bytes += m_reply->read(m_wanted.mostBytes + 1 - m_bytes.size());
     if (m_bytes.size() > m_wanted.mostBytes)
-        finish(failure(ErrorKind::tooLarge, QStringLiteral("the release feed is too large")));
+        finish(failure(ErrorKind::tooLarge, Texts::tr("the release feed is too large")));
 }
 
 void FeedDownload::replyFinished()
@@ -153,7 +159,7 @@ void FeedDownload::followRedirect(const QUrl &target)
 {
     if (++m_redirects > kMostRedirects) {
         finish(failure(ErrorKind::permissionDenied,
-                       QStringLiteral("the release server leads from one address to the next")));
+                       Texts::tr("the release server leads from one address to the next")));
         return;
     }
     if (const Result<void> safe = checkRedirect(m_reply->url(), target); !safe) {

@@ -8,9 +8,20 @@
 #include "platform/ReleaseFeed.h"
 #include "platform/ReleaseVersion.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace lorva {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FeedUpdaterController)
+};
+
+} // namespace
 
 FeedUpdaterController::FeedUpdaterController(ReleaseFeedSettings settings, QString runningVersion)
     : m_settings(std::move(settings))
@@ -27,9 +38,9 @@ Result<void> FeedUpdaterController::checkSettings() const
         m_settings.address.isEmpty() && m_settings.address.errorString().isEmpty();
     if (isAbsent)
         return failure(ErrorKind::unsupported,
-                       QStringLiteral("this build has no address of a release feed"));
+                       Texts::tr("this build has no address of a release feed"));
     if (!isReleaseVersion(m_runningVersion))
-        return failure(ErrorKind::invalidValue, QStringLiteral("the running version is no number"));
+        return failure(ErrorKind::invalidValue, Texts::tr("the running version is no number"));
     return checkDownloadAddress(m_settings.address);
 }
 

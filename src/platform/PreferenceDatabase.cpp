@@ -5,6 +5,8 @@
 #include "base/WholeFile.h"
 #include "platform/PreferenceFilesAside.h"
 
+#include <QCoreApplication>
+
 #include <array>
 #include <cerrno>
 
@@ -15,6 +17,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PreferenceDatabase)
+};
 
 using Access = SqliteConnection::Access;
 
@@ -82,7 +89,7 @@ Result<PreferenceDatabase> PreferenceDatabase::open(const FilePath &folder, QDea
         return tl::unexpected(made.error());
     if (database && !database->m_whyReadOnly && database->m_connection.isReadOnly())
         database->m_whyReadOnly =
-            Error{ErrorKind::permissionDenied, QStringLiteral("the file cannot be written")};
+            Error{ErrorKind::permissionDenied, Texts::tr("the file cannot be written")};
     return database;
 }
 
@@ -91,8 +98,7 @@ Result<PreferenceDatabase> PreferenceDatabase::openUnmoved(const FilePath &file,
 {
     const FolderLock lock(file.parent(), FolderLock::Kind::shared, deadline);
     if (lock.isHeldByOther())
-        return failure(ErrorKind::cancelled,
-                       QStringLiteral("another process is moving a damaged file"));
+        return failure(ErrorKind::cancelled, Texts::tr("another process is moving a damaged file"));
     return openFile(file, Access::readWrite, deadline);
 }
 
@@ -143,7 +149,7 @@ Result<void> PreferenceDatabase::checkSoundness()
     if (!checked)
         return tl::unexpected(checked.error());
     if (checked->empty() || checked->front().front() != "ok")
-        return failure(ErrorKind::malformed, QStringLiteral("the database is damaged"));
+        return failure(ErrorKind::malformed, Texts::tr("the database is damaged"));
     return {};
 }
 

@@ -7,11 +7,18 @@
 #include "base/TextBeginning.h"
 #include "platform/ReleaseVersion.h"
 
+#include <QCoreApplication>
+
 #include <sodium.h>
 
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ReleaseFeed)
+};
 
 constexpr qint64 kFormat = 1;
 constexpr qsizetype kLongestPage = 2048;
@@ -73,7 +80,7 @@ void jsonFields(Fields &fields, Record &payload)
 tl::unexpected<Error> unreadable(const QString &detail)
 {
     return failure(ErrorKind::malformed,
-                   QStringLiteral("the release feed cannot be read: %1").arg(detail));
+                   Texts::tr("the release feed cannot be read: %1").arg(detail));
 }
 
 template <class T>
@@ -135,13 +142,13 @@ QUrl readPage(const QString &text)
 Result<Release> releaseOf(const Payload &payload)
 {
     if (!isReleaseVersion(payload.version))
-        return unreadable(QStringLiteral("version: expected numbers with dots between them"));
+        return unreadable(Texts::tr("version: expected numbers with dots between them"));
     const QDate date = readDate(payload.date);
     if (!date.isValid())
-        return unreadable(QStringLiteral("date: expected a day such as 2026-11-22"));
+        return unreadable(Texts::tr("date: expected a day such as 2026-11-22"));
     const QUrl page = readPage(payload.page);
     if (page.isEmpty())
-        return unreadable(QStringLiteral("page: expected an https address"));
+        return unreadable(Texts::tr("page: expected an https address"));
     return Release{payload.version, date, page, cleanText(payload.summary.value_or(QString()))};
 }
 
@@ -152,8 +159,8 @@ Result<void> checkMeaning(const QByteArray &payload)
         return tl::unexpected(format.error());
     if (format->format != kFormat)
         return failure(ErrorKind::unsupported,
-                       QStringLiteral("the release feed is made for a newer Lorva: its format is "
-                                      "%1, not %2")
+                       Texts::tr("the release feed is made for a newer Lorva: its format is "
+                                 "%1, not %2")
                            .arg(format->format)
                            .arg(kFormat));
     const Result<PayloadProduct> product = decoded<PayloadProduct>(payload);
@@ -161,7 +168,7 @@ Result<void> checkMeaning(const QByteArray &payload)
         return tl::unexpected(product.error());
     if (product->product != QLatin1String("vantrel.lorva"))
         return failure(ErrorKind::typeMismatch,
-                       QStringLiteral("the release feed is about another product"));
+                       Texts::tr("the release feed is about another product"));
     return {};
 }
 
@@ -173,20 +180,20 @@ Result<QByteArray> readReleaseFeedKey(const QByteArray &base64)
         QByteArray::fromBase64Encoding(base64, QByteArray::AbortOnBase64DecodingErrors);
     if (!key || key.decoded.size() != qsizetype(crypto_sign_PUBLICKEYBYTES))
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("the release feed's key is not 32 bytes in Base64"));
+                       Texts::tr("the release feed's key is not 32 bytes in Base64"));
     return key.decoded;
 }
 
 Result<Release> readReleaseFeed(const QByteArray &feed, const QByteArray &publicKey)
 {
     if (feed.size() > kLargestReleaseFeed)
-        return failure(ErrorKind::tooLarge, QStringLiteral("the release feed is too large"));
+        return failure(ErrorKind::tooLarge, Texts::tr("the release feed is too large"));
     const Result<Envelope> envelope = decoded<Envelope>(feed);
     if (!envelope)
         return tl::unexpected(envelope.error());
     if (!isSigned(*envelope, publicKey))
         return failure(ErrorKind::invalidValue,
-                       QStringLiteral("the release feed is not signed by the makers of Lorva"));
+                       Texts::tr("the release feed is not signed by the makers of Lorva"));
     if (const Result<void> meaning = checkMeaning(envelope->payload); !meaning)
         return tl::unexpected(meaning.error());
     const Result<Payload> payload = decoded<Payload>(envelope->payload);
