@@ -15,6 +15,7 @@
 #include "platform/RunLock.h"
 #include "platform/Trash.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
@@ -59,6 +60,11 @@ struct FontInstallationService::Ended
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FontInstallationService)
+};
+
 /// So that copies of the work share them.
 std::shared_ptr<const std::vector<FontFamilyRecord>> shared(std::vector<FontFamilyRecord> families)
 {
@@ -88,7 +94,7 @@ InstallationResult failed(const std::vector<FilePath> &files, const Error &why)
     const InstallationError error{
         InstallationError::ownDomain(),
         isBusy ? InstallationError::isBusy : InstallationError::otherFailure,
-        isBusy ? QStringLiteral("another program is switching fonts on or off") : why.detail};
+        isBusy ? Texts::tr("another program is switching fonts on or off") : why.detail};
     InstallationResult result;
     for (const FilePath &file : files)
         result.outcome.failures.emplace(file, error);

@@ -5,6 +5,8 @@
 #include "install/FolderEntries.h"
 #include "platform/FileTransfer.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 #include <sys/stat.h>
@@ -12,6 +14,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FontsFolderEntries)
+};
 
 /// Sorted by name; none when the folder cannot be listed.
 std::vector<FolderEntry> fontsIn(const FilePath &fontsFolder)
@@ -97,7 +104,7 @@ Result<FilePath> FontsFolderEntries::namesake(const FilePath &file, const FilePa
             return entry;
     }
     return failure(ErrorKind::invalidValue,
-                   QStringLiteral("the file named %1 in the Fonts folder is another font than %2")
+                   Texts::tr("the file named %1 in the Fonts folder is another font than %2")
                        .arg(FilePath(names.front()).displayText(), file.displayText()));
 }
 

@@ -8,9 +8,16 @@
 #include "platform/FileTransfer.h"
 #include "platform/Trash.h"
 
+#include <QCoreApplication>
+
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Restoration)
+};
 
 using Copy = WithdrawnFonts::Copy;
 
@@ -26,8 +33,7 @@ InstallationJournal journalOf(const WithdrawnFonts &withdrawn)
 
 InstallationError notInTrash()
 {
-    return ownError(InstallationError::fileNotFound,
-                    QStringLiteral("It is not in the Trash any more"));
+    return ownError(InstallationError::fileNotFound, Texts::tr("It is not in the Trash any more"));
 }
 
 InstallationError errorOf(const Error &error)
@@ -36,7 +42,7 @@ InstallationError errorOf(const Error &error)
         return notInTrash();
     if (error.kind == ErrorKind::invalidValue)
         return ownError(InstallationError::isNotSafe,
-                        QStringLiteral("Another file has taken its place"));
+                        Texts::tr("Another file has taken its place"));
     return ownError(error);
 }
 

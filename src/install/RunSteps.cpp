@@ -4,6 +4,7 @@
 
 #include "install/FailureBox.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLoggingCategory>
 
@@ -16,6 +17,11 @@ Q_LOGGING_CATEGORY(installationRunsLog, "lorva.install.runs", QtCriticalMsg)
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RunSteps)
+};
 
 /// For so long files are looked at before what was found is registered in one go. On a disk that is
 /// thousands of files, and the pass over the link folder, with its wait for the disk, is made once
@@ -36,7 +42,7 @@ std::optional<InstallationError> whyNotRegistered(const FilePath &file)
         return fileNotFound();
     if (isNoFile(file))
         return ownError(InstallationError::otherFailure,
-                        QStringLiteral("%1 is not a regular file").arg(file.displayText()));
+                        Texts::tr("%1 is not a regular file").arg(file.displayText()));
     return std::nullopt;
 }
 
@@ -108,7 +114,7 @@ InstallationError ownError(const Error &error)
 
 InstallationError fileNotFound()
 {
-    return ownError(InstallationError::fileNotFound, QStringLiteral("File not found"));
+    return ownError(InstallationError::fileNotFound, Texts::tr("File not found"));
 }
 
 bool isMissing(const FilePath &file)
@@ -127,8 +133,7 @@ std::optional<InstallationError> whyNotInBooks(const FilePath &file)
 {
     if (file.isUtf8())
         return std::nullopt;
-    return ownError(InstallationError::otherFailure,
-                    QStringLiteral("the file's path is no UTF-8 text"));
+    return ownError(InstallationError::otherFailure, Texts::tr("the file's path is no UTF-8 text"));
 }
 
 void note(const InstallationJournal &journal, const InstallationTools &tools)
