@@ -48,10 +48,10 @@ constexpr const char *kNameKinds[] = {
     QT_TRANSLATE_NOOP("FaceInformation", "Variations PostScript name prefix"),
 };
 
-QString translated(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("FaceInformation", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FaceInformation)
+};
 
 /// The bytes of a table, and a view of them.
 class Table
@@ -177,7 +177,7 @@ bool isEnglish(const LocalizedName &name)
 QString nameIdText(quint16 nameId)
 {
     const char *text = nameId < std::size(kNameKinds) ? kNameKinds[nameId] : nullptr;
-    return text ? translated(text) : QString();
+    return text ? Texts::tr(text) : QString();
 }
 
 QString embeddingText(const EmbeddingRights &rights)
@@ -191,14 +191,14 @@ QString embeddingText(const EmbeddingRights &rights)
     };
     static_assert(int(Usage::installable) == 0 && int(Usage::restricted) == 1
                   && int(Usage::previewAndPrint) == 2 && int(Usage::editable) == 3);
-    const QString usage = translated(kUsages[int(rights.usage)]);
+    const QString usage = Texts::tr(kUsages[int(rights.usage)]);
     if (rights.allowsSubsetting && !rights.allowsBitmapsOnly)
         return usage;
+    //: %1 is what a licence lets documents do with the font that they embed, such as "Editable".
     if (rights.allowsSubsetting)
-        return QCoreApplication::translate("FaceInformation", "%1, bitmaps only").arg(usage);
-    return (rights.allowsBitmapsOnly
-                ? QCoreApplication::translate("FaceInformation", "%1, no subsetting, bitmaps only")
-                : QCoreApplication::translate("FaceInformation", "%1, no subsetting"))
+        return Texts::tr("%1, bitmaps only").arg(usage);
+    return (rights.allowsBitmapsOnly ? Texts::tr("%1, no subsetting, bitmaps only")
+                                     : Texts::tr("%1, no subsetting"))
         .arg(usage);
 }
 

@@ -8,20 +8,28 @@
 #include "text/FontLimits.h"
 #include "text/WarmFaces.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace lorva {
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FontFile)
+};
+
 tl::unexpected<Error> named(const FilePath &path, const Error &error)
 {
-    return failure(error.kind, path.displayText() + u": " + error.detail);
+    //: A file, and what is wrong with it.
+    return failure(error.kind, Texts::tr("%1: %2").arg(path.displayText(), error.detail));
 }
 
 tl::unexpected<Error> notRead(const FilePath &path)
 {
-    return failure(ErrorKind::ioFailure, path.displayText() + u": cannot be read");
+    return failure(ErrorKind::ioFailure, Texts::tr("%1: cannot be read").arg(path.displayText()));
 }
 
 /// What seems damaged may only not have been read.
@@ -67,7 +75,8 @@ Result<std::shared_ptr<const OpenedFile>> FontFile::Data::reopen() const
     }
     auto opened = OpenedFile::open(path);
     if (opened && (*opened)->identity() != identity)
-        return failure(ErrorKind::malformed, path.displayText() + u": has changed while in use");
+        return failure(ErrorKind::malformed,
+                       Texts::tr("%1: has changed while in use").arg(path.displayText()));
     return opened;
 }
 
@@ -126,7 +135,7 @@ Result<std::vector<FaceDescriptor>> FontFile::descriptors() const
     if (!opened)
         return tl::unexpected(opened.error());
     std::vector<FaceDescriptor> all;
-    Error lastError{ErrorKind::malformed, QStringLiteral("has neither names nor a character map")};
+    Error lastError{ErrorKind::malformed, Texts::tr("has neither names nor a character map")};
     for (int i = 0; i < faceCount() && all.size() < kMaxDescriptorsPerFile; ++i) {
         const auto directory = readDirectory(**opened, m_data->locations[size_t(i)]);
         if (!directory) {
@@ -148,8 +157,8 @@ Result<SfntDirectory> FontFile::directoryOf(const OpenedFile &opened, FaceKey ke
 {
     if (key.faceIndex < 0 || key.faceIndex >= faceCount())
         return failure(ErrorKind::notFound,
-                       m_data->path.displayText() + u": has no face number "
-                           + QString::number(key.faceIndex));
+                       Texts::tr("%1: has no face number %2")
+                           .arg(m_data->path.displayText(), QString::number(key.faceIndex)));
     auto directory = readDirectory(opened, m_data->locations[size_t(key.faceIndex)]);
     if (!directory)
         return named(m_data->path, directory.error());
@@ -167,8 +176,8 @@ Result<std::shared_ptr<const FontFace>> FontFile::face(FaceKey key) const
     auto data = readFaceData(m_data, **opened, std::move(*directory), key);
     if (!data)
         return failure(ErrorKind::notFound,
-                       m_data->path.displayText() + u": has no named instance number "
-                           + QString::number(key.namedInstance));
+                       Texts::tr("%1: has no named instance number %2")
+                           .arg(m_data->path.displayText(), QString::number(key.namedInstance)));
     return std::make_shared<const FontFace>(std::move(data));
 }
 

@@ -5,6 +5,8 @@
 #include "text/FontLimits.h"
 #include "text/GuardedMapping.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -15,25 +17,31 @@ namespace lorva {
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FontFile)
+};
+
 tl::unexpected<Error> openFailure(const FilePath &path, int error)
 {
     const QString name = path.displayText();
     switch (error) {
     case ENOENT:
     case ENOTDIR:
-        return failure(ErrorKind::notFound, name + u": no such file");
+        return failure(ErrorKind::notFound, Texts::tr("%1: no such file").arg(name));
     case EACCES:
     case EPERM:
-        return failure(ErrorKind::permissionDenied, name + u": may not be read");
+        return failure(ErrorKind::permissionDenied, Texts::tr("%1: may not be read").arg(name));
     case ELOOP:
-        return failure(ErrorKind::notFound, name + u": is a link that leads in a circle");
+        return failure(ErrorKind::notFound,
+                       Texts::tr("%1: is a link that leads in a circle").arg(name));
     case ENXIO:
     case ENODEV:
-        return failure(ErrorKind::notRegularFile, name + u": is not a regular file");
+        return failure(ErrorKind::notRegularFile, Texts::tr("%1: is not a regular file").arg(name));
     default:
         return failure(ErrorKind::ioFailure,
-                       name + u": cannot be opened: "
-                           + QString::fromLocal8Bit(std::strerror(error)));
+                       Texts::tr("%1: cannot be opened: %2")
+                           .arg(name, QString::fromLocal8Bit(std::strerror(error))));
     }
 }
 
@@ -73,9 +81,11 @@ Result<std::shared_ptr<const OpenedFile>> OpenedFile::open(const FilePath &path)
     if (::fstat(fd, &info) != 0)
         return openFailure(path, errno);
     if (!S_ISREG(info.st_mode))
-        return failure(ErrorKind::notRegularFile, path.displayText() + u": is not a regular file");
+        return failure(ErrorKind::notRegularFile,
+                       Texts::tr("%1: is not a regular file").arg(path.displayText()));
     if (info.st_size > kMaxFileSize)
-        return failure(ErrorKind::tooLarge, path.displayText() + u": is larger than any font");
+        return failure(ErrorKind::tooLarge,
+                       Texts::tr("%1: is larger than any font").arg(path.displayText()));
     file->m_identity = identityOf(info);
     file->m_isInstalled = isInstalled(path, info);
     file->readFirstPage();

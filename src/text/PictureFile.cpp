@@ -23,29 +23,29 @@ constexpr int kPointsPerInch = 72;
 /// Stands in the document until the text has been made fit for XML.
 constexpr char kTitlePlace[] = "lorva-specimen-title";
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("PictureFile", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(PictureFile)
+};
 
 Result<void> checkSize(const PictureContent &content, PictureFormat format)
 {
     const QSize size = content.size;
     if (size.isEmpty())
-        return failure(ErrorKind::invalidValue, text("There is nothing to export"));
+        return failure(ErrorKind::invalidValue, Texts::tr("There is nothing to export"));
     if (std::max(size.width(), size.height()) > kLongestFileSide)
-        return failure(ErrorKind::tooLarge, text("The page is too large for a file"));
+        return failure(ErrorKind::tooLarge, Texts::tr("The page is too large for a file"));
     const double pixels =
         double(size.width()) * size.height() * content.pixelsPerPoint * content.pixelsPerPoint;
     if (format == PictureFormat::png && pixels > kMostFilePixels)
         return failure(ErrorKind::tooLarge,
-                       text("The page is too large for a PNG; a PDF or SVG can hold it"));
+                       Texts::tr("The page is too large for a PNG; a PDF or SVG can hold it"));
     return {};
 }
 
 tl::unexpected<Error> notEncoded()
 {
-    return failure(ErrorKind::ioFailure, QStringLiteral("the picture cannot be encoded"));
+    return failure(ErrorKind::ioFailure, Texts::tr("the picture cannot be encoded"));
 }
 
 QString fitForXml(QString text)
@@ -130,7 +130,7 @@ Result<QByteArray> pngBytes(const PictureContent &content)
                  content.background.alpha() < 255 ? QImage::Format_ARGB32_Premultiplied
                                                   : QImage::Format_RGB32);
     if (image.isNull())
-        return failure(ErrorKind::tooLarge, QStringLiteral("the picture does not fit into memory"));
+        return failure(ErrorKind::tooLarge, Texts::tr("the picture does not fit into memory"));
     image.setDevicePixelRatio(content.pixelsPerPoint);
     image.fill(content.background);
     content.onImage(image);
@@ -187,9 +187,9 @@ Result<PictureFormat> pictureFormat(const FilePath &file)
         return PictureFormat::svg;
     if (name.endsWith(".pdf"))
         return PictureFormat::pdf;
-    return failure(ErrorKind::usage,
-                   QStringLiteral("%1: the name of a picture ends in .png, .svg or .pdf")
-                       .arg(file.displayText()));
+    return failure(
+        ErrorKind::usage,
+        Texts::tr("%1: the name of a picture ends in .png, .svg or .pdf").arg(file.displayText()));
 }
 
 Result<QByteArray> encodedPicture(const PictureContent &content, PictureFormat format)
@@ -222,9 +222,8 @@ Result<void> writePicture(const PictureContent &content, const FilePath &target)
 
 tl::unexpected<Error> fontFileRefused(const FilePath &output)
 {
-    return failure(
-        ErrorKind::invalidValue,
-        QString(output.displayText() + QStringLiteral(": refusing to write over a font file")));
+    return failure(ErrorKind::invalidValue,
+                   Texts::tr("%1: refusing to write over a font file").arg(output.displayText()));
 }
 
 Result<void> refuseFontContent(const FilePath &output)

@@ -5,11 +5,19 @@
 #include "text/FontLimits.h"
 #include "text/TableView.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace lorva {
 
 namespace {
+
+// The words follow a file's name and a colon.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FontFile)
+};
 
 constexpr FontTag kCollection = fontTag('t', 't', 'c', 'f');
 constexpr FontTag kTrueType = 0x00010000;
@@ -44,23 +52,23 @@ tl::unexpected<Error> unsupportedFormat(QByteArrayView start)
     struct Known
     {
         QByteArrayView magic;
-        const char16_t *words;
+        const char *words;
     };
     static constexpr Known kKnown[] = {
-        {"wOFF", u"is a WOFF web font, which is not read"},
-        {"wOF2", u"is a WOFF2 web font, which is not read"},
-        {"%!", u"is a Type 1 font, which is not read"},
-        {"\x80\x01", u"is a Type 1 font, which is not read"},
-        {"STARTFONT", u"is a BDF bitmap font, which is not read"},
+        {"wOFF", QT_TRANSLATE_NOOP("FontFile", "is a WOFF web font, which is not read")},
+        {"wOF2", QT_TRANSLATE_NOOP("FontFile", "is a WOFF2 web font, which is not read")},
+        {"%!", QT_TRANSLATE_NOOP("FontFile", "is a Type 1 font, which is not read")},
+        {"\x80\x01", QT_TRANSLATE_NOOP("FontFile", "is a Type 1 font, which is not read")},
+        {"STARTFONT", QT_TRANSLATE_NOOP("FontFile", "is a BDF bitmap font, which is not read")},
         {"\x01"
          "fcp",
-         u"is a PCF bitmap font, which is not read"},
-        {"\x1f\x8b", u"is compressed, which is not read"},
+         QT_TRANSLATE_NOOP("FontFile", "is a PCF bitmap font, which is not read")},
+        {"\x1f\x8b", QT_TRANSLATE_NOOP("FontFile", "is compressed, which is not read")},
     };
     for (const Known &known : kKnown)
         if (start.startsWith(known.magic))
-            return failure(ErrorKind::unsupported, QString::fromUtf16(known.words));
-    return failure(ErrorKind::unsupported, QStringLiteral("is not a font"));
+            return failure(ErrorKind::unsupported, Texts::tr(known.words));
+    return failure(ErrorKind::unsupported, Texts::tr("is not a font"));
 }
 
 Result<std::vector<FaceLocation>> collectionLocations(const OpenedFile &file,
@@ -69,7 +77,7 @@ Result<std::vector<FaceLocation>> collectionLocations(const OpenedFile &file,
     const quint64 listed = (file.size() - std::min<quint64>(file.size(), 12)) / 4;
     const quint64 count = std::min({quint64(header.u32(8)), listed, quint64(kMaxFacesPerFile)});
     if (count == 0)
-        return failure(ErrorKind::truncated, QStringLiteral("is a collection without faces"));
+        return failure(ErrorKind::truncated, Texts::tr("is a collection without faces"));
     const QByteArray offsets = file.bytes(12, 4 * count);
     const TableView view(offsets);
     std::vector<FaceLocation> locations;
@@ -115,7 +123,7 @@ Result<std::vector<FaceLocation>> suitcaseLocations(const OpenedFile &file,
                                                     const ResourceFork &fork)
 {
     if (file.size() > quint64(kMaxSuitcaseSize))
-        return failure(ErrorKind::tooLarge, QStringLiteral("is larger than any font suitcase"));
+        return failure(ErrorKind::tooLarge, Texts::tr("is larger than any font suitcase"));
     const QByteArray bytes =
         file.bytes(fork.map, std::min(fork.mapLength, quint64(kMaxResourceMapBytes)));
     const TableView map(bytes);
@@ -129,8 +137,7 @@ Result<std::vector<FaceLocation>> suitcaseLocations(const OpenedFile &file,
                             locations);
     }
     if (locations.empty())
-        return failure(ErrorKind::unsupported,
-                       QStringLiteral("is a suitcase without outline fonts"));
+        return failure(ErrorKind::unsupported, Texts::tr("is a suitcase without outline fonts"));
     return locations;
 }
 
@@ -172,10 +179,10 @@ int SfntDirectory::formatNumber() const
 Result<std::vector<FaceLocation>> readFaceLocations(const OpenedFile &file)
 {
     if (file.size() == 0)
-        return failure(ErrorKind::truncated, QStringLiteral("is empty"));
+        return failure(ErrorKind::truncated, Texts::tr("is empty"));
     const QByteArray start = file.bytes(0, std::min<quint64>(file.size(), 16));
     if (start.isNull())
-        return failure(ErrorKind::ioFailure, QStringLiteral("cannot be read"));
+        return failure(ErrorKind::ioFailure, Texts::tr("cannot be read"));
     const TableView header(start);
     const FontTag version = header.u32(0);
     if (header.size() >= 12 && isSfntVersion(version))
@@ -183,7 +190,7 @@ Result<std::vector<FaceLocation>> readFaceLocations(const OpenedFile &file)
     if (header.size() >= 12 && version == kCollection)
         return collectionLocations(file, header);
     if (isSfntVersion(version) || version == kCollection)
-        return failure(ErrorKind::truncated, QStringLiteral("ends within its header"));
+        return failure(ErrorKind::truncated, Texts::tr("ends within its header"));
     if (const ResourceFork fork(header); header.size() == 16 && fork.fits(file.size()))
         return suitcaseLocations(file, fork);
     return unsupportedFormat(start);
@@ -193,17 +200,17 @@ Result<SfntDirectory> readDirectory(const OpenedFile &file, const FaceLocation &
 {
     char head[12] = {};
     if (!file.read(location.directory, head, sizeof head))
-        return failure(ErrorKind::truncated, QStringLiteral("ends within its header"));
+        return failure(ErrorKind::truncated, Texts::tr("ends within its header"));
     const TableView header(QByteArrayView(head, sizeof head));
     const int count = header.u16(4);
     SfntDirectory directory{header.u32(0), {}};
     if (!isSfntVersion(directory.version))
-        return failure(ErrorKind::unsupported, QStringLiteral("holds a face that is not a font"));
+        return failure(ErrorKind::unsupported, Texts::tr("holds a face that is not a font"));
     if (count == 0 || count > kMaxTablesPerFace)
-        return failure(ErrorKind::malformed, QStringLiteral("has a damaged table directory"));
+        return failure(ErrorKind::malformed, Texts::tr("has a damaged table directory"));
     const QByteArray records = file.bytes(location.directory + 12, 16 * quint64(count));
     if (records.isNull())
-        return failure(ErrorKind::truncated, QStringLiteral("ends within its table directory"));
+        return failure(ErrorKind::truncated, Texts::tr("ends within its table directory"));
     const TableView view(records);
     directory.tables.reserve(size_t(count));
     for (quint64 at = 0; at < view.size(); at += 16) {
@@ -212,8 +219,9 @@ Result<SfntDirectory> readDirectory(const OpenedFile &file, const FaceLocation &
             directory.tables.push_back(entry);
         else if (isNeeded(entry.tag))
             return failure(ErrorKind::truncated,
-                           u"is shorter than its header says: " + tagText(entry.tag)
-                               + u" lies beyond the end");
+                           //: %1 is a table of the font, such as "glyf".
+                           Texts::tr("is shorter than its header says: %1 lies beyond the end")
+                               .arg(tagText(entry.tag)));
     }
     return directory;
 }
