@@ -20,6 +20,7 @@ struct RegisteredAxis
     const char *name;
 };
 constexpr std::array kRegisteredAxes{
+    //: Axes of variable fonts.
     RegisteredAxis{fontTag('i', 't', 'a', 'l'),
                    QT_TRANSLATE_NOOP("FontInspectorService", "Italic")},
     RegisteredAxis{fontTag('o', 'p', 's', 'z'),
@@ -30,10 +31,10 @@ constexpr std::array kRegisteredAxes{
     RegisteredAxis{fontTag('w', 'd', 't', 'h'), QT_TRANSLATE_NOOP("FontInspectorService", "Width")},
 };
 
-QString translated(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("FontInspectorService", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FontInspectorService)
+};
 
 bool isMovable(const VariationAxis &axis)
 {
@@ -92,7 +93,7 @@ QString axisName(FontTag tag, const QString &ownName)
 {
     for (const RegisteredAxis &axis : kRegisteredAxes) {
         if (axis.tag == tag)
-            return translated(axis.name);
+            return Texts::tr(axis.name);
     }
     return ownName.isEmpty() || ownName.size() > kLongestAxisName ? tagText(tag) : ownName;
 }
@@ -157,15 +158,15 @@ QString FontInspectorService::formatText(int formatNumber)
 {
     switch (formatNumber) {
     case 1:
-        return translated(QT_TRANSLATE_NOOP("FontInspectorService", "TrueType"));
+        return Texts::tr("TrueType");
     case 2:
-        return translated(QT_TRANSLATE_NOOP("FontInspectorService", "PostScript"));
+        return Texts::tr("PostScript");
     case 3:
-        return translated(QT_TRANSLATE_NOOP("FontInspectorService", "OpenType (CFF)"));
+        return Texts::tr("OpenType (CFF)");
     case 4:
-        return translated(QT_TRANSLATE_NOOP("FontInspectorService", "OpenType (TrueType)"));
+        return Texts::tr("OpenType (TrueType)");
     default:
-        return translated(QT_TRANSLATE_NOOP("FontInspectorService", "Unknown"));
+        return Texts::tr("Unknown");
     }
 }
 

@@ -9,10 +9,10 @@ namespace lorva {
 
 namespace {
 
-QString translated(const char *text, int count = -1)
+struct Texts
 {
-    return QCoreApplication::translate("FontScanPhase", text, nullptr, count);
-}
+    Q_DECLARE_TR_FUNCTIONS(FontScanPhase)
+};
 
 } // namespace
 
@@ -21,19 +21,18 @@ QString FontScanPhase::text() const
     switch (kind) {
     case Kind::enumerating:
         if (done == 0)
-            return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Finding fonts…"));
-        return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Finding fonts… %1"), done)
-            .arg(groupedNumber(done));
+            return Texts::tr("Finding fonts…");
+        return Texts::tr("Finding fonts… %1", nullptr, done).arg(groupedNumber(done));
     case Kind::scanning:
-        return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Scanning %1 of %2 fonts"), total)
+        return Texts::tr("Scanning %1 of %2 fonts", nullptr, total)
             .arg(groupedNumber(done), groupedNumber(total));
     case Kind::identifying:
-        return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Identifying fonts… %1 of %2"), total)
+        return Texts::tr("Identifying fonts… %1 of %2", nullptr, total)
             .arg(groupedNumber(done), groupedNumber(total));
     case Kind::preparing:
         break;
     }
-    return translated(QT_TRANSLATE_NOOP("FontScanPhase", "Preparing…"));
+    return Texts::tr("Preparing…");
 }
 
 } // namespace lorva
