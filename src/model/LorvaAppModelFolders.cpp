@@ -11,11 +11,18 @@
 #include "model/FolderLooks.h"
 #include "platform/FontRegistrar.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(LorvaAppModelFolders)
+};
 
 /// After it a folder counts as not there.
 constexpr std::chrono::seconds kPatienceWithFolders{2};
@@ -98,7 +105,7 @@ AddedFolders LorvaAppModel::addResolved(const std::vector<FilePath> &order,
             added.failures.emplace(
                 folder,
                 Error{ErrorKind::invalidValue,
-                      QStringLiteral("%1 is no UTF-8 text and cannot be kept in the preferences")
+                      Texts::tr("%1 is no UTF-8 text and cannot be kept in the preferences")
                           .arg(path->displayText())});
         else
             wanted.push_back(*path);
@@ -114,7 +121,7 @@ Result<void> LorvaAppModel::removeWatchedFolder(const QString &id)
     readWatchedFolders();
     if (!removed)
         return failure(ErrorKind::notFound,
-                       QStringLiteral("there is no watched folder with the id %1").arg(id));
+                       Texts::tr("there is no watched folder with the id %1").arg(id));
     if (m_fontRegistrar) {
         const auto withdraw = [folder = folderURL(*removed),
                                registrar = m_fontRegistrar](const std::stop_token &stop) {

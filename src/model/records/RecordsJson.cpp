@@ -2,9 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "model/records/RecordsJson.h"
 
+#include <QCoreApplication>
+
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RecordsJson)
+};
 
 using SourceKind = BrowserSource::Kind;
 
@@ -314,7 +321,7 @@ void readJson(JsonReader &in, ColorMode &out)
     if (const std::optional<ColorMode> mode = colorModeFromNumber(number))
         out = *mode;
     else
-        in.fail(ErrorKind::invalidValue, QStringLiteral("%1 is no colour mode").arg(number));
+        in.fail(ErrorKind::invalidValue, Texts::tr("%1 is no colour mode").arg(number));
 }
 
 void writeJson(JsonWriter &out, const ColorMode &value)

@@ -8,12 +8,19 @@
 #include "model/stores/DisplaySettingsStore.h"
 #include "model/stores/OrganizationChanges.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <tuple>
 
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(OrganizationFile)
+};
 
 const QString kFormat = QStringLiteral("lorva-organization");
 /// A category that earlier versions had; one that is stored under its id is emptied when it is
@@ -47,7 +54,7 @@ void readJson(JsonReader &in, CleanName &out)
         return;
     out.text = cleanedName(typed);
     if (out.text.isEmpty())
-        in.fail(ErrorKind::invalidValue, QStringLiteral("the name is empty"));
+        in.fail(ErrorKind::invalidValue, Texts::tr("the name is empty"));
 }
 
 void writeJson(JsonWriter &out, const CleanName &value)
@@ -297,14 +304,13 @@ Result<void> checkHeader(const QByteArray &json)
     if (!header)
         return failure(ErrorKind::malformed, header.error().detail);
     if (header->format != kFormat)
-        return failure(ErrorKind::malformed,
-                       QStringLiteral("format: expected \"%1\"").arg(kFormat));
+        return failure(ErrorKind::malformed, Texts::tr("format: expected \"%1\"").arg(kFormat));
     if (header->version < 1)
-        return failure(ErrorKind::malformed, QStringLiteral("version: there is no such version"));
+        return failure(ErrorKind::malformed, Texts::tr("version: there is no such version"));
     if (header->version > OrganizationFile::kVersion)
-        return failure(ErrorKind::unsupported,
-                       QStringLiteral("the file is of version %1, which needs a newer Lorva")
-                           .arg(header->version));
+        return failure(
+            ErrorKind::unsupported,
+            Texts::tr("the file is of version %1, which needs a newer Lorva").arg(header->version));
     return {};
 }
 
@@ -322,8 +328,8 @@ Result<QByteArray> encodeOrganizationFile(const OrganizationFile &file, qint64 m
     if (json.size() <= mostBytes)
         return json;
     return failure(ErrorKind::tooLarge,
-                   QStringLiteral("the organisation takes %1 bytes as a file, and no more than %2 "
-                                  "can be imported; the logos in display settings may be too many")
+                   Texts::tr("the organisation takes %1 bytes as a file, and no more than %2 "
+                             "can be imported; the logos in display settings may be too many")
                        .arg(json.size())
                        .arg(mostBytes));
 }

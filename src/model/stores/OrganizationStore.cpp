@@ -8,9 +8,16 @@
 #include "model/stores/StyleStore.h"
 #include "platform/PreferenceStore.h"
 
+#include <QCoreApplication>
+
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(OrganizationStore)
+};
 
 /// The stores of the parts, as copies: a change that has to wait may run after the originals.
 struct Parts
@@ -55,7 +62,7 @@ struct Change
 {
     std::function<Result<void>(Organization &)> command;
     Result<OrganizationStore::Outcome> outcome =
-        failure(ErrorKind::ioFailure, QStringLiteral("the preferences took no change"));
+        failure(ErrorKind::ioFailure, Texts::tr("the preferences took no change"));
     /// What the caller was told that it did; nothing until then.
     std::optional<OrganizationEdit> told;
 };
