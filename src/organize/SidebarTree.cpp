@@ -3,6 +3,8 @@
 
 #include "organize/SidebarTree.h"
 
+#include "model/records/DisplayedNames.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -13,31 +15,32 @@ namespace {
 
 using Kind = SidebarItem::Kind;
 
-QString translated(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("SidebarTree", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SidebarTree)
+};
 
 QString groupLabel(SidebarGroup group)
 {
     switch (group) {
     case SidebarGroup::library:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Library"));
+        return Texts::tr("Library");
     case SidebarGroup::styles:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Styles"));
+        //: The style categories of fonts: Serif, Script and so on.
+        return Texts::tr("Styles");
     case SidebarGroup::foundries:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Foundries"));
+        return Texts::tr("Foundries");
     case SidebarGroup::collections:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Collections"));
+        return Texts::tr("Collections");
     }
     return {};
 }
 
 template <class Record>
-QString nameOf(const std::vector<Record> &records, const QString &id, const char *otherwise)
+QString nameOf(const std::vector<Record> &records, const QString &id, const QString &otherwise)
 {
     const auto found = std::ranges::find(records, id, &Record::id);
-    return found == records.end() ? translated(otherwise) : found->name;
+    return found == records.end() ? otherwise : displayedName(*found);
 }
 
 std::optional<int> countIn(const QHash<QString, int> &counts, const QString &id)
@@ -83,7 +86,8 @@ void appendRows(std::vector<SidebarRow> &rows, const std::vector<Record> &record
     rows.reserve(rows.size() + records.size());
     for (const Record &record : records) {
         const SidebarItem item = itemOfID(record.id);
-        rows.push_back({item, record.name, sidebarSymbol(item), countIn(counts, record.id)});
+        rows.push_back(
+            {item, displayedName(record), sidebarSymbol(item), countIn(counts, record.id)});
     }
 }
 
@@ -145,26 +149,28 @@ QString sidebarLabel(const SidebarItem &item, const SidebarContent &content)
     case Kind::group:
         return groupLabel(item.group());
     case Kind::style:
-        return nameOf(content.styleCategories, item.id(),
-                      QT_TRANSLATE_NOOP("SidebarTree", "Style"));
+        return nameOf(content.styleCategories, item.id(), Texts::tr("Style"));
     case Kind::foundry:
-        return nameOf(content.foundryCollections, item.id(),
-                      QT_TRANSLATE_NOOP("SidebarTree", "Foundry"));
+        return nameOf(content.foundryCollections, item.id(), Texts::tr("Foundry"));
     case Kind::collection:
-        return nameOf(content.collections, item.id(),
-                      QT_TRANSLATE_NOOP("SidebarTree", "Collection"));
+        return nameOf(content.collections, item.id(), Texts::tr("Collection"));
     case Kind::allFonts:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "All"));
+        //: Every font there is, in the sidebar.
+        return Texts::tr("All");
     case Kind::activeFonts:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Active"));
+        //: Fonts that are switched on for every program, in the sidebar.
+        return Texts::tr("Active");
     case Kind::inactiveFonts:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Inactive"));
+        //: Fonts that are not switched on, in the sidebar.
+        return Texts::tr("Inactive");
     case Kind::discover:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Discover"));
+        //: A page that introduces type foundries, in the sidebar.
+        return Texts::tr("Discover");
     case Kind::catalogue:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Catalogue"));
+        return Texts::tr("Catalogue");
     case Kind::organize:
-        return translated(QT_TRANSLATE_NOOP("SidebarTree", "Organize"));
+        //: Opens the quiz in which fonts are put into styles, in the sidebar.
+        return Texts::tr("Organize");
     }
     return {};
 }
