@@ -17,17 +17,10 @@ namespace {
 using Action = ActivationHistoryEntry::Action;
 using Fate = ActivationHistoryEntry::File::Fate;
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("HistoryReport", source);
-}
-
-QString counted(const char *one, const char *many, qsizetype number)
-{
-    const QString chosen = QCoreApplication::translate("HistoryReport", number == 1 ? one : many,
-                                                       nullptr, int(number));
-    return chosen.arg(QLocale().toString(number));
-}
+    Q_DECLARE_TR_FUNCTIONS(HistoryReport)
+};
 
 bool cameToAnything(const ActivationHistoryEntry &entry)
 {
@@ -43,12 +36,14 @@ QString titleOf(const ActivationHistoryEntry &entry)
     switch (entry.action) {
     case Action::copied:
     case Action::registered:
-        return (isDone ? text("Activated %1") : text("Tried to activate %1")).arg(names);
+        return (isDone ? Texts::tr("Activated %1") : Texts::tr("Tried to activate %1")).arg(names);
     case Action::deactivated:
     case Action::moved:
-        return (isDone ? text("De-activated %1") : text("Tried to de-activate %1")).arg(names);
+        return (isDone ? Texts::tr("De-activated %1") : Texts::tr("Tried to de-activate %1"))
+            .arg(names);
     case Action::restored:
-        return (isDone ? text("Brought back %1") : text("Tried to bring back %1")).arg(names);
+        return (isDone ? Texts::tr("Brought back %1") : Texts::tr("Tried to bring back %1"))
+            .arg(names);
     }
     return names;
 }
@@ -57,16 +52,16 @@ QString methodOf(const ActivationHistoryEntry &entry)
 {
     switch (entry.action) {
     case Action::copied:
-        return text("Copied to the Fonts folder");
+        return Texts::tr("Copied to the Fonts folder");
     case Action::registered:
-        return text("Registered in place");
+        return Texts::tr("Registered in place");
     case Action::deactivated:
-        return text("Copies to the Trash, registrations withdrawn");
+        return Texts::tr("Copies to the Trash, registrations withdrawn");
     case Action::moved:
-        return entry.destination ? text("Moved to %1").arg(entry.destination->displayText())
-                                 : text("Moved");
+        return entry.destination ? Texts::tr("Moved to %1").arg(entry.destination->displayText())
+                                 : Texts::tr("Moved");
     case Action::restored:
-        return text("De-activation undone");
+        return Texts::tr("De-activation undone");
     }
     return {};
 }
@@ -75,16 +70,18 @@ QString methodOf(const ActivationHistoryEntry &entry)
 QString detailOf(const ActivationHistoryEntry &entry)
 {
     const auto count = [&](Fate fate) {
-        return std::ranges::count(entry.files, fate, &ActivationHistoryEntry::File::fate);
+        return int(std::ranges::count(entry.files, fate, &ActivationHistoryEntry::File::fate));
     };
-    QStringList parts{counted("%1 file", "%1 files", count(Fate::done))};
+    QStringList parts{Texts::tr("%Ln files", nullptr, count(Fate::done))};
     if (const auto skipped = count(Fate::skipped))
-        parts << counted("%1 was there already", "%1 were there already", skipped);
+        parts << Texts::tr("%Ln were there already", nullptr, skipped);
+    //: Files.
     if (const auto failed = count(Fate::failed))
-        parts << counted("%1 failed", "%1 failed", failed);
+        parts << Texts::tr("%Ln failed", nullptr, failed);
     if (const auto left = count(Fate::left))
-        parts << counted("%1 left when it was stopped", "%1 left when it was stopped", left);
-    return text("%1: %2").arg(methodOf(entry), parts.join(text(", ")));
+        parts << Texts::tr("%Ln left when it was stopped", nullptr, left);
+    //: How fonts were switched on or off, and the numbers of their files.
+    return Texts::tr("%1: %2").arg(methodOf(entry), parts.join(Texts::tr(", ")));
 }
 
 QString timeOf(const ActivationHistoryEntry &entry)
@@ -97,15 +94,15 @@ QString timeOf(const ActivationHistoryEntry &entry)
 Report historyReport(const std::vector<ActivationHistoryEntry> &entries)
 {
     Report report;
-    report.title = text("Activation History");
-    report.emptyText = text("No font was switched on or off yet.");
+    report.title = Texts::tr("Activation History");
+    report.emptyText = Texts::tr("No font was switched on or off yet.");
     for (const ActivationHistoryEntry &entry : entries) {
         report.rows.push_back({titleOf(entry), detailOf(entry), timeOf(entry)});
         const Report::Row &row = report.rows.back();
         report.copyText += QStringList{row.trailing, row.title, row.detail}.join(u'\t') + u'\n';
     }
     if (!entries.empty())
-        report.exportLabel = text("Export…");
+        report.exportLabel = Texts::tr("Export…");
     return report;
 }
 

@@ -9,10 +9,10 @@ namespace lorva {
 
 namespace {
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("OrganizationAlerts", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(OrganizationAlerts)
+};
 
 /// Something goes; the user may think better of it.
 Alert warning(const QString &title, const QString &body, const QString &verb)
@@ -20,33 +20,33 @@ Alert warning(const QString &title, const QString &body, const QString &verb)
     return {Alert::Style::warning,
             title,
             body,
-            {{verb, Alert::Role::destructive}, {text("Cancel"), Alert::Role::cancel}}};
+            {{verb, Alert::Role::destructive}, {Texts::tr("Cancel"), Alert::Role::cancel}}};
 }
 
 } // namespace
 
 Alert deleteCollectionAlert()
 {
-    return warning(text("Delete Collection?"),
-                   text("This removes the collection but keeps the fonts on your Mac."),
-                   text("Delete"));
+    return warning(Texts::tr("Delete Collection?"),
+                   Texts::tr("This removes the collection but keeps the fonts on your Mac."),
+                   Texts::tr("Delete"));
 }
 
 Alert hideFoundryAlert(const QString &foundryName)
 {
     // Hidden foundries can be brought back, so nothing is lost.
     return {Alert::Style::informational,
-            text("Hide “%1”?").arg(foundryName),
-            text("This hides the foundry from the sidebar."),
-            {{text("Hide"), Alert::Role::accept}, {text("Cancel"), Alert::Role::cancel}}};
+            Texts::tr("Hide “%1”?").arg(foundryName),
+            Texts::tr("This hides the foundry from the sidebar."),
+            {{Texts::tr("Hide"), Alert::Role::accept}, {Texts::tr("Cancel"), Alert::Role::cancel}}};
 }
 
 Alert refusedChangeAlert(const QString &reason)
 {
     return {Alert::Style::warning,
-            text("This Change Is Not Possible"),
+            Texts::tr("This Change Is Not Possible"),
             reason,
-            {{text("OK"), Alert::Role::accept}}};
+            {{Texts::tr("OK"), Alert::Role::accept}}};
 }
 
 } // namespace lorva

@@ -17,10 +17,10 @@ namespace {
 /// Longer lists help nobody, and must fit a sheet.
 constexpr size_t kMostFoldersNamed = 6;
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("ScanProgress", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ScanProgress)
+};
 
 bool isCounted(const FontScanPhase &phase)
 {
@@ -33,15 +33,15 @@ QString refusalOf(const Error &error)
 {
     switch (error.kind) {
     case ErrorKind::notFound:
-        return text("“%1” is not there.");
+        return Texts::tr("“%1” is not there.");
     case ErrorKind::notRegularFile:
-        return text("“%1” is not a folder.");
+        return Texts::tr("“%1” is not a folder.");
     case ErrorKind::permissionDenied:
-        return text("You do not have permission to look into “%1”.");
+        return Texts::tr("You do not have permission to look into “%1”.");
     case ErrorKind::invalidValue:
-        return text("“%1” has a name that is not valid text, so it cannot be remembered.");
+        return Texts::tr("“%1” has a name that is not valid text, so it cannot be remembered.");
     default:
-        return text("“%1” could not be looked at.");
+        return Texts::tr("“%1” could not be looked at.");
     }
 }
 
@@ -49,7 +49,7 @@ QString refusalOf(const Error &error)
 
 ProgressState scanBegins()
 {
-    return {text("Scanning fonts…"), std::nullopt};
+    return {Texts::tr("Scanning fonts…"), std::nullopt};
 }
 
 ProgressState scanProgress(const FontScanPhase &phase)
@@ -63,16 +63,16 @@ ProgressState scanProgress(const FontScanPhase &phase)
 IndexingCompletion indexingCompletion(int newFamilies)
 {
     if (newFamilies < 1)
-        return {text("No new fonts added"),
-                text("Lorva didn't find any new fonts in the selected location.")};
-    const QString title = newFamilies == 1 ? text("Added %1 font") : text("Added %1 fonts");
-    return {title.arg(groupedNumber(newFamilies)), text("You can find them in your library.")};
+        return {Texts::tr("No new fonts added"),
+                Texts::tr("Lorva didn't find any new fonts in the selected location.")};
+    return {Texts::tr("Added %1 fonts", nullptr, newFamilies).arg(groupedNumber(newFamilies)),
+            Texts::tr("You can find them in your library.")};
 }
 
 FolderQuestion watchFoldersQuestion()
 {
-    return {text("Choose one or more folders of font files to include in your library."),
-            text("Watch"), true};
+    return {Texts::tr("Choose one or more folders of font files to include in your library."),
+            Texts::tr("Watch"), true};
 }
 
 QString folderText(const FilePath &folder)
@@ -92,8 +92,7 @@ QString refusedFoldersText(const std::map<FilePath, Error> &failures)
     for (const auto &[folder, error] : failures) {
         if (size_t(lines.size()) == kMostFoldersNamed) {
             const int rest = int(failures.size() - kMostFoldersNamed);
-            lines.append((rest == 1 ? text("%1 more folder could not be added.")
-                                    : text("%1 more folders could not be added."))
+            lines.append(Texts::tr("%1 more folders could not be added.", nullptr, rest)
                              .arg(groupedNumber(rest)));
             break;
         }

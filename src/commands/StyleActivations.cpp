@@ -44,8 +44,9 @@ QStringList labelsBut(const FontStyleRecord &style,
     }
     const qsizetype rest = qsizetype(together.size()) - 1 - labels.size();
     if (rest > 0)
-        labels.append(QCoreApplication::translate("StyleActivations", "%1 more", nullptr, int(rest))
-                          .arg(rest));
+        //: So many styles, at the end of a list of their names.
+        labels.append(
+            QCoreApplication::translate("StyleActivations", "%n more", nullptr, int(rest)));
     return labels;
 }
 
