@@ -5,6 +5,7 @@
 
 #include "ui/display/BackgroundImages.h"
 
+#include <QCoreApplication>
 #include <QList>
 
 #include <algorithm>
@@ -13,6 +14,11 @@
 namespace lorva {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(LaunchOptions)
+};
 
 tl::unexpected<Error> usage(const QString &detail)
 {
@@ -28,8 +34,7 @@ Result<QSize> parseSize(const QByteArray &value)
     const QSize size(parts.value(0).toInt(&hasWidth), parts.value(1).toInt(&hasHeight));
     if (parts.size() != 2 || !hasWidth || !hasHeight || size.isEmpty()
         || std::max(size.width(), size.height()) > kLargest)
-        return usage(
-            QStringLiteral("--window-size takes WIDTHxHEIGHT in points, for example 1720x920"));
+        return usage(Texts::tr("--window-size takes WIDTHxHEIGHT in points, for example 1720x920"));
     return size;
 }
 
@@ -39,7 +44,7 @@ Result<ViewMode> parseViewMode(const QByteArray &value)
         return ViewMode::grid;
     if (value == "list")
         return ViewMode::list;
-    return usage(QStringLiteral("--view takes grid or list"));
+    return usage(Texts::tr("--view takes grid or list"));
 }
 
 Result<ColorMode> parseColorMode(const QByteArray &value)
@@ -52,7 +57,7 @@ Result<ColorMode> parseColorMode(const QByteArray &value)
         return ColorMode::custom;
     if (value == "image")
         return ColorMode::image;
-    return usage(QStringLiteral("--color takes white, black, custom or image"));
+    return usage(Texts::tr("--color takes white, black, custom or image"));
 }
 
 Result<LaunchSheet> parseSheet(const QByteArray &value)
@@ -65,7 +70,7 @@ Result<LaunchSheet> parseSheet(const QByteArray &value)
         return LaunchSheet::history;
     if (value == "settings")
         return LaunchSheet::settings;
-    return usage(QStringLiteral("--sheet takes activate, deactivate, history or settings"));
+    return usage(Texts::tr("--sheet takes activate, deactivate, history or settings"));
 }
 
 Result<DetailStage> parseStage(const QByteArray &value)
@@ -76,7 +81,7 @@ Result<DetailStage> parseStage(const QByteArray &value)
         return DetailStage::waterfall;
     if (value == "comparison")
         return DetailStage::comparison;
-    return usage(QStringLiteral("--stage takes text, waterfall or comparison"));
+    return usage(Texts::tr("--stage takes text, waterfall or comparison"));
 }
 
 Result<FontInspectorViewController::Tab> parseInspectorTab(const QByteArray &value)
@@ -85,7 +90,7 @@ Result<FontInspectorViewController::Tab> parseInspectorTab(const QByteArray &val
         return FontInspectorViewController::Tab::features;
     if (value == "info")
         return FontInspectorViewController::Tab::info;
-    return usage(QStringLiteral("--inspector takes features or info"));
+    return usage(Texts::tr("--inspector takes features or info"));
 }
 
 Result<LaunchQuiz> parseQuiz(const QByteArray &value)
@@ -96,7 +101,7 @@ Result<LaunchQuiz> parseQuiz(const QByteArray &value)
         return LaunchQuiz::playing;
     if (value == "poster")
         return LaunchQuiz::poster;
-    return usage(QStringLiteral("--quiz takes intro, playing or poster"));
+    return usage(Texts::tr("--quiz takes intro, playing or poster"));
 }
 
 Result<LaunchWelcome> parseWelcome(const QByteArray &value)
@@ -105,14 +110,14 @@ Result<LaunchWelcome> parseWelcome(const QByteArray &value)
         return LaunchWelcome::scene;
     if (value == "card")
         return LaunchWelcome::card;
-    return usage(QStringLiteral("--welcome takes scene or card"));
+    return usage(Texts::tr("--welcome takes scene or card"));
 }
 
 Result<bool> parseAppearance(const QByteArray &value)
 {
     if (value == "light" || value == "dark")
         return value == "dark";
-    return usage(QStringLiteral("--appearance takes light or dark"));
+    return usage(Texts::tr("--appearance takes light or dark"));
 }
 
 Result<LaunchSource> parseSource(const QByteArray &value)
@@ -132,9 +137,9 @@ Result<LaunchSource> parseSource(const QByteArray &value)
     for (const auto &[word, kind] : words)
         if (place == word && BrowserSource::namesGrouping(kind) == !text.isEmpty())
             return LaunchSource{kind, text};
-    return usage(QStringLiteral(
-        "--source takes all, active, inactive, style:ID, collection:NAME, foundry:ID "
-        "or discover"));
+    return usage(
+        Texts::tr("--source takes all, active, inactive, style:ID, collection:NAME, foundry:ID "
+                  "or discover"));
 }
 
 Result<QString> parseImage(const QByteArray &value)
@@ -145,7 +150,7 @@ Result<QString> parseImage(const QByteArray &value)
             return QString::fromUtf8(value);
         ids << QString::fromUtf8(image.id);
     }
-    return usage(QStringLiteral("--image takes one of: %1").arg(ids.join(QStringLiteral(", "))));
+    return usage(Texts::tr("--image takes one of: %1").arg(ids.join(QStringLiteral(", "))));
 }
 
 Result<int> parseWeight(const QByteArray &value)
@@ -153,7 +158,7 @@ Result<int> parseWeight(const QByteArray &value)
     bool isNumber = false;
     const int weight = value.toInt(&isNumber);
     if (!isNumber || weight < 100 || weight > 900)
-        return usage(QStringLiteral("--weight takes a number from 100 to 900"));
+        return usage(Texts::tr("--weight takes a number from 100 to 900"));
     return weight;
 }
 
@@ -162,7 +167,7 @@ Result<double> parsePointSize(const QByteArray &value)
     bool isNumber = false;
     const double size = value.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(size) || size <= 0)
-        return usage(QStringLiteral("--point-size takes a positive number of points"));
+        return usage(Texts::tr("--point-size takes a positive number of points"));
     return size;
 }
 
@@ -260,6 +265,68 @@ const Option *findOption(const QByteArray &name)
     return found == std::end(kOptions) ? nullptr : found;
 }
 
+/// One of --help's lines: an option, and what it does.
+struct HelpLine
+{
+    const char *option;
+    const char *text;
+};
+
+constexpr HelpLine kHelpLines[]{
+    {"--folder DIR",
+     QT_TRANSLATE_NOOP("LaunchOptions", "add the fonts of a folder for this start (repeatable)")},
+    {"--source SOURCE",
+     QT_TRANSLATE_NOOP("LaunchOptions",
+                       "start in all, active, inactive, style:ID, collection:NAME, "
+                       "foundry:ID or discover")},
+    {"--search TEXT",
+     QT_TRANSLATE_NOOP("LaunchOptions", "start with this text in the search field")},
+    {"--select NAME", QT_TRANSLATE_NOOP("LaunchOptions", "start with this family selected")},
+    {"--detail NAME", QT_TRANSLATE_NOOP("LaunchOptions", "open this family in the detail view")},
+    {"--stage STAGE",
+     QT_TRANSLATE_NOOP("LaunchOptions", "show it as text, waterfall or comparison there")},
+    {"--inspector TAB", QT_TRANSLATE_NOOP("LaunchOptions", "show its features or info beside it")},
+    {"--quiz PHASE",
+     QT_TRANSLATE_NOOP("LaunchOptions",
+                       "start in the font quiz: its intro, playing or its poster")},
+    {"--welcome scene|card",
+     QT_TRANSLATE_NOOP("LaunchOptions", "show the welcome, whether it was seen before or not")},
+    {"--no-welcome", QT_TRANSLATE_NOOP("LaunchOptions", "do not show it")},
+    {"--view grid|list", QT_TRANSLATE_NOOP("LaunchOptions", "start in this view")},
+    {"--point-size N",
+     QT_TRANSLATE_NOOP("LaunchOptions", "start with specimens of this size, in points")},
+    {"--weight N",
+     QT_TRANSLATE_NOOP("LaunchOptions", "start with specimens of this weight, 100 to 900")},
+    {"--color MODE",
+     QT_TRANSLATE_NOOP("LaunchOptions", "start with white, black or custom colours, or an image")},
+    {"--image ID",
+     QT_TRANSLATE_NOOP("LaunchOptions", "start with this background image (--color image)")},
+    {"--logo FILE", QT_TRANSLATE_NOOP("LaunchOptions", "start with this image as logo")},
+    {"--text TEXT", QT_TRANSLATE_NOOP("LaunchOptions", "start with this sample text")},
+    {"--appearance MODE",
+     QT_TRANSLATE_NOOP("LaunchOptions", "light or dark, whatever the desktop is")},
+    {"--screenshot FILE",
+     QT_TRANSLATE_NOOP("LaunchOptions",
+                       "show the window off screen, write its picture as PNG, and quit")},
+    {"--window-size WxH",
+     QT_TRANSLATE_NOOP("LaunchOptions", "size of that picture, in points (default 1720x920)")},
+    {"--sheet SHEET",
+     QT_TRANSLATE_NOOP("LaunchOptions",
+                       "open activate, deactivate (for --select), history or settings for it")},
+    {"--version", QT_TRANSLATE_NOOP("LaunchOptions", "print the version")},
+    {"--help", QT_TRANSLATE_NOOP("LaunchOptions", "print this help")},
+};
+
+QString optionHelp()
+{
+    constexpr int kColumn = 22;
+    QString help;
+    for (const HelpLine &line : kHelpLines)
+        help += u"  " % QString::fromLatin1(line.option).leftJustified(kColumn)
+            % Texts::tr(line.text) % u'\n';
+    return help;
+}
+
 } // namespace
 
 Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
@@ -279,12 +346,11 @@ Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
         }
         const Option *const option = findOption(name);
         if (!option)
-            return usage(
-                QStringLiteral("unknown argument \"%1\"").arg(FilePath(name).displayText()));
+            return usage(Texts::tr("unknown argument \"%1\"").arg(FilePath(name).displayText()));
         if (!value && i + 1 < arguments.size())
             value = QByteArray(arguments[++i]);
         if (!value || value->isEmpty())
-            return usage(QStringLiteral("%1 needs a value").arg(QString::fromUtf8(name)));
+            return usage(Texts::tr("%1 needs a value").arg(QString::fromUtf8(name)));
         if (const auto applied = option->apply(options, *value, workingFolder); !applied)
             return tl::unexpected(applied.error());
     }
@@ -293,38 +359,20 @@ Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
 
 QString launchHelp()
 {
-    return QStringLiteral(R"(Usage: lorva [options]
-
-Shows every font of this computer as a live specimen.
-
-  --folder DIR          add the fonts of a folder for this start (repeatable)
-  --source SOURCE       start in all, active, inactive, style:ID, collection:NAME, foundry:ID or discover
-  --search TEXT         start with this text in the search field
-  --select NAME         start with this family selected
-  --detail NAME         open this family in the detail view
-  --stage STAGE         show it as text, waterfall or comparison there
-  --inspector TAB       show its features or info beside it
-  --quiz PHASE          start in the font quiz: its intro, playing or its poster
-  --welcome scene|card  show the welcome, whether it was seen before or not
-  --no-welcome          do not show it
-  --view grid|list      start in this view
-  --point-size N        start with specimens of this size, in points
-  --weight N            start with specimens of this weight, 100 to 900
-  --color MODE          start with white, black or custom colours, or an image
-  --image ID            start with this background image (--color image)
-  --logo FILE           start with this image as logo
-  --text TEXT           start with this sample text
-  --appearance MODE     light or dark, whatever the desktop is
-  --screenshot FILE     show the window off screen, write its picture as PNG, and quit
-  --window-size WxH     size of that picture, in points (default 1720x920)
-  --sheet SHEET         open activate, deactivate (for --select), history or settings for it
-  --version             print the version
-  --help                print this help
-
-If Lorva runs already, its window comes to the front and takes the options over.
-QT_SCALE_FACTOR=2 makes the picture twice as dense. QT_LOGGING_RULES="lorva.*=true" logs.
-LORVA_TRACE=FILE writes down where the time of a start goes, as Chrome trace events.
-)");
+    //: Options begin with "--", and words in capitals stand for what is typed after them; both, and
+    //: the words that an option takes, stay as they are.
+    return Texts::tr("Usage: lorva [options]") + u"\n\n"
+        + Texts::tr("Shows every font of this computer as a live specimen.") + u"\n\n"
+        + optionHelp() + u'\n'
+        + Texts::tr(
+               "If Lorva runs already, its window comes to the front and takes the options over.")
+        + u'\n'
+        + Texts::tr("QT_SCALE_FACTOR=2 makes the picture twice as dense. "
+                    "QT_LOGGING_RULES=\"lorva.*=true\" logs.")
+        + u'\n'
+        + Texts::tr("LORVA_TRACE=FILE writes down where the time of a start goes, as Chrome trace "
+                    "events.")
+        + u'\n';
 }
 
 } // namespace lorva

@@ -197,6 +197,7 @@ void MainMenu::buildEditMenu()
 
 void MainMenu::buildFontsMenu()
 {
+    //: The titles of the menus, each with the letter that opens it.
     QMenu *menu = addMenu(tr("F&onts"), QStringLiteral("Menu.Fonts"));
     ActivationCommands &activation = m_targets.activation;
     m_activate = add(menu, "Menu.Activate", tr("Activate…"), {QKeySequence(Qt::CTRL | Qt::Key_E)},
@@ -237,7 +238,9 @@ void MainMenu::addModeActions(QMenu *menu)
         modes->addAction(action);
         return action;
     };
+    //: Shows the fonts as cards side by side.
     m_grid = addMode("Menu.Grid", tr("Grid"), Qt::Key_1, ViewMode::grid);
+    //: Shows the fonts as rows.
     m_list = addMode("Menu.List", tr("List"), Qt::Key_2, ViewMode::list);
 }
 
@@ -338,6 +341,7 @@ void MainMenu::update()
             action->setEnabled(true);
     const QUndoStack &stack = m_targets.model.undoStack();
     const auto typing = typingHistory(m_focused);
+    //: %1 is what was done last, such as "New Collection".
     m_undo->setText(typing ? tr("Undo") : commandText(tr("Undo %1"), tr("Undo"), stack.undoText()));
     m_redo->setText(typing ? tr("Redo") : commandText(tr("Redo %1"), tr("Redo"), stack.redoText()));
     // A de-activation that is being undone cannot be done again before that has ended.
@@ -367,11 +371,10 @@ void MainMenu::updateFontActions()
     const qsizetype count = m_targets.selectedNames().size();
     for (QAction *action : {m_activate, m_activateRemaining, m_deactivate})
         action->setEnabled(count > 0);
-    const auto titled = [count](QAction *action, const QString &one, const QString &several) {
-        action->setText(count < 2 ? one : several.arg(QString::number(count)));
-    };
-    titled(m_activate, tr("Activate…"), tr("Activate %1 Fonts…", nullptr, int(count)));
-    titled(m_deactivate, tr("De-activate"), tr("De-activate %1 Fonts", nullptr, int(count)));
+    m_activate->setText(count < 2 ? tr("Activate…")
+                                  : tr("Activate %n Fonts…", nullptr, int(count)));
+    m_deactivate->setText(count < 2 ? tr("De-activate")
+                                    : tr("De-activate %n Fonts", nullptr, int(count)));
     m_failedFiles->setEnabled(m_targets.activation.hasFailures());
 }
 

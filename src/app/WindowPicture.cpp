@@ -121,7 +121,8 @@ void WindowPicture::take()
     const bool isEncoded = shown()->grab().toImage().save(&buffer, "PNG");
     const Result<void> written = isEncoded
         ? writeFileAtomically(*m_options.screenshot, png)
-        : failure(ErrorKind::ioFailure, QStringLiteral("the picture could not be encoded"));
+        : failure(ErrorKind::ioFailure,
+                  QCoreApplication::translate("WindowPicture", "the picture could not be encoded"));
     if (!written)
         std::fprintf(stderr, "lorva: %s\n", qPrintable(written.error().detail));
     QCoreApplication::exit(written ? 0 : 1);
