@@ -14,14 +14,16 @@ namespace lorva {
 
 namespace {
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("PageExport", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(PageExport)
+};
 
 QStringList filters()
 {
-    return {text("PDF document (*.pdf)"), text("SVG drawing (*.svg)"), text("PNG picture (*.png)")};
+    return {Texts::tr("PDF document") + QLatin1String(" (*.pdf)"),
+            Texts::tr("SVG drawing") + QLatin1String(" (*.svg)"),
+            Texts::tr("PNG picture") + QLatin1String(" (*.png)")};
 }
 
 /// The name's own ending wins; a name without one gets that of the chosen kind.

@@ -4,6 +4,7 @@
 #include "ui/PaneStates.h"
 
 #include "catalog/FontVariants.h"
+#include "model/records/DisplayedNames.h"
 #include "ui/browser/MembershipOptions.h"
 #include "ui/DetailNeighbours.h"
 
@@ -52,7 +53,7 @@ template <class Record>
 std::optional<QString> nameOf(const std::vector<Record> &records, const QString &id)
 {
     const Record *record = recordOf(records, id);
-    return record ? std::optional(record->name) : std::nullopt;
+    return record ? std::optional(displayedName(*record)) : std::nullopt;
 }
 
 QString titleOf(const BrowserSource &source, const LorvaAppModel &model)
@@ -60,10 +61,13 @@ QString titleOf(const BrowserSource &source, const LorvaAppModel &model)
     using Kind = BrowserSource::Kind;
     std::optional<QString> title;
     if (source.kind() == Kind::active)
+        //: A heading: fonts that are switched on for every program.
         title = PaneTexts::tr("Active");
     else if (source.kind() == Kind::inactive)
+        //: A heading: fonts that are not switched on.
         title = PaneTexts::tr("Inactive");
     else if (source.kind() == Kind::discover)
+        //: A heading: a page that introduces type foundries.
         title = PaneTexts::tr("Discover");
     else if (source.kind() == Kind::style)
         title = nameOf(model.styleCategories(), source.id());

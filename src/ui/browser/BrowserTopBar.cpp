@@ -36,8 +36,11 @@ BrowserTopBar::BrowserTopBar(QWidget *parent)
     m_sampleText->setObjectName(QStringLiteral("sampleTextButton"));
     m_controls->setSampleTextButton(m_sampleText);
     m_mode->setObjectName(QStringLiteral("viewModeControl"));
+    //: How the fonts are shown, as a noun; spoken.
     m_mode->setAccessibleName(tr("View"));
+    //: Shows the fonts as cards side by side.
     m_mode->addSegment(QStringLiteral("square.grid.2x2"), tr("Grid"));
+    //: Shows the fonts as rows.
     m_mode->addSegment(QStringLiteral("list.bullet"), tr("List"));
     // The segments come after the field only in the order of making.
     setTabOrder(m_mode->findChildren<QAbstractButton *>().constLast(), m_search->field());

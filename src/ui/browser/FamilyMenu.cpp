@@ -16,10 +16,10 @@ namespace {
 
 using SharedSubject = std::shared_ptr<const FamilyMenuSubject>;
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("CardMenu", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(CardMenu)
+};
 
 template <class Option>
 QAction *addOption(QMenu &menu, const Option &option)
@@ -49,7 +49,8 @@ QMenu *addSubmenu(QMenu &menu, const char *name, const QString &title,
 template <class Options, class Choose, class None>
 void fillChoice(QMenu &menu, const Options &options, const Choose &choose, const None &none)
 {
-    QObject::connect(menu.addAction(text("None")), &QAction::triggered, &menu, none);
+    //: No style, or no foundry, of a font family.
+    QObject::connect(menu.addAction(Texts::tr("None")), &QAction::triggered, &menu, none);
     menu.addSeparator();
     for (const auto &option : options)
         QObject::connect(addOption(menu, option), &QAction::triggered, &menu,
@@ -66,13 +67,15 @@ void fillCollections(QMenu &menu, const SharedSubject &subject)
     }
 }
 
-/// "Activate…", or "Activate 3 Fonts…".
-QString switchingText(const char *forOne, const char *forSeveral, qsizetype count)
+QString activationText(const QString &forOne, qsizetype count)
 {
-    if (count < 2)
-        return text(forOne);
-    return QCoreApplication::translate("CardMenu", forSeveral, nullptr, int(count))
-        .arg(QString::number(count));
+    return count < 2 ? forOne : Texts::tr("Activate %n Fonts…", nullptr, int(count));
+}
+
+QString deactivationText(qsizetype count)
+{
+    return count < 2 ? Texts::tr("De-activate")
+                     : Texts::tr("De-activate %n Fonts", nullptr, int(count));
 }
 
 void addSwitching(QMenu &menu, const char *name, const QString &title,
@@ -91,16 +94,14 @@ void addActivation(QMenu &menu, const FamilyMenuSubject &subject)
     if (subject.offer != ActivationOffer())
         menu.addSeparator();
     if (subject.offer.activates)
-        addSwitching(menu, "activateItem", switchingText("Activate…", "Activate %1 Fonts…", count),
+        addSwitching(menu, "activateItem", activationText(Texts::tr("Activate…"), count),
                      subject.activate);
     else if (subject.offer.activatesRemaining)
         addSwitching(menu, "activateRemainingItem",
-                     switchingText("Activate Remaining Styles…", "Activate %1 Fonts…", count),
+                     activationText(Texts::tr("Activate Remaining Styles…"), count),
                      subject.activateRemaining);
     if (subject.offer.deactivates)
-        addSwitching(menu, "deactivateItem",
-                     switchingText("De-activate", "De-activate %1 Fonts", count),
-                     subject.deactivate);
+        addSwitching(menu, "deactivateItem", deactivationText(count), subject.deactivate);
 }
 
 } // namespace
@@ -117,14 +118,15 @@ CollectionMenuAction::CollectionMenuAction(const CollectionMembershipOption &opt
 void fillFamilyMenu(QMenu &menu, const FamilyMenuSubject &subject)
 {
     const auto shared = std::make_shared<const FamilyMenuSubject>(subject);
-    addSubmenu(menu, "styleMenu", text("Style"), [shared](QMenu &submenu) {
+    //: The style category of a family: Serif, Script and so on.
+    addSubmenu(menu, "styleMenu", Texts::tr("Style"), [shared](QMenu &submenu) {
         fillChoice(submenu, shared->styles(), shared->chooseStyle,
                    [shared] { shared->chooseStyle(std::nullopt); });
     });
-    addSubmenu(menu, "collectionsMenu", text("Collections"), [shared](QMenu &submenu) {
+    addSubmenu(menu, "collectionsMenu", Texts::tr("Collections"), [shared](QMenu &submenu) {
         fillCollections(submenu, shared);
     })->setEnabled(subject.hasCollections);
-    addSubmenu(menu, "foundryMenu", text("Foundry"), [shared](QMenu &submenu) {
+    addSubmenu(menu, "foundryMenu", Texts::tr("Foundry"), [shared](QMenu &submenu) {
         fillChoice(submenu, shared->foundries(), shared->chooseFoundry,
                    [shared] { shared->chooseFoundry({}); });
     });

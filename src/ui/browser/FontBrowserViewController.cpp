@@ -285,7 +285,8 @@ QString FontBrowserViewController::cardDescription(int index) const
         if (!note.isEmpty())
             parts.append(note);
     }
-    return parts.join(QStringLiteral(", "));
+    //: Between what is said of a family's card; spoken.
+    return parts.join(tr(", "));
 }
 
 QStringList FontBrowserViewController::selectedNames() const

@@ -141,7 +141,8 @@ bool FontCardContentView::showsItsFile() const
 
 QString FontCardContentView::subtitleText(const FontFamilyRecord &family)
 {
-    return QLocale().toString(qlonglong(family.styles.size())) + QStringLiteral(" styles");
+    //: The fonts of a family, such as Bold. English says "1 styles", too.
+    return tr("%Ln styles", nullptr, int(family.styles.size()));
 }
 
 QString FontCardContentView::subtitleText() const

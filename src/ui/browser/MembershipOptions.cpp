@@ -3,6 +3,8 @@
 
 #include "ui/browser/MembershipOptions.h"
 
+#include "model/records/DisplayedNames.h"
+
 #include <algorithm>
 
 namespace lorva {
@@ -33,7 +35,8 @@ std::vector<Option> exclusiveOptions(const std::vector<Record> &records, const Q
     std::vector<Option> options;
     options.reserve(records.size());
     for (const Record &record : records)
-        options.push_back({record.id, record.name, !memberID.isEmpty() && record.id == memberID});
+        options.push_back(
+            {record.id, displayedName(record), !memberID.isEmpty() && record.id == memberID});
     return options;
 }
 

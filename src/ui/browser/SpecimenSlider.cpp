@@ -75,8 +75,10 @@ QString SpecimenSlider::label() const
     switch (m_kind) {
     case Kind::size:
     case Kind::detailSize:
+        //: Of the letters.
         return tr("Size");
     case Kind::weight:
+        //: How heavy letters are, from Thin to Black.
         return tr("Weight");
     case Kind::letterSpacing:
         break;
@@ -172,6 +174,7 @@ void SpecimenSlider::describe()
 {
     const QLocale locale;
     if (m_kind == Kind::detailSize)
+        //: The size of letters; spoken.
         m_slider->setAccessibleDescription(tr("%1 points").arg(valueAt(m_position)));
     if (m_kind == Kind::letterSpacing)
         m_slider->setAccessibleDescription(tr("%1 em").arg(locale.toString(valueAt(m_position))));

@@ -96,10 +96,10 @@ CharacterGridSection sectionOf(Block block, const std::vector<char32_t> &charact
     return section;
 }
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("CharacterBlocks", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CharacterBlocks)
+};
 
 } // namespace
 
@@ -122,21 +122,23 @@ QString blockName(Block block)
 {
     switch (block) {
     case Block::latin:
-        return tr("Latin");
+        return Texts::tr("Latin");
     case Block::digits:
-        return tr("Digits");
+        return Texts::tr("Digits");
     case Block::punctuationAndSymbols:
-        return tr("Punctuation & Symbols");
+        return Texts::tr("Punctuation & Symbols");
     case Block::kana:
-        return tr("Kana");
+        return Texts::tr("Kana");
     case Block::hangul:
-        return tr("Hangul");
+        return Texts::tr("Hangul");
     case Block::han:
-        return tr("Han");
+        //: The Chinese characters.
+        return Texts::tr("Han");
     case Block::other:
         break;
     }
-    return tr("Other");
+    //: Other characters.
+    return Texts::tr("Other");
 }
 
 char32_t latinSortLetter(char32_t scalar)

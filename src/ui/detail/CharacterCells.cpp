@@ -25,10 +25,10 @@ CharacterCells foundCells(std::shared_ptr<const CharacterListing> listing, bool 
     return cells;
 }
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("CharacterCells", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CharacterCells)
+};
 
 } // namespace
 
@@ -77,13 +77,14 @@ QString CharacterCells::nameAt(CellIndex cell, const Font &font) const
     if (character.isEmpty())
         return glyphName(glyphAt(cell, font));
     const QString name = unicodeName(firstScalar(character));
-    return name.isEmpty() ? character : tr("%1, %2").arg(character, name);
+    //: A character, and its name.
+    return name.isEmpty() ? character : Texts::tr("%1, %2").arg(character, name);
 }
 
 QString CharacterCells::descriptionAt(CellIndex cell) const
 {
     const QString character = characterAt(cell);
-    return character.isEmpty() ? tr("No character leads to this glyph.")
+    return character.isEmpty() ? Texts::tr("No character leads to this glyph.")
                                : codePointText(firstScalar(character));
 }
 

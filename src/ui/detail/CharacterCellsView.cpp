@@ -333,6 +333,7 @@ bool CharacterCellsView::event(QEvent *event)
     if (const std::optional<CellIndex> cell = m_layout.cellAt(help->pos()))
         QToolTip::showText(
             help->globalPos(),
+            //: A character, and what is known of it.
             plainToolTip(tr("%1 \u2013 %2").arg(nameOf(*cell), m_cells.descriptionAt(*cell))), this,
             m_layout.cellRect(*cell));
     return true;

@@ -180,12 +180,13 @@ QString CharacterGridView::countText() const
     if (m_model.isEnumeratingCharacters())
         return {};
     const CharacterCells &cells = m_finder.cells();
-    const QString count = groupedNumber(cells.count());
+    const int count = cells.count();
+    const QString number = groupedNumber(count);
+    //: Characters or glyphs.
     if (m_finder.hasQuery())
-        return cells.count() == 1 ? tr("1 found") : tr("%1 found").arg(count);
-    if (cells.areGlyphs)
-        return cells.count() == 1 ? tr("1 glyph") : tr("%1 glyphs").arg(count);
-    return cells.count() == 1 ? tr("1 character") : tr("%1 characters").arg(count);
+        return tr("%1 found", nullptr, count).arg(number);
+    return (cells.areGlyphs ? tr("%1 glyphs", nullptr, count) : tr("%1 characters", nullptr, count))
+        .arg(number);
 }
 
 QString CharacterGridView::message() const

@@ -104,24 +104,25 @@ QString controlAlias(char32_t scalar)
     return high < std::size(kHighControls) ? QLatin1String(kHighControls[high]) : QString();
 }
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("CharacterNames", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CharacterNames)
+};
 
 QString letterText(int8_t category)
 {
     switch (category) {
     case U_UPPERCASE_LETTER:
-        return tr("Uppercase letter");
+        //: The general category that Unicode gives a character.
+        return Texts::tr("Uppercase letter");
     case U_LOWERCASE_LETTER:
-        return tr("Lowercase letter");
+        return Texts::tr("Lowercase letter");
     case U_TITLECASE_LETTER:
-        return tr("Titlecase letter");
+        return Texts::tr("Titlecase letter");
     case U_MODIFIER_LETTER:
-        return tr("Modifier letter");
+        return Texts::tr("Modifier letter");
     default:
-        return tr("Letter");
+        return Texts::tr("Letter");
     }
 }
 
@@ -129,11 +130,11 @@ QString symbolText(int8_t category)
 {
     switch (category) {
     case U_MATH_SYMBOL:
-        return tr("Mathematical symbol");
+        return Texts::tr("Mathematical symbol");
     case U_CURRENCY_SYMBOL:
-        return tr("Currency symbol");
+        return Texts::tr("Currency symbol");
     default:
-        return tr("Symbol");
+        return Texts::tr("Symbol");
     }
 }
 
@@ -175,16 +176,18 @@ QString categoryText(char32_t scalar)
     if (mask & U_GC_L_MASK)
         return letterText(category);
     if (mask & U_GC_M_MASK)
-        return tr("Combining mark");
+        return Texts::tr("Combining mark");
     if (mask & U_GC_N_MASK)
-        return category == U_DECIMAL_DIGIT_NUMBER ? tr("Digit") : tr("Number");
+        return category == U_DECIMAL_DIGIT_NUMBER ? Texts::tr("Digit") : Texts::tr("Number");
     if (mask & U_GC_P_MASK)
-        return tr("Punctuation");
+        return Texts::tr("Punctuation");
     if (mask & U_GC_S_MASK)
         return symbolText(category);
     if (mask & U_GC_Z_MASK)
-        return tr("Space");
-    return category == U_PRIVATE_USE_CHAR ? tr("Private use") : tr("Other");
+        //: A kind of character, not the key.
+        return Texts::tr("Space");
+    //: A kind of character.
+    return category == U_PRIVATE_USE_CHAR ? Texts::tr("Private use") : Texts::tr("Other");
 }
 
 QString utf8Text(char32_t scalar)

@@ -172,6 +172,7 @@ void CharacterPopoverViewController::addTexts(QVBoxLayout &column)
     QString about = tr("No character leads to this glyph.");
     if (!m_codePoint.isEmpty()) {
         const char32_t scalar = firstScalar(m_content.character);
+        //: The kind of a character, and the block that it belongs to.
         about = tr("%1, %2").arg(categoryText(scalar), blockName(blockOf(scalar)));
     }
     column.addWidget(name);

@@ -66,6 +66,7 @@ void CharacterTrayView::setText(const QString &text)
     if (text == m_text)
         return;
     m_text = text;
+    //: Characters that were collected, to be copied together.
     setAccessibleName(tr("Tray: %1").arg(m_text));
     setLine();
     // Who hears of it may give the keyboard to someone before this hides.

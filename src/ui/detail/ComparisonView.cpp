@@ -64,10 +64,13 @@ void ComparisonView::setUpControls()
 {
     m_mode->setObjectName(QStringLiteral("comparisonMode"));
     m_mode->setAccessibleName(tr("Arrangement"));
+    //: How the compared families are arranged: beside each other.
     m_mode->addTextSegment(tr("Beside"));
+    //: How the compared families are arranged: one over the other.
     m_mode->addTextSegment(tr("Overlaid"));
     m_mode->setCurrentIndex(int(m_shownMode));
     m_match->setObjectName(QStringLiteral("comparisonMatch"));
+    //: What the compared families have in common: their size or their x-height; spoken.
     m_match->setAccessibleName(tr("Match"));
     m_match->addTextSegment(tr("Same Size"));
     m_match->addTextSegment(tr("Same x-Height"));

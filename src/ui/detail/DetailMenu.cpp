@@ -12,9 +12,14 @@ namespace lorva {
 
 namespace {
 
-void addItem(QMenu &menu, const char *name, const char *text, const std::function<void()> &act)
+struct Texts
 {
-    QAction *action = menu.addAction(QCoreApplication::translate("DetailMenu", text));
+    Q_DECLARE_TR_FUNCTIONS(DetailMenu)
+};
+
+void addItem(QMenu &menu, const char *name, const QString &text, const std::function<void()> &act)
+{
+    QAction *action = menu.addAction(text);
     action->setObjectName(QString::fromLatin1(name));
     QObject::connect(action, &QAction::triggered, &menu, act);
 }
@@ -45,8 +50,8 @@ QMenu *makeDetailMenuFor(const DetailMenuSubject &subject, QWidget *parent)
     family.deactivate = [delegate] { delegate->detailDeactivationWanted(); };
     fillFamilyMenu(*menu, family);
     menu->addSeparator();
-    addItem(*menu, "exportItem", "Export…", subject.exportPage);
-    addItem(*menu, "copyCssItem", "Copy as CSS", subject.copyCss);
+    addItem(*menu, "exportItem", Texts::tr("Export…"), subject.exportPage);
+    addItem(*menu, "copyCssItem", Texts::tr("Copy as CSS"), subject.copyCss);
     return menu;
 }
 

@@ -28,8 +28,11 @@ using Kind = BarDisplayControls::Kind;
 SegmentedControl *makeStages(QWidget *bar)
 {
     auto *stages = new SegmentedControl(bar);
+    //: Shows the family as one text that can be edited.
     stages->addSegment(QStringLiteral("textformat"), DetailTopBar::tr("Text"));
+    //: Shows the same text in ever smaller sizes.
     stages->addSegment(QStringLiteral("text.line.falling"), DetailTopBar::tr("Waterfall"));
+    //: Shows several families together.
     stages->addSegment(QStringLiteral("square.on.square"), DetailTopBar::tr("Compare"));
     return stages;
 }

@@ -70,7 +70,7 @@ QString specimenFileName(const QString &familyName, const QString &styleName)
         name.remove(0, 1);
     while (!name.isEmpty() && isEdge(name.back()))
         name.chop(1);
-    return name.isEmpty() ? QStringLiteral("Specimen") : name;
+    return name.isEmpty() ? QCoreApplication::translate("PreviewPage", "Specimen") : name;
 }
 
 } // namespace lorva

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace lorva {
 
 namespace {
@@ -17,16 +19,33 @@ constexpr double kRestingAlpha = 0.08;
 constexpr double kHoverAlpha = 0.13;
 constexpr double kPressedAlpha = 0.2;
 constexpr double kOutlineAlpha = 0.3;
+constexpr int kUsualWidth = 100;
+constexpr int kWidest = 180;
+constexpr int kPadding = spacing::k8;
 /// The focus ring and the gap before it.
 constexpr double kFocusInset = 3;
 
+QFont pillFont()
+{
+    return interfaceFont(InterfaceSize::label, InterfaceWeight::medium);
+}
+
 } // namespace
+
+int StyleRowPill::commonWidth()
+{
+    const QFontMetrics metrics(pillFont());
+    int width = kUsualWidth;
+    for (const QString &word : {tr("Activate…"), tr("De-activate"), tr("Active")})
+        width = std::max(width, metrics.horizontalAdvance(word) + 2 * kPadding + 2);
+    return std::min(width, kWidest);
+}
 
 StyleRowPill::StyleRowPill(QWidget *parent)
     : FocusRinged(parent)
 {
     setAttribute(Qt::WA_Hover);
-    setFont(interfaceFont(InterfaceSize::label, InterfaceWeight::medium));
+    setFont(pillFont());
 }
 
 void StyleRowPill::setStyle(const QString &styleName, bool isActive)
@@ -46,7 +65,9 @@ void StyleRowPill::setColors(const QColor &foreground, const QColor &background)
 QString StyleRowPill::shownText() const
 {
     if (!m_isActive)
+        //: A small button that switches one style of a family on.
         return tr("Activate…");
+    //: A small button that switches one style of a family off; "Active" says that it is on.
     return underMouse() || hasFocusRing() ? tr("De-activate") : tr("Active");
 }
 
@@ -90,7 +111,7 @@ void StyleRowPill::paintEvent(QPaintEvent *)
     painter.setPen(ink);
     painter.setFont(font());
     const QString shown =
-        fontMetrics().elidedText(shownText(), Qt::ElideRight, width() - 2 * spacing::k8);
+        fontMetrics().elidedText(shownText(), Qt::ElideRight, width() - 2 * kPadding);
     painter.drawText(rect(), Qt::AlignCenter, shown);
 }
 

@@ -15,15 +15,16 @@ class StyleRowPill final : public FocusRinged<QAbstractButton>
 {
     Q_OBJECT
 public:
-    static constexpr int kWidth = 100;
     static constexpr int kHeight = 22;
+    /// Of every pill: each of its words has room in it, whatever their language.
+    static int commonWidth();
 
     explicit StyleRowPill(QWidget *parent = nullptr);
 
     /// `styleName`: for assistive technology, which is told what a press does.
     void setStyle(const QString &styleName, bool isActive);
     void setColors(const QColor &foreground, const QColor &background);
-    QSize sizeHint() const override { return {kWidth, kHeight}; }
+    QSize sizeHint() const override { return {commonWidth(), kHeight}; }
     /// The word that it shows.
     QString shownText() const;
 

@@ -72,6 +72,7 @@ QString StyleRowView::shownName() const
 {
     const FontStyleRecord &style = m_state.style;
     const QString name = style.label.isEmpty() ? style.postScriptName : style.label;
+    //: A style without a name of its own, as fonts call it.
     return name.isEmpty() ? tr("Regular") : name.left(kLongestName).simplified();
 }
 
@@ -173,14 +174,15 @@ QRect StyleRowView::visual(const QRect &logical) const
 
 void StyleRowView::placePill()
 {
+    const QSize pill = m_pill->sizeHint();
     m_pill->setGeometry(
-        visual(QRect(width() - StyleRowPill::kWidth, (kHeight - StyleRowPill::kHeight) / 2,
-                     StyleRowPill::kWidth, StyleRowPill::kHeight)));
+        visual(QRect(QPoint(width() - pill.width(), (kHeight - pill.height()) / 2), pill)));
 }
 
 double StyleRowView::nameRoom() const
 {
-    return std::max(0, width() - StyleRowPill::kWidth - kPillGap - kWeightWidth - kWeightGap);
+    return std::max(0,
+                    width() - StyleRowPill::commonWidth() - kPillGap - kWeightWidth - kWeightGap);
 }
 
 StyleNameLook StyleRowView::look(double devicePixelRatio) const
@@ -218,6 +220,7 @@ void StyleRowView::paintTogether(QPainter &painter, double nameWidth) const
         return;
     const QFontMetrics metrics(quietFont());
     const QString others = QLocale().createSeparatedList(m_state.labelsInSameFile);
+    //: %1 are the styles that are in the same file as this one.
     const QString text = tr("with %1").arg(others.left(kLongestName));
     const QString shown = metrics.elidedText(text, Qt::ElideRight, room);
     const QRect place = visual(QRect(left, 0, metrics.horizontalAdvance(shown), kHeight));
@@ -229,7 +232,8 @@ void StyleRowView::paintTogether(QPainter &painter, double nameWidth) const
 /// And, in the pill's place, what the system has switched on.
 void StyleRowView::paintWeight(QPainter &painter) const
 {
-    const int right = width() - StyleRowPill::kWidth - kPillGap;
+    const int pillWidth = StyleRowPill::commonWidth();
+    const int right = width() - pillWidth - kPillGap;
     painter.setFont(
         interfaceFont(InterfaceSize::label, InterfaceWeight::regular, Figures::tabular));
     painter.setPen(withAlpha(m_foreground, kQuietAlpha));
@@ -241,7 +245,8 @@ void StyleRowView::paintWeight(QPainter &painter) const
     if (!m_state.activation || m_pill->isVisibleTo(this))
         return;
     painter.setFont(interfaceFont(InterfaceSize::label));
-    painter.drawText(visual(QRect(right + kPillGap, 0, StyleRowPill::kWidth, kHeight - 1)),
+    painter.drawText(visual(QRect(right + kPillGap, 0, pillWidth, kHeight - 1)),
+                     //: A style that the system has switched on, which the user cannot change.
                      Qt::AlignCenter, tr("System"));
 }
 

@@ -31,6 +31,7 @@ VariantBar::VariantBar(QWidget *parent)
 {
     setObjectName(QStringLiteral("VariantBar"));
     m_segments->setObjectName(QStringLiteral("variantSegments"));
+    //: One of the widths or optical sizes of a family.
     m_segments->setAccessibleName(tr("Variant"));
     m_segments->setNaturalWidths(true);
     m_more->setObjectName(QStringLiteral("moreVariantsButton"));
@@ -73,7 +74,8 @@ void VariantBar::showPicker(SegmentPickerState picker)
             m_segments->addTextSegment(label);
     }
     m_segments->setCurrentIndex(int(picker.visibleSegments.indexOf(picker.selected)));
-    m_more->setText(tr("%1 More").arg(picker.overflowSegments.size()));
+    //: So many variants of a family that have no room beside the others.
+    m_more->setText(tr("%n More", nullptr, int(picker.overflowSegments.size())));
     m_more->setVisible(!picker.overflowSegments.isEmpty());
     picker.onChange = [this](const QString &label) {
         if (label != m_selected)
@@ -85,7 +87,7 @@ void VariantBar::showPicker(SegmentPickerState picker)
 void VariantBar::layOut()
 {
     const bool hadFocus = m_segments->isAncestorOf(focusWidget());
-    m_more->setText(tr("%1 More").arg(m_labels.size()));
+    m_more->setText(tr("%n More", nullptr, int(m_labels.size())));
     SegmentRoom room;
     room.width = std::max(width() - 2 * kMargin, 0);
     room.overflowButton = m_more->sizeHint().width() + kMenuGap;

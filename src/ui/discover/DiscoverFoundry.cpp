@@ -87,14 +87,11 @@ DiscoverFoundry foundryOf(const Entry &entry)
 
 } // namespace
 
-const std::vector<DiscoverFoundry> &discoverFoundries()
+std::vector<DiscoverFoundry> discoverFoundries()
 {
-    static const std::vector<DiscoverFoundry> foundries = [] {
-        std::vector<DiscoverFoundry> list;
-        for (const Entry &entry : kEntries)
-            list.push_back(foundryOf(entry));
-        return list;
-    }();
+    std::vector<DiscoverFoundry> foundries;
+    for (const Entry &entry : kEntries)
+        foundries.push_back(foundryOf(entry));
     return foundries;
 }
 

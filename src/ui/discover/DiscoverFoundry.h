@@ -25,7 +25,7 @@ struct DiscoverFoundry
     bool operator==(const DiscoverFoundry &) const = default;
 };
 
-/// The catalogue, in the order shown; built on first use. Thread: main.
-const std::vector<DiscoverFoundry> &discoverFoundries();
+/// The catalogue, in the order shown and in the user's language. Thread: main.
+std::vector<DiscoverFoundry> discoverFoundries();
 
 } // namespace lorva

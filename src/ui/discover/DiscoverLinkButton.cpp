@@ -32,6 +32,7 @@ QFont wordFont()
 DiscoverLinkButton::DiscoverLinkButton(QWidget *parent)
     : FocusRinged(parent)
 {
+    //: Opens the web page of a foundry.
     setText(tr("Visit"));
     setAccessibleDescription(tr("Open Website"));
     setAttribute(Qt::WA_Hover);

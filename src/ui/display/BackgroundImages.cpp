@@ -257,6 +257,7 @@ struct Drawing
 
 // Dark and light ones in turn, so that each row of the panel has both.
 constexpr std::array kDrawings{
+    //: Background images, named by what they remind of.
     Drawing{{"dusk", QT_TRANSLATE_NOOP("BackgroundImages", "Dusk")}, drawDusk},
     Drawing{{"dawn", QT_TRANSLATE_NOOP("BackgroundImages", "Dawn")}, drawDawn},
     Drawing{{"ember", QT_TRANSLATE_NOOP("BackgroundImages", "Ember")}, drawEmber},

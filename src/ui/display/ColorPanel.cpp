@@ -28,6 +28,7 @@ struct ColorPair
 
 /// Each reads well: 4.5:1 at the least.
 constexpr std::array kPairs{
+    //: Pairs of colors, named by the more striking one.
     ColorPair{QT_TRANSLATE_NOOP("ColorPanel", "Ultramarine"), "#FFFFFF", "#1328E9"},
     ColorPair{QT_TRANSLATE_NOOP("ColorPanel", "Vermilion"), "#FFF3E6", "#C22E0E"},
     ColorPair{QT_TRANSLATE_NOOP("ColorPanel", "Forest"), "#F1E9D2", "#1E3B2C"},
@@ -101,7 +102,9 @@ ColorPanel::ColorPanel(QWidget *parent)
 QHBoxLayout *ColorPanel::makePartRow()
 {
     m_parts->setObjectName(QStringLiteral("colorParts"));
+    //: The color of the letters is edited.
     m_parts->addTextSegment(tr("Text"));
+    //: The color of the background is edited.
     m_parts->addTextSegment(tr("Background"));
     m_parts->setCurrentIndex(backgroundPart);
     m_swap->setObjectName(QStringLiteral("swapColors"));
@@ -199,6 +202,7 @@ void ColorPanel::showColors()
     const QString figure = QLocale().toString(std::floor(ratio * 10) / 10, 'f', 1);
     // What cannot be told by the figure alone: below it letters begin to be hard to read.
     constexpr double kReadable = 3.0;
+    //: A ratio of brightness such as 4.5:1.
     m_contrast->setText(ratio < kReadable ? tr("Low contrast %1:1").arg(figure)
                                           : tr("Contrast %1:1").arg(figure));
     for (size_t i = 0; i < m_pairs.size(); ++i)

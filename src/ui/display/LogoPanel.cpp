@@ -214,7 +214,9 @@ LogoPanel::LogoPanel(QWidget *parent)
     grid->setHorizontalSpacing(spacing::k8);
     grid->setColumnStretch(0, 1);
     grid->setColumnMinimumWidth(2, spacing::k40);
+    //: Of a logo, compared with the letters beside it.
     m_size = addMeasure(*grid, tr("Size"), kLeastSize, kMostSize, "logoSize");
+    //: Between a logo and the letters beside it.
     m_spacing = addMeasure(*grid, tr("Spacing"), 0, kMostSpacing, "logoSpacing");
     column->addSpacing(spacing::k4);
     column->addLayout(grid);

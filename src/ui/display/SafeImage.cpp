@@ -15,6 +15,11 @@ namespace lorva {
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(SafeImage)
+};
+
 /// More than any camera's picture or any screenshot; beyond it a file is a mistake or an attack.
 constexpr qsizetype kMostBytes = 200'000'000;
 /// Reading takes time in proportion to these, however small the result: a poster at print
@@ -33,32 +38,21 @@ void setDecoderLimits()
     std::call_once(once, [] { QImageReader::setAllocationLimit(kMostDecodedMegabytes); });
 }
 
-QString shown(const char *text)
-{
-    return QCoreApplication::translate("SafeImage", text);
-}
-
 tl::unexpected<Error> tooLarge()
 {
-    return failure(
-        ErrorKind::tooLarge,
-        shown(QT_TRANSLATE_NOOP("SafeImage", "The picture has too many pixels to be read")));
+    return failure(ErrorKind::tooLarge, Texts::tr("The picture has too many pixels to be read"));
 }
 
 tl::unexpected<Error> damaged()
 {
-    return failure(
-        ErrorKind::malformed,
-        shown(QT_TRANSLATE_NOOP("SafeImage", "The picture is damaged and cannot be read")));
+    return failure(ErrorKind::malformed, Texts::tr("The picture is damaged and cannot be read"));
 }
 
 tl::unexpected<Error> noPicture()
 {
-    return failure(
-        ErrorKind::unsupported,
-        shown(QT_TRANSLATE_NOOP("SafeImage",
-                                "This is no picture in a format that can be read (PNG, JPEG, "
-                                "GIF, WebP, BMP or SVG)")));
+    return failure(ErrorKind::unsupported,
+                   Texts::tr("This is no picture in a format that can be read (PNG, JPEG, "
+                             "GIF, WebP, BMP or SVG)"));
 }
 
 /// By the first bytes, so that no other decoder of the desktop is ever asked; empty for none of
@@ -124,11 +118,9 @@ Result<QImage> readPixels(const QByteArray &format, const QByteArray &bytes, int
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     if (!QImageReader::supportedImageFormats().contains(format))
-        return failure(
-            ErrorKind::unsupported,
-            shown(QT_TRANSLATE_NOOP("SafeImage",
-                                    "Pictures in this format need an addition to the desktop’s "
-                                    "toolkit that is not installed")));
+        return failure(ErrorKind::unsupported,
+                       Texts::tr("Pictures in this format need an addition to the desktop’s "
+                                 "toolkit that is not installed"));
     const QSize size = reader.size();
     if (const Result<void> allowed = checkWork(format, bytes, size); !allowed)
         return tl::unexpected(allowed.error());
@@ -148,11 +140,10 @@ Result<QImage> readSafeImage(const QByteArray &bytes, int maximumSidePx)
 {
     setDecoderLimits();
     if (bytes.size() > kMostBytes)
-        return failure(
-            ErrorKind::tooLarge,
-            shown(QT_TRANSLATE_NOOP("SafeImage", "The file is too large to be read as a picture")));
+        return failure(ErrorKind::tooLarge,
+                       Texts::tr("The file is too large to be read as a picture"));
     if (maximumSidePx < 1)
-        return failure(ErrorKind::invalidValue, QStringLiteral("no room for a picture"));
+        return failure(ErrorKind::invalidValue, Texts::tr("no room for a picture"));
     if (const QByteArray format = formatOf(bytes); !format.isEmpty())
         return readPixels(format, bytes, maximumSidePx);
     if (isSvg(bytes))

@@ -15,6 +15,11 @@ namespace lorva {
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(SafeImage)
+};
+
 /// A second at the most: svgWork() errs on the high side by two to four times.
 constexpr double kMostWork = 2e9;
 /// Below it a drawing is not worth being seen.
@@ -84,7 +89,7 @@ Result<QImage> readSafeSvg(const QByteArray &bytes, int maximumSidePx)
             QCoreApplication::translate("SafeImage", "The drawing is too complicated to be shown"));
     QImage image(*size, QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
-        return failure(ErrorKind::tooLarge, QStringLiteral("no memory for the drawing"));
+        return failure(ErrorKind::tooLarge, Texts::tr("no memory for the drawing"));
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);

@@ -67,6 +67,7 @@ constexpr const char16_t *kTraditionalChinese[]{
 };
 
 constexpr SampleTextGroup kGroups[]{
+    //: Sample texts in this script.
     {QT_TRANSLATE_NOOP("SampleTexts", "Latin"), kLatin},
     {QT_TRANSLATE_NOOP("SampleTexts", "Figures"), kFigures},
     {QT_TRANSLATE_NOOP("SampleTexts", "Greek"), kGreek},

@@ -40,6 +40,7 @@ AxisRow::AxisRow(const FontVariationAxisRecord &axis, QWidget *parent)
     m_slider->setRange(m_scale.firstPosition(), m_scale.lastPosition());
     m_slider->setDefaultValue(m_scale.positionOf(axis.defaultValue));
     m_field->setObjectName(QString(name % u".value"));
+    //: The value of an axis of a variable font, such as Weight; spoken.
     m_field->setAccessibleName(tr("%1, value").arg(axis.name));
     setToolTip(plainToolTip(QString(axis.name % u" · " % tagText(axis.tag))));
     connect(m_slider, &QSlider::valueChanged, this, &AxisRow::takePosition);

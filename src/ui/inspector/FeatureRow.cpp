@@ -33,7 +33,8 @@ FeatureRow::FeatureRow(const OpenTypeFeatureRecord &feature, const FeatureNotes 
     setObjectName(QString(u"Feature." % feature.id));
     m_switch->setObjectName(QString(u"Feature." % feature.id % u".switch"));
     m_switch->setAccessibleDescription(
-        notes.toolTip.isEmpty() ? group : QString(group % u", " % notes.toolTip));
+        //: The group of a font's feature, and what the feature does; spoken.
+        notes.toolTip.isEmpty() ? group : tr("%1, %2").arg(group, notes.toolTip));
     m_switch->setChecked(feature.isEnabled);
     m_switch->installEventFilter(this);
     connect(m_switch, &QAbstractButton::clicked, this, [this](bool isOn) {

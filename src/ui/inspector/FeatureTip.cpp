@@ -90,7 +90,8 @@ FeatureTip::FeatureTip(QWidget *row, const FeatureNotes &notes)
     setObjectName(QStringLiteral("FeatureTip"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
-    setAccessibleName(QString(notes.title.left(kLongestShownName) % u", " % tagText(notes.tag)));
+    //: A feature of a font, and its tag; spoken.
+    setAccessibleName(tr("%1, %2").arg(notes.title.left(kLongestShownName), tagText(notes.tag)));
     qApp->installEventFilter(this);
     connect(row, &QObject::destroyed, this, &FeatureTip::close);
 }

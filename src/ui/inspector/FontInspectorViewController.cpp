@@ -44,7 +44,9 @@ FontInspectorViewController::FontInspectorViewController(
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.inspector"));
     m_pool.setMaxThreadCount(1);
     m_tabs->setObjectName(QStringLiteral("InspectorTabs"));
+    //: The OpenType features of a font.
     m_tabs->addTextSegment(tr("Features"));
+    //: Facts about a font.
     m_tabs->addTextSegment(tr("Info"));
     connect(m_tabs, &SegmentedControl::activated, this,
             [this](int index) { setSelectedTab(index == 0 ? Tab::features : Tab::info); });

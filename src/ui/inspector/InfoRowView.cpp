@@ -19,6 +19,8 @@ namespace lorva {
 namespace {
 
 constexpr int kLabelWidth = 108;
+constexpr int kLabelRoom = kLabelWidth - spacing::k8;
+constexpr int kMostLabelLines = 3;
 constexpr int kLineRoom = 6;
 /// The copy button stands in the margin, as far as the scroll bar leaves it room.
 constexpr int kCopyOutset = 10;
@@ -84,6 +86,11 @@ void InfoRowView::addAction(const QString &place)
         m_action->setObjectName(QString(place % u".open"));
 }
 
+WrappedText InfoRowView::labelText() const
+{
+    return {m_row.label, interfaceFont(InterfaceSize::label), kMostLabelLines};
+}
+
 int InfoRowView::valueLeft() const
 {
     return kInspectorPadding + (m_row.label.isEmpty() ? 0 : kLabelWidth);
@@ -96,7 +103,9 @@ int InfoRowView::valueWidth(int width) const
 
 int InfoRowView::heightForWidth(int width) const
 {
-    int height = m_text->heightForWidth(valueWidth(width)) + 2 * kLineRoom;
+    int height =
+        std::max(m_text->heightForWidth(valueWidth(width)), labelText().heightFor(kLabelRoom))
+        + 2 * kLineRoom;
     for (const QWidget *part : {m_more, m_action}) {
         if (part && !part->isHidden())
             height += part->sizeHint().height();
@@ -157,11 +166,10 @@ void InfoRowView::paintEvent(QPaintEvent *)
         drawFocusRing(painter, QRectF(m_text->geometry()).adjusted(-4, -2, 4, 2), 4);
     if (m_row.label.isEmpty())
         return;
-    painter.setFont(interfaceFont(InterfaceSize::label));
     painter.setPen(inspectorQuiet());
-    const int height = painter.fontMetrics().height();
-    const QRect room(kInspectorPadding, kLineRoom, kLabelWidth - spacing::k8, height);
-    drawInspectorLine(painter, *this, room, m_row.label);
+    const QRect room(kInspectorPadding, kLineRoom, kLabelRoom, height() - 2 * kLineRoom);
+    labelText().draw(painter, QStyle::visualRect(layoutDirection(), rect(), room),
+                     layoutDirection());
 }
 
 } // namespace lorva

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/inspector/InspectorStates.h"
+#include "ui/sheets/SheetText.h"
 
 #include <QWidget>
 
@@ -39,6 +40,7 @@ private:
     void alignValue();
     void addMore();
     void addAction(const QString &place);
+    WrappedText labelText() const;
     int valueLeft() const;
     int valueWidth(int width) const;
     void placeParts();

@@ -22,10 +22,10 @@ enum NameIds : quint16 { vendorUrl = 11, designerUrl = 12, licenseText = 13, lic
 
 constexpr qsizetype kLongestLink = 2000;
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("FontInspector", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FontInspector)
+};
 
 /// Only these bring texts of their own.
 bool mayHaveTexts(FontTag tag)
@@ -129,23 +129,26 @@ QUrl webLink(const QString &text)
 std::vector<InfoSection> legalSections(const FaceInformation &information)
 {
     std::vector<InfoSection> sections;
-    InfoSection license{tr("License"), {}};
+    InfoSection license{Texts::tr("License"), {}};
     if (const QString text = information.nameOf(licenseText); !text.isEmpty())
         license.rows.push_back({QString(), text});
     addLink(license, {}, information.nameOf(licenseUrl));
     if (!license.rows.empty())
         sections.push_back(std::move(license));
     if (information.embedding)
-        sections.push_back({tr("Embedding"), {{QString(), embeddingText(*information.embedding)}}});
+        sections.push_back(
+            //: Whether documents may embed the font.
+            {Texts::tr("Embedding"), {{QString(), embeddingText(*information.embedding)}}});
     return sections;
 }
 
 InfoSection linksSection(const FaceInformation &information)
 {
-    InfoSection section{tr("Links"), {}};
-    addLink(section, tr("Vendor"), information.nameOf(vendorUrl));
-    addLink(section, tr("Designer"), information.nameOf(designerUrl));
-    addLink(section, tr("License"), information.nameOf(licenseUrl));
+    InfoSection section{Texts::tr("Links"), {}};
+    //: Whose web page it is.
+    addLink(section, Texts::tr("Vendor"), information.nameOf(vendorUrl));
+    addLink(section, Texts::tr("Designer"), information.nameOf(designerUrl));
+    addLink(section, Texts::tr("License"), information.nameOf(licenseUrl));
     return section;
 }
 
@@ -158,17 +161,18 @@ std::vector<InfoSection> languageSections(const std::vector<LanguageCoverage> &c
         if (each.coverage->missing.empty())
             whole << each.name;
         else
-            nearly << tr("%1: %2").arg(each.name, missingText(each.coverage->missing));
+            //: A language, and the characters of it that the font lacks.
+            nearly << Texts::tr("%1: %2").arg(each.name, missingText(each.coverage->missing));
     }
     std::vector<InfoSection> sections;
     if (!whole.isEmpty()) {
-        sections.push_back({tr("Languages"),
-                            {{tr("Supported"), groupedNumber(whole.size())},
+        sections.push_back({Texts::tr("Languages"),
+                            {{Texts::tr("Supported"), groupedNumber(whole.size())},
                              {QString(), locale.createSeparatedList(whole)}}});
     }
     if (!nearly.isEmpty()) {
         sections.push_back(
-            {tr("Languages with Missing Characters"), {{QString(), nearly.join(u'\n')}}});
+            {Texts::tr("Languages with Missing Characters"), {{QString(), nearly.join(u'\n')}}});
     }
     return sections;
 }

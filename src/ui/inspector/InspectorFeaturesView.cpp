@@ -89,6 +89,7 @@ void InspectorFeaturesView::addAxes()
 {
     if (m_state.axes.empty())
         return;
+    //: The variation axes of a font, such as Weight.
     addCaption(tr("Axes"));
     if (!m_state.instances.empty()) {
         std::vector<QString> names;

@@ -16,10 +16,10 @@ namespace {
 /// OpenType `fvar` counts in 65536ths.
 constexpr double kSameCoordinate = 1.0 / 65536;
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("FontInspector", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FontInspector)
+};
 
 bool isSwitchedOffBy(const FontFeature &other, const FontFeature &chosen)
 {
@@ -54,17 +54,19 @@ bool fits(const NamedInstance &instance, const std::vector<FontVariationAxisReco
 QString statusText(const FontFamilyActivation &activation)
 {
     if (!activation.isActive())
-        return tr("Inactive");
-    return activation.method() ? tr("Active") : tr("Active (System)");
+        //: Whether a family is switched on.
+        return Texts::tr("Inactive");
+    //: Whether a family is switched on, and whether the system did it.
+    return activation.method() ? Texts::tr("Active") : Texts::tr("Active (System)");
 }
 
 InfoSection identifiers(const FontMetadataInfo &metadata)
 {
-    return {tr("Identifiers"),
-            {{tr("Family Name"), metadata.familyName},
-             {tr("Style Name"), metadata.styleName},
-             {tr("Full Name"), metadata.fullName},
-             {tr("PostScript Name"), metadata.postScriptName}}};
+    return {Texts::tr("Identifiers"),
+            {{Texts::tr("Family Name"), metadata.familyName},
+             {Texts::tr("Style Name"), metadata.styleName},
+             {Texts::tr("Full Name"), metadata.fullName},
+             {Texts::tr("PostScript Name"), metadata.postScriptName}}};
 }
 
 void addKnown(InfoSection &section, const QString &label, const QString &value)
@@ -75,23 +77,26 @@ void addKnown(InfoSection &section, const QString &label, const QString &value)
 
 InfoSection description(const FontMetadataInfo &metadata)
 {
-    InfoSection section{tr("Description"), {}};
-    addKnown(section, tr("Designer"), metadata.designer);
-    addKnown(section, tr("Manufacturer"), metadata.manufacturer);
+    InfoSection section{Texts::tr("Description"), {}};
+    addKnown(section, Texts::tr("Designer"), metadata.designer);
+    addKnown(section, Texts::tr("Manufacturer"), metadata.manufacturer);
     return section;
 }
 
 InfoSection details(const InspectorInfoState &state)
 {
     const FontMetadataInfo &metadata = state.metadata;
-    InfoSection section{tr("Details"), {}};
-    addKnown(section, tr("Version"), metadata.version);
+    InfoSection section{Texts::tr("Details"), {}};
+    addKnown(section, Texts::tr("Version"), metadata.version);
     if (state.activation)
-        section.rows.push_back({tr("Status"), statusText(*state.activation)});
+        //: Whether the family is switched on.
+        section.rows.push_back({Texts::tr("Status"), statusText(*state.activation)});
     if (!metadata.fileLocation.isEmpty())
-        section.rows.push_back({tr("Location"), metadata.fileLocation, {}, true});
-    section.rows.push_back({tr("Format"), metadata.format});
-    section.rows.push_back({tr("Glyph Count"), groupedNumber(metadata.glyphCount)});
+        //: The file of a font.
+        section.rows.push_back({Texts::tr("Location"), metadata.fileLocation, {}, true});
+    //: The file format of a font.
+    section.rows.push_back({Texts::tr("Format"), metadata.format});
+    section.rows.push_back({Texts::tr("Glyph Count"), groupedNumber(metadata.glyphCount)});
     return section;
 }
 
@@ -102,7 +107,8 @@ std::vector<FeatureGroup> featureGroups(const std::vector<OpenTypeFeatureRecord>
     std::vector<FeatureGroup> groups;
     QHash<QString, size_t> places;
     for (size_t i = 0; i < features.size(); ++i) {
-        const QString name = features[i].group.isEmpty() ? tr("Other") : features[i].group;
+        //: Features of a font that belong to no group.
+        const QString name = features[i].group.isEmpty() ? Texts::tr("Other") : features[i].group;
         const auto place = places.find(name);
         if (place == places.end()) {
             places.insert(name, groups.size());
@@ -213,7 +219,7 @@ std::vector<InfoSection> infoSections(const InspectorInfoState &state)
         sections.push_back(std::move(section));
     sections.push_back(details(state));
     if (!state.metadata.copyright.isEmpty())
-        sections.push_back({tr("Copyright"), {{QString(), state.metadata.copyright}}});
+        sections.push_back({Texts::tr("Copyright"), {{QString(), state.metadata.copyright}}});
     return sections;
 }
 

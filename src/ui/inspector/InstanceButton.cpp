@@ -34,6 +34,7 @@ InstanceButton::InstanceButton(std::vector<QString> names, QWidget *parent)
 
 QString InstanceButton::currentName() const
 {
+    //: Settings of a variable font that are none of its named instances.
     return m_current ? m_names[*m_current].left(kLongestShownName) : tr("Custom");
 }
 
@@ -79,6 +80,7 @@ void InstanceButton::paintEvent(QPaintEvent *)
         drawFocusRing(painter, QRectF(inside).adjusted(-4, 3, 4, -3), 5);
     painter.setFont(interfaceFont(InterfaceSize::body));
     painter.setPen(inspectorInk());
+    //: A named setting of a variable font, such as Condensed Bold.
     const QString label = tr("Instance");
     drawInspectorLine(painter, *this, inside, label);
     const bool isLit = underMouse() || isDown();

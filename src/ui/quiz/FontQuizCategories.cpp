@@ -3,40 +3,30 @@
 
 #include "ui/quiz/FontQuizCategories.h"
 
-#include <QCoreApplication>
-
-#include <array>
+#include "model/records/DisplayedNames.h"
+#include "model/records/StyleCategories.h"
 
 namespace lorva {
 
 namespace {
 
-struct Category
+/// Tiles are counted from 1, in the order of the default categories.
+const FontStyleCategoryRecord &categoryOf(int tile)
 {
-    const char *id;
-    const char *name;
-};
-
-constexpr std::array<Category, kFontQuizTiles> kCategories{{
-    {"serif", QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Serif")},
-    {"sans", QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Sans-Serif")},
-    {"display", QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Display")},
-    {"mono", QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Mono")},
-    {"script", QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Script")},
-    {"decorative", QT_TRANSLATE_NOOP("lorva::FontQuizCategoryView", "Decorative")},
-}};
+    static const std::vector<FontStyleCategoryRecord> categories = defaultStyleCategories();
+    return categories[size_t(tile - 1)];
+}
 
 } // namespace
 
 QString fontQuizCategoryID(int tile)
 {
-    return QString::fromLatin1(kCategories[size_t(tile - 1)].id);
+    return categoryOf(tile).id;
 }
 
 QString fontQuizCategoryName(int tile)
 {
-    return QCoreApplication::translate("lorva::FontQuizCategoryView",
-                                       kCategories[size_t(tile - 1)].name);
+    return displayedName(categoryOf(tile));
 }
 
 } // namespace lorva

@@ -49,7 +49,8 @@ FontQuizCategoryView::FontQuizCategoryView(int tile, QWidget *parent)
 
 void FontQuizCategoryView::describe()
 {
-    const QString says = m_count == 1 ? tr("%1, key %2, %3 font") : tr("%1, key %2, %3 fonts");
+    //: A style of fonts, the key that chooses it, and how many fonts have it; spoken.
+    const QString says = tr("%1, key %2, %3 fonts", nullptr, m_count);
     setAccessibleName(says.arg(text(), locale().toString(m_tile), groupedNumber(m_count)));
 }
 

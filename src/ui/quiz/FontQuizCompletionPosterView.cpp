@@ -31,10 +31,10 @@ constexpr QSizeF kSheet{1080, 1440};
 constexpr qsizetype kLongestName = 100;
 constexpr int kProblemHeight = 36;
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("FontQuizPoster", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(FontQuizPoster)
+};
 
 /// 1st, 2nd, 3rd, 4th … 11th, 12th, 13th … 31st.
 QString ordinal(int number)
@@ -45,8 +45,15 @@ QString ordinal(int number)
     return QString::number(number) + QLatin1String(endings[last]);
 }
 
+/// "October 4th, 2026", which stays on one line.
 QString longDate(const QDate &date)
 {
+    //: The language of the translation, such as "de" or "zh_CN": dates are written in it.
+    const QLocale locale(Texts::tr("en"));
+    //: How the poster of the quiz writes its date, as "d. MMMM yyyy" or "yyyy年M月d日"; English
+    //: writes it with ordinals instead.
+    if (locale.language() != QLocale::English && locale.language() != QLocale::C)
+        return locale.toString(date, Texts::tr("MMMM d, yyyy")).replace(u' ', QChar(QChar::Nbsp));
     const QChar space(QChar::Nbsp);
     return QLocale::c().toString(date, u"MMMM") + space + ordinal(date.day()) + u',' + space
         + QLocale::c().toString(date, u"yyyy");
@@ -82,8 +89,9 @@ QString spokenCounts(const FontQuizCounts &counts)
 {
     const int sorted[]{counts.serif, counts.sans,   counts.display,
                        counts.mono,  counts.script, counts.decorative};
-    const QString part = text("%1: %2");
-    QStringList spoken{part.arg(text("Fonts organized"), groupedNumber(counts.total))};
+    //: A style of fonts, and how many fonts have it; spoken.
+    const QString part = Texts::tr("%1: %2");
+    QStringList spoken{part.arg(Texts::tr("Fonts organized"), groupedNumber(counts.total))};
     for (int tile = 1; tile <= kFontQuizTiles; ++tile)
         spoken << part.arg(fontQuizCategoryName(tile), groupedNumber(sorted[tile - 1]));
     return QLocale().createSeparatedList(spoken);
@@ -95,14 +103,15 @@ QString posterText(const QString &fullName, const QDate &date)
 {
     const QString name = shownName(fullName);
     if (name.isEmpty()) {
-        return text("Organized by hand into Serif, Sans-Serif, Display, Mono, and Decorative "
-                    "styles on %1.\n\nReady and waiting for use in whatever project may come. "
-                    "Remember to make it nice.")
+        return Texts::tr("Organized by hand into Serif, Sans-Serif, Display, Mono, and Decorative "
+                         "styles on %1.\n\nReady and waiting for use in whatever project may come. "
+                         "Remember to make it nice.")
             .arg(longDate(date));
     }
-    return text("Organized by hand into Serif, Sans-Serif, Display, Mono, and Decorative styles "
-                "by %1 on %2.\n\nReady and waiting for use in whatever project may come. "
-                "Remember to make it nice.")
+    return Texts::tr(
+               "Organized by hand into Serif, Sans-Serif, Display, Mono, and Decorative styles "
+               "by %1 on %2.\n\nReady and waiting for use in whatever project may come. "
+               "Remember to make it nice.")
         .arg(name, longDate(date));
 }
 

@@ -29,7 +29,7 @@ constexpr double kLeastFanScale = 0.12;
 /// What the fan takes, to the height of one card.
 constexpr double kFanHeight = 1.5;
 constexpr double kSentenceAlpha = 0.7;
-constexpr QSize kButton{128, 32};
+constexpr QSize kLeastButton{128, 32};
 /// How the cards of the fan lie: steps from its middle.
 constexpr std::array kFan{0, -1, 1, -2, 2};
 constexpr double kFanStep = 104;
@@ -51,10 +51,12 @@ QString sentenceFor(int sorted, int waiting)
         return FontQuizIntroView::tr(
             "Choose a style for each of your fonts. It'll then appear in that style folder. Don't "
             "worry, you can change the style for a font later.");
+    //: The number of forms goes by %2.
     return FontQuizIntroView::tr(
                "Choose a style for each of your fonts. It'll then appear in that style folder. "
                "We've sorted %1 for you, but %2 need your eye. Don't worry, you can change the "
-               "style for a font later.")
+               "style for a font later.",
+               nullptr, waiting)
         .arg(groupedNumber(sorted), groupedNumber(waiting));
 }
 
@@ -62,6 +64,7 @@ QString sentenceFor(int sorted, int waiting)
 
 FontQuizIntroView::FontQuizIntroView(QWidget *parent)
     : QWidget(parent)
+    //: Begins the quiz.
     , m_startButton(new TextButton(tr("Start"), TextButton::Kind::prominent, this))
 {
     setObjectName(QStringLiteral("FontQuizIntroView"));
@@ -108,10 +111,11 @@ FontQuizIntroView::Places FontQuizIntroView::places() const
     Places out;
     const int column = std::min(kColumn, width() - 2 * spacing::k24);
     const int left = (width() - column) / 2;
+    const QSize button = m_startButton->sizeHint().expandedTo(kLeastButton);
     const WrappedText text{m_sentence, interfaceFont(InterfaceSize::title), 0};
     const int textHeight = text.heightFor(column);
     const int titleHeight = m_isEmpty ? 0 : QFontMetrics(titleFont()).height();
-    const int below = titleHeight + spacing::k16 + textHeight + spacing::k32 + kButton.height();
+    const int below = titleHeight + spacing::k16 + textHeight + spacing::k32 + button.height();
     const double room = (height() - below - 160.0) / (kFontQuizCardSize.height() * kFanHeight);
     const double scale = std::max(kLeastFanScale, std::min({kFanScale, width() / 1900.0, room}));
     const int fan = m_isEmpty ? 0 : int(kFontQuizCardSize.height() * scale * kFanHeight);
@@ -123,7 +127,7 @@ FontQuizIntroView::Places FontQuizIntroView::places() const
     y += titleHeight + spacing::k16;
     out.sentence = QRect(left, y, column, textHeight);
     y += textHeight + spacing::k32;
-    out.button = QRect(QPoint((width() - kButton.width()) / 2, y), kButton);
+    out.button = QRect(QPoint((width() - button.width()) / 2, y), button);
     return out;
 }
 

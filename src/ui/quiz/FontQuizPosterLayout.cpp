@@ -74,10 +74,10 @@ Colors colorsOf(bool isDark)
              QColor(0x22, 0x2e, 0x58), QColor(0x8f, 0x1f, 0x3f), QColor(0xab, 0x96, 0xdc)}};
 }
 
-QString text(const char *source)
+struct Texts
 {
-    return QCoreApplication::translate("FontQuizPoster", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(FontQuizPoster)
+};
 
 std::array<int, kCategories> numbersOf(const FontQuizCounts &counts)
 {
@@ -180,7 +180,8 @@ public:
     {
         m_page.size = m_setting.size;
         m_page.ground = m_colors.ground;
-        m_page.title = text("Fonts organized");
+        //: A big number stands below it: so many fonts were organized.
+        m_page.title = Texts::tr("Fonts organized");
         placeSentence(sentence);
         placeCategories();
         placeTotal();
@@ -304,7 +305,7 @@ private:
         const double share = shareOf(m_setting.progress, 0, kTotalTime);
         putNumber(m_layers[0].shown, font, 0, baseline,
                   bandsOf(numbersOf(m_counts), m_colors, digits, share));
-        put(text("Fonts organized"), labelFont, 0, std::round(digits.top() - above),
+        put(Texts::tr("Fonts organized"), labelFont, 0, std::round(digits.top() - above),
             withAlpha(m_colors.ink, kQuiet));
     }
 

@@ -323,6 +323,7 @@ void FontQuizStageView::paintEvent(QPaintEvent *)
         line(m_layout.progress,
              interfaceFont(InterfaceSize::body, InterfaceWeight::regular, Figures::tabular),
              kProgressAlpha,
+             //: The card that is shown, and how many there are.
              tr("%1 of %2")
                  .arg(groupedNumber(m_deck.currentIndex() + 1), groupedNumber(m_deck.size())));
     if (!m_layout.hint.isEmpty())

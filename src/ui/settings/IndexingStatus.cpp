@@ -127,7 +127,8 @@ void IndexingStatus::showCompletion(const IndexingCompletion &completion)
     if (!isNew)
         return;
     // It comes by itself, so it is read out by itself.
-    m_title->setAccessibleName(QString(completion.title % u". " % completion.body));
+    //: A headline, and the sentence below it; spoken.
+    m_title->setAccessibleName(tr("%1. %2").arg(completion.title, completion.body));
     QAccessibleEvent event(m_title, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

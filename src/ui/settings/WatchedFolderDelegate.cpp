@@ -31,13 +31,12 @@ QString countText(int fonts)
 {
     if (fonts == 0)
         return WatchedFolderDelegate::tr("No fonts");
-    const QString text =
-        fonts == 1 ? WatchedFolderDelegate::tr("%1 font") : WatchedFolderDelegate::tr("%1 fonts");
-    return text.arg(groupedNumber(fonts));
+    return WatchedFolderDelegate::tr("%1 fonts", nullptr, fonts).arg(groupedNumber(fonts));
 }
 
 QString trailingText(const WatchedFolderRow &row)
 {
+    //: A folder that is missing.
     if (row.isThere == false)
         return WatchedFolderDelegate::tr("Not there");
     return row.isThere && row.fonts ? countText(*row.fonts) : QString();
@@ -92,7 +91,8 @@ void WatchedFolderDelegate::write(const WatchedFolderRow &row, QListWidgetItem &
     item.setData(kTrailingRole, trailing);
     item.setData(kIsAwayRole, row.isThere && !*row.isThere);
     item.setData(Qt::AccessibleTextRole,
-                 trailing.isEmpty() ? row.path : QString(row.path % u", " % trailing));
+                 //: A folder, and how many fonts are in it; spoken.
+                 trailing.isEmpty() ? row.path : tr("%1, %2").arg(row.path, trailing));
 }
 
 QSize WatchedFolderDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const

@@ -30,9 +30,11 @@ FontInstallSheetController::FontInstallSheetController(QWidget &window,
 void FontInstallSheetController::addOptions()
 {
     auto *copy =
+        //: A way to activate fonts.
         new SheetOption(QStringLiteral("text.pad.header.badge.plus"), tr("Copy to Fonts Folder"),
                         tr("Copies the font files into your user Fonts folder. Works even "
                            "if the originals move or go offline."));
+    //: A way to activate fonts: their files stay where they are.
     auto *registers = new SheetOption(QStringLiteral("link.circle.fill"), tr("Register in Place"),
                                       tr("Activates the font from its current location, but "
                                          "deactivates if the source moves."));

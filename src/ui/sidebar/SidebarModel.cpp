@@ -20,9 +20,8 @@ QString spokenName(const SidebarRow &row)
 {
     if (!row.count)
         return row.label;
-    if (*row.count == 1)
-        return SidebarModel::tr("%1, 1 font").arg(row.label);
-    return SidebarModel::tr("%1, %2 fonts").arg(row.label, QLocale().toString(*row.count));
+    //: A row of the sidebar, and how many fonts it leads to; spoken.
+    return SidebarModel::tr("%1, %Ln fonts", nullptr, *row.count).arg(row.label);
 }
 
 } // namespace

@@ -27,6 +27,7 @@ SidebarRowCellView::SidebarRowCellView(Completion completion, QWidget *parent)
     , m_completion(std::move(completion))
 {
     setObjectName(QStringLiteral("SidebarRowCellView"));
+    //: Of a collection or foundry that is being renamed.
     setAccessibleName(tr("Name"));
     setFrame(false);
     setMaxLength(kLongestName);
