@@ -10,6 +10,7 @@
 #include "platform/linux/SmallFontconfig.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <chrono>
 #include <cstdio>
@@ -54,6 +55,14 @@ void handleStartupMessage(QtMsgType type, const QMessageLogContext &context, con
         || message.contains(QLatin1String("XDG_RUNTIME_DIR")))
         return;
     std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+/// The desktop's, so that a theme may have its own; the built-in one where Lorva is not installed.
+QIcon windowIcon()
+{
+    const lorva::TraceStage stage("start: window icon");
+    return QIcon::fromTheme(QStringLiteral("vantrel.lorva"),
+                            QIcon(QStringLiteral(":/icon/vantrel.lorva.svg")));
 }
 
 /// A worker that waits for a volume which does not answer would keep the process for as long. What
@@ -124,6 +133,7 @@ int main(int argc, char **argv)
     QApplication application(qtArgumentCount, argv);
     applicationStage.end();
     qInstallMessageHandler(usual);
+    QGuiApplication::setWindowIcon(windowIcon());
 
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache),
                                              lorva::programParts());
