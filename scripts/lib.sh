@@ -32,6 +32,7 @@ packages_build="
   librsvg2-dev          draws SVG glyphs
   libbox2d-dev          lets the letters of the welcome fall
   libsodium-dev         checks the signature of the release feed
+  librsvg2-bin          rsvg-convert: the icon in every size, from its drawings
 "
 packages_test="
   git                   the checks ask it which files are ours
@@ -45,6 +46,11 @@ packages_test="
   xvfb                  a display for the journey in a desktop session
   openbox               its window manager
   xdotool               its pointer and keyboard
+  desktop-file-utils    desktop-file-validate
+  appstream             appstreamcli, which reads what software centers show
+  shared-mime-info      update-mime-database, which reads our file types
+  dpkg-dev              makes a package of what was built, as scripts/package does
+  lintian               looks for faults in it
 "
 packages_fonts="
   fonts-noto-cjk        collections, Chinese, Japanese and Korean, big files
@@ -75,6 +81,13 @@ packages_bench="
   python3               runs both and writes the table
   xvfb                  an X server for the window that is used
   xdotool               uses it
+"
+packages_package="
+  dpkg-dev              the compiler flags of packages, and which libraries a program needs
+  lintian               looks for faults in the package
+"
+packages_root="
+  debootstrap           a clean Debian to try the package in
 "
 packages_release="
   openssl               makes the makers' key and signs the release feed

@@ -186,18 +186,21 @@ TEST(SingleInstance, AnswersDesktopsAsWellAndForgivesNonsense)
     send(kApplication, "ActivateAction",
          {QStringLiteral("x"), QVariantList(),
           QVariantMap{{QStringLiteral("desktop-startup-id"), QStringLiteral("s")}}});
+    send(kApplication, "ActivateAction",
+         {QStringLiteral("organize"), QVariantList(), QVariantMap()});
     send(kApplication, "Open", {QStringList{QStringLiteral("file:///a%20b")}, QVariantMap()});
     EXPECT_THAT(starts,
                 ElementsAre(ProgramStart{{}, FilePath("/"), "t"},
                             ProgramStart{{}, FilePath("/"), "s"},
+                            ProgramStart{{"--quiz", "intro"}, FilePath("/"), {}},
                             ProgramStart{{"--folder", "/a b"}, FilePath("/"), {}}));
     send("vantrel.lorva.Instance", "Start", {QStringLiteral("no bytes")});
     send("vantrel.lorva.Instance", "Frobnicate", {});
-    EXPECT_EQ(starts.size(), 3U);
+    EXPECT_EQ(starts.size(), 4U);
     send("vantrel.lorva.Instance", "Start",
          {QVariant::fromValue(QByteArrayList{"--text", QByteArray(3'000'000, 'x')}),
           QByteArray("/"), QByteArray("t")});
-    ASSERT_EQ(starts.size(), 4U);
+    ASSERT_EQ(starts.size(), 5U);
     EXPECT_EQ(starts.back(), (ProgramStart{{}, FilePath("/"), {}})) << "more than a start holds";
     QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
 }

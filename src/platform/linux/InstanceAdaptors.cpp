@@ -59,11 +59,15 @@ void FreedesktopApplicationAdaptor::Open(const QStringList &uris, const QVariant
     take(m_instance, start);
 }
 
-void FreedesktopApplicationAdaptor::ActivateAction(const QString &, const QVariantList &,
+void FreedesktopApplicationAdaptor::ActivateAction(const QString &name, const QVariantList &,
                                                    const QVariantMap &platformData)
 {
-    // The program has no actions yet that a desktop could offer.
-    Activate(platformData);
+    // The actions of the desktop file; of one that we do not know the window comes forward.
+    ProgramStart start{{}, FilePath("/"), tokenIn(platformData)};
+    if (name == QLatin1String("organize"))
+        start.arguments << "--quiz"
+                        << "intro";
+    take(m_instance, start);
 }
 
 InstanceAdaptor::InstanceAdaptor(SingleInstance &instance, QObject *object)
