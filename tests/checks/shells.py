@@ -15,7 +15,7 @@ import shutil
 import signal
 import subprocess
 import tempfile
-import termios
+import tty
 from pathlib import Path
 
 # What the shell offers, and what the line has become behind the Tab key; fish tells the first alone.
@@ -56,8 +56,7 @@ setopt no_beep no_list_beep no_always_last_prompt
 fpath=('{completions}/zsh' $fpath)
 autoload -Uz compinit
 compinit -u -d "$HOME/zcompdump"
-zstyle ':completion:*' list-prompt ''
-LISTMAX=10000
+LISTMAX=100000 LINES=200 COLUMNS=200
 # Every completion ends in the builtin of this name.
 compadd() {
     if [[ " $* " != *\ -[a-zA-Z]#[OAD]\ * && ${@[(i)-[OAD]]} -gt $# ]]; then
@@ -75,7 +74,11 @@ zle -N say-line
 bindkey -e
 bindkey '^X^R' say-line
 bindkey '^I' complete-word
-printf 'ready\0' >&9
+zle-line-init() {
+    printf 'ready\0' >&9
+    zle -D zle-line-init
+}
+zle -N zle-line-init
 """
 
 STARTS = {
@@ -95,7 +98,10 @@ class TerminalShell:
         answers, theirs = os.pipe()
         self.process, self.terminal = pty.fork()
         if self.process == 0:
+            # Keys that come before the shell reads them one by one must not act on the terminal.
+            tty.setraw(0)
             os.dup2(theirs, ANSWERS_FD)
+            os.set_inheritable(ANSWERS_FD, True)
             os.chdir(folder)
             arguments = command(str(file))
             os.execvpe(arguments[0], arguments, environment | {"ZDOTDIR": self.settings.name, "TERM": "dumb"})
