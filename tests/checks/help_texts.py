@@ -4,6 +4,7 @@
 {"": options of the program, "list": options of its command list, …}, and {"collections": its verbs, …}.
 """
 
+import os
 import re
 import subprocess
 
@@ -14,7 +15,9 @@ PROGRAMS = ("lorva", "lorvactl")
 
 
 def help_text(program, *words):
-    return subprocess.run([program, *words, "--help"], check=True, capture_output=True, text=True).stdout
+    done = subprocess.run([program, *words, "--help"], check=True, capture_output=True, text=True,
+                          env=os.environ | {"LC_ALL": "C", "LANGUAGE": ""})
+    return done.stdout
 
 
 def commands_of(text):

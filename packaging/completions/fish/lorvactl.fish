@@ -11,7 +11,9 @@ function __lorvactl_words
         end
         switch $word
             case '--*=*' --json --missing --hidden --original --dry-run --replace --csv --glyphs --help
-            case '-?*'
+            case -
+                echo -- $word
+            case '-*'
                 set skips yes
             case '*'
                 echo -- $word
