@@ -47,7 +47,7 @@ MODEL_BARS = (
     ("classifyLibrary/watched", "what is switched on, of watched fonts, on a worker", 200),
     ("classifyLibrary/others", "the same of fonts that are not watched", 200),
 )
-README_MARKS = ("<!-- bench:begin -->", "<!-- bench:end -->")
+PAGE_MARKS = ("<!-- bench:begin -->", "<!-- bench:end -->")
 FC_FORMAT = "%{family}|%{style}|%{postscriptname}|%{weight}|%{slant}\n"
 NO_FONTS = '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig></fontconfig>'
 
@@ -422,14 +422,14 @@ def machine():
     return f"{os.cpu_count()} cores{f' of {model[1]}' if model else ''}"
 
 
-def put_into_readme(text):
-    path = Path(__file__).parent.parent / "README.md"
-    readme = path.read_text(encoding="utf-8")
-    begin, end = (readme.find(mark) for mark in README_MARKS)
+def put_into_page(text):
+    path = Path(__file__).parent.parent / "docs/benchmarks.md"
+    page = path.read_text(encoding="utf-8")
+    begin, end = (page.find(mark) for mark in PAGE_MARKS)
     if begin < 0 or end < begin:
-        raise Failed(f"README.md lacks the marks {' '.join(README_MARKS)}")
-    begin += len(README_MARKS[0])
-    path.write_text(readme[:begin] + "\n" + text + "\n" + readme[end:], encoding="utf-8")
+        raise Failed(f"docs/benchmarks.md lacks the marks {' '.join(PAGE_MARKS)}")
+    begin += len(PAGE_MARKS[0])
+    path.write_text(page[:begin] + "\n" + text + "\n" + page[end:], encoding="utf-8")
 
 
 def main():
@@ -438,7 +438,7 @@ def main():
     parser.add_argument("--folder", default="/usr/share/fonts", help="the fonts to measure with")
     parser.add_argument("--runs", type=int, default=7, help="runs of each side (default: 7)")
     parser.add_argument("--json", type=Path, metavar="FILE", help="write every figure to FILE")
-    parser.add_argument("--readme", action="store_true", help="put the table into README.md")
+    parser.add_argument("--write", action="store_true", help="put the table into docs/benchmarks.md")
     options = parser.parse_args()
 
     files = font_files(options.folder)
@@ -477,8 +477,8 @@ def main():
         if options.json:
             options.json.write_text(json.dumps(bench.figures, indent=1))
     print(text)
-    if options.readme:
-        put_into_readme(text)
+    if options.write:
+        put_into_page(text)
 
 
 if __name__ == "__main__":

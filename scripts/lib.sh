@@ -41,6 +41,12 @@ packages_test="
   libgmock-dev          matchers
   libharfbuzz-bin       hb-shape and hb-view, whose answers shaping and outlines are compared with
   python3-fonttools     makes fonts of kinds that no package brings
+  man-db                formats the manual pages, and warns
+  groff-base            what it formats them with
+  mandoc                another reader of manual pages, which warns of more
+  bash-completion       what completions for bash stand on
+  zsh                   the completions are asked for in it,
+  fish                  and in this shell
   dbus-daemon           a private session bus for the second start
   openssl               signs the release feeds of the tests, as the release script does
   xvfb                  a display for the journey in a desktop session
