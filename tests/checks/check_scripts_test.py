@@ -98,5 +98,50 @@ class CheckSleeps(CheckCase):
                                                        "fox.sleep(); asleep();\n"})
 
 
+SOURCE = """#include <QCoreApplication>
+struct Texts { Q_DECLARE_TR_FUNCTIONS(Texts) };
+QString text(int n) { return Texts::tr("&Open %1…") + Texts::tr("%n fonts", nullptr, n); }
+"""
+TS = """<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="{0}" sourcelanguage="en">
+<context><name>Texts</name>{1}<message numerus="yes"><source>%n fonts</source>
+<translation>{2}</translation></message></context></TS>"""
+FORM = "<numerusform>{}</numerusform>"
+OPEN = "<message><source>&amp;Open %1…</source><translation>{}</translation></message>"
+
+
+class CheckTranslations(CheckCase):
+    def tree(self, **changed):
+        """A sound tree but for the German translations that are given."""
+        files = {f"scripts/{name}": (SCRIPTS / name).read_text(encoding="utf-8") for name in ("lib.sh", "translations")}
+        files["src/a.cpp"] = changed.get("source", SOURCE)
+        opening = {"de": changed.get("opening", "&amp;Öffnen: %1…")}
+        plural = {"en": FORM.format("1 font") + FORM.format("%n fonts"),
+                  "de": changed.get("plural", FORM.format("Eine Schrift") + FORM.format("%n Schriften"))}
+        for language in ("en", "de", "ja", "ko", "zh_CN", "zh_TW"):
+            first = "" if language == "en" else OPEN.format(opening.get(language, "%1(&amp;O)…"))
+            files[f"resources/translations/lorva_{language}.ts"] = TS.format(
+                language, first, plural.get(language, FORM.format("%n")))
+        return files
+
+    def test_sound_translations_pass(self):
+        self.assert_clean("check-translations", self.tree())
+
+    def test_faults_of_translations(self):
+        for changed, words in [({"opening": ""}, "no translation"), ({"opening": "&amp;Öffnen…"}, "places"),
+                               ({"opening": "Öffnen: %1…"}, "mnemonics"), ({"opening": "&amp;Öffnen: %1"}, "ellipsis"),
+                               ({"opening": "&amp;Öffnen: %1… "}, "white space"),
+                               ({"plural": FORM.format("%n Schriften")}, "1 forms"),
+                               ({"plural": FORM.format("1") + FORM.format("Schriften")}, "places")]:
+            with self.subTest(words=words):
+                self.assert_found("check-translations", self.tree(**changed), "lorva_de.ts: Texts", words)
+
+    def test_texts_that_are_not_translated(self):
+        more = SOURCE + 'QString more() { return Texts::tr("More"); }\n'
+        self.assert_found("check-translations", self.tree(source=more), "“More” is not in it")
+        self.assert_found("check-translations", self.tree(source=SOURCE.replace("Open", "Show")), "is not in the code")
+        lost = "namespace lorva { class Lost { QString text() { return tr(\"Lost\"); } }; }\n"
+        self.assert_found("check-translations", self.tree(source=SOURCE + lost), "lacks Q_OBJECT")
+
+
 if __name__ == "__main__":
     unittest.main()

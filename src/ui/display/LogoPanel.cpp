@@ -177,7 +177,7 @@ private:
     Measure addMeasure(QGridLayout &grid, const QString &name, int least, int most,
                        const char *objectName);
     void connectMeasures();
-    QHBoxLayout *makeLastRow();
+    QBoxLayout *makeLastRow();
     void connectIntake();
     void choose(const QByteArray &bytes);
     void showFigures() const;
@@ -270,7 +270,8 @@ void LogoPanel::connectMeasures()
     });
 }
 
-QHBoxLayout *LogoPanel::makeLastRow()
+/// One row; two where the language needs them.
+QBoxLayout *LogoPanel::makeLastRow()
 {
     m_visible->setObjectName(QStringLiteral("showLogo"));
     m_remove->setObjectName(QStringLiteral("removeLogo"));
@@ -281,8 +282,16 @@ QHBoxLayout *LogoPanel::makeLastRow()
     row->addWidget(m_visible);
     row->addWidget(m_visibleLabel);
     row->addStretch();
-    row->addWidget(m_remove);
-    return row;
+    if (row->sizeHint().width() + spacing::k8 + m_remove->sizeHint().width()
+        <= kPanelContentWidth) {
+        row->addWidget(m_remove);
+        return row;
+    }
+    auto *rows = new QVBoxLayout;
+    rows->setSpacing(spacing::k8);
+    rows->addLayout(row);
+    rows->addWidget(m_remove, 0, Qt::AlignTrailing);
+    return rows;
 }
 
 void LogoPanel::connectIntake()

@@ -18,7 +18,8 @@ namespace {
 constexpr int kTop = spacing::k16;
 constexpr int kBottom = spacing::k24;
 constexpr int kEmptyTitle = spacing::k20;
-constexpr int kEmptyText = spacing::k32;
+/// Three lines.
+constexpr int kEmptyText = spacing::k48;
 
 } // namespace
 
