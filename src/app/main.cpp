@@ -43,9 +43,9 @@ bool hasDisplay()
     return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
 }
 
-void installUsersTranslations()
+QString usersLanguage()
 {
-    lorva::installTranslations(lorva::textLanguageFor(lorva::userLanguages()));
+    return lorva::textLanguageFor(lorva::userLanguages());
 }
 
 struct Texts
@@ -60,7 +60,7 @@ public:
     explicit TerminalTexts(char **argv)
         : m_application(m_argumentCount, argv)
     {
-        installUsersTranslations();
+        lorva::installTranslations(usersLanguage());
     }
 
 private:
@@ -157,6 +157,10 @@ int main(int argc, char **argv)
     if (isPicture)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
+    const QString language = usersLanguage();
+    // English needs no forms of its own: then the session's locale decides.
+    if (language != QLatin1String("en"))
+        lorva::useFontsForLanguage(language);
     lorva::DBusSingleInstance instance;
     if (!isPicture)
         instance.beginClaim(thisStart(argc, argv));
@@ -178,7 +182,7 @@ int main(int argc, char **argv)
     QApplication application(qtArgumentCount, argv);
     applicationStage.end();
     qInstallMessageHandler(usual);
-    installUsersTranslations();
+    lorva::installTranslations(language);
     setWindowIcon();
 
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache),

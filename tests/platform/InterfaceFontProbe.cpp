@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // What the toolkit makes of the interface's fonts, in a process of its own, because it reads them
-// only once: "interface_font_probe small|all TEXT…" prints one "name: value" per line.
+// only once: "interface_font_probe small|all[=LANGUAGE] TEXT…" prints one "name: value" per line.
 #include "platform/linux/SmallFontconfig.h"
 
 #include <QElapsedTimer>
@@ -31,16 +31,30 @@ QString residentMemory()
     return {};
 }
 
-int missingGlyphs(const QString &text)
+QList<QGlyphRun> glyphRuns(const QString &text, const QFont &font)
 {
-    QTextLayout layout(text, QGuiApplication::font());
+    QTextLayout layout(text, font);
     layout.beginLayout();
     layout.createLine();
     layout.endLayout();
+    return layout.glyphRuns();
+}
+
+int missingGlyphs(const QString &text)
+{
     int missing = 0;
-    for (const QGlyphRun &run : layout.glyphRuns())
+    for (const QGlyphRun &run : glyphRuns(text, QGuiApplication::font()))
         missing += int(run.glyphIndexes().count(0));
     return missing;
+}
+
+/// Of what shows the text beside a font for Latin.
+QString familiesOf(const QString &text)
+{
+    QStringList families;
+    for (const QGlyphRun &run : glyphRuns(text, QFont(QStringLiteral("DejaVu Sans"))))
+        families << run.rawFont().familyName();
+    return families.join(u';');
 }
 
 void paintLabel()
@@ -57,7 +71,10 @@ int main(int argc, char **argv)
 {
     QElapsedTimer clock;
     clock.start();
-    if (argc > 1 && QByteArrayView(argv[1]) == "small")
+    const QByteArray mode(argc > 1 ? argv[1] : "");
+    if (const qsizetype at = mode.indexOf('='); at >= 0)
+        lorva::useFontsForLanguage(QString::fromLatin1(mode.mid(at + 1)));
+    if (mode.startsWith("small"))
         lorva::useSmallFontconfigForInterface();
     const qint64 prepared = clock.nsecsElapsed();
     QGuiApplication application(argc, argv);
@@ -77,7 +94,10 @@ int main(int argc, char **argv)
     }
     out << '\n';
     out << "families: " << QFontDatabase::families().join(u';') << '\n';
-    for (int i = 2; i < argc; ++i)
-        out << "missing " << argv[i] << ": " << missingGlyphs(QString::fromUtf8(argv[i])) << '\n';
+    for (int i = 2; i < argc; ++i) {
+        const QString text = QString::fromUtf8(argv[i]);
+        out << "missing " << argv[i] << ": " << missingGlyphs(text) << '\n';
+        out << "shown " << argv[i] << ": " << familiesOf(text) << '\n';
+    }
     return 0;
 }

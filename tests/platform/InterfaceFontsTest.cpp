@@ -161,10 +161,10 @@ TEST(SmallFontconfig, pathsThatTheRulesCannotCarryDoNoHarm)
 }
 
 /// What a process that starts like the program sees of its own fonts.
-QByteArray probe(const QStringList &texts)
+QByteArray probe(const QStringList &texts, const QString &mode = QStringLiteral("small"))
 {
     QProcess process;
-    process.start(QStringLiteral(LORVA_INTERFACE_FONT_PROBE), QStringList("small") + texts);
+    process.start(QStringLiteral(LORVA_INTERFACE_FONT_PROBE), QStringList(mode) + texts);
     EXPECT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitCode(), 0);
     return process.readAllStandardOutput();
@@ -183,6 +183,36 @@ TEST(SmallFontconfig, theToolkitShowsEveryScriptThatTheMachineHas)
     for (const char *const text : {"हिन्दी", "漢字", "한국어", "العربية", "עברית"})
         EXPECT_THAT(seen.toStdString(), HasSubstr(std::string("missing ") + text + ": 0\n"));
     EXPECT_THAT(seen.toStdString(), Not(HasSubstr("Library")));
+}
+
+/// As the packages of such fonts bring them.
+void useRulesForLanguages()
+{
+    QByteArray rules = "<fontconfig><include>"
+        + TestHome::instance().root().child("fonts.conf").bytes() + "</include>";
+    for (const auto &[language, letters] : {std::pair("ja", "JP"), std::pair("ko", "KR"),
+                                            std::pair("zh-cn", "SC"), std::pair("zh-tw", "TC")})
+        rules += QByteArray("<match><test name=\"lang\"><string>") + language
+            + "</string></test><edit name=\"family\" mode=\"append\"><string>Noto Sans CJK "
+            + letters + "</string></edit></match>";
+    const FilePath file =
+        writeFile(TestHome::instance().root(), "rules.conf", rules + "</fontconfig>");
+    ::setenv("FONTCONFIG_FILE", file.c_str(), 1);
+}
+
+TEST(SmallFontconfig, theToolkitShowsTheFormsOfTheLanguage)
+{
+    installRealFont("truetype/dejavu/DejaVuSans.ttf");
+    installRealFont("opentype/noto/NotoSansCJK-Regular.ttc");
+    configureGtkFont("DejaVu Sans 10");
+    useRulesForLanguages();
+    const QString text = QStringLiteral("启字");
+    for (const auto &[mode, family] :
+         {std::pair("small=ja", "Noto Sans CJK JP"), std::pair("small=ko", "Noto Sans CJK KR"),
+          std::pair("small=zh_CN", "Noto Sans CJK SC"),
+          std::pair("small=zh_TW", "Noto Sans CJK TC")})
+        EXPECT_THAT(probe({text}, QLatin1String(mode)).toStdString(),
+                    HasSubstr("shown " + text.toStdString() + ": " + family + "\n"));
 }
 
 TEST(SmallFontconfig, theToolkitStartsWithoutAnyFont)

@@ -64,6 +64,17 @@ bool keepOnly(FcConfig *config, const std::set<QByteArray> &chosen)
 
 } // namespace
 
+void useFontsForLanguage(const QString &language)
+{
+    constexpr const char *kVariable = "FC_LANG";
+    if (qEnvironmentVariableIsSet(kVariable))
+        return;
+    qputenv(kVariable, QString(language).replace(u'_', u'-').toLower().toLatin1());
+    // Read once, and kept; the programs that we start are to see their own environment.
+    FcStrSetDestroy(FcGetDefaultLangs());
+    qunsetenv(kVariable);
+}
+
 void useSmallFontconfigForInterface()
 {
     const FcConfigHandle config(FcInitLoadConfigAndFonts());

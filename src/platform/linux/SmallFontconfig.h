@@ -2,7 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 namespace lorva {
+
+/// Lets fonts for what the interface's own lack be chosen for texts in `language`, a name such as
+/// "zh_TW": Chinese, Japanese and Korean write the same characters in different forms, and the
+/// session's locale may ask for another of them than the texts are in. What the user says by
+/// FC_LANG goes first. To be called before any other thread is started and before anything asks
+/// fontconfig. Thread: main.
+void useFontsForLanguage(const QString &language);
 
 /// Lets this process's toolkit see only the fonts that an interface needs: the interface and
 /// fixed-width families in their usual weights, and one fallback font per writing system that the
