@@ -81,6 +81,7 @@ lorva::ProgramStart thisStart(int argc, char **argv)
 int main(int argc, char **argv)
 {
     lorva::keepMemoryTogether();
+    const bool isStartedByBus = lorva::takeStartedByBus();
     const auto options = lorva::parseLaunchOptions(
         std::span<const char *const>(argv, size_t(argc)).subspan(argc > 0 ? 1 : 0),
         lorva::FilePath::workingFolder());
@@ -128,7 +129,8 @@ int main(int argc, char **argv)
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache),
                                              lorva::programParts());
     instance.onStart = [&](const lorva::ProgramStart &start) { delegate.takeOver(start); };
-    delegate.applicationDidFinishLaunching();
+    using Launch = lorva::LorvaApplicationDelegate::Launch;
+    delegate.applicationDidFinishLaunching(isStartedByBus ? Launch::byBus : Launch::byUser);
     const int status = QApplication::exec();
     endInTime(status);
     instance.release();
