@@ -141,6 +141,16 @@ protected:
         else
             QListView::keyPressEvent(event);
     }
+    /// The base class stays where it is when the row at the end cannot be chosen.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override
+    {
+        QModelIndex index = QListView::moveCursor(action, modifiers);
+        if (action == MoveHome)
+            index = model()->index(0, 0);
+        while (index.isValid() && !model()->flags(index).testFlag(Qt::ItemIsEnabled))
+            index = index.siblingAtRow(index.row() + 1);
+        return index;
+    }
     void focusInEvent(QFocusEvent *event) override
     {
         m_showsFocus = showsFocusRing(event->reason(), m_showsFocus);
@@ -298,7 +308,7 @@ void FontFilesList::paintEvent(QPaintEvent *)
 
 void FontFilesList::resizeEvent(QResizeEvent *)
 {
-    m_view->setGeometry(rect().adjusted(0, 0, 0, -kPadding));
+    m_view->setGeometry(rect());
     m_bar->adapt();
 }
 

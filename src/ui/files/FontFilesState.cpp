@@ -4,6 +4,7 @@
 #include "ui/files/FontFilesState.h"
 
 #include "catalog/FontVariants.h"
+#include "catalog/RepresentativeStyle.h"
 #include "organize/NameOrder.h"
 
 #include <QCoreApplication>
@@ -163,10 +164,16 @@ std::vector<FontFilesRow> fontFilesRows(const FontFilesState &state)
     return rows;
 }
 
-std::optional<size_t> firstRow(std::span<const FontFilesRow> rows)
+std::optional<size_t> firstRow(const FontFilesState &state, std::span<const FontFilesRow> rows)
 {
-    const auto found = std::ranges::find_if(
-        rows, [](const FontFilesRow &row) { return row.kind != FontFilesRow::Kind::heading; });
+    const FontStyleRecord *first =
+        state.families.empty() ? nullptr : representativeStyle(state.families.front().styles);
+    const auto isFirst = [&](const FontFilesRow &row) {
+        if (row.kind != FontFilesRow::Kind::face || !first)
+            return row.kind == FontFilesRow::Kind::problem;
+        return row.index == 0 && &state.families.front().styles[row.style] == first;
+    };
+    const auto found = std::ranges::find_if(rows, isFirst);
     return found == rows.end() ? std::nullopt : std::optional(size_t(found - rows.begin()));
 }
 

@@ -63,8 +63,9 @@ struct FontFilesRow
 };
 
 std::vector<FontFilesRow> fontFilesRows(const FontFilesState &state);
-/// The first one that can be chosen; nothing without any.
-std::optional<size_t> firstRow(std::span<const FontFilesRow> rows);
+/// What is shown first: of the first family the face that its card would show, else the first
+/// problem; nothing without any.
+std::optional<size_t> firstRow(const FontFilesState &state, std::span<const FontFilesRow> rows);
 /// What the window is called: the family, or how many there are.
 QString fontFilesTitle(const FontFilesState &state);
 

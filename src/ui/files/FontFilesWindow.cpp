@@ -177,7 +177,7 @@ void FontFilesWindow::take(FontFilesReader::Part part)
     m_state = std::move(part.state);
     m_rows = fontFilesRows(m_state);
     m_list->setRows(m_rows);
-    m_row = firstRow(m_rows);
+    m_row = firstRow(m_state, m_rows);
     for (size_t i = 0; hadChosen && i < m_rows.size(); ++i) {
         const FontFilesRow &row = m_rows[i];
         const bool isSameFace = row.kind == Kind::face && chosen.kind == Kind::face
@@ -237,7 +237,6 @@ void FontFilesWindow::showFace(const FontFamilyRecord &family, const FontStyleRe
     m_bar->setTitle(QString(family.familyName % u' ' % style.label));
     m_bar->setControlsShown(true);
     applyActivations();
-    layOut();
 }
 
 void FontFilesWindow::showMessage(const QString &title, const QString &sentence)
@@ -250,7 +249,6 @@ void FontFilesWindow::showMessage(const QString &title, const QString &sentence)
     m_bar->setTitle({});
     m_bar->setControlsShown(false);
     applyActivations();
-    layOut();
 }
 
 const FontFamilyRecord *FontFilesWindow::shownFamily() const
@@ -283,10 +281,10 @@ void FontFilesWindow::applyActivations()
 {
     FontFilesOffer offer = fontFilesOffer(m_state.families, shownFamily(), m_known);
     offer.hasFailures = m_activation.hasFailures() && !m_state.isEmpty();
-    offer.offersLibrary = !m_state.isEmpty();
     m_footer->apply(offer);
     m_page->showActivations(m_known.styles);
     applyInspector();
+    layOut();
 }
 
 // --- The inspector ---
@@ -344,11 +342,11 @@ void FontFilesWindow::inspectorLinkWanted(const QUrl &link)
 void FontFilesWindow::present()
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);
+    const bool wasOpen = isVisible();
     show();
-    raise();
+    if (wasOpen)
+        raise();
     activateWindow();
-    if (!focusWidget())
-        m_list->setFocus(Qt::OtherFocusReason);
 }
 
 bool FontFilesWindow::isSettled() const
@@ -360,14 +358,14 @@ bool FontFilesWindow::isSettled() const
 /// One face, or one problem, needs no list.
 void FontFilesWindow::layOut()
 {
-    const bool hasList = m_rows.size() > 2 && width() >= kListWidth;
+    const bool hasList = m_rows.size() > 2;
     const int left = hasList ? FontFilesList::kWidth : 0;
     const bool hasInspector = showsInspector();
     const int right =
         hasInspector && !isNarrow() ? FontInspectorViewController::kWidth : 0;
     const int middle = std::max(width() - left - right, 0);
     const int bar = kTopBarHeight;
-    const int foot = m_state.isEmpty() ? 0 : FontFilesFooter::kHeight;
+    const int foot = m_footer->offer() == FontFilesOffer() ? 0 : FontFilesFooter::kHeight;
     const auto place = [this](QWidget *part, const QRect &where) {
         part->setGeometry(QStyle::visualRect(layoutDirection(), rect(), where));
     };
@@ -383,6 +381,8 @@ void FontFilesWindow::layOut()
            FontInspectorViewController::kWidth,
            height() - inspectorTop - (isNarrow() ? foot : 0)});
     m_list->setVisible(hasList);
+    m_footer->setVisible(foot > 0);
+    setMinimumWidth(std::max(kSmallestSize.width(), left + m_footer->leastWidth()));
     m_inspector->setVisible(hasInspector);
     m_inspector->raise();
     m_bar->setInspectorShown(hasInspector);

@@ -48,11 +48,9 @@ class FontFilesWindow final : public QWidget, private FontInspectorDelegate
     Q_OBJECT
 public:
     static constexpr QSize kStandardSize{1160, 760};
-    static constexpr QSize kSmallestSize{560, 420};
+    static constexpr QSize kSmallestSize{660, 420};
     /// Narrower windows have the inspector over the page.
     static constexpr int kInspectorWidth = 1000;
-    /// And these the list in front of nothing: it gives way.
-    static constexpr int kListWidth = 640;
 
     FontFilesWindow(LorvaAppModel &model, FontFilesServices services);
     ~FontFilesWindow() override;
