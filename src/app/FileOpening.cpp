@@ -69,18 +69,26 @@ void FileOpening::sortAndOpen(const OpenRequest &request, Folders folders)
     });
 }
 
+void FileOpening::makeWindow()
+{
+    m_window = std::make_unique<FontFilesWindow>(m_model, m_makeServices());
+    if (m_fixedSize)
+        m_window->setFixedSize(*m_fixedSize);
+    m_window->onLibraryWanted = [this](const QString &family) {
+        if (onLibraryWanted)
+            onLibraryWanted(family);
+    };
+    m_window->onQuitWanted = [this] {
+        if (onQuitWanted)
+            onQuitWanted();
+    };
+    m_window->onDropped = [this](const std::vector<FilePath> &dropped) { openDropped(dropped); };
+}
+
 void FileOpening::show(const std::vector<FilePath> &files, const OpenRequest &request)
 {
-    if (!m_window) {
-        m_window = std::make_unique<FontFilesWindow>(m_model, m_makeServices());
-        m_window->onLibraryWanted = [this](const QString &family) {
-            if (onLibraryWanted)
-                onLibraryWanted(family);
-        };
-        m_window->onDropped = [this](const std::vector<FilePath> &dropped) {
-            openDropped(dropped);
-        };
-    }
+    if (!m_window)
+        makeWindow();
     m_window->open(files, request.foreign);
     useActivationToken(request.activationToken);
     m_window->present();

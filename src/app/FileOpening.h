@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace lorva {
@@ -40,6 +41,10 @@ public:
     /// The user wants to see the library; the family, or an empty name.
     std::function<void(const QString &familyName)> onLibraryWanted;
 
+    /// For a picture: windows that are made from now on have this size and no other.
+    void setFixedWindowSize(QSize size) { m_fixedSize = size; }
+    std::function<void()> onQuitWanted;
+
     void open(const OpenRequest &request);
     /// Files alone; folders are passed over.
     void openDropped(const std::vector<FilePath> &places);
@@ -51,10 +56,12 @@ private:
     enum class Folders { areHandedOn, arePassedOver };
 
     void sortAndOpen(const OpenRequest &request, Folders folders);
+    void makeWindow();
     void show(const std::vector<FilePath> &files, const OpenRequest &request);
 
     LorvaAppModel &m_model;
     const std::function<FontFilesServices()> m_makeServices;
+    std::optional<QSize> m_fixedSize;
     std::unique_ptr<FontFilesWindow> m_window;
     QThreadPool m_pool;
 };

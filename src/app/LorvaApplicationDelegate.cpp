@@ -135,7 +135,17 @@ void LorvaApplicationDelegate::connectFiles()
         if (!hasFiles)
             presentLibrary();
     };
+    m_files.onQuitWanted = [this] { quit(); };
     m_files.onLibraryWanted = [this](const QString &family) { showInLibrary(family); };
+}
+
+/// A window that is still switching fonts stays until they are done, and the program with it.
+void LorvaApplicationDelegate::quit()
+{
+    if (m_files.isWindowOpen())
+        m_files.window()->close();
+    if (m_window)
+        m_window->close();
 }
 
 void LorvaApplicationDelegate::openPlaces(const LaunchOptions &options,
@@ -147,14 +157,12 @@ void LorvaApplicationDelegate::openPlaces(const LaunchOptions &options,
 
 void LorvaApplicationDelegate::takeFilesPicture()
 {
+    const bool hasOwnSize = m_options.windowSize != LaunchOptions::kWindowSize;
+    m_files.setFixedWindowSize(hasOwnSize ? m_options.windowSize : FontFilesWindow::kStandardSize);
     auto *look = new QTimer(this);
     connect(look, &QTimer::timeout, this, [this, look] {
         FontFilesWindow *shown = m_files.window();
-        if (!shown)
-            return;
-        if (m_options.windowSize != LaunchOptions::kWindowSize)
-            shown->setFixedSize(m_options.windowSize);
-        if (!shown->isSettled())
+        if (!shown || !shown->isSettled())
             return;
         look->stop();
         writePictureAndEnd(*shown, *m_options.screenshot);
@@ -347,7 +355,7 @@ void LorvaApplicationDelegate::buildMenu()
         [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); },
         [this] { showSettings(); }, m_root->activation(),
         [this] { return m_root->selectedNames(); }, detailCommands(),
-        [this] { return m_root->isQuizOpen(); }});
+        [this] { return m_root->isQuizOpen(); }, [this] { quit(); }});
     m_root->setMainMenu(m_menu->buttonMenu());
     // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
     connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),

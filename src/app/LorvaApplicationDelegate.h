@@ -82,6 +82,7 @@ private:
     void takeFilesPicture();
     void openLibrary();
     void presentLibrary();
+    void quit();
     void showInLibrary(const QString &familyName);
     void applyChoices(const LaunchOptions &options);
     void applyDetailChoices(const LaunchOptions &options);

@@ -13,8 +13,7 @@ namespace {
 
 std::vector<FilePath> listedFonts(const GivenFonts &given)
 {
-    return given.availableFonts ? given.availableFonts->fontFiles({}, {})
-                                : std::vector<FilePath>();
+    return given.availableFonts ? given.availableFonts->fontFiles({}, {}) : std::vector<FilePath>();
 }
 
 /// The books for these files, and which of the files have no place.

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
+#include "ui/files/FontFilesState.h"
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
 #include "ui/files/FontFileDrop.h"
 #include "ui/files/FontFilesFooter.h"
-#include "ui/files/FontFilesState.h"
 #include "ui/FontFamilyPasteboard.h"
 
 #include <QMimeData>
@@ -43,8 +43,8 @@ std::vector<std::string> lines(const FontFilesState &state)
     std::vector<std::string> told;
     for (const FontFilesRow &row : fontFilesRows(state)) {
         const char *mark = row.kind == FontFilesRow::Kind::heading ? "# "
-            : row.kind == FontFilesRow::Kind::problem             ? "! "
-                                                                  : "";
+            : row.kind == FontFilesRow::Kind::problem              ? "! "
+                                                                   : "";
         const QString detail =
             row.detail.isEmpty() ? QString() : QString(u" (" % row.detail % u')');
         told.push_back(mark + row.text.toStdString() + detail.toStdString());
@@ -113,11 +113,12 @@ TEST(FontFiles, FacesStandBelowTheirFamiliesInTheOrderForPeople)
 {
     const FilePath here = folder();
     EXPECT_THAT(
-        linesOf({writeFile(here, "b-bold.ttf", FontBuilder("beta", "Bold").weightClass(700).build()),
-                 writeFile(here, "junk.ttf", "junk"),
-                 writeFile(here, "b-italic.ttf", FontBuilder("beta", "Italic").italic().build()),
-                 writeFile(here, "a.ttf", FontBuilder("Alpha").build()),
-                 writeFile(here, "b.ttf", FontBuilder("beta").build())}),
+        linesOf(
+            {writeFile(here, "b-bold.ttf", FontBuilder("beta", "Bold").weightClass(700).build()),
+             writeFile(here, "junk.ttf", "junk"),
+             writeFile(here, "b-italic.ttf", FontBuilder("beta", "Italic").italic().build()),
+             writeFile(here, "a.ttf", FontBuilder("Alpha").build()),
+             writeFile(here, "b.ttf", FontBuilder("beta").build())}),
         ElementsAre("# Alpha", "Regular", "# beta", "Regular", "Italic", "Bold", "# Not Shown",
                     "! junk.ttf"));
 }
@@ -135,8 +136,7 @@ TEST(FontFiles, AFileCountsOnceAndEqualFacesOfTwoFilesAreBothThere)
     const std::vector<ReadFontFile> found =
         read({first, first, link, elsewhere.child("first.ttf"), second});
     const FontFilesState state = fontFilesState(found);
-    EXPECT_THAT(lines(state),
-                ElementsAre("# Same", "Regular (first.ttf)", "Regular (second.ttf)"));
+    EXPECT_THAT(lines(state), ElementsAre("# Same", "Regular (first.ttf)", "Regular (second.ttf)"));
     const std::vector<FontStyleRecord> &styles = state.families.front().styles;
     EXPECT_NE(styles[0].id, styles[1].id);
     EXPECT_EQ(styles[0].fileURL, first);
@@ -169,8 +169,8 @@ TEST(FontFiles, TakesDropsOfFilesThatMayBeFonts)
     EXPECT_THAT(drop("file:///a/%FF.OTF"), ElementsAre(FilePath("/a/\xff.OTF")));
     EXPECT_THAT(drop("file:///a/Old%20Suitcase"), ElementsAre(FilePath("/a/Old Suitcase")));
     EXPECT_THAT(drop("file:///a/photo.jpeg\r\nhttp://x.example/b.ttf\r\n"), IsEmpty());
-    const auto families = makeFontFamilyMimeData({QStringLiteral("One")},
-                                                 {QUrl(QStringLiteral("file:///a/b.ttf"))});
+    const auto families =
+        makeFontFamilyMimeData({QStringLiteral("One")}, {QUrl(QStringLiteral("file:///a/b.ttf"))});
     EXPECT_THAT(droppedFontFiles(*families), IsEmpty()) << "our own families are no files";
 }
 

@@ -4,6 +4,7 @@
 // Font files are opened, looked through and switched as a person does it: with keys, clicks and
 // drops on the window.
 
+#include "ui/files/FontFilesWindow.h"
 #include "support/LibraryFixture.h"
 #include "ui/detail/CharacterGridView.h"
 #include "ui/detail/DetailPreviewView.h"
@@ -12,7 +13,6 @@
 #include "ui/files/FontFilesFooter.h"
 #include "ui/files/FontFilesList.h"
 #include "ui/files/FontFilesPage.h"
-#include "ui/files/FontFilesWindow.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/style/Palette.h"
 #include "ui/style/ReducedMotion.h"
@@ -64,8 +64,7 @@ protected:
     void makeWindow()
     {
         window = std::make_unique<FontFilesWindow>(
-            *library.model,
-            FontFilesServices{library.fonts, library.systemFont, nullptr, nullptr});
+            *library.model, FontFilesServices{library.fonts, library.systemFont, nullptr, nullptr});
         window->onLibraryWanted = [this](const QString &family) { wanted << family; };
         window->onDropped = [this](const std::vector<FilePath> &files) { dropped = files; };
     }
@@ -78,7 +77,10 @@ protected:
         window->present();
         settle();
     }
-    void settle() { EXPECT_TRUE(waitUntil([this] { return window->isSettled(); })); }
+    void settle()
+    {
+        EXPECT_TRUE(waitUntil([this] { return window->isSettled(); }));
+    }
 
     template <class Widget>
     Widget &part(const char *name)
@@ -170,6 +172,7 @@ TEST_F(FontFilesWindowTest, KeysLeadFromFaceToFacePastHeadingsAndDamagedFiles)
                            QStringLiteral("Regular, Two"), QStringLiteral("Not Shown"),
                            QStringLiteral("bad.ttf, Not Shown")}));
     std::vector<std::string> passed;
+    ASSERT_EQ(window->focusWidget(), &list()) << "without a click";
     for (int i = 0; i < 4; ++i) {
         QTest::keyClick(&list(), Qt::Key_Down);
         passed.push_back(shown());

@@ -137,8 +137,7 @@ void DBusSingleInstance::release()
 
 bool takeStartedByBus()
 {
-    const bool isStartedByBus =
-        qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE")
+    const bool isStartedByBus = qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE")
         || qEnvironmentVariableIsSet("DBUS_STARTER_ADDRESS");
     qunsetenv("DBUS_STARTER_BUS_TYPE");
     qunsetenv("DBUS_STARTER_ADDRESS");

@@ -16,8 +16,8 @@ namespace lorva {
 /// of our own families. The disk is not looked at.
 std::vector<FilePath> droppedFontFiles(const QMimeData &data);
 
-/// Font files of a file manager that are dropped on a window, or on what in it takes no drops of its
-/// own.
+/// Font files of a file manager that are dropped on a window, or on what in it takes no drops of
+/// its own.
 ///
 /// Watches the widget's events. Thread: main.
 class FontFileDrop final : public QObject

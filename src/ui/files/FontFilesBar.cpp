@@ -77,8 +77,7 @@ void FontFilesBar::setControlsShown(bool areShown)
 void FontFilesBar::layOut()
 {
     BarRow row(width(), layoutDirection());
-    const QRect inspector =
-        row.place(m_inspector->sizeHint(), 0, barspace::kButtonRoom);
+    const QRect inspector = row.place(m_inspector->sizeHint(), 0, barspace::kButtonRoom);
     const QRect stages = row.place(m_stages->sizeHint(), barspace::kGroupGap);
     placePart(m_inspector, m_areControlsShown ? std::optional(inspector) : std::nullopt);
     placePart(m_stages, m_areControlsShown ? std::optional(stages) : std::nullopt);

@@ -191,9 +191,9 @@ void FontFilesFooter::paintEvent(QPaintEvent *)
     const Qt::Alignment leading =
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter)
         | Qt::AlignAbsolute;
-    painter.drawText(m_statusRect, int(leading) | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(m_offer.status, Qt::ElideRight,
-                                                      m_statusRect.width()));
+    painter.drawText(
+        m_statusRect, int(leading) | Qt::TextSingleLine,
+        painter.fontMetrics().elidedText(m_offer.status, Qt::ElideRight, m_statusRect.width()));
 }
 
 void FontFilesFooter::resizeEvent(QResizeEvent *)

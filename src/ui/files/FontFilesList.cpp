@@ -42,8 +42,8 @@ QString lineOf(const QString &text)
 void drawLine(QPainter &painter, const QRect &room, const QString &text,
               Qt::LayoutDirection direction)
 {
-    const Qt::Alignment leading = QStyle::visualAlignment(direction, Qt::AlignLeft)
-        | Qt::AlignAbsolute | Qt::AlignVCenter;
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(direction, Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter;
     painter.drawText(
         room, int(leading) | Qt::TextSingleLine,
         QFontMetrics(painter.font()).elidedText(lineOf(text), Qt::ElideRight, room.width()));
@@ -228,16 +228,17 @@ private:
         const bool isSelected = option.state.testFlag(QStyle::State_Selected);
         const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(
-            withAlpha(colors.text, isSelected ? kSelectedFill : isHovered ? kHoverFill : 0.0));
+        painter.setBrush(withAlpha(colors.text,
+                                   isSelected      ? kSelectedFill
+                                       : isHovered ? kHoverFill
+                                                   : 0.0));
         painter.drawRoundedRect(plate, kRadius, kRadius);
         if (isSelected && m_view.showsFocus())
             drawFocusRing(painter, QRectF(plate).adjusted(2, 2, -2, -2), kRadius - 2);
         const QColor ground =
             blended(withAlpha(colors.text, isSelected ? kSelectedFill : 0.0), colors.sidebar);
-        painter.setFont(
-            interfaceFont(InterfaceSize::body,
-                          isSelected ? InterfaceWeight::medium : InterfaceWeight::regular));
+        painter.setFont(interfaceFont(
+            InterfaceSize::body, isSelected ? InterfaceWeight::medium : InterfaceWeight::regular));
         painter.setPen(row.kind == FontFilesRow::Kind::problem
                            ? quietColor(colors.text, ground, kDetailAlpha)
                            : colors.text);

@@ -82,8 +82,8 @@ void FontFilesPage::connectParts()
 void FontFilesPage::showFace(const FontFamilyRecord &family, const FontStyleRecord &style,
                              int edition)
 {
-    const bool isOther = m_edition != edition || m_face.style != style
-        || m_face.familyName != family.familyName;
+    const bool isOther =
+        m_edition != edition || m_face.style != style || m_face.familyName != family.familyName;
     m_family = family;
     m_edition = edition;
     if (isOther) {

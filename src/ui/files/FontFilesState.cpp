@@ -101,11 +101,6 @@ private:
     QHash<std::pair<quint64, quint64>, bool> m_files;
 };
 
-bool hasNamesake(const FontFamilyRecord &family, const FontStyleRecord &style)
-{
-    return std::ranges::count(family.styles, style.label, &FontStyleRecord::label) > 1;
-}
-
 QString fileNameOf(const FilePath &path)
 {
     return FilePath(path.fileName()).displayText();
@@ -113,10 +108,13 @@ QString fileNameOf(const FilePath &path)
 
 void addFaces(const FontFamilyRecord &family, size_t index, std::vector<FontFilesRow> &rows)
 {
+    QHash<QString, int> namesakes;
+    for (const FontStyleRecord &style : family.styles)
+        ++namesakes[style.label];
     rows.push_back({FontFilesRow::Kind::heading, family.familyName, {}, index, 0});
     for (size_t i = 0; i < family.styles.size(); ++i) {
         const FontStyleRecord &style = family.styles[i];
-        const bool needsFile = style.fileURL && hasNamesake(family, style);
+        const bool needsFile = style.fileURL && namesakes[style.label] > 1;
         rows.push_back({FontFilesRow::Kind::face, style.label,
                         needsFile ? fileNameOf(*style.fileURL) : QString(), index, i});
     }

@@ -4,6 +4,7 @@
 #include "ui/files/FontFilesWindow.h"
 
 #include "base/NotificationCentre.h"
+#include "base/Trace.h"
 #include "model/LorvaAppModel.h"
 #include "ui/browser/BrowserEmptyStateView.h"
 #include "ui/browser/TopBarLayout.h"
@@ -80,6 +81,7 @@ FontFilesWindow::~FontFilesWindow()
 {
     m_pool.waitForDone();
     // They report to members that go before the children do.
+    delete m_list;
     delete m_page;
     delete m_inspector;
 }
@@ -87,8 +89,9 @@ FontFilesWindow::~FontFilesWindow()
 void FontFilesWindow::connectParts()
 {
     m_reader.onRead = [this](FontFilesReader::Part part) { take(std::move(part)); };
-    connect(&m_messageDelay, &QTimer::timeout, this,
-            [this] { showMessage(tr("Reading Files"), tr("The fonts will be here in a moment.")); });
+    connect(&m_messageDelay, &QTimer::timeout, this, [this] {
+        showMessage(tr("Reading Files"), tr("The fonts will be here in a moment."));
+    });
     connect(m_list, &FontFilesList::chosen, this, &FontFilesWindow::choose);
     connect(m_bar, &FontFilesBar::pointSizeChosen, m_page, &FontFilesPage::setPointSize);
     connect(m_bar, &FontFilesBar::stageChosen, m_page, &FontFilesPage::setStage);
@@ -108,6 +111,11 @@ void FontFilesWindow::connectParts()
     // The toolkit knows the desktops' own closing key of some desktops only.
     auto *closing = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
     connect(closing, &QShortcut::activated, this, &QWidget::close);
+    auto *quitting = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
+    connect(quitting, &QShortcut::activated, this, [this] {
+        if (onQuitWanted)
+            onQuitWanted();
+    });
     NotificationCentre::shared().observe(ActivationProvider::changeNotification(), this,
                                          [this](const void *) { lookAtActivations(); });
 }
@@ -192,6 +200,7 @@ void FontFilesWindow::take(FontFilesReader::Part part)
     m_activation.setGivenFonts(m_given);
     lookAtActivations();
     showRow();
+    traceMoment("font files shown");
 }
 
 void FontFilesWindow::choose(size_t row)
@@ -227,6 +236,12 @@ void FontFilesWindow::showRow()
     } else {
         showMessage(row.text, fontFileProblemText(m_state.problems[row.index].problem));
     }
+    if (focusWidget())
+        return;
+    if (m_list->isVisibleTo(this))
+        m_list->setFocus(Qt::OtherFocusReason);
+    else
+        m_page->focusPage();
 }
 
 void FontFilesWindow::showFace(const FontFamilyRecord &family, const FontStyleRecord &style)
@@ -297,9 +312,9 @@ void FontFilesWindow::applyInspector()
         return;
     }
     const auto found = m_known.activationByFamily.constFind(family->familyName);
-    m_inspector->showFace(m_page->face(), found == m_known.activationByFamily.cend()
-                              ? std::nullopt
-                              : std::optional(*found));
+    m_inspector->showFace(m_page->face(),
+                          found == m_known.activationByFamily.cend() ? std::nullopt
+                                                                     : std::optional(*found));
 }
 
 bool FontFilesWindow::showsInspector() const
@@ -361,8 +376,7 @@ void FontFilesWindow::layOut()
     const bool hasList = m_rows.size() > 2;
     const int left = hasList ? FontFilesList::kWidth : 0;
     const bool hasInspector = showsInspector();
-    const int right =
-        hasInspector && !isNarrow() ? FontInspectorViewController::kWidth : 0;
+    const int right = hasInspector && !isNarrow() ? FontInspectorViewController::kWidth : 0;
     const int middle = std::max(width() - left - right, 0);
     const int bar = kTopBarHeight;
     const int foot = m_footer->offer() == FontFilesOffer() ? 0 : FontFilesFooter::kHeight;
@@ -378,11 +392,13 @@ void FontFilesWindow::layOut()
     const int inspectorTop = isNarrow() ? bar : 0;
     place(m_inspector,
           {width() - FontInspectorViewController::kWidth, inspectorTop,
-           FontInspectorViewController::kWidth,
-           height() - inspectorTop - (isNarrow() ? foot : 0)});
+           FontInspectorViewController::kWidth, height() - inspectorTop - (isNarrow() ? foot : 0)});
     m_list->setVisible(hasList);
     m_footer->setVisible(foot > 0);
-    setMinimumWidth(std::max(kSmallestSize.width(), left + m_footer->leastWidth()));
+    // A picture's size is fixed.
+    const int least = std::max(kSmallestSize.width(), left + m_footer->leastWidth());
+    if (minimumWidth() != least && minimumWidth() != maximumWidth())
+        setMinimumWidth(least);
     m_inspector->setVisible(hasInspector);
     m_inspector->raise();
     m_bar->setInspectorShown(hasInspector);

@@ -63,6 +63,8 @@ public:
 
     /// The user wants the library; the family that is shown, if there is one.
     std::function<void(const QString &familyName)> onLibraryWanted;
+    /// The user wants to end the program.
+    std::function<void()> onQuitWanted;
     /// Font files were dropped here.
     std::function<void(const std::vector<FilePath> &files)> onDropped;
 
