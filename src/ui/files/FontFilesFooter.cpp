@@ -119,16 +119,17 @@ TextButton *FontFilesFooter::makeButton(const QString &text, const char *name, b
     return button;
 }
 
+/// The most important one first.
 std::vector<TextButton *> FontFilesFooter::shownButtons() const
 {
     std::vector<TextButton *> shown;
     const std::pair<TextButton *, bool> buttons[]{
-        {m_failures, m_offer.hasFailures},
-        {m_library, m_offer.offersLibrary},
-        {m_all, m_offer.offersAll},
-        {m_deactivate, m_offer.main == Main::deactivate},
-        {m_remaining, m_offer.main == Main::activateRemaining},
         {m_activate, m_offer.main == Main::activate},
+        {m_remaining, m_offer.main == Main::activateRemaining},
+        {m_deactivate, m_offer.main == Main::deactivate},
+        {m_all, m_offer.offersAll},
+        {m_library, m_offer.offersLibrary},
+        {m_failures, m_offer.hasFailures},
     };
     for (const auto &[button, isShown] : buttons)
         if (isShown)
@@ -144,18 +145,18 @@ void FontFilesFooter::apply(const FontFilesOffer &offer)
     layOut();
 }
 
-/// From the trailing edge, the most important one first.
+/// From the trailing edge.
 void FontFilesFooter::layOut()
 {
     const std::vector<TextButton *> shown = shownButtons();
     for (TextButton *button : {m_failures, m_library, m_all, m_deactivate, m_remaining, m_activate})
         button->setVisible(std::ranges::find(shown, button) != shown.end());
     int edge = width() - kPadding;
-    for (auto button = shown.rbegin(); button != shown.rend(); ++button) {
-        const QSize size = (*button)->sizeHint();
+    for (TextButton *button : shown) {
+        const QSize size = button->sizeHint();
         edge -= size.width();
         const QRect place(QPoint(edge, (height() - size.height()) / 2), size);
-        (*button)->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+        button->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
         edge -= spacing::k8;
     }
     const QRect status(kPadding, 0, std::max(edge - spacing::k12 - kPadding, 0), height());

@@ -66,7 +66,7 @@ void FontFilesReader::read(std::vector<FilePath> files, const QStringList &forei
     readNext(progress);
 }
 
-void FontFilesReader::readNext(std::shared_ptr<Progress> progress)
+void FontFilesReader::readNext(const std::shared_ptr<Progress> &progress)
 {
     const auto work = [progress, service = &m_service](const std::stop_token &stop) {
         progress->readPart(stop);

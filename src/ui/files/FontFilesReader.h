@@ -46,7 +46,7 @@ public:
 private:
     struct Progress;
 
-    void readNext(std::shared_ptr<Progress> progress);
+    void readNext(const std::shared_ptr<Progress> &progress);
 
     FontLibraryService &m_service;
     bool m_isReading = false;
