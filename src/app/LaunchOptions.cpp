@@ -207,6 +207,8 @@ struct Option
 {
     const char *name;
     Result<void> (*apply)(LaunchOptions &, const QByteArray &value, const FilePath &workingFolder);
+    /// About the library's window, and not about any picture.
+    bool isAboutLibrary = true;
 };
 
 /// For values that need no working folder.
@@ -236,10 +238,10 @@ Result<void> addFolder(LaunchOptions &options, const QByteArray &value,
 }
 
 constexpr Option kOptions[]{
-    {"--screenshot", path<&LaunchOptions::screenshot>},
+    {"--screenshot", path<&LaunchOptions::screenshot>, false},
     {"--sheet", parsed<parseSheet, &LaunchOptions::sheet>},
-    {"--window-size", parsed<parseSize, &LaunchOptions::windowSize>},
-    {"--appearance", parsed<parseAppearance, &LaunchOptions::isDark>},
+    {"--window-size", parsed<parseSize, &LaunchOptions::windowSize>, false},
+    {"--appearance", parsed<parseAppearance, &LaunchOptions::isDark>, false},
     {"--folder", addFolder},
     {"--source", parsed<parseSource, &LaunchOptions::source>},
     {"--search", parsed<parseText, &LaunchOptions::searchText>},
@@ -327,43 +329,105 @@ QString optionHelp()
     return help;
 }
 
-} // namespace
-
-Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
-                                         const FilePath &workingFolder)
+/// RFC 3986 "Scheme", followed by an authority, or a file's.
+bool isAddress(const QByteArray &argument)
 {
-    LaunchOptions options;
-    for (size_t i = 0; i < arguments.size(); ++i) {
-        QByteArray name(arguments[i]);
+    const qsizetype colon = argument.indexOf(':');
+    const auto isSchemeByte = [](char byte) {
+        return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')
+            || (byte >= '0' && byte <= '9') || byte == '+' || byte == '-' || byte == '.';
+    };
+    // A single letter is no scheme that anybody has.
+    if (colon < 2 || !std::all_of(argument.begin(), argument.begin() + colon, isSchemeByte))
+        return false;
+    return argument.mid(colon).startsWith("://") || argument.left(colon).toLower() == "file";
+}
+
+void addPlace(LaunchOptions &options, const QByteArray &argument, const FilePath &workingFolder)
+{
+    if (!isAddress(argument)) {
+        options.places.push_back(FilePath::absolute(argument, workingFolder));
+        return;
+    }
+    if (const Result<FilePath> path = FilePath::fromUrl(argument))
+        options.places.push_back(*path);
+    else
+        options.foreignPlaces << FilePath(argument).displayText();
+}
+
+/// Reads arguments one after the other.
+class Reader
+{
+public:
+    Reader(std::span<const char *const> arguments, const FilePath &workingFolder)
+        : m_arguments(arguments)
+        , m_workingFolder(workingFolder)
+    {
+    }
+
+    Result<LaunchOptions> read()
+    {
+        bool areOptionsOver = false;
+        while (m_next < m_arguments.size()) {
+            const QByteArray argument(m_arguments[m_next++]);
+            if (!areOptionsOver && argument == "--") {
+                areOptionsOver = true;
+            } else if (areOptionsOver || !argument.startsWith('-')) {
+                if (!argument.isEmpty())
+                    addPlace(m_options, argument, m_workingFolder);
+            } else if (const Result<void> read = readOption(argument); !read) {
+                return tl::unexpected(read.error());
+            }
+        }
+        return std::move(m_options);
+    }
+
+private:
+    Result<void> readOption(QByteArray name)
+    {
         std::optional<QByteArray> value;
         if (const qsizetype equals = name.indexOf('='); name.startsWith("--") && equals > 0) {
             value = name.mid(equals + 1);
             name.truncate(equals);
         }
         if (const Flag *const flag = findFlag(name); flag && !value) {
-            options.*flag->member = true;
-            continue;
+            m_options.*flag->member = true;
+            return {};
         }
         const Option *const option = findOption(name);
         if (!option)
             return usage(Texts::tr("unknown argument \"%1\"").arg(FilePath(name).displayText()));
-        if (!value && i + 1 < arguments.size())
-            value = QByteArray(arguments[++i]);
+        if (!value && m_next < m_arguments.size())
+            value = QByteArray(m_arguments[m_next++]);
         if (!value || value->isEmpty())
             return usage(Texts::tr("%1 needs a value").arg(QString::fromUtf8(name)));
-        if (const auto applied = option->apply(options, *value, workingFolder); !applied)
-            return tl::unexpected(applied.error());
+        m_options.isAboutLibrary = m_options.isAboutLibrary || option->isAboutLibrary;
+        return option->apply(m_options, *value, m_workingFolder);
     }
-    return options;
+
+    const std::span<const char *const> m_arguments;
+    const FilePath &m_workingFolder;
+    size_t m_next = 0;
+    LaunchOptions m_options;
+};
+
+} // namespace
+
+Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
+                                         const FilePath &workingFolder)
+{
+    return Reader(arguments, workingFolder).read();
 }
 
 QString launchHelp()
 {
     //: Options begin with "--", and words in capitals stand for what is typed after them; both, and
     //: the words that an option takes, stay as they are.
-    return Texts::tr("Usage: lorva [options]") + u"\n\n"
-        + Texts::tr("Shows every font of this computer as a live specimen.") + u"\n\n"
-        + optionHelp() + u'\n'
+    return Texts::tr("Usage: lorva [options] [FILE|FOLDER]...") + u"\n\n"
+        + Texts::tr("Shows every font of this computer as a live specimen; font files that are "
+                    "given, by "
+                    "path or as a file: address, in a window of their own.")
+        + u"\n\n" + optionHelp() + u'\n'
         + Texts::tr(
                "If Lorva runs already, its window comes to the front and takes the options over.")
         + u'\n'

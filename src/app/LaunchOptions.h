@@ -9,6 +9,7 @@
 #include "ui/inspector/FontInspectorViewController.h"
 
 #include <QSize>
+#include <QStringList>
 
 #include <optional>
 #include <span>
@@ -41,13 +42,21 @@ struct LaunchOptions
     bool showsVersion = false;
     /// Show the main window off screen, write its picture here, and quit.
     std::optional<FilePath> screenshot;
+    static constexpr QSize kWindowSize{1720, 920};
     /// Content size for the picture, in points.
-    QSize windowSize{1720, 920};
+    QSize windowSize = kWindowSize;
     /// Opened for the picture, for the selected family.
     std::optional<LaunchSheet> sheet;
     /// Whether the desktop is to be taken for a dark one.
     std::optional<bool> isDark;
     std::vector<FilePath> folders;
+    /// What is to be opened, as a file manager would: font files are shown by themselves, folders
+    /// are added. Which of them are what is for the disk to say.
+    std::vector<FilePath> places;
+    /// Addresses that were given in place of paths, and name no file of this computer.
+    QStringList foreignPlaces;
+    /// Something is said about the library's window.
+    bool isAboutLibrary = false;
     std::optional<LaunchSource> source;
     std::optional<QString> searchText;
     std::optional<QString> selectedFamily;
@@ -69,6 +78,12 @@ struct LaunchOptions
     std::optional<int> weight;
     std::optional<QString> sampleText;
 };
+
+/// What is opened without any word about the library's window.
+inline bool opensPlacesAlone(const LaunchOptions &options)
+{
+    return (!options.places.empty() || !options.foreignPlaces.isEmpty()) && !options.isAboutLibrary;
+}
 
 /// Reads the arguments after the program's name. Fails with usage; the detail says what was wrong.
 /// Relative paths are taken from `workingFolder`.

@@ -10,11 +10,14 @@
 #include "catalog/CatalogCache.h"
 #include "commands/LorvaSettingsViewModel.h"
 #include "model/stores/WindowGeometry.h"
+#include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/FontconfigOrthographies.h"
+#include "platform/linux/FontconfigSystemFont.h"
 #include "platform/linux/XdgDesktopOpener.h"
 #include "platform/linux/XdgFolders.h"
 #include "ui/browser/FontBrowserViewController.h"
 #include "ui/display/BackgroundImageStore.h"
+#include "ui/files/FontFileDrop.h"
 #include "ui/LorvaRootSplitViewController.h"
 #include "ui/onboarding/WindowReveal.h"
 #include "ui/quiz/FontQuizViewController.h"
@@ -44,6 +47,9 @@ constexpr qsizetype kLongestTitle = 300;
 /// After the last of the moves of a window that is dragged.
 constexpr std::chrono::milliseconds kFrameRest{500};
 constexpr std::chrono::milliseconds kClosePatience{5000};
+/// The call for which the bus has started a process waits for it already; whoever only inherits the
+/// bus's word for it must not wait long.
+constexpr std::chrono::milliseconds kCallPatience{500};
 
 std::vector<QRect> visibleFrames()
 {
@@ -61,7 +67,8 @@ std::unique_ptr<CatalogCache> LorvaApplicationDelegate::beginReadingCatalog(
     if (options.screenshot)
         return nullptr;
     auto cache = std::make_unique<CatalogCache>(xdgFolders().catalogSnapshot());
-    cache->prefetch();
+    if (!opensPlacesAlone(options))
+        cache->prefetch();
     return cache;
 }
 
@@ -73,6 +80,7 @@ LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options,
     , m_preferences(makePreferences(m_options, xdgFolders()))
     , m_model(makeModel(m_options, xdgFolders(), *m_preferences, std::move(catalogCache)))
     , m_updaterController(std::move(parts.updaterController))
+    , m_files(*m_model, [this] { return filesServices(); })
     , m_windowFrameStore(*m_preferences)
     , m_choices(*m_model)
 {
@@ -90,11 +98,87 @@ LorvaApplicationDelegate::~LorvaApplicationDelegate()
     m_window.reset();
 }
 
-void LorvaApplicationDelegate::applicationDidFinishLaunching()
+void LorvaApplicationDelegate::applicationDidFinishLaunching(Launch launch)
 {
-    const TraceStage stage("start: window");
     if (m_options.screenshot)
         setReducedMotionOverride(m_options.welcome != LaunchWelcome::scene);
+    if (m_options.isDark)
+        setDarkDesktopOverride(*m_options.isDark);
+    connectFiles();
+    openPlaces(m_options, {});
+    if (opensPlacesAlone(m_options)) {
+        if (m_options.screenshot)
+            takeFilesPicture();
+    } else if (launch == Launch::byBus) {
+        m_callPatience.start(kCallPatience);
+    } else {
+        openLibrary();
+    }
+}
+
+// --- Files ---
+
+FontFilesServices LorvaApplicationDelegate::filesServices()
+{
+    return {std::make_shared<FontconfigAvailableFonts>(xdgFolders().registeredLinks()),
+            std::make_shared<FontconfigSystemFont>(), std::make_shared<FontconfigOrthographies>(),
+            std::make_shared<XdgDesktopOpener>()};
+}
+
+void LorvaApplicationDelegate::connectFiles()
+{
+    m_callPatience.setSingleShot(true);
+    connect(&m_callPatience, &QTimer::timeout, this, &LorvaApplicationDelegate::openLibrary);
+    m_files.onFolders = [this](const std::vector<FilePath> &folders, bool hasFiles) {
+        openLibrary();
+        m_model->addFoldersForThisRun(folders);
+        if (!hasFiles)
+            presentLibrary();
+    };
+    m_files.onQuitWanted = [this] { quit(); };
+    m_files.onLibraryWanted = [this](const QString &family) { showInLibrary(family); };
+}
+
+/// A window that is still switching fonts stays until they are done, and the program with it.
+void LorvaApplicationDelegate::quit()
+{
+    if (m_files.isWindowOpen())
+        m_files.window()->close();
+    if (m_window)
+        m_window->close();
+}
+
+void LorvaApplicationDelegate::openPlaces(const LaunchOptions &options,
+                                          const QByteArray &activationToken)
+{
+    if (!options.places.empty() || !options.foreignPlaces.isEmpty())
+        m_files.open({options.places, options.foreignPlaces, activationToken});
+}
+
+void LorvaApplicationDelegate::takeFilesPicture()
+{
+    const bool hasOwnSize = m_options.windowSize != LaunchOptions::kWindowSize;
+    m_files.setFixedWindowSize(hasOwnSize ? m_options.windowSize : FontFilesWindow::kStandardSize);
+    auto *look = new QTimer(this);
+    connect(look, &QTimer::timeout, this, [this, look] {
+        FontFilesWindow *shown = m_files.window();
+        if (!shown || !shown->isSettled())
+            return;
+        look->stop();
+        writePictureAndEnd(*shown, *m_options.screenshot);
+    });
+    look->start(kSettleLook);
+}
+
+// --- The library ---
+
+/// Does nothing once it is there, open or not.
+void LorvaApplicationDelegate::openLibrary()
+{
+    m_callPatience.stop();
+    if (m_window)
+        return;
+    const TraceStage stage("start: window");
     applyChoices(m_options);
     buildWindow();
     applyDetailChoices(m_options);
@@ -112,6 +196,22 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching()
                 m_model->becomeActive();
                 m_root->activation().refreshUndo();
             });
+    connect(new FontFileDrop(*m_window), &FontFileDrop::dropped, &m_files,
+            [this](const std::vector<FilePath> &files) { m_files.openDropped(files); });
+}
+
+void LorvaApplicationDelegate::showInLibrary(const QString &familyName)
+{
+    openLibrary();
+    presentLibrary();
+    if (familyName.isEmpty() || hasAlertSheet(*m_window))
+        return;
+    LaunchOptions wanted;
+    wanted.source = LaunchSource{BrowserSource::Kind::allFonts, {}};
+    wanted.searchText = QString();
+    wanted.selectedFamily = familyName;
+    m_model->openDetail(std::nullopt);
+    applyChoices(wanted);
 }
 
 /// Not over the welcome, which has the user's eye.
@@ -161,27 +261,38 @@ void LorvaApplicationDelegate::openWantedQuiz()
 
 void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
 {
+    m_callPatience.stop();
     std::vector<const char *> arguments;
     for (const QByteArray &argument : start.arguments)
         arguments.push_back(argument.constData());
     const auto options = parseLaunchOptions(arguments, start.workingFolder);
-    if (options && m_window) {
-        // A question that is open comes first: it is about what is shown now.
-        if (!hasAlertSheet(*m_window)) {
-            applyChoices(*options);
-            applyDetailChoices(*options);
-            openWantedQuiz();
-        }
-        m_model->addFoldersForThisRun(options->folders);
-    }
-    if (!start.activationToken.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", start.activationToken);
-    if (!m_window)
+    if (options && opensPlacesAlone(*options)) {
+        openPlaces(*options, start.activationToken);
         return;
+    }
+    openLibrary();
+    // A question that is open comes first: it is about what is shown now.
+    if (options && !hasAlertSheet(*m_window)) {
+        applyChoices(*options);
+        applyDetailChoices(*options);
+        openWantedQuiz();
+    }
+    if (options)
+        m_model->addFoldersForThisRun(options->folders);
+    useActivationToken(start.activationToken);
+    presentLibrary();
+    if (options)
+        openPlaces(*options, start.activationToken);
+}
+
+void LorvaApplicationDelegate::presentLibrary()
+{
     // While the welcome is shown, the window cannot be seen.
     QWidget *overlay = m_onboardingController ? m_onboardingController->overlay() : nullptr;
     QWidget *front = overlay ? overlay->window() : m_window.get();
     front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
+    // It may have been closed while files were open.
+    front->show();
     front->raise();
     front->activateWindow();
 }
@@ -244,7 +355,7 @@ void LorvaApplicationDelegate::buildMenu()
         [this] { m_root->browser().copySelection(); }, [this] { m_root->browser().selectAll(); },
         [this] { showSettings(); }, m_root->activation(),
         [this] { return m_root->selectedNames(); }, detailCommands(),
-        [this] { return m_root->isQuizOpen(); }});
+        [this] { return m_root->isQuizOpen(); }, [this] { quit(); }});
     m_root->setMainMenu(m_menu->buttonMenu());
     // It asks the desktop whether it shows menus itself, for which the first picture need not wait.
     connect(this, &LorvaApplicationDelegate::firstScreenPainted, m_menu.get(),
@@ -265,7 +376,8 @@ void LorvaApplicationDelegate::showSettings()
 /// waited for: the next start brings the books into line.
 bool LorvaApplicationDelegate::closesNow()
 {
-    if (m_isClosing || !m_root->activation().isRunning())
+    // The program goes on while files are open.
+    if (m_isClosing || m_files.isWindowOpen() || !m_root->activation().isRunning())
         return true;
     m_isClosing = true;
     m_window->setEnabled(false);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/FileOpening.h"
 #include "app/LaunchChoices.h"
 #include "app/LaunchOptions.h"
 #include "app/MainMenu.h"
@@ -25,7 +26,9 @@ class LorvaSettingsViewModel;
 class LorvaWindowBackgroundView;
 class SettingsWindow;
 
-/// Builds the program's objects in their order, opens the one main window, and ends with it.
+/// Builds the program's objects in their order, and opens the one main window, or, where only files
+/// are to be opened, just theirs: the main one follows when it is asked for. The program ends with
+/// its last window.
 ///
 /// Owns: the preference store, the model, the updater, the window, and the welcome while it is
 /// shown. Thread: main.
@@ -50,14 +53,18 @@ public:
                                       ProgramParts parts = {});
     ~LorvaApplicationDelegate() override;
 
-    /// Builds and shows the window and starts the catalog load.
-    void applicationDidFinishLaunching();
-    /// Another start was handed over: brings the window to the front and shows what that start
-    /// asks for, as far as it can be understood.
+    /// byBus: a call is on its way that says what is wanted.
+    enum class Launch { byUser, byBus };
+    /// Builds and shows what the start is for. The main window starts the catalog load.
+    void applicationDidFinishLaunching(Launch launch = Launch::byUser);
+    /// Another start was handed over: shows what it asks for, as far as it can be understood, and
+    /// brings that to the front; without anything to open the main window.
     void takeOver(const ProgramStart &start);
 
     LorvaAppModel &model() { return *m_model; }
+    /// Null until the library is wanted; as the root controller.
     QMainWindow *window() { return m_window.get(); }
+    FontFilesWindow *filesWindow() { return m_files.window(); }
     LorvaRootSplitViewController *rootController() { return m_root; }
 
 Q_SIGNALS:
@@ -69,6 +76,14 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    FontFilesServices filesServices();
+    void connectFiles();
+    void openPlaces(const LaunchOptions &options, const QByteArray &activationToken);
+    void takeFilesPicture();
+    void openLibrary();
+    void presentLibrary();
+    void quit();
+    void showInLibrary(const QString &familyName);
     void applyChoices(const LaunchOptions &options);
     void applyDetailChoices(const LaunchOptions &options);
     void openWantedQuiz();
@@ -95,6 +110,9 @@ private:
     std::unique_ptr<PreferenceStore> m_preferences;
     std::unique_ptr<LorvaAppModel> m_model;
     std::unique_ptr<UpdaterController> m_updaterController;
+    FileOpening m_files;
+    /// Runs while the bus owes a call.
+    QTimer m_callPatience;
     std::unique_ptr<QMainWindow> m_window;
     /// The root controller's.
     LorvaWindowBackgroundView *m_backgroundHostingView = nullptr;

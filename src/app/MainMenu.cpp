@@ -148,7 +148,7 @@ void MainMenu::buildProgramMenu()
     quit->setObjectName(QStringLiteral("Menu.Quit"));
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     m_targets.window.addAction(quit);
-    connect(quit, &QAction::triggered, &m_targets.window, &QWidget::close);
+    connect(quit, &QAction::triggered, this, [this] { m_targets.quit(); });
 }
 
 void MainMenu::buildFileMenu()

@@ -69,6 +69,7 @@ public:
         DetailCommands detail;
         /// A game covers the window: only what concerns the whole program acts.
         std::function<bool()> isQuizOpen;
+        std::function<void()> quit;
     };
 
     explicit MainMenu(Targets targets);

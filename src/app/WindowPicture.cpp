@@ -115,12 +115,17 @@ QWidget *WindowPicture::shown() const
 
 void WindowPicture::take()
 {
+    writePictureAndEnd(*shown(), *m_options.screenshot);
+}
+
+void writePictureAndEnd(QWidget &shown, const FilePath &target)
+{
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
-    const bool isEncoded = shown()->grab().toImage().save(&buffer, "PNG");
+    const bool isEncoded = shown.grab().toImage().save(&buffer, "PNG");
     const Result<void> written = isEncoded
-        ? writeFileAtomically(*m_options.screenshot, png)
+        ? writeFileAtomically(target, png)
         : failure(ErrorKind::ioFailure,
                   QCoreApplication::translate("WindowPicture", "the picture could not be encoded"));
     if (!written)

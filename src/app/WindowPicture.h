@@ -15,6 +15,9 @@ class LorvaRootSplitViewController;
 class LorvaSettingsViewModel;
 class OnboardingOverlayController;
 
+/// Writes what a widget shows as PNG, and ends the program; with status 1 where it cannot.
+void writePictureAndEnd(QWidget &shown, const FilePath &target);
+
 /// The picture of --screenshot: what it is to show is opened when the library is there, and taken
 /// when all of that is drawn.
 ///

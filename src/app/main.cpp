@@ -150,6 +150,7 @@ lorva::ProgramStart thisStart(int argc, char **argv)
 int main(int argc, char **argv)
 {
     lorva::keepMemoryTogether();
+    const bool isStartedByBus = lorva::takeStartedByBus();
     const auto options = readOptions(argc, argv);
     const bool isPicture = options && options->screenshot;
     if (!options || options->showsHelp || options->showsVersion || (!isPicture && !hasDisplay()))
@@ -188,7 +189,8 @@ int main(int argc, char **argv)
     lorva::LorvaApplicationDelegate delegate(*options, std::move(catalogCache),
                                              lorva::programParts());
     instance.onStart = [&](const lorva::ProgramStart &start) { delegate.takeOver(start); };
-    delegate.applicationDidFinishLaunching();
+    using Launch = lorva::LorvaApplicationDelegate::Launch;
+    delegate.applicationDidFinishLaunching(isStartedByBus ? Launch::byBus : Launch::byUser);
     const int status = QApplication::exec();
     endInTime(status);
     instance.release();

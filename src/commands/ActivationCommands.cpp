@@ -7,6 +7,7 @@
 #include "base/RunThen.h"
 #include "commands/ActivationRequest.h"
 #include "commands/ActivationTexts.h"
+#include "commands/GivenFonts.h"
 #include "commands/HistoryReport.h"
 #include "commands/UndoableDeactivation.h"
 #include "install/ActivationHistory.h"
@@ -63,8 +64,9 @@ void ActivationCommands::deactivateStyle(const QString &familyName, const FontSt
 
 // --- What a request comes to ---
 
-void ActivationCommands::start(const Request &request)
+void ActivationCommands::start(Request request)
 {
+    request.given = m_given;
     if (!m_model.installationService() || request.names.isEmpty() || !m_presenter.isAvailable())
         return;
     makePlan(request, [this, request](const Plan &plan) {
@@ -83,7 +85,8 @@ void ActivationCommands::makePlan(const Request &request, std::function<void(con
     const auto work = [request, catalog = m_model.allFamilies(),
                        books = m_model.installationService()->books(),
                        library = &m_model.fontLibraryService()](const std::stop_token &) {
-        return planFor(request, *catalog, *books, *library);
+        return request.given ? planForGiven(request, *request.given, *books)
+                             : planFor(request, *catalog, *books, *library);
     };
     runThen(m_pool, this, work,
             [this, request, then = std::move(then), otherwise = std::move(otherwise)](Plan found) {
@@ -97,7 +100,9 @@ void ActivationCommands::makePlan(const Request &request, std::function<void(con
                     then(free);
                     return;
                 }
-                if (isNothing)
+                if (!free.failures.empty())
+                    tellFailures(request, free);
+                else if (isNothing)
                     tellNothing(request);
                 if (otherwise)
                     otherwise();
@@ -110,6 +115,16 @@ void ActivationCommands::tellNothing(const Request &request)
     m_presenter.showAlert(isDeactivation ? nothingToDeactivateAlert(request.subjects())
                                          : nothingToActivateAlert(request.subjects()),
                           {});
+}
+
+/// All that is left of what was asked cannot be done.
+void ActivationCommands::tellFailures(const Request &request, const Plan &plan)
+{
+    m_failures = plan.failures;
+    InstallationOutcome outcome;
+    outcome.failures = plan.failures;
+    m_presenter.showAlert(activationAlert(activationLabel(request.subjects()), outcome), {});
+    Q_EMIT changed();
 }
 
 ActivationCommands::Plan ActivationCommands::withoutThoseInFlight(Plan plan) const
@@ -156,7 +171,11 @@ void ActivationCommands::runActivation(const Plan &plan, const QString &label, I
     const auto words = [label](int done, int total) {
         return activationProgress(label, done, total);
     };
-    run(begin, words, [this, label](const InstallationOutcome &outcome) {
+    run(begin, words, [this, label, failures = plan.failures](InstallationOutcome outcome) {
+        if (!failures.empty()) {
+            outcome.failures.insert(failures.begin(), failures.end());
+            m_failures = outcome.failures;
+        }
         m_presenter.showAlert(activationAlert(label, outcome), {});
     });
 }

@@ -9,12 +9,15 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <memory>
+
 namespace lorva {
 
 class LorvaAppModel;
 struct ActivationPlan;
 struct ActivationRequest;
 struct DeactivationRecord;
+struct GivenFonts;
 
 /// What the user does to switch fonts on and off: decides which families take part, asks what has
 /// to be asked, has the service do it and tells what became of it. A de-activation to the Trash can
@@ -30,6 +33,10 @@ public:
     ActivationCommands(LorvaAppModel &model, CommandPresenter &presenter,
                        QObject *parent = nullptr);
     ~ActivationCommands() override;
+
+    /// From now on names stand for the families of these files and not for the library's; null: the
+    /// library's again. What was asked before stays as it was asked.
+    void setGivenFonts(std::shared_ptr<const GivenFonts> given) { m_given = std::move(given); }
 
     /// Unknown names are left out, here and below.
     void activate(const QStringList &familyNames);
@@ -64,10 +71,11 @@ private:
     using Plan = ActivationPlan;
     using Outcome = std::function<void(const InstallationOutcome &)>;
 
-    void start(const Request &request);
+    void start(Request request);
     void makePlan(const Request &request, std::function<void(const Plan &)> then,
                   std::function<void()> otherwise = {});
     void tellNothing(const Request &request);
+    void tellFailures(const Request &request, const Plan &plan);
     Plan withoutThoseInFlight(Plan plan) const;
     void chooseMethod(const Request &request, const Plan &plan);
     void runActivation(const Plan &plan, const QString &label, InstallMethod method);
@@ -93,6 +101,7 @@ private:
 
     LorvaAppModel &m_model;
     CommandPresenter &m_presenter;
+    std::shared_ptr<const GivenFonts> m_given;
     /// Of the last run in which a file failed.
     InstallationFailures m_failures;
     int m_runs = 0;

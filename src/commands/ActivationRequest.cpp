@@ -87,19 +87,26 @@ QStringList ActivationPlan::names() const
     return names;
 }
 
-ActivationPlan planFor(const ActivationRequest &request,
-                       const std::vector<FontFamilyRecord> &catalog, const ActivationBooks &books,
-                       const FontLibraryService &library)
+ActivationPlan planAmong(const ActivationRequest &request,
+                         const std::vector<FontFamilyRecord> &catalog, const ActivationBooks &books)
 {
     std::vector<FontFamilyRecord> asked = familiesNamed(request.names, catalog);
     if (request.style)
         leaveOnly(request.style->fileURL, asked);
     ActivationPlan plan;
     plan.families = familiesFor(request.kind, asked, books);
+    if (!plan.families.empty() && request.kind == ActivationRequest::Kind::deactivate)
+        plan.areOriginsKnown = books.areAllOriginsKnown(stylesOf(plan.families));
+    return plan;
+}
+
+ActivationPlan planFor(const ActivationRequest &request,
+                       const std::vector<FontFamilyRecord> &catalog, const ActivationBooks &books,
+                       const FontLibraryService &library)
+{
+    ActivationPlan plan = planAmong(request, catalog, books);
     if (plan.families.empty())
         return plan;
-    if (request.kind == ActivationRequest::Kind::deactivate)
-        plan.areOriginsKnown = books.areAllOriginsKnown(stylesOf(plan.families));
     plan.others = request.style ? familiesHolding(request.style->fileURL, request.names, catalog)
                                 : library.familiesSharingFiles(plan.names());
     return plan;

@@ -4,15 +4,18 @@
 
 #include "catalog/CatalogTypes.h"
 #include "install/ActivationBooks.h"
+#include "install/InstallationOutcome.h"
 
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace lorva {
 
 class FontLibraryService;
+struct GivenFonts;
 
 /// What a command was asked for: families by their names, or the file of one style.
 struct ActivationRequest
@@ -23,9 +26,11 @@ struct ActivationRequest
     QStringList names;
     /// Only this one's file.
     std::optional<FontStyleRecord> style;
+    /// What the names stand for, in place of the library's families; null: those.
+    std::shared_ptr<const GivenFonts> given = nullptr;
 
     /// The same for these families alone.
-    ActivationRequest about(const QStringList &kept) const { return {kind, kept, style}; }
+    ActivationRequest about(const QStringList &kept) const { return {kind, kept, style, given}; }
     /// What to call what was asked for, each by itself: the families, or "Inter Bold".
     QStringList subjects() const;
 };
@@ -39,6 +44,8 @@ struct ActivationPlan
     QStringList others;
     /// Nothing that a de-activation throws away is the only copy.
     bool areOriginsKnown = true;
+    /// Files that cannot be switched as it is, and why; the rest can.
+    InstallationFailures failures = {};
 
     QStringList names() const;
 };
@@ -47,5 +54,9 @@ struct ActivationPlan
 ActivationPlan planFor(const ActivationRequest &request,
                        const std::vector<FontFamilyRecord> &catalog, const ActivationBooks &books,
                        const FontLibraryService &library);
+/// The same without the families that share their files.
+ActivationPlan planAmong(const ActivationRequest &request,
+                         const std::vector<FontFamilyRecord> &catalog,
+                         const ActivationBooks &books);
 
 } // namespace lorva

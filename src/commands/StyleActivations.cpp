@@ -50,19 +50,39 @@ QStringList labelsBut(const FontStyleRecord &style,
     return labels;
 }
 
-} // namespace
-
-StyleActivations styleActivations(LorvaAppModel &model, const FontFamilyRecord &family)
+/// `styles` in the order for people.
+void addLabelsInSameFile(const std::vector<FontStyleRecord> &styles, StyleActivations &found)
 {
-    std::vector<FontStyleRecord> styles = family.styles;
-    sortStyles(styles);
-    StyleActivations found;
     for (const auto &together : stylesByFile(styles)) {
         for (const FontStyleRecord *style : together) {
             if (together.size() > 1)
                 found.labelsInSameFile.insert(style->id, labelsBut(*style, together));
         }
     }
+}
+
+} // namespace
+
+void addStyleActivations(const FontFamilyRecord &family, const ActivationState &state,
+                         StyleActivations &found)
+{
+    std::vector<FontStyleRecord> styles = family.styles;
+    sortStyles(styles);
+    addLabelsInSameFile(styles, found);
+    FontFamilyRecord alone{family.familyName, {FontStyleRecord()}, {}, {}, {}};
+    for (FontStyleRecord &style : styles) {
+        alone.styles.front() = std::move(style);
+        if (const auto activation = state.activation(alone))
+            found.activationByStyleID.insert(alone.styles.front().id, *activation);
+    }
+}
+
+StyleActivations styleActivations(LorvaAppModel &model, const FontFamilyRecord &family)
+{
+    std::vector<FontStyleRecord> styles = family.styles;
+    sortStyles(styles);
+    StyleActivations found;
+    addLabelsInSameFile(styles, found);
     const FontInstallationService *service = model.installationService();
     if (!service)
         return found;

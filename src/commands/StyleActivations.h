@@ -31,6 +31,11 @@ struct StyleActivations
     bool operator==(const StyleActivations &) const = default;
 };
 
+/// Adds what the state says of each of the family's styles by itself. Looks at the disk where the
+/// state does. Thread: any.
+void addStyleActivations(const FontFamilyRecord &family, const ActivationState &state,
+                         StyleActivations &found);
+
 /// What is known now; never looks at the disk. Of a family that is switched as a whole its styles
 /// are, too. Thread: main.
 StyleActivations styleActivations(LorvaAppModel &model, const FontFamilyRecord &family);

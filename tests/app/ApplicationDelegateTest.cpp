@@ -15,11 +15,14 @@
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/style/ReducedMotion.h"
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QDir>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -270,6 +273,85 @@ TEST_F(ApplicationDelegate, RestsWhatTheQuizCovers)
     EXPECT_EQ(command("Menu.Larger")->isEnabled(), couldGrow);
     EXPECT_TRUE(root.browser().isAncestorOf(QApplication::focusWidget()))
         << "the keyboard is where it was";
+}
+
+/// Starts with files alone, and gives their window once it shows them.
+FontFilesWindow *openedFiles(LorvaApplicationDelegate &delegate)
+{
+    EXPECT_TRUE(test::waitUntil([&] {
+        return delegate.filesWindow() && delegate.filesWindow()->isVisible()
+            && delegate.filesWindow()->isSettled();
+    }));
+    return delegate.filesWindow();
+}
+
+TEST_F(ApplicationDelegate, FilesComeWithoutTheLibraryWhichFollowsWhenItIsWanted)
+{
+    LaunchOptions options;
+    options.places = {test::TestHome::instance().systemFonts().child("Two.ttf")};
+    m_delegate = std::make_unique<LorvaApplicationDelegate>(options, nullptr, scripted());
+    m_delegate->applicationDidFinishLaunching();
+    FontFilesWindow *files = openedFiles(*m_delegate);
+    EXPECT_EQ(files->windowTitle(), QStringLiteral("Two"));
+    EXPECT_EQ(m_delegate->window(), nullptr);
+    EXPECT_FALSE(m_delegate->model().isLoading()) << "nothing waits for a scan";
+    EXPECT_THAT(m_journal, IsEmpty()) << "nobody is welcomed";
+
+    SqlitePreferenceStore(xdgFolders().applicationSupport)
+        .setBoolean(LorvaApplicationDelegate::onboardingFlag(), true);
+    QTest::mouseClick(files->findChild<QAbstractButton *>(QStringLiteral("fontFilesLibrary")),
+                      Qt::LeftButton);
+    ASSERT_TRUE(m_delegate->window());
+    ASSERT_TRUE(waitForLibrary());
+    EXPECT_TRUE(test::waitUntil(
+        [this] { return m_delegate->model().selectedFamilyName() == QStringLiteral("Two"); }));
+
+    // Either window can be closed first.
+    m_delegate->window()->close();
+    EXPECT_TRUE(files->isVisible());
+    m_delegate->takeOver({});
+    EXPECT_TRUE(m_delegate->window()->isVisible());
+    files->close();
+    EXPECT_TRUE(files->state().isEmpty()) << "the fonts are let go";
+    EXPECT_TRUE(m_delegate->window()->isVisible());
+}
+
+TEST_F(ApplicationDelegate, HandedOverFilesAreShownAndFoldersAdded)
+{
+    const auto &home = test::TestHome::instance();
+    const FilePath more = home.makeFolder("handed-over");
+    test::writeFile(more, "three.ttf", test::FontBuilder("Three").build());
+    launch();
+    ASSERT_TRUE(waitForLibrary());
+    m_delegate->takeOver({{more.bytes()}, FilePath("/"), {}});
+    EXPECT_TRUE(test::waitUntil([this] { return m_delegate->model().allFamilies()->size() == 3; }));
+    EXPECT_EQ(m_delegate->filesWindow(), nullptr);
+    m_delegate->takeOver({{"three.ttf", "gone.ttf"}, more, {}});
+    const FontFilesWindow *files = openedFiles(*m_delegate);
+    EXPECT_EQ(files->state().faceCount(), 1);
+    EXPECT_EQ(files->state().problems.size(), 1U);
+}
+
+TEST_F(ApplicationDelegate, FontFilesThatAreDroppedOnTheWindowAreShownByThemselves)
+{
+    launch();
+    ASSERT_TRUE(waitForLibrary());
+    const auto drop = [this](const FilePath &file) {
+        QMimeData data;
+        data.setData(QStringLiteral("text/uri-list"), file.toUrl());
+        QWidget *target = &m_delegate->rootController()->browser();
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent event(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &event);
+        return event.isAccepted();
+    };
+    EXPECT_FALSE(drop(FilePath("/a/photo.png")));
+    EXPECT_TRUE(drop(test::TestHome::instance().systemFonts().child("One.ttf")));
+    EXPECT_EQ(openedFiles(*m_delegate)->windowTitle(), QStringLiteral("One"));
+    EXPECT_EQ(m_delegate->model().allFamilies()->size(), 2U) << "no folder is added";
 }
 
 TEST_F(ApplicationDelegate, ActsOnItsShortcuts)

@@ -11,6 +11,7 @@
 #include "support/Waiting.h"
 #include "ui/browser/BrowserCollectionView.h"
 #include "ui/browser/FontBrowserViewController.h"
+#include "ui/files/FontFilesPage.h"
 #include "ui/LorvaRootSplitViewController.h"
 #include "ui/sidebar/ProjectSidebarViewController.h"
 #include "ui/sidebar/SidebarOutlineView.h"
@@ -99,6 +100,34 @@ TEST_F(DesktopSession, ASecondStartBringsTheWindowForward)
     EXPECT_TRUE(run(QStringLiteral(LORVA_PROGRAM), {}));
     EXPECT_TRUE(test::waitUntil([this] { return window().isActiveWindow(); }));
     EXPECT_FALSE(window().isMinimized());
+}
+
+TEST_F(DesktopSession, FilesOfASecondStartComeForwardAndCanBeSteppedThrough)
+{
+    const FilePath folder = test::TestHome::instance().systemFonts();
+    const OtherWindow other;
+    const auto open = [&](const QStringList &names) {
+        QStringList files;
+        for (const QString &name : names)
+            files << folder.child(name.toUtf8()).displayText();
+        return run(QStringLiteral(LORVA_PROGRAM), files);
+    };
+    EXPECT_TRUE(open({QStringLiteral("One.ttf"), QStringLiteral("Two.ttf")}));
+    ASSERT_TRUE(test::waitUntil([this] {
+        const FontFilesWindow *files = m_delegate.filesWindow();
+        return files && files->isActiveWindow() && files->isSettled();
+    }));
+    FontFilesWindow &files = *m_delegate.filesWindow();
+    const auto *page = files.findChild<FontFilesPage *>();
+    EXPECT_EQ(page->face().familyName, QStringLiteral("One"));
+    EXPECT_TRUE(run(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("Down")}));
+    EXPECT_TRUE(test::waitUntil([&] { return page->face().familyName == QStringLiteral("Two"); }));
+    EXPECT_FALSE(window().isActiveWindow());
+
+    EXPECT_TRUE(run(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("ctrl+w")}));
+    EXPECT_TRUE(test::waitUntil([&] { return !files.isVisible(); }));
+    EXPECT_TRUE(open({QStringLiteral("Two.ttf")}));
+    EXPECT_TRUE(test::waitUntil([&] { return files.isActiveWindow(); }));
 }
 
 TEST_F(DesktopSession, AFamilyIsDraggedIntoACollection)

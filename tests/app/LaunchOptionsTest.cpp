@@ -95,6 +95,22 @@ TEST(LaunchOptions, ReadsWhatTheWindowShowsFirst)
     }
 }
 
+TEST(LaunchOptions, TakesWhatIsToBeOpenedByPathOrAddress)
+{
+    const auto options = parse({"a b.ttf", "/fonts/\xff.otf", "file:///x%20y.ttc", "c:d.ttf",
+                                "--appearance", "dark", "http://x.example/z.ttf", "--", "--view"});
+    ASSERT_TRUE(options.has_value());
+    EXPECT_THAT(options->places,
+                ::testing::ElementsAre(FilePath("/here/a b.ttf"), FilePath("/fonts/\xff.otf"),
+                                       FilePath("/x y.ttc"), FilePath("/here/c:d.ttf"),
+                                       FilePath("/here/--view")));
+    EXPECT_EQ(options->foreignPlaces, QStringList("http://x.example/z.ttf"));
+    EXPECT_TRUE(opensPlacesAlone(*options)) << "of the library nothing is said";
+    EXPECT_FALSE(opensPlacesAlone(*parse({"a.ttf", "--search", "x"})));
+    EXPECT_FALSE(opensPlacesAlone(*parse({"--folder", "a"})));
+    EXPECT_TRUE(opensPlacesAlone(*parse({"file://elsewhere/a.ttf"})));
+}
+
 TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
 {
     const struct
@@ -103,7 +119,7 @@ TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)
         const char *named;
     } rows[]{
         {{"--colour", "black"}, "--colour"},
-        {{"stray"}, "stray"},
+        {{"-x"}, "-x"},
         {{"--screenshot"}, "--screenshot"},
         {{"--screenshot="}, "--screenshot"},
         {{"--view", "tiles"}, "--view"},

@@ -33,6 +33,21 @@ Outcome runProgram(const QStringList &arguments, const QProcessEnvironment &envi
             process.readAllStandardError()};
 }
 
+TEST(Program, WritesAPictureOfFilesThatAreOpened)
+{
+    const auto &home = test::TestHome::instance();
+    const FilePath file = test::writeFile(home.root(), "shown.ttf",
+                                          test::FontBuilder("Shown").codePoints(U"Aa").build());
+    const FilePath picture = home.root().child("files.png");
+    const Outcome outcome =
+        runProgram({QStringLiteral("--screenshot"), picture.displayText(),
+                    QStringLiteral("--window-size"), QStringLiteral("800x600"), file.displayText()},
+                   QProcessEnvironment::systemEnvironment());
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors.constData();
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(QImage::fromData(test::readFile(picture)).size(), QSize(800, 600));
+}
+
 TEST(Program, WritesAPictureOfTheWholeLibraryWithoutADisplay)
 {
     const auto &home = test::TestHome::instance();

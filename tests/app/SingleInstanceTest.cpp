@@ -8,13 +8,19 @@
 #include "support/Waiting.h"
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
+#include <QDBusReply>
+#include <QDir>
 #include <QProcess>
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <cstring>
+#include <memory>
+#include <optional>
 
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -188,12 +194,14 @@ TEST(SingleInstance, AnswersDesktopsAsWellAndForgivesNonsense)
           QVariantMap{{QStringLiteral("desktop-startup-id"), QStringLiteral("s")}}});
     send(kApplication, "ActivateAction",
          {QStringLiteral("organize"), QVariantList(), QVariantMap()});
-    send(kApplication, "Open", {QStringList{QStringLiteral("file:///a%20b")}, QVariantMap()});
+    send(kApplication, "Open",
+         {QStringList{QStringLiteral("file:///a%20b"), QStringLiteral("trash:///c")},
+          QVariantMap()});
     EXPECT_THAT(starts,
                 ElementsAre(ProgramStart{{}, FilePath("/"), "t"},
                             ProgramStart{{}, FilePath("/"), "s"},
                             ProgramStart{{"--quiz", "intro"}, FilePath("/"), {}},
-                            ProgramStart{{"--folder", "/a b"}, FilePath("/"), {}}));
+                            ProgramStart{{"--", "/a b", "trash:///c"}, FilePath("/"), {}}));
     send("vantrel.lorva.Instance", "Start", {QStringLiteral("no bytes")});
     send("vantrel.lorva.Instance", "Frobnicate", {});
     EXPECT_EQ(starts.size(), 4U);
@@ -203,6 +211,105 @@ TEST(SingleInstance, AnswersDesktopsAsWellAndForgivesNonsense)
     ASSERT_EQ(starts.size(), 5U);
     EXPECT_EQ(starts.back(), (ProgramStart{{}, FilePath("/"), {}})) << "more than a start holds";
     QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
+}
+
+constexpr char kFiles[] = "font files shown";
+
+TEST(SingleInstance, OpensFilesAloneUntilTheLibraryIsWanted)
+{
+    const PrivateBus bus;
+    const auto &home = test::TestHome::instance();
+    test::writeFile(home.systemFonts(), "one.ttf", test::FontBuilder("One").build());
+    test::writeFile(home.root(), "two.ttf", test::FontBuilder("Two").build());
+    Program running("two.ttf");
+    ASSERT_TRUE(running.traces(kFiles));
+    Program second("two.ttf", "second.json");
+    ASSERT_TRUE(second.ends());
+    EXPECT_TRUE(running.traces(kFiles, 2));
+    EXPECT_FALSE(test::readFile(home.root().child("trace.json")).contains("start: window"));
+
+    Program third({}, "third.json");
+    ASSERT_TRUE(third.ends());
+    EXPECT_TRUE(running.traces(kWindow));
+    EXPECT_TRUE(running.traces("catalog applied"));
+}
+
+/// A call of the desktop's to a program that the bus starts for it.
+class ActivatedProgram
+{
+public:
+    ActivatedProgram()
+    {
+        const QByteArray service = "[D-BUS Service]\nName=vantrel.lorva\nExec=/usr/bin/env "
+                                   "QT_QPA_PLATFORM=offscreen LORVA_TRACE="
+            + m_trace.bytes() + " " + QByteArray(LORVA_PROGRAM) + "\n";
+        const FilePath services = FilePath(qgetenv("XDG_DATA_HOME")).child("dbus-1/services");
+        QDir().mkpath(services.displayText());
+        test::writeFile(services, "vantrel.lorva.service", service);
+        m_bus = std::make_unique<PrivateBus>();
+        m_connection.emplace(QDBusConnection::connectToBus(QString::fromUtf8(m_bus->address()),
+                                                           QStringLiteral("desktop")));
+    }
+    ~ActivatedProgram()
+    {
+        const QDBusReply<uint> process =
+            m_connection->interface()->servicePid(QStringLiteral("vantrel.lorva"));
+        if (process.isValid())
+            ::kill(pid_t(process.value()), SIGKILL);
+        QDBusConnection::disconnectFromBus(QStringLiteral("desktop"));
+        ::unlink(FilePath(qgetenv("XDG_DATA_HOME"))
+                     .child("dbus-1/services/vantrel.lorva.service")
+                     .c_str());
+    }
+
+    bool answers(const char *member, const QVariantList &arguments)
+    {
+        auto call = QDBusMessage::createMethodCall(
+            QStringLiteral("vantrel.lorva"), QStringLiteral("/vantrel/lorva"),
+            QStringLiteral("org.freedesktop.Application"), QString::fromLatin1(member));
+        call.setArguments(arguments);
+        return m_connection->call(call).type() == QDBusMessage::ReplyMessage;
+    }
+    bool traces(const char *event)
+    {
+        return test::waitUntil([&] { return trace().contains(event); });
+    }
+    QByteArray trace() const { return test::readFile(m_trace); }
+
+private:
+    const FilePath m_trace = test::TestHome::instance().root().child("activated.json");
+    std::unique_ptr<PrivateBus> m_bus;
+    std::optional<QDBusConnection> m_connection;
+};
+
+TEST(SingleInstance, AnswersTheCallThatTheBusHasStartedItFor)
+{
+    const FilePath file = test::writeFile(test::TestHome::instance().root(), "asked.ttf",
+                                          test::FontBuilder("Asked").build());
+    ActivatedProgram program;
+    ASSERT_TRUE(
+        program.answers("Open", {QStringList{QString::fromLatin1(file.toUrl())}, QVariantMap()}));
+    EXPECT_TRUE(program.traces(kFiles));
+    EXPECT_FALSE(program.trace().contains("start: window")) << "nobody has asked for the library";
+    ASSERT_TRUE(program.answers("Activate", {QVariantMap()}));
+    EXPECT_TRUE(program.traces(kWindow));
+}
+
+TEST(SingleInstance, OpensItsWindowForActivationByTheBus)
+{
+    ActivatedProgram program;
+    ASSERT_TRUE(program.answers("Activate", {QVariantMap()}));
+    EXPECT_TRUE(program.traces(kWindow));
+    EXPECT_FALSE(program.trace().contains(kFiles));
+}
+
+TEST(SingleInstance, DoesNotWaitLongForACallThatOnlyTheEnvironmentPromises)
+{
+    const PrivateBus bus;
+    qputenv("DBUS_STARTER_BUS_TYPE", "session");
+    Program program;
+    qunsetenv("DBUS_STARTER_BUS_TYPE");
+    EXPECT_TRUE(program.traces(kWindow));
 }
 
 TEST(SingleInstance, StartsAllTheSameWhenTheRunningProgramHangs)

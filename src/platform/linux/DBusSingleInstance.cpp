@@ -135,6 +135,15 @@ void DBusSingleInstance::release()
     m_object.reset();
 }
 
+bool takeStartedByBus()
+{
+    const bool isStartedByBus = qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE")
+        || qEnvironmentVariableIsSet("DBUS_STARTER_ADDRESS");
+    qunsetenv("DBUS_STARTER_BUS_TYPE");
+    qunsetenv("DBUS_STARTER_ADDRESS");
+    return isStartedByBus;
+}
+
 QByteArray activationTokenFromEnvironment()
 {
     const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");

@@ -45,6 +45,10 @@ private:
     std::unique_ptr<QObject> m_object;
 };
 
+/// True in a process that the bus has started for a call that waits for it, as far as its
+/// environment tells; what it starts itself is not told so. Before any thread runs.
+bool takeStartedByBus();
+
 /// What this process's environment says of the start: the activation token, Wayland's before X11's.
 QByteArray activationTokenFromEnvironment();
 

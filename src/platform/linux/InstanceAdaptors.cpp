@@ -52,10 +52,12 @@ void FreedesktopApplicationAdaptor::Activate(const QVariantMap &platformData)
 
 void FreedesktopApplicationAdaptor::Open(const QStringList &uris, const QVariantMap &platformData)
 {
-    ProgramStart start{{}, FilePath("/"), tokenIn(platformData)};
-    for (const QString &uri : uris)
-        if (const auto path = FilePath::fromUrl(uri.toUtf8()))
-            start.arguments << "--folder" << path->bytes();
+    // No address passes for an option.
+    ProgramStart start{{"--"}, FilePath("/"), tokenIn(platformData)};
+    for (const QString &uri : uris) {
+        const auto path = FilePath::fromUrl(uri.toUtf8());
+        start.arguments << (path ? path->bytes() : uri.toUtf8());
+    }
     take(m_instance, start);
 }
 

@@ -25,6 +25,7 @@ public:
     // NOLINTBEGIN(readability-identifier-naming): D-Bus writes methods with a capital.
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc tells slots apart
     void Activate(const QVariantMap &platformData);
+    /// Files and folders; what is elsewhere is handed on as the address that it is.
     void Open(const QStringList &uris, const QVariantMap &platformData);
     void ActivateAction(const QString &name, const QVariantList &parameters,
                         const QVariantMap &platformData);

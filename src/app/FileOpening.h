@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/FilePath.h"
+#include "ui/files/FontFilesWindow.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QThreadPool>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace lorva {
+
+/// What is to be opened, and the desktop's permission to come to the front for it.
+struct OpenRequest
+{
+    /// Font files and folders alike.
+    std::vector<FilePath> places;
+    /// Addresses of no file of this computer.
+    QStringList foreign;
+    QByteArray activationToken;
+};
+
+/// Opens what file managers, other starts and drops hand over: files in a window of their own,
+/// which it makes when it is first needed; folders are handed on.
+///
+/// Which are folders is found out on a worker. Holds the model, which outlives it. Thread: main.
+class FileOpening final : public QObject
+{
+public:
+    FileOpening(LorvaAppModel &model, std::function<FontFilesServices()> makeServices);
+    ~FileOpening() override;
+
+    /// Folders were among what is to be opened; `hasFiles`: and files, which have the front.
+    std::function<void(const std::vector<FilePath> &folders, bool hasFiles)> onFolders;
+    /// The user wants to see the library; the family, or an empty name.
+    std::function<void(const QString &familyName)> onLibraryWanted;
+
+    /// For a picture: windows that are made from now on have this size and no other.
+    void setFixedWindowSize(QSize size) { m_fixedSize = size; }
+    std::function<void()> onQuitWanted;
+
+    void open(const OpenRequest &request);
+    /// Files alone; folders are passed over.
+    void openDropped(const std::vector<FilePath> &places);
+    /// Null until files are opened for the first time.
+    FontFilesWindow *window() { return m_window.get(); }
+    bool isWindowOpen() const { return m_window && m_window->isVisible(); }
+
+private:
+    enum class Folders { areHandedOn, arePassedOver };
+
+    void sortAndOpen(const OpenRequest &request, Folders folders);
+    void makeWindow();
+    void show(const std::vector<FilePath> &files, const OpenRequest &request);
+
+    LorvaAppModel &m_model;
+    const std::function<FontFilesServices()> m_makeServices;
+    std::optional<QSize> m_fixedSize;
+    std::unique_ptr<FontFilesWindow> m_window;
+    QThreadPool m_pool;
+};
+
+/// From now on a window that comes to the front does so with this permission; empty: none is known.
+void useActivationToken(const QByteArray &token);
+
+} // namespace lorva

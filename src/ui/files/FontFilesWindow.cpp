@@ -1,0 +1,470 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/files/FontFilesWindow.h"
+
+#include "base/NotificationCentre.h"
+#include "base/Trace.h"
+#include "model/LorvaAppModel.h"
+#include "ui/browser/BrowserEmptyStateView.h"
+#include "ui/browser/TopBarLayout.h"
+#include "ui/files/FontFileDrop.h"
+#include "ui/files/FontFilesBar.h"
+#include "ui/files/FontFilesFooter.h"
+#include "ui/files/FontFilesList.h"
+#include "ui/files/FontFilesPage.h"
+#include "ui/sheets/AlertSheet.h"
+#include "ui/style/Palette.h"
+#include "ui/style/Style.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QShortcut>
+#include <QStyle>
+
+#include <algorithm>
+#include <chrono>
+
+namespace lorva {
+
+namespace {
+
+using namespace std::chrono_literals;
+using Kind = FontFilesRow::Kind;
+
+/// What is read sooner needs no word.
+constexpr auto kMessageDelay = 300ms;
+constexpr auto kClosePatience = 5s;
+/// A display closes the connection on a title of megabytes.
+constexpr qsizetype kLongestTitle = 300;
+
+FontLibraryService::Dependencies libraryOf(const FontFilesServices &services)
+{
+    return {std::make_shared<NoAvailableFonts>(), services.systemFont};
+}
+
+} // namespace
+
+FontFilesWindow::FontFilesWindow(LorvaAppModel &model, FontFilesServices services)
+    : m_model(model)
+    , m_services(std::move(services))
+    , m_library(libraryOf(m_services))
+    , m_presenter(*this)
+    , m_activation(model, m_presenter)
+    , m_list(new FontFilesList(this))
+    , m_bar(new FontFilesBar(this))
+    , m_page(new FontFilesPage(makeFontResolver(m_library), this))
+    , m_message(new BrowserEmptyStateView(this))
+    , m_footer(new FontFilesFooter(this))
+    , m_inspector(new FontInspectorViewController(m_services.orthographies, this))
+    , m_reader(m_library)
+{
+    setObjectName(QStringLiteral("FontFilesWindow"));
+    setWindowTitle(tr("Font Files"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(kSmallestSize);
+    resize(kStandardSize);
+    m_pool.setObjectName(QStringLiteral("vantrel.lorva.font-file-activations"));
+    m_pool.setMaxThreadCount(1);
+    m_messageDelay.setSingleShot(true);
+    m_inspector->setSelectedTab(FontInspectorViewController::Tab::info);
+    m_inspector->setDelegate(this);
+    m_bar->setPointSize(m_page->pointSize());
+    m_message->hide();
+    connectParts();
+    connectFooter();
+    clear();
+}
+
+FontFilesWindow::~FontFilesWindow()
+{
+    m_pool.waitForDone();
+    // They report to members that go before the children do.
+    delete m_list;
+    delete m_page;
+    delete m_inspector;
+}
+
+void FontFilesWindow::connectParts()
+{
+    m_reader.onRead = [this](FontFilesReader::Part part) { take(std::move(part)); };
+    connect(&m_messageDelay, &QTimer::timeout, this, [this] {
+        showMessage(tr("Reading Files"), tr("The fonts will be here in a moment."));
+    });
+    connect(m_list, &FontFilesList::chosen, this, &FontFilesWindow::choose);
+    connect(m_bar, &FontFilesBar::pointSizeChosen, m_page, &FontFilesPage::setPointSize);
+    connect(m_bar, &FontFilesBar::stageChosen, m_page, &FontFilesPage::setStage);
+    connect(m_bar, &FontFilesBar::inspectorToggled, this, &FontFilesWindow::toggleInspector);
+    connect(m_page, &FontFilesPage::styleChosen, this, &FontFilesWindow::chooseStyle);
+    connect(m_page, &FontFilesPage::activationWanted, this, [this](const FontStyleRecord &style) {
+        m_activation.activateStyle(m_page->face().familyName, style);
+    });
+    connect(m_page, &FontFilesPage::deactivationWanted, this, [this](const FontStyleRecord &style) {
+        m_activation.deactivateStyle(m_page->face().familyName, style);
+    });
+    connect(new FontFileDrop(*this), &FontFileDrop::dropped, this,
+            [this](const std::vector<FilePath> &files) {
+                if (onDropped)
+                    onDropped(files);
+            });
+    // The toolkit knows the desktops' own closing key of some desktops only.
+    auto *closing = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_W), this);
+    connect(closing, &QShortcut::activated, this, &QWidget::close);
+    auto *quitting = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
+    connect(quitting, &QShortcut::activated, this, [this] {
+        if (onQuitWanted)
+            onQuitWanted();
+    });
+    NotificationCentre::shared().observe(ActivationProvider::changeNotification(), this,
+                                         [this](const void *) { lookAtActivations(); });
+}
+
+void FontFilesWindow::connectFooter()
+{
+    const auto shown = [this] { return QStringList(m_page->face().familyName); };
+    connect(m_footer, &FontFilesFooter::activationWanted, this,
+            [this, shown] { m_activation.activate(shown()); });
+    connect(m_footer, &FontFilesFooter::remainingActivationWanted, this,
+            [this, shown] { m_activation.activateRemaining(shown()); });
+    connect(m_footer, &FontFilesFooter::deactivationWanted, this,
+            [this, shown] { m_activation.deactivate(shown()); });
+    connect(m_footer, &FontFilesFooter::activationOfAllWanted, this, [this] {
+        QStringList names;
+        for (const FontFamilyRecord &family : m_state.families)
+            names << family.familyName;
+        m_activation.activate(names);
+    });
+    connect(m_footer, &FontFilesFooter::failuresWanted, &m_activation,
+            &ActivationCommands::showFailures);
+    connect(m_footer, &FontFilesFooter::libraryWanted, this, [this] {
+        const FontFamilyRecord *family = shownFamily();
+        if (onLibraryWanted)
+            onLibraryWanted(family ? family->familyName : QString());
+    });
+    connect(&m_activation, &ActivationCommands::changed, this, &FontFilesWindow::applyActivations);
+}
+
+void FontFilesWindow::open(const std::vector<FilePath> &files, const QStringList &foreign)
+{
+    ++m_edition;
+    clear();
+    m_messageDelay.start(kMessageDelay);
+    m_reader.read(files, foreign);
+}
+
+/// Nothing is shown, and nothing kept of what was.
+void FontFilesWindow::clear()
+{
+    m_messageDelay.stop();
+    m_state = {};
+    m_rows.clear();
+    m_row.reset();
+    m_known = {};
+    m_areActivationsKnown = false;
+    m_given.reset();
+    m_activation.setGivenFonts(std::make_shared<const GivenFonts>());
+    m_list->setRows({});
+    m_bar->setTitle({});
+    m_bar->setControlsShown(false);
+    m_page->hide();
+    m_message->hide();
+    m_footer->apply({});
+    applyInspector();
+    layOut();
+}
+
+void FontFilesWindow::take(FontFilesReader::Part part)
+{
+    m_messageDelay.stop();
+    // What is chosen stays so while more files come in.
+    const FontFilesRow chosen = m_row ? m_rows[*m_row] : FontFilesRow();
+    const DisplayedFace face = m_page->face();
+    const bool hadChosen = m_row.has_value();
+    m_library.setFamilies(std::move(part.families));
+    m_state = std::move(part.state);
+    m_rows = fontFilesRows(m_state);
+    m_list->setRows(m_rows);
+    m_row = firstRow(m_state, m_rows);
+    for (size_t i = 0; hadChosen && i < m_rows.size(); ++i) {
+        const FontFilesRow &row = m_rows[i];
+        const bool isSameFace = row.kind == Kind::face && chosen.kind == Kind::face
+            && m_state.families[row.index].familyName == face.familyName
+            && m_state.families[row.index].styles[row.style] == face.style;
+        if (isSameFace)
+            m_row = i;
+    }
+    setWindowTitle(fontFilesTitle(m_state).left(kLongestTitle));
+    GivenFonts given{m_state.families, m_services.availableFonts};
+    m_given = std::make_shared<const GivenFonts>(std::move(given));
+    m_activation.setGivenFonts(m_given);
+    lookAtActivations();
+    showRow();
+    traceMoment("font files shown");
+}
+
+void FontFilesWindow::choose(size_t row)
+{
+    if (row >= m_rows.size() || m_rows[row].kind == Kind::heading)
+        return;
+    m_row = row;
+    showRow();
+}
+
+void FontFilesWindow::chooseStyle(const FontStyleRecord &style)
+{
+    for (size_t i = 0; i < m_rows.size(); ++i) {
+        const FontFilesRow &row = m_rows[i];
+        if (row.kind == Kind::face && m_state.families[row.index].styles[row.style] == style
+            && m_state.families[row.index].familyName == m_page->face().familyName)
+            m_row = i;
+    }
+    showRow();
+}
+
+void FontFilesWindow::showRow()
+{
+    if (!m_row) {
+        showMessage(tr("No Fonts"), tr("None of these files could be opened."));
+        return;
+    }
+    m_list->setCurrent(*m_row);
+    const FontFilesRow &row = m_rows[*m_row];
+    if (row.kind == Kind::face) {
+        const FontFamilyRecord &family = m_state.families[row.index];
+        showFace(family, family.styles[row.style]);
+    } else {
+        showMessage(row.text, fontFileProblemText(m_state.problems[row.index].problem));
+    }
+    if (focusWidget())
+        return;
+    if (m_list->isVisibleTo(this))
+        m_list->setFocus(Qt::OtherFocusReason);
+    else
+        m_page->focusPage();
+}
+
+void FontFilesWindow::showFace(const FontFamilyRecord &family, const FontStyleRecord &style)
+{
+    m_message->hide();
+    m_page->show();
+    m_page->showFace(family, style, m_edition);
+    m_bar->setTitle(QString(family.familyName % u' ' % style.label));
+    m_bar->setControlsShown(true);
+    applyActivations();
+}
+
+void FontFilesWindow::showMessage(const QString &title, const QString &sentence)
+{
+    const NeutralColors colors = neutralColors(isDarkDesktop());
+    m_page->hide();
+    m_message->setColors(colors.text, colors.ground);
+    m_message->show(BrowserEmptyState{BrowserEmptyState::SourceEmpty{title, sentence, false}});
+    m_message->setVisible(true);
+    m_bar->setTitle({});
+    m_bar->setControlsShown(false);
+    applyActivations();
+}
+
+const FontFamilyRecord *FontFilesWindow::shownFamily() const
+{
+    if (!m_row || m_rows[*m_row].kind != Kind::face)
+        return nullptr;
+    return &m_state.families[m_rows[*m_row].index];
+}
+
+// --- What is active ---
+
+void FontFilesWindow::lookAtActivations()
+{
+    const FontInstallationService *service = m_model.installationService();
+    if (!service || !m_given)
+        return;
+    const auto look = [given = m_given, books = service->books()](const std::stop_token &) {
+        return givenActivations(*given, *books);
+    };
+    runThen(m_pool, this, look, [this, given = m_given](GivenActivations known) {
+        if (given != m_given)
+            return;
+        m_known = std::move(known);
+        m_areActivationsKnown = true;
+        applyActivations();
+    });
+}
+
+void FontFilesWindow::applyActivations()
+{
+    FontFilesOffer offer = fontFilesOffer(m_state.families, shownFamily(), m_known);
+    offer.hasFailures = m_activation.hasFailures() && !m_state.isEmpty();
+    m_footer->apply(offer);
+    m_page->showActivations(m_known.styles);
+    applyInspector();
+    layOut();
+}
+
+// --- The inspector ---
+
+void FontFilesWindow::applyInspector()
+{
+    const FontFamilyRecord *family = shownFamily();
+    if (!family) {
+        m_inspector->showFace({}, std::nullopt);
+        return;
+    }
+    const auto found = m_known.activationByFamily.constFind(family->familyName);
+    m_inspector->showFace(m_page->face(),
+                          found == m_known.activationByFamily.cend() ? std::nullopt
+                                                                     : std::optional(*found));
+}
+
+bool FontFilesWindow::showsInspector() const
+{
+    return shownFamily() && (isNarrow() ? m_isInspectorOverPage : m_isInspectorWanted);
+}
+
+void FontFilesWindow::toggleInspector()
+{
+    bool &isShown = isNarrow() ? m_isInspectorOverPage : m_isInspectorWanted;
+    isShown = !isShown;
+    layOut();
+}
+
+void FontFilesWindow::inspectorFeaturesChanged(
+    const std::optional<std::vector<FeaturePair>> &enabled)
+{
+    m_page->setFeatureSettings(enabled);
+}
+
+void FontFilesWindow::inspectorAxesChanged(const std::vector<VariationSetting> &values)
+{
+    m_page->setVariationAxes(values);
+}
+
+void FontFilesWindow::inspectorFileWanted(const FilePath &file)
+{
+    if (m_services.desktop)
+        m_services.desktop->showFile(file);
+}
+
+void FontFilesWindow::inspectorLinkWanted(const QUrl &link)
+{
+    if (m_services.desktop)
+        m_services.desktop->openLink(link);
+}
+
+// --- The window ---
+
+void FontFilesWindow::present()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    const bool wasOpen = isVisible();
+    show();
+    if (wasOpen)
+        raise();
+    activateWindow();
+}
+
+bool FontFilesWindow::isSettled() const
+{
+    return !m_reader.isReading() && (m_areActivationsKnown || m_state.families.empty())
+        && (m_page->isHidden() || m_page->isSettled()) && m_inspector->isSettled();
+}
+
+/// One face, or one problem, needs no list.
+void FontFilesWindow::layOut()
+{
+    const bool hasList = m_rows.size() > 2;
+    const int left = hasList ? FontFilesList::kWidth : 0;
+    const bool hasInspector = showsInspector();
+    const int right = hasInspector && !isNarrow() ? FontInspectorViewController::kWidth : 0;
+    const int middle = std::max(width() - left - right, 0);
+    const int bar = kTopBarHeight;
+    const int foot = m_footer->offer() == FontFilesOffer() ? 0 : FontFilesFooter::kHeight;
+    const auto place = [this](QWidget *part, const QRect &where) {
+        part->setGeometry(QStyle::visualRect(layoutDirection(), rect(), where));
+    };
+    place(m_list, {0, 0, FontFilesList::kWidth, height()});
+    place(m_bar, {left, 0, middle, bar});
+    const QRect page(left, bar, middle, std::max(height() - bar - foot, 0));
+    place(m_page, page);
+    place(m_message, page);
+    place(m_footer, {left, height() - foot, middle, foot});
+    const int inspectorTop = isNarrow() ? bar : 0;
+    place(m_inspector,
+          {width() - FontInspectorViewController::kWidth, inspectorTop,
+           FontInspectorViewController::kWidth, height() - inspectorTop - (isNarrow() ? foot : 0)});
+    m_list->setVisible(hasList);
+    m_footer->setVisible(foot > 0);
+    // A picture's size is fixed.
+    const int least = std::max(kSmallestSize.width(), left + m_footer->leastWidth());
+    if (minimumWidth() != least && minimumWidth() != maximumWidth())
+        setMinimumWidth(least);
+    m_inspector->setVisible(hasInspector);
+    m_inspector->raise();
+    m_bar->setInspectorShown(hasInspector);
+}
+
+void FontFilesWindow::resizeEvent(QResizeEvent *)
+{
+    layOut();
+}
+
+void FontFilesWindow::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(rect(), neutralColors(isDarkDesktop()).ground);
+}
+
+void FontFilesWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void FontFilesWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    FontInstallationService *service = m_model.installationService();
+    // Fonts may have been switched elsewhere meanwhile.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && service && m_given)
+        service->takeChangesElsewhere();
+    if (event->type() == QEvent::PaletteChange) {
+        const NeutralColors colors = neutralColors(isDarkDesktop());
+        m_message->setColors(colors.text, colors.ground);
+        update();
+    }
+    if (event->type() == QEvent::LayoutDirectionChange)
+        layOut();
+}
+
+/// The files that are being switched are finished and written down first. A disk that hangs is not
+/// waited for.
+bool FontFilesWindow::closesNow()
+{
+    if (m_isClosing || !m_activation.isRunning())
+        return true;
+    m_isClosing = true;
+    setEnabled(false);
+    connect(&m_activation, &ActivationCommands::changed, this, &QWidget::close,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    QTimer::singleShot(kClosePatience, this, [this] {
+        if (m_isClosing)
+            close();
+    });
+    return false;
+}
+
+void FontFilesWindow::closeEvent(QCloseEvent *event)
+{
+    if (!closesNow()) {
+        event->ignore();
+        return;
+    }
+    m_isClosing = false;
+    setEnabled(true);
+    ++m_edition;
+    clear();
+}
+
+} // namespace lorva
