@@ -4,6 +4,7 @@
 
 #include "base/AtomicFile.h"
 #include "support/AdverseSystem.h"
+#include "support/OtherLanguage.h"
 
 #include <atomic>
 #include <thread>
@@ -56,6 +57,14 @@ TEST(WholeFile, SaysWhyItCannotRead)
         EXPECT_EQ(bytes.error().kind, row.kind) << row.name;
         EXPECT_TRUE(bytes.error().detail.contains(QLatin1String(row.name)));
     }
+}
+
+TEST(WholeFile, SaysWhyInTheUsersLanguage)
+{
+    const test::OtherLanguage other({{"cannot read %1: %2", "%2 (%1)"}});
+    const FilePath path = makeCaseFolder().child("missing");
+    EXPECT_EQ(readWholeFile(path, 7).error().detail,
+              QString("No such file or directory (" + path.displayText() + u')'));
 }
 
 TEST(WholeFile, GivesOneWholeFileWhileItIsReplaced)

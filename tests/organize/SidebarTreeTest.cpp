@@ -3,6 +3,8 @@
 
 #include "organize/SidebarTree.h"
 
+#include "support/OtherLanguage.h"
+
 #include <gmock/gmock.h>
 
 namespace lorva {
@@ -149,6 +151,22 @@ TEST(SidebarTree, StyleCategoriesAreToldApartByTheirSymbols)
     for (const auto &row : rows)
         EXPECT_EQ(sidebarSymbol(SidebarItem::style(QString::fromLatin1(row.id))),
                   QString::fromLatin1(row.symbol));
+}
+
+TEST(SidebarTree, ShowsWhatItIsCalledInTheUsersLanguage)
+{
+    const test::OtherLanguage other;
+    SidebarContent content = someContent();
+    content.styleCategories = {{"serif", "Serif", {}}, {"sans", "Mine", {}}, {"own", "Serif", {}}};
+    const QString lines = written(content).join(u'\n');
+    EXPECT_THAT(lines.toStdString(), ::testing::HasSubstr("「All」|square.grid.2x2|666"));
+    EXPECT_THAT(lines.toStdString(), ::testing::HasSubstr("「Serif」|book|121"));
+    EXPECT_THAT(lines.toStdString(), ::testing::HasSubstr("\nMine|textformat.alt|"))
+        << "another program renamed it";
+    EXPECT_THAT(lines.toStdString(), ::testing::HasSubstr("\nSerif|textformat|"))
+        << "the user's own, and called so by the user";
+    EXPECT_EQ(sidebarLabel(SidebarItem::style("serif"), content), "「Serif」");
+    EXPECT_EQ(sidebarLabel(SidebarItem::collection("c1"), content), "Wayfinding");
 }
 
 TEST(SidebarTree, GroupsAreStoredUnderLastingNames)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
+#include "support/OtherLanguage.h"
 #include "support/Waiting.h"
 #include "ui/discover/DiscoverArtworkView.h"
 #include "ui/discover/DiscoverFoundryItem.h"
@@ -41,6 +42,14 @@ TEST(DiscoverLayout, FollowsTheWidth)
     EXPECT_EQ(two.itemRect(3), QRect(32 + 398 + 24, 32 + 335 + 40, 398, 335));
     EXPECT_EQ(two.contentHeight(3), 32 + 2 * 335 + 40 + 40);
     EXPECT_EQ(two.contentHeight(0), 32 + 40);
+}
+
+TEST(DiscoverFoundries, AreDescribedInTheLanguageOfNow)
+{
+    EXPECT_FALSE(discoverFoundries().front().subtitle.startsWith(u'「'));
+    const test::OtherLanguage other;
+    EXPECT_TRUE(discoverFoundries().front().subtitle.startsWith(u'「'));
+    EXPECT_EQ(discoverFoundries().front().title, "Grilli Type");
 }
 
 TEST(DiscoverFoundries, AreEighteenWithASiteAndASentenceEach)

@@ -138,6 +138,21 @@ TEST_F(SegmentedControlTest, clickAndArrowKeysChoose)
     EXPECT_EQ(chosen.size(), 3) << "only the user activates";
 }
 
+TEST(SegmentedControl, LongWordsGiveWayToShortOnes)
+{
+    SegmentedControl control;
+    control.addTextSegment(QStringLiteral("Text"));
+    control.addTextSegment(QStringLiteral("Zeichnungsgrund"));
+    const int shortWidth = SegmentedControl::textSegmentWidth(QStringLiteral("Text"));
+    control.resize(shortWidth + 100, control.sizeHint().height());
+    control.grab();
+    const auto segments = control.findChildren<QAbstractButton *>();
+    ASSERT_EQ(segments.size(), 2);
+    EXPECT_GE(segments[0]->width(), shortWidth);
+    EXPECT_GE(segments[1]->width(), 96);
+    EXPECT_EQ(segments[1]->geometry().right(), control.width() - 1);
+}
+
 TEST_F(SegmentedControlTest, segmentsAreNamedRadioButtons)
 {
     const QList<QAbstractButton *> segments = control.findChildren<QAbstractButton *>();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "support/AdverseSystem.h"
+#include "support/OtherLanguage.h"
 #include "support/QtPrinters.h"
 #include "support/TestHome.h"
 #include "support/Waiting.h"
@@ -47,6 +48,14 @@ TEST(QuizPosterTest, theSentenceNamesDayAndPlayerInEnglish)
         EXPECT_TRUE(posterText(kName, QDate(800, 5, day)).contains(expected)) << day;
     }
     QLocale::setDefault(QLocale::c());
+}
+
+TEST(QuizPosterTest, theSentenceNamesTheDayAsItsLanguageDoes)
+{
+    const test::OtherLanguage german({{"en", "de"}, {"MMMM d, yyyy", "d. MMMM yyyy"}});
+    const QString nbsp(QChar::Nbsp);
+    const QString day = "14." % nbsp % "Oktober" % nbsp % "2026";
+    EXPECT_TRUE(posterText(kName, QDate(2026, 10, 14)).contains(day));
 }
 
 TEST(QuizPosterTest, anyNameLeavesTheSentenceInOrder)

@@ -3,6 +3,7 @@
 #include "ui/detail/StyleRowsView.h"
 
 #include "PreviewFonts.h"
+#include "support/OtherLanguage.h"
 #include "support/QtPrinters.h"
 #include "support/Waiting.h"
 #include "ui/detail/StyleRowPill.h"
@@ -128,6 +129,17 @@ protected:
     StyleRowsView rows{resolver, &window};
     QWidget after{&window};
 };
+
+TEST_F(StyleRowsTest, PillsHaveRoomForLongerWords)
+{
+    const test::OtherLanguage other({{"Activate…", "Einschalten…"}});
+    showSwitches();
+    const StyleRowPill *pill = row("Off")->pill();
+    EXPECT_EQ(pill->shownText(), "Einschalten…");
+    EXPECT_GT(pill->width(), pill->fontMetrics().horizontalAdvance(pill->shownText()));
+    EXPECT_EQ(pill->geometry().right(), row("Off")->width() - 1);
+    EXPECT_EQ(row("On")->pill()->geometry().left(), pill->geometry().left()) << "one column";
+}
 
 TEST_F(StyleRowsTest, SwitchesWhatCanBeSwitched)
 {

@@ -91,6 +91,13 @@ WrappedText InfoRowView::labelText() const
     return {m_row.label, interfaceFont(InterfaceSize::label), kMostLabelLines};
 }
 
+/// Two words in one language may be three in another.
+bool InfoRowView::isLabelLong() const
+{
+    const WrappedText label = labelText();
+    return QFontMetrics(label.font).horizontalAdvance(label.text) > kLabelRoom;
+}
+
 int InfoRowView::valueLeft() const
 {
     return kInspectorPadding + (m_row.label.isEmpty() ? 0 : kLabelWidth);
@@ -103,14 +110,23 @@ int InfoRowView::valueWidth(int width) const
 
 int InfoRowView::heightForWidth(int width) const
 {
-    int height =
-        std::max(m_text->heightForWidth(valueWidth(width)), labelText().heightFor(kLabelRoom))
-        + 2 * kLineRoom;
+    int height = m_text->heightForWidth(valueWidth(width)) + 2 * kLineRoom;
+    if (isLabelLong())
+        height = std::max(height, labelText().heightFor(kLabelRoom) + 2 * kLineRoom);
     for (const QWidget *part : {m_more, m_action}) {
         if (part && !part->isHidden())
             height += part->sizeHint().height();
     }
     return height;
+}
+
+/// Below the value; a long one begins as far before as it must.
+int InfoRowView::actionLeft(const QWidget &action) const
+{
+    const int last =
+        width() - kInspectorPadding + QuietButton::kSideRoom - action.sizeHint().width();
+    return std::max(kInspectorPadding, std::min(valueLeft(), last + QuietButton::kSideRoom))
+        - QuietButton::kSideRoom;
 }
 
 void InfoRowView::place(QWidget *part, const QRect &where) const
@@ -128,7 +144,7 @@ void InfoRowView::placeParts()
     for (QuietButton *part : {m_more, m_action}) {
         if (!part || part->isHidden())
             continue;
-        place(part, QRect(QPoint(valueLeft() - QuietButton::kSideRoom, y), part->sizeHint()));
+        place(part, QRect(QPoint(actionLeft(*part), y), part->sizeHint()));
         y += part->sizeHint().height();
     }
 }
@@ -166,8 +182,12 @@ void InfoRowView::paintEvent(QPaintEvent *)
         drawFocusRing(painter, QRectF(m_text->geometry()).adjusted(-4, -2, 4, 2), 4);
     if (m_row.label.isEmpty())
         return;
+    painter.setFont(interfaceFont(InterfaceSize::label));
     painter.setPen(inspectorQuiet());
-    const QRect room(kInspectorPadding, kLineRoom, kLabelRoom, height() - 2 * kLineRoom);
+    QRect room(kInspectorPadding, kLineRoom, kLabelRoom, painter.fontMetrics().height());
+    if (!isLabelLong())
+        return drawInspectorLine(painter, *this, room, m_row.label);
+    room.setHeight(height() - 2 * kLineRoom);
     labelText().draw(painter, QStyle::visualRect(layoutDirection(), rect(), room),
                      layoutDirection());
 }

@@ -41,6 +41,8 @@ private:
     void addMore();
     void addAction(const QString &place);
     WrappedText labelText() const;
+    bool isLabelLong() const;
+    int actionLeft(const QWidget &action) const;
     int valueLeft() const;
     int valueWidth(int width) const;
     void placeParts();

@@ -36,6 +36,19 @@ QFont textFont()
     return interfaceFont(InterfaceSize::label, InterfaceWeight::medium);
 }
 
+/// Long words give way to short ones, so that one of each can be read.
+std::vector<int> widthsWithin(std::vector<int> widths, int room)
+{
+    if (widths.empty())
+        return widths;
+    int missing = std::accumulate(widths.begin(), widths.end(), -room);
+    for (; missing > 0 && std::ranges::max(widths) > 0; --missing)
+        --*std::ranges::max_element(widths);
+    for (size_t i = 0; missing < 0; ++missing, ++i)
+        ++widths[i % widths.size()];
+    return widths;
+}
+
 bool isKeyboardFocus(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
@@ -189,11 +202,17 @@ void SegmentedControl::clear()
     updateGeometry();
 }
 
-std::vector<int> SegmentedControl::segmentWidths() const
+std::vector<int> SegmentedControl::wantedWidths() const
 {
     std::vector<int> widths;
     for (const QAbstractButton *button : m_group->buttons())
         widths.push_back(static_cast<const Segment *>(button)->wantedWidth());
+    return widths;
+}
+
+std::vector<int> SegmentedControl::segmentWidths() const
+{
+    std::vector<int> widths = wantedWidths();
     if (!m_hasNaturalWidths && !widths.empty())
         std::ranges::fill(widths, std::ranges::max(widths));
     return widths;
@@ -239,18 +258,26 @@ void SegmentedControl::chooseBeside(QAbstractButton *segment, int step)
     neighbour->click();
 }
 
-/// The segments overlap by their padding, which leaves their shadows and focus rings room.
-void SegmentedControl::placeSegments()
+std::vector<int> SegmentedControl::placedWidths() const
 {
-    const QList<QAbstractButton *> segments = m_group->buttons();
     std::vector<int> widths = segmentWidths();
     const int missing = sizeHint().width() - width();
-    if (m_hasNaturalWidths && missing > 0 && !widths.empty())
+    if (missing > 0 && m_hasNaturalWidths && !widths.empty())
         widths.back() = std::max(widths.back() - missing, 0);
+    else if (missing > 0)
+        widths = widthsWithin(wantedWidths(), width() - 2 * kPadding);
     // Room that is left over is shared out.
     if (missing < 0 && !widths.empty())
         for (int &segment : widths)
             segment += -missing / int(widths.size());
+    return widths;
+}
+
+/// The segments overlap by their padding, which leaves their shadows and focus rings room.
+void SegmentedControl::placeSegments()
+{
+    const QList<QAbstractButton *> segments = m_group->buttons();
+    const std::vector<int> widths = placedWidths();
     const QRect all(0, 0, std::accumulate(widths.begin(), widths.end(), 2 * kPadding), kHeight);
     int left = 0;
     for (qsizetype i = 0; i < segments.size(); ++i) {

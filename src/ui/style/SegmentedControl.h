@@ -62,7 +62,11 @@ private:
 
     void chooseBeside(QAbstractButton *segment, int step);
     int append(Segment *segment);
+    /// What each segment's own text needs; one width for all, unless they have their own; and
+    /// what they get in the room that there is.
+    std::vector<int> wantedWidths() const;
     std::vector<int> segmentWidths() const;
+    std::vector<int> placedWidths() const;
     void placeSegments();
 
     QButtonGroup *m_group = nullptr;
