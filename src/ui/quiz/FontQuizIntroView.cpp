@@ -5,7 +5,6 @@
 
 #include "base/GroupedNumber.h"
 #include "ui/quiz/FontQuizGround.h"
-#include "ui/sheets/SheetText.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 #include "ui/style/TextButton.h"
@@ -105,6 +104,11 @@ void FontQuizIntroView::focusPage()
     m_startButton->setFocus(Qt::OtherFocusReason);
 }
 
+WrappedText FontQuizIntroView::sentenceText() const
+{
+    return {m_sentence, interfaceFont(InterfaceSize::title), 0, true};
+}
+
 /// A column in the middle of the window: the fan, the title, the sentence, the button.
 FontQuizIntroView::Places FontQuizIntroView::places() const
 {
@@ -112,8 +116,7 @@ FontQuizIntroView::Places FontQuizIntroView::places() const
     const int column = std::min(kColumn, width() - 2 * spacing::k24);
     const int left = (width() - column) / 2;
     const QSize button = m_startButton->sizeHint().expandedTo(kLeastButton);
-    const WrappedText text{m_sentence, interfaceFont(InterfaceSize::title), 0};
-    const int textHeight = text.heightFor(column);
+    const int textHeight = sentenceText().heightFor(column);
     const int titleHeight = m_isEmpty ? 0 : QFontMetrics(titleFont()).height();
     const int below = titleHeight + spacing::k16 + textHeight + spacing::k32 + button.height();
     const double room = (height() - below - 160.0) / (kFontQuizCardSize.height() * kFanHeight);
@@ -167,11 +170,10 @@ void FontQuizIntroView::paintEvent(QPaintEvent *)
     painter.setPen(colors.text);
     painter.setFont(titleFont());
     painter.drawText(
-        where.title, Qt::AlignCenter,
+        where.title, int(Qt::AlignCenter) | Qt::TextDontClip,
         QFontMetrics(titleFont()).elidedText(title(), Qt::ElideRight, where.title.width()));
     painter.setPen(quietColor(colors.text, colors.ground, kSentenceAlpha));
-    painter.setFont(interfaceFont(InterfaceSize::title));
-    painter.drawText(where.sentence, Qt::AlignHCenter | Qt::TextWordWrap, m_sentence);
+    sentenceText().draw(painter, where.sentence, painter.layoutDirection());
 }
 
 } // namespace lorva

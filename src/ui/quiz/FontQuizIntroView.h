@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/quiz/FontQuizCardPainting.h"
+#include "ui/sheets/SheetText.h"
 
 #include <QWidget>
 
@@ -46,6 +47,7 @@ private:
         QRect button;
     };
 
+    WrappedText sentenceText() const;
     Places places() const;
     void placeButton();
     void paintFan(QPainter &painter, const FontQuizPose &middle) const;

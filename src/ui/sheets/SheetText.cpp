@@ -104,7 +104,8 @@ void WrappedText::draw(QPainter &painter, const QRectF &rect, Qt::LayoutDirectio
     painter.setFont(font);
     const QFontMetricsF metrics(font);
     const double height = lineHeight(font);
-    const auto alignment = Qt::AlignVCenter | QStyle::visualAlignment(direction, Qt::AlignLeft);
+    const auto alignment = Qt::AlignVCenter
+        | (isCentred ? Qt::AlignHCenter : QStyle::visualAlignment(direction, Qt::AlignLeft));
     double y = rect.top();
     for (const auto &[line, isCut] : linesOf(*this, rect.width())) {
         const QString shown = isCut ? metrics.elidedText(line, Qt::ElideRight, rect.width()) : line;

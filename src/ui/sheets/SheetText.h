@@ -18,10 +18,12 @@ struct WrappedText
     QFont font;
     /// The rest is left out and an ellipsis put; 0: no limit.
     int maximumLineCount = 0;
+    bool isCentred = false;
 
     /// In whole points.
     int heightFor(int width) const;
-    /// From the top of `rect` down, in the painter's pen, from the side where `direction` begins.
+    /// From the top of `rect` down, in the painter's pen, from the side where `direction` begins or
+    /// in the middle.
     void draw(QPainter &painter, const QRectF &rect, Qt::LayoutDirection direction) const;
 };
 
