@@ -144,6 +144,16 @@
     </message>
 </context>
 <context>
+    <name>FontFiles</name>
+    <message numerus="yes">
+        <source>%n fonts</source>
+        <translation type="unfinished">
+            <numerusform>%n fonts</numerusform>
+            <numerusform>%n fonts</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FontScanPhase</name>
     <message numerus="yes">
         <source>Finding fonts… %1</source>
