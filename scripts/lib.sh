@@ -32,6 +32,7 @@ packages_build="
   librsvg2-dev          draws SVG glyphs
   libbox2d-dev          lets the letters of the welcome fall
   libsodium-dev         checks the signature of the release feed
+  libseccomp-dev        keeps thumbnails of strangers' fonts from doing anything else
   librsvg2-bin          rsvg-convert: the icon in every size, from its drawings
 "
 packages_test="
