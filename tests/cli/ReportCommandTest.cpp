@@ -9,7 +9,6 @@ namespace {
 
 using test::lorvactl;
 using test::Outcome;
-using test::path;
 using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <span>
 #include <type_traits>
@@ -232,12 +233,11 @@ bool addThreads(const Filter &filter)
 /// Memory that holds data. Code is there already.
 bool addMappings(const Filter &filter)
 {
-    for (const int call : {SCMP_SYS(mmap), SCMP_SYS(mmap2), SCMP_SYS(mprotect)}) {
-        if (!addWhen(filter, SCMP_ACT_ALLOW, call, bits(2, PROT_EXEC, 0))
-            || !addWhen(filter, SCMP_ACT_ERRNO(EACCES), call, bits(2, PROT_EXEC, PROT_EXEC)))
-            return false;
-    }
-    return true;
+    constexpr int kMappings[]{SCMP_SYS(mmap), SCMP_SYS(mmap2), SCMP_SYS(mprotect)};
+    return std::all_of(std::begin(kMappings), std::end(kMappings), [&](int call) {
+        return addWhen(filter, SCMP_ACT_ALLOW, call, bits(2, PROT_EXEC, 0))
+            && addWhen(filter, SCMP_ACT_ERRNO(EACCES), call, bits(2, PROT_EXEC, PROT_EXEC));
+    });
 }
 
 /// abort() signals its own process; limits are read and never set.
