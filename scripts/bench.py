@@ -22,6 +22,7 @@ import bench_detail
 import bench_quiz
 import bench_start
 import bench_text
+import bench_thumbnails
 import bench_welcome
 import bench_window
 
@@ -468,6 +469,8 @@ def main():
         bench.fontconfig_load()
         print("bench: specimens …", file=sys.stderr)
         hb_view = bench.specimen_processes(files)
+        print("bench: thumbnails …", file=sys.stderr)
+        bench_thumbnails.add_rows(bench, files, tool)
         bench.from_programs(bench.programs(library, generated), hb_view)
         bench.notes.insert(0, f"Medians of {bench.runs} runs in turns, files warm, on {machine()}. The "
                               f"{len(many):,} files are this machine's {len(files):,} fonts linked under "

@@ -32,6 +32,7 @@ packages_build="
   librsvg2-dev          draws SVG glyphs
   libbox2d-dev          lets the letters of the welcome fall
   libsodium-dev         checks the signature of the release feed
+  libseccomp-dev        keeps thumbnails of strangers' fonts from doing anything else
   librsvg2-bin          rsvg-convert: the icon in every size, from its drawings
 "
 packages_test="
@@ -83,6 +84,7 @@ packages_bench="
   rapidjson-dev         another reader of JSON, to compare ours with
   fontconfig            fc-scan, to compare the scan with
   libharfbuzz-bin       hb-view, to compare the specimen with
+  gnome-font-viewer     gnome-thumbnail-font, to compare thumbnails with
   libfreetype-dev       FreeType, to compare specimens and the opening of files with
   python3               runs both and writes the table
   xvfb                  an X server for the window that is used

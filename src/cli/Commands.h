@@ -15,6 +15,7 @@ int runSearchCommand(std::span<const QByteArray> words);
 int runInfoCommand(std::span<const QByteArray> words);
 int runScanCommand(std::span<const QByteArray> words);
 int runSpecimenCommand(std::span<const QByteArray> words);
+int runThumbnailCommand(std::span<const QByteArray> words);
 int runCollectionsCommand(std::span<const QByteArray> words);
 int runStylesCommand(std::span<const QByteArray> words);
 int runFoundriesCommand(std::span<const QByteArray> words);
@@ -26,6 +27,7 @@ int runStatusCommand(std::span<const QByteArray> words);
 int runFoldersCommand(std::span<const QByteArray> words);
 int runHistoryCommand(std::span<const QByteArray> words);
 int runDoctorCommand(std::span<const QByteArray> words);
+int runReportCommand(std::span<const QByteArray> words);
 int runUpdatesCommand(std::span<const QByteArray> words);
 
 } // namespace lorva::cli

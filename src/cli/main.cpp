@@ -27,7 +27,8 @@ HelpText help()
                   {"search", Texts::tr("list those that a search finds")},
                   {"scan", Texts::tr("read the fonts that changed, and tell what that took")},
                   {"info", Texts::tr("show what a font file says about its faces")},
-                  {"specimen", Texts::tr("draw text in a font: PNG, SVG or PDF")}})
+                  {"specimen", Texts::tr("draw text in a font: PNG, SVG or PDF")},
+                  {"thumbnail", Texts::tr("draw the picture of a font that file managers show")}})
         .entries({{"collections", Texts::tr("list, make and change collections")},
                   {"styles", Texts::tr("list, make and change styles")},
                   {"foundries", Texts::tr("list and correct the foundries")},
@@ -39,6 +40,7 @@ HelpText help()
                   {"folders", Texts::tr("list, add and remove watched folders")},
                   {"history", Texts::tr("tell what was switched on and off, and when")}})
         .entries({{"doctor", Texts::tr("tell how preferences, caches and activation fare")},
+                  {"report", Texts::tr("tell what a report of a fault needs, and nobody's names")},
                   {"updates", Texts::tr("ask whether there is a newer release of Lorva")}})
         .entries({{"--help", Texts::tr("show this help; also after a command")},
                   {"--version", Texts::tr("show the version")}})
@@ -60,7 +62,8 @@ constexpr Command kCommands[]{
     {"activate", runActivateCommand}, {"deactivate", runDeactivateCommand},
     {"status", runStatusCommand},     {"folders", runFoldersCommand},
     {"history", runHistoryCommand},   {"doctor", runDoctorCommand},
-    {"updates", runUpdatesCommand},
+    {"updates", runUpdatesCommand},   {"thumbnail", runThumbnailCommand},
+    {"report", runReportCommand},
 };
 
 /// Qt has something to say about locales that are not UTF-8; a command's errors are its own.

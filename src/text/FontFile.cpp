@@ -100,23 +100,28 @@ Result<std::shared_ptr<const FontFile>> FontFile::open(const FilePath &path)
 
 Result<FontFile::KeptOpen> FontFile::openForReading(const FilePath &path)
 {
-    auto opened = OpenedFile::open(path);
-    if (!opened)
-        return tl::unexpected(opened.error());
-    auto locations = readFaceLocations(**opened);
+    return OpenedFile::open(path).and_then(
+        [&](const std::shared_ptr<const OpenedFile> &opened) { return read(path, opened); });
+}
+
+Result<FontFile::KeptOpen> FontFile::read(const FilePath &path,
+                                          std::shared_ptr<const OpenedFile> opening)
+{
+    auto locations = readFaceLocations(*opening);
     if (!locations)
-        return judged(**opened, path, locations.error());
+        return judged(*opening, path, locations.error());
     // The one face of a plain font decides about the file; of several, the sound ones count.
     if (locations->size() == 1) {
-        if (const auto directory = readDirectory(**opened, locations->front()); !directory)
-            return judged(**opened, path, directory.error());
+        if (const auto directory = readDirectory(*opening, locations->front()); !directory)
+            return judged(*opening, path, directory.error());
     }
     auto data = std::make_shared<Data>();
     data->path = path;
-    data->identity = (*opened)->identity();
+    data->identity = opening->identity();
     data->locations = std::move(*locations);
-    data->keepOpen(*opened);
-    return KeptOpen{std::shared_ptr<const FontFile>(new FontFile(std::move(data))), *opened};
+    data->keepOpen(opening);
+    return KeptOpen{std::shared_ptr<const FontFile>(new FontFile(std::move(data))),
+                    std::move(opening)};
 }
 
 const FilePath &FontFile::path() const

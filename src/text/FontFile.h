@@ -85,6 +85,8 @@ public:
     /// As open(), for work that is done in one go, such as a scan: descriptors, then a few glyphs.
     /// Keep the opening for the work on this one file and no longer.
     static Result<KeptOpen> openForReading(const FilePath &path);
+    /// The same through an opening of the file that was made before.
+    static Result<KeptOpen> read(const FilePath &path, std::shared_ptr<const OpenedFile> opening);
     ~FontFile();
 
     const FilePath &path() const;

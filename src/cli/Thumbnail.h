@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Lorva developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/FilePath.h"
+#include "base/Result.h"
+#include "platform/Confinement.h"
+
+#include <optional>
+
+namespace lorva::cli {
+
+/// Sides of a thumbnail in pixels. File managers ask for 128 to 1024.
+inline constexpr int kLeastThumbnailSide = 16;
+inline constexpr int kMostThumbnailSide = 2048;
+
+/// What a thumbnail may cost. File managers ask for one of every font in a folder, downloads
+/// included, without anybody having opened it.
+inline constexpr ConfinementLimits kThumbnailLimits{
+    // The program and its libraries take 0.2 GB of addresses, the largest CJK and emoji fonts as
+    // much again; kMaxFaceBytes and one stack and heap for each of a few threads fit as well.
+    qint64(1) << 30,
+    // The slowest fonts at hand take a twentieth.
+    std::chrono::seconds(10),
+    // Slow volumes may take as long as they think; nobody waits longer for a picture.
+    std::chrono::seconds(20),
+    // 2048 by 2048 pixels that do not compress.
+    qint64(20) << 20,
+};
+
+struct ThumbnailRequest
+{
+    FilePath font;
+    FilePath picture;
+    /// Of a collection; absent: the first that can be drawn.
+    std::optional<int> faceIndex;
+    int sidePx = 256;
+};
+
+/// Draws letters of the font on a square sheet and writes it as a PNG, whole or not at all. The
+/// font is read in a confined process. Fails as FontFile::open() and runConfined() do, with
+/// unsupported for a font that has nothing to show, and for a picture that cannot be written or
+/// would take the place of a font; the detail names the file.
+Result<void> writeThumbnail(const ThumbnailRequest &request);
+
+} // namespace lorva::cli
