@@ -615,6 +615,33 @@
     </message>
 </context>
 <context>
+    <name>Confinement</name>
+    <message>
+        <source>%1: took too long to read and was given up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: was given up: reading it led to what reading never needs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: takes more memory than it may have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: is damaged; reading it failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: what is drawn of it is too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no new process can be started: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DesktopTrash</name>
     <message>
         <source>cannot move %1 to the Trash: its volume has none</source>
@@ -6925,6 +6952,50 @@ Browse, test and organise all the fonts of this computer.</source>
         <translation>
             <numerusform>%n 个字体文件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>draw the picture of a font that file managers show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell what a report of a fault needs, and nobody&apos;s names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>report takes no words</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: has no letters or symbols to show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws the picture of a font that file managers show: &quot;Aa&quot;, or letters or symbols of the font&apos;s own script, on a square sheet, written as PNG. FONT is a file or its file: address. It is read in a process that can do nothing but read and draw, within bounds of time and memory; for a font that cannot be shown nothing is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pixels each way, 16 to 2048; 256 if not given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which face of a collection, from 0; the first that can be drawn if not given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>thumbnail takes a font file and a picture to write</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the picture cannot be encoded</source>
+        <translation type="unfinished">图片无法编码</translation>
     </message>
 </context>
 </TS>
