@@ -147,8 +147,8 @@
     <name>FontFiles</name>
     <message numerus="yes">
         <source>%n fonts</source>
-        <translation type="unfinished">
-            <numerusform>%n fonts</numerusform>
+        <translation>
+            <numerusform>1 font</numerusform>
             <numerusform>%n fonts</numerusform>
         </translation>
     </message>
