@@ -17,12 +17,12 @@ inline constexpr int kMostThumbnailSide = 2048;
 /// What a thumbnail may cost. File managers ask for one of every font in a folder, downloads
 /// included, without anybody having opened it.
 inline constexpr ConfinementLimits kThumbnailLimits{
-    // The program and its libraries take 0.2 GB of addresses, the largest CJK and emoji fonts as
-    // much again; kMaxFaceBytes and one stack and heap for each of a few threads fit as well.
-    qint64(1) << 30,
-    // The slowest fonts at hand take a twentieth.
-    std::chrono::seconds(10),
-    // Slow volumes may take as long as they think; nobody waits longer for a picture.
+    // Measured, 0.2 GB of addresses do for the largest CJK and emoji fonts at hand, libraries
+    // included. A face may take kMaxFaceBytes more, and each of a few threads a stack and a heap.
+    qint64(768) << 20,
+    // The slowest fonts at hand take a hundredth.
+    std::chrono::seconds(5),
+    // Slow volumes may think about it; nobody waits longer for a picture.
     std::chrono::seconds(20),
     // 2048 by 2048 pixels that do not compress.
     qint64(20) << 20,
