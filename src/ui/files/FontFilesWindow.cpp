@@ -176,6 +176,7 @@ void FontFilesWindow::clear()
 
 void FontFilesWindow::take(FontFilesReader::Part part)
 {
+    const TraceStage stage("font files: take");
     m_messageDelay.stop();
     // What is chosen stays so while more files come in.
     const FontFilesRow chosen = m_row ? m_rows[*m_row] : FontFilesRow();
