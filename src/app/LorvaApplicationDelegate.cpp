@@ -10,9 +10,7 @@
 #include "catalog/CatalogCache.h"
 #include "commands/LorvaSettingsViewModel.h"
 #include "model/stores/WindowGeometry.h"
-#include "platform/linux/FontconfigAvailableFonts.h"
 #include "platform/linux/FontconfigOrthographies.h"
-#include "platform/linux/FontconfigSystemFont.h"
 #include "platform/linux/XdgDesktopOpener.h"
 #include "platform/linux/XdgFolders.h"
 #include "ui/browser/FontBrowserViewController.h"
@@ -116,62 +114,6 @@ void LorvaApplicationDelegate::applicationDidFinishLaunching(Launch launch)
     }
 }
 
-// --- Files ---
-
-FontFilesServices LorvaApplicationDelegate::filesServices()
-{
-    return {std::make_shared<FontconfigAvailableFonts>(xdgFolders().registeredLinks()),
-            std::make_shared<FontconfigSystemFont>(), std::make_shared<FontconfigOrthographies>(),
-            std::make_shared<XdgDesktopOpener>()};
-}
-
-void LorvaApplicationDelegate::connectFiles()
-{
-    m_callPatience.setSingleShot(true);
-    connect(&m_callPatience, &QTimer::timeout, this, &LorvaApplicationDelegate::openLibrary);
-    m_files.onFolders = [this](const std::vector<FilePath> &folders, bool hasFiles) {
-        openLibrary();
-        m_model->addFoldersForThisRun(folders);
-        if (!hasFiles)
-            presentLibrary();
-    };
-    m_files.onQuitWanted = [this] { quit(); };
-    m_files.onLibraryWanted = [this](const QString &family) { showInLibrary(family); };
-}
-
-/// A window that is still switching fonts stays until they are done, and the program with it.
-void LorvaApplicationDelegate::quit()
-{
-    if (m_files.isWindowOpen())
-        m_files.window()->close();
-    if (m_window)
-        m_window->close();
-}
-
-void LorvaApplicationDelegate::openPlaces(const LaunchOptions &options,
-                                          const QByteArray &activationToken)
-{
-    if (!options.places.empty() || !options.foreignPlaces.isEmpty())
-        m_files.open({options.places, options.foreignPlaces, activationToken});
-}
-
-void LorvaApplicationDelegate::takeFilesPicture()
-{
-    const bool hasOwnSize = m_options.windowSize != LaunchOptions::kWindowSize;
-    m_files.setFixedWindowSize(hasOwnSize ? m_options.windowSize : FontFilesWindow::kStandardSize);
-    auto *look = new QTimer(this);
-    connect(look, &QTimer::timeout, this, [this, look] {
-        FontFilesWindow *shown = m_files.window();
-        if (!shown || !shown->isSettled())
-            return;
-        look->stop();
-        writePictureAndEnd(*shown, *m_options.screenshot);
-    });
-    look->start(kSettleLook);
-}
-
-// --- The library ---
-
 /// Does nothing once it is there, open or not.
 void LorvaApplicationDelegate::openLibrary()
 {
@@ -198,20 +140,6 @@ void LorvaApplicationDelegate::openLibrary()
             });
     connect(new FontFileDrop(*m_window), &FontFileDrop::dropped, &m_files,
             [this](const std::vector<FilePath> &files) { m_files.openDropped(files); });
-}
-
-void LorvaApplicationDelegate::showInLibrary(const QString &familyName)
-{
-    openLibrary();
-    presentLibrary();
-    if (familyName.isEmpty() || hasAlertSheet(*m_window))
-        return;
-    LaunchOptions wanted;
-    wanted.source = LaunchSource{BrowserSource::Kind::allFonts, {}};
-    wanted.searchText = QString();
-    wanted.selectedFamily = familyName;
-    m_model->openDetail(std::nullopt);
-    applyChoices(wanted);
 }
 
 /// Not over the welcome, which has the user's eye.
@@ -257,44 +185,6 @@ void LorvaApplicationDelegate::openWantedQuiz()
         quiz->showPoster();
     else
         quiz->start();
-}
-
-void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
-{
-    m_callPatience.stop();
-    std::vector<const char *> arguments;
-    for (const QByteArray &argument : start.arguments)
-        arguments.push_back(argument.constData());
-    const auto options = parseLaunchOptions(arguments, start.workingFolder);
-    if (options && opensPlacesAlone(*options)) {
-        openPlaces(*options, start.activationToken);
-        return;
-    }
-    openLibrary();
-    // A question that is open comes first: it is about what is shown now.
-    if (options && !hasAlertSheet(*m_window)) {
-        applyChoices(*options);
-        applyDetailChoices(*options);
-        openWantedQuiz();
-    }
-    if (options)
-        m_model->addFoldersForThisRun(options->folders);
-    useActivationToken(start.activationToken);
-    presentLibrary();
-    if (options)
-        openPlaces(*options, start.activationToken);
-}
-
-void LorvaApplicationDelegate::presentLibrary()
-{
-    // While the welcome is shown, the window cannot be seen.
-    QWidget *overlay = m_onboardingController ? m_onboardingController->overlay() : nullptr;
-    QWidget *front = overlay ? overlay->window() : m_window.get();
-    front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
-    // It may have been closed while files were open.
-    front->show();
-    front->raise();
-    front->activateWindow();
 }
 
 void LorvaApplicationDelegate::buildWindow()

@@ -17,7 +17,6 @@
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
-#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QShortcut>
@@ -35,7 +34,6 @@ using Kind = FontFilesRow::Kind;
 
 /// What is read sooner needs no word.
 constexpr auto kMessageDelay = 300ms;
-constexpr auto kClosePatience = 5s;
 /// A display closes the connection on a title of megabytes.
 constexpr qsizetype kLongestTitle = 300;
 
@@ -176,6 +174,7 @@ void FontFilesWindow::clear()
 
 void FontFilesWindow::take(FontFilesReader::Part part)
 {
+    const TraceStage stage("font files: take");
     m_messageDelay.stop();
     // What is chosen stays so while more files come in.
     const FontFilesRow chosen = m_row ? m_rows[*m_row] : FontFilesRow();
@@ -273,85 +272,6 @@ const FontFamilyRecord *FontFilesWindow::shownFamily() const
     return &m_state.families[m_rows[*m_row].index];
 }
 
-// --- What is active ---
-
-void FontFilesWindow::lookAtActivations()
-{
-    const FontInstallationService *service = m_model.installationService();
-    if (!service || !m_given)
-        return;
-    const auto look = [given = m_given, books = service->books()](const std::stop_token &) {
-        return givenActivations(*given, *books);
-    };
-    runThen(m_pool, this, look, [this, given = m_given](GivenActivations known) {
-        if (given != m_given)
-            return;
-        m_known = std::move(known);
-        m_areActivationsKnown = true;
-        applyActivations();
-    });
-}
-
-void FontFilesWindow::applyActivations()
-{
-    FontFilesOffer offer = fontFilesOffer(m_state.families, shownFamily(), m_known);
-    offer.hasFailures = m_activation.hasFailures() && !m_state.isEmpty();
-    m_footer->apply(offer);
-    m_page->showActivations(m_known.styles);
-    applyInspector();
-    layOut();
-}
-
-// --- The inspector ---
-
-void FontFilesWindow::applyInspector()
-{
-    const FontFamilyRecord *family = shownFamily();
-    if (!family) {
-        m_inspector->showFace({}, std::nullopt);
-        return;
-    }
-    const auto found = m_known.activationByFamily.constFind(family->familyName);
-    m_inspector->showFace(m_page->face(),
-                          found == m_known.activationByFamily.cend() ? std::nullopt
-                                                                     : std::optional(*found));
-}
-
-bool FontFilesWindow::showsInspector() const
-{
-    return shownFamily() && (isNarrow() ? m_isInspectorOverPage : m_isInspectorWanted);
-}
-
-void FontFilesWindow::toggleInspector()
-{
-    bool &isShown = isNarrow() ? m_isInspectorOverPage : m_isInspectorWanted;
-    isShown = !isShown;
-    layOut();
-}
-
-void FontFilesWindow::inspectorFeaturesChanged(
-    const std::optional<std::vector<FeaturePair>> &enabled)
-{
-    m_page->setFeatureSettings(enabled);
-}
-
-void FontFilesWindow::inspectorAxesChanged(const std::vector<VariationSetting> &values)
-{
-    m_page->setVariationAxes(values);
-}
-
-void FontFilesWindow::inspectorFileWanted(const FilePath &file)
-{
-    if (m_services.desktop)
-        m_services.desktop->showFile(file);
-}
-
-void FontFilesWindow::inspectorLinkWanted(const QUrl &link)
-{
-    if (m_services.desktop)
-        m_services.desktop->openLink(link);
-}
-
 // --- The window ---
 
 void FontFilesWindow::present()
@@ -436,35 +356,6 @@ void FontFilesWindow::changeEvent(QEvent *event)
     }
     if (event->type() == QEvent::LayoutDirectionChange)
         layOut();
-}
-
-/// The files that are being switched are finished and written down first. A disk that hangs is not
-/// waited for.
-bool FontFilesWindow::closesNow()
-{
-    if (m_isClosing || !m_activation.isRunning())
-        return true;
-    m_isClosing = true;
-    setEnabled(false);
-    connect(&m_activation, &ActivationCommands::changed, this, &QWidget::close,
-            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-    QTimer::singleShot(kClosePatience, this, [this] {
-        if (m_isClosing)
-            close();
-    });
-    return false;
-}
-
-void FontFilesWindow::closeEvent(QCloseEvent *event)
-{
-    if (!closesNow()) {
-        event->ignore();
-        return;
-    }
-    m_isClosing = false;
-    setEnabled(true);
-    ++m_edition;
-    clear();
 }
 
 } // namespace lorva
