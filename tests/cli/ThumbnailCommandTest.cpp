@@ -32,7 +32,7 @@ protected:
         , picture(folder.child("out").child("thumbnail.png"))
     {
         QDir().mkpath(path(picture.parent()));
-        for (const FilePath &each : {folder, picture.parent()})
+        for (const FilePath &each : {test::TestHome::instance().home(), folder, picture.parent()})
             ::chmod(each.c_str(), 0777);
     }
 

@@ -215,6 +215,16 @@ TEST(SmallFontconfig, theToolkitShowsTheFormsOfTheLanguage)
                     HasSubstr("shown " + text.toStdString() + ": " + family + "\n"));
 }
 
+TEST(SmallFontconfig, theUsersLanguageHasEveryWeight)
+{
+    installRealFont("opentype/noto/NotoSansCJK-Regular.ttc");
+    installRealFont("opentype/noto/NotoSansCJK-Bold.ttc");
+    useRulesForLanguages();
+    useFontsForLanguage(QStringLiteral("ja"));
+    useSmallFontconfigForInterface();
+    EXPECT_THAT(currentFonts(), Contains("NotoSansCJK-Bold.ttc"));
+}
+
 TEST(SmallFontconfig, theToolkitStartsWithoutAnyFont)
 {
     EXPECT_THAT(probe({}).toStdString(), HasSubstr("font: \n"));

@@ -22,6 +22,8 @@ struct FontconfigDeleter
 using FcConfigHandle = std::unique_ptr<FcConfig, FontconfigDeleter<FcConfigDestroy>>;
 using FcPatternHandle = std::unique_ptr<FcPattern, FontconfigDeleter<FcPatternDestroy>>;
 using FcFontSetHandle = std::unique_ptr<FcFontSet, FontconfigDeleter<FcFontSetDestroy>>;
+using FcStrSetHandle = std::unique_ptr<FcStrSet, FontconfigDeleter<FcStrSetDestroy>>;
+using FcStrListHandle = std::unique_ptr<FcStrList, FontconfigDeleter<FcStrListDone>>;
 using FcLangSetHandle = std::unique_ptr<FcLangSet, FontconfigDeleter<FcLangSetDestroy>>;
 
 } // namespace lorva

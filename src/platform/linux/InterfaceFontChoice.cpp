@@ -6,6 +6,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <span>
@@ -149,6 +150,16 @@ public:
         addNearestToRegular(m_fonts, language);
     }
 
+    /// The user's own language, in every weight that labels have, as the interface's own family.
+    void addFamilyFor(const char *language)
+    {
+        for (const QByteArray &family : familiesBehind(m_config, "sans-serif", language)) {
+            const std::span<const Candidate> fonts = fontsOfFamily(family);
+            if (std::ranges::any_of(fonts, [&](const auto &font) { return shows(font, language); }))
+                return addFamily(family);
+        }
+    }
+
     std::set<QByteArray> takeFiles() { return std::move(m_files); }
 
 private:
@@ -192,6 +203,10 @@ std::set<QByteArray> chooseInterfaceFontFiles(FcConfig *config)
         choice.addFamilyBehind(generic);
     for (const char *const language : kFallbackLanguages)
         choice.addFallback(language);
+    const FcStrSetHandle languages(FcGetDefaultLangs());
+    const FcStrListHandle each(languages ? FcStrListCreate(languages.get()) : nullptr);
+    while (const FcChar8 *const language = each ? FcStrListNext(each.get()) : nullptr)
+        choice.addFamilyFor(reinterpret_cast<const char *>(language));
     return choice.takeFiles();
 }
 
