@@ -637,27 +637,27 @@
     <name>Confinement</name>
     <message>
         <source>%1: took too long to read and was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Lesen dauerte zu lange und wurde abgebrochen</translation>
     </message>
     <message>
         <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Lesen wurde abgebrochen: Es führte zu etwas, was dafür nie nötig ist</translation>
     </message>
     <message>
         <source>%1: takes more memory than it may have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: braucht mehr Speicher als erlaubt</translation>
     </message>
     <message>
         <source>%1: is damaged; reading it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ist beschädigt; Lesen fehlgeschlagen</translation>
     </message>
     <message>
         <source>%1: what is drawn of it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: das daraus Gezeichnete ist zu groß</translation>
     </message>
     <message>
         <source>no new process can be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kein neuer Prozess kann gestartet werden: %1</translation>
     </message>
 </context>
 <context>
@@ -2399,79 +2399,79 @@
     <name>FontFiles</name>
     <message>
         <source>This file is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist nicht mehr da.</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dürfen diese Datei nicht lesen.</translation>
     </message>
     <message>
         <source>This is no file that could hold a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Datei, die eine Schrift enthalten könnte.</translation>
     </message>
     <message>
         <source>This file is too large to be a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist zu groß für eine Schrift.</translation>
     </message>
     <message>
         <source>This file holds no font that Lorva can show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei enthält keine Schrift, die Lorva zeigen kann.</translation>
     </message>
     <message>
         <source>This font is damaged and cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Schrift ist beschädigt und kann nicht gezeigt werden.</translation>
     </message>
     <message>
         <source>This file cannot be read from its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei kann nicht von ihrem Datenträger gelesen werden.</translation>
     </message>
     <message>
         <source>This font has no name, so no program could offer it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Schrift hat keinen Namen, daher könnte kein Programm sie anbieten.</translation>
     </message>
     <message>
         <source>Only files of this computer can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Dateien auf diesem Computer können gezeigt werden.</translation>
     </message>
     <message>
         <source>So many files cannot be shown at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>So viele Dateien können nicht auf einmal gezeigt werden.</translation>
     </message>
     <message>
         <source>Not active</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht aktiv</translation>
     </message>
     <message>
         <source>Some styles are active</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Schnitte sind aktiv</translation>
     </message>
     <message>
         <source>Active through the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv durch das System</translation>
     </message>
     <message>
         <source>Active, copied to the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv, in den Schriftenordner kopiert</translation>
     </message>
     <message>
         <source>Active, registered in place</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktiv, am Speicherort registriert</translation>
     </message>
     <message>
         <source>Another font has this file’s name in the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere Schrift heißt im Schriftenordner wie diese Datei</translation>
     </message>
     <message>
         <source>Not Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gezeigt</translation>
     </message>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftdateien</translation>
     </message>
     <message numerus="yes">
         <source>%n fonts</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n Schrift</numerusform>
             <numerusform>%n Schriften</numerusform>
         </translation>
@@ -3093,11 +3093,11 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <message>
         <source>Usage: lorva [options] [FILE|FOLDER]...</source>
         <extracomment>Options begin with &quot;--&quot;, and words in capitals stand for what is typed after them; both, and the words that an option takes, stay as they are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: lorva [Optionen] [FILE|FOLDER]...</translation>
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt alle Schriften dieses Computers als lebendige Schriftmuster; Schriftdateien, die als Pfad oder file:-Adresse angegeben sind, in einem eigenen Fenster.</translation>
     </message>
 </context>
 <context>
@@ -4495,76 +4495,76 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <name>lorva::FontFilesBar</name>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished">Vorschau</translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">Text</translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Waterfall</source>
-        <translation type="unfinished">Wasserfall</translation>
+        <translation>Wasserfall</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesFooter</name>
     <message>
         <source>Files That Failed…</source>
-        <translation type="unfinished">Fehlgeschlagene Dateien&#xa0;…</translation>
+        <translation>Fehlgeschlagene Dateien&#xa0;…</translation>
     </message>
     <message>
         <source>Show in Lorva</source>
-        <translation type="unfinished"></translation>
+        <translation>In Lorva zeigen</translation>
     </message>
     <message>
         <source>Activate All…</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle aktivieren&#xa0;…</translation>
     </message>
     <message>
         <source>De-activate…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deaktivieren&#xa0;…</translation>
     </message>
     <message>
         <source>Activate Remaining Styles…</source>
-        <translation type="unfinished">Übrige Schnitte aktivieren&#xa0;…</translation>
+        <translation>Übrige Schnitte aktivieren&#xa0;…</translation>
     </message>
     <message>
         <source>Activate…</source>
-        <translation type="unfinished">Aktivieren&#xa0;…</translation>
+        <translation>Aktivieren&#xa0;…</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesList</name>
     <message>
         <source>Fonts in the Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriften in den Dateien</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftdateien</translation>
     </message>
     <message>
         <source>Reading Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien werden gelesen</translation>
     </message>
     <message>
         <source>The fonts will be here in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Schriften sind gleich da.</translation>
     </message>
     <message>
         <source>No Fonts</source>
-        <translation type="unfinished">Keine Schriften</translation>
+        <translation>Keine Schriften</translation>
     </message>
     <message>
         <source>None of these files could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine dieser Dateien konnte geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -7008,47 +7008,47 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     </message>
     <message>
         <source>draw the picture of a font that file managers show</source>
-        <translation type="unfinished"></translation>
+        <translation>das Bild einer Schrift zeichnen, das Dateiverwaltungen zeigen</translation>
     </message>
     <message>
         <source>tell what a report of a fault needs, and nobody&apos;s names</source>
-        <translation type="unfinished"></translation>
+        <translation>sagen, was ein Fehlerbericht braucht, ohne jeden Namen</translation>
     </message>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sagt, was ein Fehlerbericht braucht: Versionen, den Desktop, Anzahlen, Größen, Zeiten, die Befunde von doctor und Einstellungen. Nichts darin nennt eine Schrift, eine Datei, einen Ordner, eine Sammlung oder eine Person, und kein eingegebener Text steht darin. Er ist in jeder Sprache auf Englisch.</translation>
     </message>
     <message>
         <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts hier nennt eine Schrift, eine Datei, einen Ordner oder eine Person. Fügen Sie alles in Ihren Bericht ein, unter dem, was Sie getan und gesehen haben.</translation>
     </message>
     <message>
         <source>report takes no words</source>
-        <translation type="unfinished"></translation>
+        <translation>report nimmt keine Wörter</translation>
     </message>
     <message>
         <source>%1: has no letters or symbols to show</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hat keine Buchstaben oder Symbole zum Zeigen</translation>
     </message>
     <message>
         <source>Draws the picture of a font that file managers show: &quot;Aa&quot;, or letters or symbols of the font&apos;s own script, on a square sheet, written as PNG. FONT is a file or its file: address. It is read in a process that can do nothing but read and draw, within bounds of time and memory; for a font that cannot be shown nothing is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet das Bild einer Schrift, das Dateiverwaltungen zeigen: „Aa“ oder Buchstaben oder Symbole des eigenen Schriftsystems auf einem quadratischen Blatt, als PNG. FONT ist eine Datei oder ihre file:-Adresse. Sie wird in einem Prozess gelesen, der nur lesen und zeichnen kann, mit begrenzter Zeit und begrenztem Speicher; für eine Schrift, die nicht gezeigt werden kann, wird nichts geschrieben.</translation>
     </message>
     <message>
         <source>pixels each way, 16 to 2048; 256 if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel je Seite, 16 bis 2048; ohne Angabe 256</translation>
     </message>
     <message>
         <source>which face of a collection, from 0; the first that can be drawn if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>welcher Schnitt einer Sammlung, ab 0; ohne Angabe der erste, der sich zeichnen lässt</translation>
     </message>
     <message>
         <source>thumbnail takes a font file and a picture to write</source>
-        <translation type="unfinished"></translation>
+        <translation>thumbnail nimmt eine Schriftdatei und ein zu schreibendes Bild</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished">das Bild kann nicht codiert werden</translation>
+        <translation>das Bild kann nicht codiert werden</translation>
     </message>
 </context>
 </TS>

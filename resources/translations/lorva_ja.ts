@@ -618,27 +618,27 @@
     <name>Confinement</name>
     <message>
         <source>%1: took too long to read and was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 読み込みに時間がかかりすぎたため中止しました</translation>
     </message>
     <message>
         <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 読み込みに必要のない動作が起きたため中止しました</translation>
     </message>
     <message>
         <source>%1: takes more memory than it may have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 使用できる量を超えるメモリーが必要です</translation>
     </message>
     <message>
         <source>%1: is damaged; reading it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 破損しているため読み込めませんでした</translation>
     </message>
     <message>
         <source>%1: what is drawn of it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 描画結果が大きすぎます</translation>
     </message>
     <message>
         <source>no new process can be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいプロセスを開始できません: %1</translation>
     </message>
 </context>
 <context>
@@ -2380,79 +2380,79 @@
     <name>FontFiles</name>
     <message>
         <source>This file is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルはもうありません。</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルを読み込む権限がありません。</translation>
     </message>
     <message>
         <source>This is no file that could hold a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォントを含むことのできるファイルではありません。</translation>
     </message>
     <message>
         <source>This file is too large to be a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルは、フォントとしては大きすぎます。</translation>
     </message>
     <message>
         <source>This file holds no font that Lorva can show.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルには、Lorva で表示できるフォントがありません。</translation>
     </message>
     <message>
         <source>This font is damaged and cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォントは破損しているため表示できません。</translation>
     </message>
     <message>
         <source>This file cannot be read from its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルをディスクから読み込めません。</translation>
     </message>
     <message>
         <source>This font has no name, so no program could offer it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このフォントには名前がないため、どのアプリでも選べません。</translation>
     </message>
     <message>
         <source>Only files of this computer can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示できるのは、このコンピューターのファイルだけです。</translation>
     </message>
     <message>
         <source>So many files cannot be shown at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが多すぎて、一度には表示できません。</translation>
     </message>
     <message>
         <source>Not active</source>
-        <translation type="unfinished"></translation>
+        <translation>無効</translation>
     </message>
     <message>
         <source>Some styles are active</source>
-        <translation type="unfinished"></translation>
+        <translation>一部のスタイルが有効</translation>
     </message>
     <message>
         <source>Active through the system</source>
-        <translation type="unfinished"></translation>
+        <translation>システムにより有効</translation>
     </message>
     <message>
         <source>Active, copied to the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>有効 (フォントフォルダーにコピー済み)</translation>
     </message>
     <message>
         <source>Active, registered in place</source>
-        <translation type="unfinished"></translation>
+        <translation>有効 (元の場所で登録済み)</translation>
     </message>
     <message>
         <source>Another font has this file’s name in the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォントフォルダーに同じファイル名の別のフォントがあります</translation>
     </message>
     <message>
         <source>Not Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>表示できないファイル</translation>
     </message>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>フォントファイル</translation>
     </message>
     <message numerus="yes">
         <source>%n fonts</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 個のフォント</numerusform>
         </translation>
     </message>
@@ -3066,11 +3066,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Usage: lorva [options] [FILE|FOLDER]...</source>
         <extracomment>Options begin with &quot;--&quot;, and words in capitals stand for what is typed after them; both, and the words that an option takes, stay as they are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>使い方: lorva [オプション] [FILE|FOLDER]...</translation>
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation type="unfinished"></translation>
+        <translation>このコンピューターのすべてのフォントを、編集できる組見本として表示します。パスまたは file: アドレスで指定したフォントファイルは、専用のウィンドウに表示します。</translation>
     </message>
 </context>
 <context>
@@ -4461,76 +4461,76 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <name>lorva::FontFilesBar</name>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished">プレビュー</translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Waterfall</source>
-        <translation type="unfinished">ウォーターフォール</translation>
+        <translation>ウォーターフォール</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesFooter</name>
     <message>
         <source>Files That Failed…</source>
-        <translation type="unfinished">失敗したファイル…</translation>
+        <translation>失敗したファイル…</translation>
     </message>
     <message>
         <source>Show in Lorva</source>
-        <translation type="unfinished"></translation>
+        <translation>Lorva で表示</translation>
     </message>
     <message>
         <source>Activate All…</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて有効にする…</translation>
     </message>
     <message>
         <source>De-activate…</source>
-        <translation type="unfinished"></translation>
+        <translation>無効にする…</translation>
     </message>
     <message>
         <source>Activate Remaining Styles…</source>
-        <translation type="unfinished">残りのスタイルを有効にする…</translation>
+        <translation>残りのスタイルを有効にする…</translation>
     </message>
     <message>
         <source>Activate…</source>
-        <translation type="unfinished">有効にする…</translation>
+        <translation>有効にする…</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesList</name>
     <message>
         <source>Fonts in the Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル内のフォント</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>フォントファイル</translation>
     </message>
     <message>
         <source>Reading Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを読み込み中</translation>
     </message>
     <message>
         <source>The fonts will be here in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>まもなくフォントが表示されます。</translation>
     </message>
     <message>
         <source>No Fonts</source>
-        <translation type="unfinished">フォントなし</translation>
+        <translation>フォントなし</translation>
     </message>
     <message>
         <source>None of these files could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>どのファイルも開けませんでした。</translation>
     </message>
 </context>
 <context>
@@ -6955,47 +6955,47 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>draw the picture of a font that file managers show</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルマネージャーに表示されるフォントの画像を描画</translation>
     </message>
     <message>
         <source>tell what a report of a fault needs, and nobody&apos;s names</source>
-        <translation type="unfinished"></translation>
+        <translation>不具合の報告に必要な情報を、名前を一切含めずに表示</translation>
     </message>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
-        <translation type="unfinished"></translation>
+        <translation>不具合の報告に必要な情報を表示します: バージョン、デスクトップ、個数、サイズ、時間、doctor の診断結果、設定。フォント、ファイル、フォルダー、コレクション、人の名前や、入力されたテキストは含まれません。言語の設定にかかわらず英語で表示します。</translation>
     </message>
     <message>
         <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここには、フォント、ファイル、フォルダー、人の名前は含まれていません。行った操作と起きたことを書いた下に、全体を貼り付けて報告してください。</translation>
     </message>
     <message>
         <source>report takes no words</source>
-        <translation type="unfinished"></translation>
+        <translation>report に引数は指定できません</translation>
     </message>
     <message>
         <source>%1: has no letters or symbols to show</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 表示できる文字や記号がありません</translation>
     </message>
     <message>
         <source>Draws the picture of a font that file managers show: &quot;Aa&quot;, or letters or symbols of the font&apos;s own script, on a square sheet, written as PNG. FONT is a file or its file: address. It is read in a process that can do nothing but read and draw, within bounds of time and memory; for a font that cannot be shown nothing is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルマネージャーに表示されるフォントの画像を描画します。&quot;Aa&quot;、またはフォント本来の文字体系の文字や記号を正方形の面に描き、PNG で書き込みます。FONT はファイルまたはその file: アドレスです。フォントは、読み込みと描画しかできないプロセスで、時間とメモリーの上限内で読み込みます。表示できないフォントの場合は何も書き込みません。</translation>
     </message>
     <message>
         <source>pixels each way, 16 to 2048; 256 if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>縦横のピクセル数 (16 から 2048)。省略時は 256</translation>
     </message>
     <message>
         <source>which face of a collection, from 0; the first that can be drawn if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>コレクション内のフェイス (0 から)。省略時は描画できる最初のもの</translation>
     </message>
     <message>
         <source>thumbnail takes a font file and a picture to write</source>
-        <translation type="unfinished"></translation>
+        <translation>thumbnail にはフォントファイルと書き込む画像を指定します</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished">画像をエンコードできません</translation>
+        <translation>画像をエンコードできません</translation>
     </message>
 </context>
 </TS>

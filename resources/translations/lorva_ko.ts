@@ -618,27 +618,27 @@
     <name>Confinement</name>
     <message>
         <source>%1: took too long to read and was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 읽는 데 너무 오래 걸려 중단했습니다</translation>
     </message>
     <message>
         <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 읽기에 전혀 필요 없는 동작을 일으켜 중단했습니다</translation>
     </message>
     <message>
         <source>%1: takes more memory than it may have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 허용된 것보다 많은 메모리를 씁니다</translation>
     </message>
     <message>
         <source>%1: is damaged; reading it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 손상되어 읽지 못했습니다</translation>
     </message>
     <message>
         <source>%1: what is drawn of it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 그린 결과가 너무 큽니다</translation>
     </message>
     <message>
         <source>no new process can be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>새 프로세스를 시작할 수 없습니다: %1</translation>
     </message>
 </context>
 <context>
@@ -2380,79 +2380,79 @@
     <name>FontFiles</name>
     <message>
         <source>This file is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일이 더는 없습니다.</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일을 읽을 권한이 없습니다.</translation>
     </message>
     <message>
         <source>This is no file that could hold a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>글꼴이 들어 있을 수 있는 파일이 아닙니다.</translation>
     </message>
     <message>
         <source>This file is too large to be a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>글꼴이라고 하기에는 파일이 너무 큽니다.</translation>
     </message>
     <message>
         <source>This file holds no font that Lorva can show.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일에는 Lorva가 표시할 수 있는 글꼴이 없습니다.</translation>
     </message>
     <message>
         <source>This font is damaged and cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 글꼴은 손상되어 표시할 수 없습니다.</translation>
     </message>
     <message>
         <source>This file cannot be read from its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일을 디스크에서 읽을 수 없습니다.</translation>
     </message>
     <message>
         <source>This font has no name, so no program could offer it.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 글꼴에는 이름이 없어 어떤 프로그램에서도 고를 수 없습니다.</translation>
     </message>
     <message>
         <source>Only files of this computer can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터에 있는 파일만 표시할 수 있습니다.</translation>
     </message>
     <message>
         <source>So many files cannot be shown at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>이렇게 많은 파일을 한 번에 표시할 수 없습니다.</translation>
     </message>
     <message>
         <source>Not active</source>
-        <translation type="unfinished"></translation>
+        <translation>활성 아님</translation>
     </message>
     <message>
         <source>Some styles are active</source>
-        <translation type="unfinished"></translation>
+        <translation>일부 스타일이 활성 상태</translation>
     </message>
     <message>
         <source>Active through the system</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템에서 활성</translation>
     </message>
     <message>
         <source>Active, copied to the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>활성, Fonts 폴더로 복사됨</translation>
     </message>
     <message>
         <source>Active, registered in place</source>
-        <translation type="unfinished"></translation>
+        <translation>활성, 원래 위치에서 등록됨</translation>
     </message>
     <message>
         <source>Another font has this file’s name in the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonts 폴더에 파일 이름이 같은 다른 글꼴이 있음</translation>
     </message>
     <message>
         <source>Not Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>표시 안 됨</translation>
     </message>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>글꼴 파일</translation>
     </message>
     <message numerus="yes">
         <source>%n fonts</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>글꼴 %n개</numerusform>
         </translation>
     </message>
@@ -3066,11 +3066,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Usage: lorva [options] [FILE|FOLDER]...</source>
         <extracomment>Options begin with &quot;--&quot;, and words in capitals stand for what is typed after them; both, and the words that an option takes, stay as they are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>사용법: lorva [옵션] [FILE|FOLDER]...</translation>
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 컴퓨터의 모든 글꼴을 살아 있는 견본으로 보여 줍니다. 경로나 file: 주소로 글꼴 파일을 지정하면 별도의 창에 보여 줍니다.</translation>
     </message>
 </context>
 <context>
@@ -4461,76 +4461,76 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <name>lorva::FontFilesBar</name>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished">미리 보기</translation>
+        <translation>미리 보기</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>텍스트</translation>
     </message>
     <message>
         <source>Waterfall</source>
-        <translation type="unfinished">워터폴</translation>
+        <translation>워터폴</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesFooter</name>
     <message>
         <source>Files That Failed…</source>
-        <translation type="unfinished">실패한 파일…</translation>
+        <translation>실패한 파일…</translation>
     </message>
     <message>
         <source>Show in Lorva</source>
-        <translation type="unfinished"></translation>
+        <translation>Lorva에서 보기</translation>
     </message>
     <message>
         <source>Activate All…</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 활성화…</translation>
     </message>
     <message>
         <source>De-activate…</source>
-        <translation type="unfinished"></translation>
+        <translation>비활성화…</translation>
     </message>
     <message>
         <source>Activate Remaining Styles…</source>
-        <translation type="unfinished">나머지 스타일 활성화…</translation>
+        <translation>나머지 스타일 활성화…</translation>
     </message>
     <message>
         <source>Activate…</source>
-        <translation type="unfinished">활성화…</translation>
+        <translation>활성화…</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesList</name>
     <message>
         <source>Fonts in the Files</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 든 글꼴</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>글꼴 파일</translation>
     </message>
     <message>
         <source>Reading Files</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 읽는 중</translation>
     </message>
     <message>
         <source>The fonts will be here in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>잠시 후 글꼴이 표시됩니다.</translation>
     </message>
     <message>
         <source>No Fonts</source>
-        <translation type="unfinished">글꼴 없음</translation>
+        <translation>글꼴 없음</translation>
     </message>
     <message>
         <source>None of these files could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일들을 하나도 열 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -6955,47 +6955,47 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>draw the picture of a font that file managers show</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 관리자에 표시되는 글꼴 그림 그리기</translation>
     </message>
     <message>
         <source>tell what a report of a fault needs, and nobody&apos;s names</source>
-        <translation type="unfinished"></translation>
+        <translation>오류 보고에 필요한 정보 알림, 이름은 없음</translation>
     </message>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
-        <translation type="unfinished"></translation>
+        <translation>오류 보고에 필요한 정보를 알려 줍니다: 버전, 데스크톱, 개수, 크기, 시간, doctor가 발견한 것, 설정. 글꼴, 파일, 폴더, 모음, 사람의 이름이나 입력한 텍스트는 들어 있지 않습니다. 언어와 상관없이 영어로 출력합니다.</translation>
     </message>
     <message>
         <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation type="unfinished"></translation>
+        <translation>여기에는 글꼴, 파일, 폴더, 사람의 이름이 없습니다. 보고서에 한 일과 본 것을 적고 그 아래에 이 내용을 모두 붙여 넣으세요.</translation>
     </message>
     <message>
         <source>report takes no words</source>
-        <translation type="unfinished"></translation>
+        <translation>report에는 인수를 쓰지 않습니다</translation>
     </message>
     <message>
         <source>%1: has no letters or symbols to show</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 표시할 글자나 기호가 없습니다</translation>
     </message>
     <message>
         <source>Draws the picture of a font that file managers show: &quot;Aa&quot;, or letters or symbols of the font&apos;s own script, on a square sheet, written as PNG. FONT is a file or its file: address. It is read in a process that can do nothing but read and draw, within bounds of time and memory; for a font that cannot be shown nothing is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 관리자에 표시되는 글꼴 그림을 그립니다: 정사각형 바탕에 “Aa” 또는 글꼴의 문자 체계에 속한 글자나 기호를 그려 PNG로 씁니다. FONT는 파일이나 그 file: 주소입니다. 읽고 그리는 것만 할 수 있는 프로세스가 정해진 시간과 메모리 안에서 읽으며, 표시할 수 없는 글꼴이면 아무것도 쓰지 않습니다.</translation>
     </message>
     <message>
         <source>pixels each way, 16 to 2048; 256 if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>가로세로 픽셀, 16~2048. 없으면 256</translation>
     </message>
     <message>
         <source>which face of a collection, from 0; the first that can be drawn if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>컬렉션의 몇 번째 페이스인지, 0부터. 없으면 그릴 수 있는 첫 페이스</translation>
     </message>
     <message>
         <source>thumbnail takes a font file and a picture to write</source>
-        <translation type="unfinished"></translation>
+        <translation>thumbnail에는 글꼴 파일과 쓸 그림을 씁니다</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished">그림을 인코딩할 수 없습니다</translation>
+        <translation>그림을 인코딩할 수 없습니다</translation>
     </message>
 </context>
 </TS>

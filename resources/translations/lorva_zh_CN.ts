@@ -618,27 +618,27 @@
     <name>Confinement</name>
     <message>
         <source>%1: took too long to read and was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：读取耗时过长，已放弃</translation>
     </message>
     <message>
         <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：已放弃，读取时出现了读取绝不需要的操作</translation>
     </message>
     <message>
         <source>%1: takes more memory than it may have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：所需内存超出允许的上限</translation>
     </message>
     <message>
         <source>%1: is damaged; reading it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：已损坏，读取失败</translation>
     </message>
     <message>
         <source>%1: what is drawn of it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：绘制结果太大</translation>
     </message>
     <message>
         <source>no new process can be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动新进程：%1</translation>
     </message>
 </context>
 <context>
@@ -2380,79 +2380,79 @@
     <name>FontFiles</name>
     <message>
         <source>This file is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>此文件已不存在。</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>您没有读取此文件的权限。</translation>
     </message>
     <message>
         <source>This is no file that could hold a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>这不是可包含字体的文件。</translation>
     </message>
     <message>
         <source>This file is too large to be a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>此文件太大，不可能是字体。</translation>
     </message>
     <message>
         <source>This file holds no font that Lorva can show.</source>
-        <translation type="unfinished"></translation>
+        <translation>此文件中没有 Lorva 能显示的字体。</translation>
     </message>
     <message>
         <source>This font is damaged and cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>此字体已损坏，无法显示。</translation>
     </message>
     <message>
         <source>This file cannot be read from its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法从磁盘读取此文件。</translation>
     </message>
     <message>
         <source>This font has no name, so no program could offer it.</source>
-        <translation type="unfinished"></translation>
+        <translation>此字体没有名称，因此没有程序能列出它。</translation>
     </message>
     <message>
         <source>Only files of this computer can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>只能显示这台电脑上的文件。</translation>
     </message>
     <message>
         <source>So many files cannot be shown at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件太多，无法同时显示。</translation>
     </message>
     <message>
         <source>Not active</source>
-        <translation type="unfinished"></translation>
+        <translation>未启用</translation>
     </message>
     <message>
         <source>Some styles are active</source>
-        <translation type="unfinished"></translation>
+        <translation>部分样式已启用</translation>
     </message>
     <message>
         <source>Active through the system</source>
-        <translation type="unfinished"></translation>
+        <translation>已由系统启用</translation>
     </message>
     <message>
         <source>Active, copied to the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>已启用，已复制到字体文件夹</translation>
     </message>
     <message>
         <source>Active, registered in place</source>
-        <translation type="unfinished"></translation>
+        <translation>已启用，已原位注册</translation>
     </message>
     <message>
         <source>Another font has this file’s name in the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>字体文件夹中已有另一款字体使用此文件名</translation>
     </message>
     <message>
         <source>Not Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>未显示</translation>
     </message>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>字体文件</translation>
     </message>
     <message numerus="yes">
         <source>%n fonts</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 款字体</numerusform>
         </translation>
     </message>
@@ -3066,11 +3066,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Usage: lorva [options] [FILE|FOLDER]...</source>
         <extracomment>Options begin with &quot;--&quot;, and words in capitals stand for what is typed after them; both, and the words that an option takes, stay as they are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>用法：lorva [选项] [FILE|FOLDER]...</translation>
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation type="unfinished"></translation>
+        <translation>以可编辑的样张显示这台电脑上的所有字体；以路径或 file: 地址给出的字体文件则在单独的窗口中显示。</translation>
     </message>
 </context>
 <context>
@@ -4461,76 +4461,76 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <name>lorva::FontFilesBar</name>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>信息</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished">预览</translation>
+        <translation>预览</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>文本</translation>
     </message>
     <message>
         <source>Waterfall</source>
-        <translation type="unfinished">字号阶梯</translation>
+        <translation>字号阶梯</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesFooter</name>
     <message>
         <source>Files That Failed…</source>
-        <translation type="unfinished">失败的文件…</translation>
+        <translation>失败的文件…</translation>
     </message>
     <message>
         <source>Show in Lorva</source>
-        <translation type="unfinished"></translation>
+        <translation>在 Lorva 中显示</translation>
     </message>
     <message>
         <source>Activate All…</source>
-        <translation type="unfinished"></translation>
+        <translation>全部启用…</translation>
     </message>
     <message>
         <source>De-activate…</source>
-        <translation type="unfinished"></translation>
+        <translation>停用…</translation>
     </message>
     <message>
         <source>Activate Remaining Styles…</source>
-        <translation type="unfinished">启用其余样式…</translation>
+        <translation>启用其余样式…</translation>
     </message>
     <message>
         <source>Activate…</source>
-        <translation type="unfinished">启用…</translation>
+        <translation>启用…</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesList</name>
     <message>
         <source>Fonts in the Files</source>
-        <translation type="unfinished"></translation>
+        <translation>文件中的字体</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>字体文件</translation>
     </message>
     <message>
         <source>Reading Files</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取文件</translation>
     </message>
     <message>
         <source>The fonts will be here in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>字体稍后就会显示在这里。</translation>
     </message>
     <message>
         <source>No Fonts</source>
-        <translation type="unfinished">没有字体</translation>
+        <translation>没有字体</translation>
     </message>
     <message>
         <source>None of these files could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>这些文件都无法打开。</translation>
     </message>
 </context>
 <context>
@@ -6955,47 +6955,47 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>draw the picture of a font that file managers show</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制文件管理器中显示的字体图片</translation>
     </message>
     <message>
         <source>tell what a report of a fault needs, and nobody&apos;s names</source>
-        <translation type="unfinished"></translation>
+        <translation>给出问题报告所需的信息，不含任何名称</translation>
     </message>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
-        <translation type="unfinished"></translation>
+        <translation>给出问题报告所需的信息：版本、桌面、数量、大小、耗时、doctor 的检查结果和设置。其中不含字体、文件、文件夹、收藏集的名称和人名，也不含输入过的文本。无论使用何种语言，内容均为英文。</translation>
     </message>
     <message>
         <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation type="unfinished"></translation>
+        <translation>此处不含字体、文件、文件夹的名称和人名。请将全部内容粘贴到您的报告中，放在您的操作和所见情况之后。</translation>
     </message>
     <message>
         <source>report takes no words</source>
-        <translation type="unfinished"></translation>
+        <translation>report 不接受参数</translation>
     </message>
     <message>
         <source>%1: has no letters or symbols to show</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：没有可显示的字母或符号</translation>
     </message>
     <message>
         <source>Draws the picture of a font that file managers show: &quot;Aa&quot;, or letters or symbols of the font&apos;s own script, on a square sheet, written as PNG. FONT is a file or its file: address. It is read in a process that can do nothing but read and draw, within bounds of time and memory; for a font that cannot be shown nothing is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>绘制文件管理器中显示的字体图片：在方形底面上绘制 &quot;Aa&quot;，或字体自身文字的字母或符号，写为 PNG。FONT 是文件或其 file: 地址。读取在只能读取和绘制的进程中进行，时间和内存均有上限；若字体无法显示，则不写入任何内容。</translation>
     </message>
     <message>
         <source>pixels each way, 16 to 2048; 256 if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>边长像素，16 到 2048；未指定则为 256</translation>
     </message>
     <message>
         <source>which face of a collection, from 0; the first that can be drawn if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>字体集中的第几款字体，从 0 起；未指定则为第一款可绘制的字体</translation>
     </message>
     <message>
         <source>thumbnail takes a font file and a picture to write</source>
-        <translation type="unfinished"></translation>
+        <translation>thumbnail 需要一个字体文件和一个要写入的图片</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished">图片无法编码</translation>
+        <translation>图片无法编码</translation>
     </message>
 </context>
 </TS>

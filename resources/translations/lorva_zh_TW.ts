@@ -618,27 +618,27 @@
     <name>Confinement</name>
     <message>
         <source>%1: took too long to read and was given up</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：讀取時間過長，已放棄</translation>
     </message>
     <message>
         <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：已放棄，讀取時出現讀取絕不需要的動作</translation>
     </message>
     <message>
         <source>%1: takes more memory than it may have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：所需的記憶體超過允許的上限</translation>
     </message>
     <message>
         <source>%1: is damaged; reading it failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：已損毀，讀取失敗</translation>
     </message>
     <message>
         <source>%1: what is drawn of it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：繪製結果太大</translation>
     </message>
     <message>
         <source>no new process can be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>無法啟動新的處理程序：%1</translation>
     </message>
 </context>
 <context>
@@ -2380,79 +2380,79 @@
     <name>FontFiles</name>
     <message>
         <source>This file is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>這個檔案已不存在。</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>您沒有讀取這個檔案的權限。</translation>
     </message>
     <message>
         <source>This is no file that could hold a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>這不是可包含字型的檔案。</translation>
     </message>
     <message>
         <source>This file is too large to be a font.</source>
-        <translation type="unfinished"></translation>
+        <translation>這個檔案太大，不可能是字型。</translation>
     </message>
     <message>
         <source>This file holds no font that Lorva can show.</source>
-        <translation type="unfinished"></translation>
+        <translation>這個檔案沒有 Lorva 能顯示的字型。</translation>
     </message>
     <message>
         <source>This font is damaged and cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>這款字型已損毀，無法顯示。</translation>
     </message>
     <message>
         <source>This file cannot be read from its disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法從磁碟讀取這個檔案。</translation>
     </message>
     <message>
         <source>This font has no name, so no program could offer it.</source>
-        <translation type="unfinished"></translation>
+        <translation>這款字型沒有名稱，因此沒有程式能列出它。</translation>
     </message>
     <message>
         <source>Only files of this computer can be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>只能顯示這台電腦上的檔案。</translation>
     </message>
     <message>
         <source>So many files cannot be shown at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案太多，無法同時顯示。</translation>
     </message>
     <message>
         <source>Not active</source>
-        <translation type="unfinished"></translation>
+        <translation>未啟用</translation>
     </message>
     <message>
         <source>Some styles are active</source>
-        <translation type="unfinished"></translation>
+        <translation>部分樣式已啟用</translation>
     </message>
     <message>
         <source>Active through the system</source>
-        <translation type="unfinished"></translation>
+        <translation>已由系統啟用</translation>
     </message>
     <message>
         <source>Active, copied to the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>已啟用，已複製到字型資料夾</translation>
     </message>
     <message>
         <source>Active, registered in place</source>
-        <translation type="unfinished"></translation>
+        <translation>已啟用，已就地註冊</translation>
     </message>
     <message>
         <source>Another font has this file’s name in the Fonts folder</source>
-        <translation type="unfinished"></translation>
+        <translation>字型資料夾中已有另一款字型使用這個檔名</translation>
     </message>
     <message>
         <source>Not Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>未顯示</translation>
     </message>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>字型檔</translation>
     </message>
     <message numerus="yes">
         <source>%n fonts</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n 款字型</numerusform>
         </translation>
     </message>
@@ -3066,11 +3066,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Usage: lorva [options] [FILE|FOLDER]...</source>
         <extracomment>Options begin with &quot;--&quot;, and words in capitals stand for what is typed after them; both, and the words that an option takes, stay as they are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>用法：lorva [選項] [FILE|FOLDER]...</translation>
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation type="unfinished"></translation>
+        <translation>以可編輯的樣張顯示這台電腦的所有字型；以路徑或 file: 位址指定的字型檔，則在獨立的視窗中顯示。</translation>
     </message>
 </context>
 <context>
@@ -4461,76 +4461,76 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <name>lorva::FontFilesBar</name>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>資訊</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished">預覽</translation>
+        <translation>預覽</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">文字</translation>
+        <translation>文字</translation>
     </message>
     <message>
         <source>Waterfall</source>
-        <translation type="unfinished">字級階梯</translation>
+        <translation>字級階梯</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesFooter</name>
     <message>
         <source>Files That Failed…</source>
-        <translation type="unfinished">失敗的檔案…</translation>
+        <translation>失敗的檔案…</translation>
     </message>
     <message>
         <source>Show in Lorva</source>
-        <translation type="unfinished"></translation>
+        <translation>在 Lorva 中顯示</translation>
     </message>
     <message>
         <source>Activate All…</source>
-        <translation type="unfinished"></translation>
+        <translation>全部啟用…</translation>
     </message>
     <message>
         <source>De-activate…</source>
-        <translation type="unfinished"></translation>
+        <translation>停用…</translation>
     </message>
     <message>
         <source>Activate Remaining Styles…</source>
-        <translation type="unfinished">啟用其餘樣式…</translation>
+        <translation>啟用其餘樣式…</translation>
     </message>
     <message>
         <source>Activate…</source>
-        <translation type="unfinished">啟用…</translation>
+        <translation>啟用…</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesList</name>
     <message>
         <source>Fonts in the Files</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案中的字型</translation>
     </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
     <message>
         <source>Font Files</source>
-        <translation type="unfinished"></translation>
+        <translation>字型檔</translation>
     </message>
     <message>
         <source>Reading Files</source>
-        <translation type="unfinished"></translation>
+        <translation>正在讀取檔案</translation>
     </message>
     <message>
         <source>The fonts will be here in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>字型稍後就會顯示在這裡。</translation>
     </message>
     <message>
         <source>No Fonts</source>
-        <translation type="unfinished">沒有字型</translation>
+        <translation>沒有字型</translation>
     </message>
     <message>
         <source>None of these files could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>這些檔案都無法開啟。</translation>
     </message>
 </context>
 <context>
@@ -6955,47 +6955,47 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>draw the picture of a font that file managers show</source>
-        <translation type="unfinished"></translation>
+        <translation>繪製檔案管理程式所顯示的字型圖片</translation>
     </message>
     <message>
         <source>tell what a report of a fault needs, and nobody&apos;s names</source>
-        <translation type="unfinished"></translation>
+        <translation>列出問題回報所需的資訊，不含任何名稱</translation>
     </message>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
-        <translation type="unfinished"></translation>
+        <translation>列出問題回報所需的資訊：版本、桌面、數量、大小、時間、doctor 的檢查結果與設定。其中不含字型、檔案、資料夾、收藏集的名稱與人名，也不含輸入過的文字。無論使用何種語言，內容一律為英文。</translation>
     </message>
     <message>
         <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation type="unfinished"></translation>
+        <translation>此處不含字型、檔案、資料夾的名稱與人名。請將全部內容貼到您的回報中，放在您的操作與所見情況之後。</translation>
     </message>
     <message>
         <source>report takes no words</source>
-        <translation type="unfinished"></translation>
+        <translation>report 不接受引數</translation>
     </message>
     <message>
         <source>%1: has no letters or symbols to show</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：沒有可顯示的字母或符號</translation>
     </message>
     <message>
         <source>Draws the picture of a font that file managers show: &quot;Aa&quot;, or letters or symbols of the font&apos;s own script, on a square sheet, written as PNG. FONT is a file or its file: address. It is read in a process that can do nothing but read and draw, within bounds of time and memory; for a font that cannot be shown nothing is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>繪製檔案管理程式所顯示的字型圖片：在方形底面上繪製 &quot;Aa&quot;，或字型本身文字系統的字母或符號，寫成 PNG。FONT 是檔案或其 file: 位址。讀取時使用只能讀取與繪製的處理程序，時間與記憶體均有上限；若字型無法顯示，則不會寫入任何內容。</translation>
     </message>
     <message>
         <source>pixels each way, 16 to 2048; 256 if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>邊長像素，16 到 2048；未指定則為 256</translation>
     </message>
     <message>
         <source>which face of a collection, from 0; the first that can be drawn if not given</source>
-        <translation type="unfinished"></translation>
+        <translation>集合檔中的第幾款字型，從 0 起算；未指定則為第一款可繪製的字型</translation>
     </message>
     <message>
         <source>thumbnail takes a font file and a picture to write</source>
-        <translation type="unfinished"></translation>
+        <translation>thumbnail 須有一個字型檔與一個要寫入的圖片</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished">無法編碼圖片</translation>
+        <translation>無法編碼圖片</translation>
     </message>
 </context>
 </TS>
