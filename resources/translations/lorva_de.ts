@@ -1029,7 +1029,7 @@
     </message>
     <message>
         <source>Contextual Alternatives</source>
-        <translation>Kontextbedingte Alternativen</translation>
+        <translation>Kontextbedingte Varianten</translation>
     </message>
     <message>
         <source>Lower Case</source>
@@ -2976,7 +2976,7 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     </message>
     <message>
         <source>--point-size takes a positive number of points</source>
-        <translation>--point-size nimmt eine positive Zahl von Punkt</translation>
+        <translation>--point-size nimmt eine positive Zahl in Punkt</translation>
     </message>
     <message>
         <source>add the fonts of a folder for this start (repeatable)</source>
@@ -4276,7 +4276,7 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <name>lorva::ComparisonView</name>
     <message>
         <source>Add Family…</source>
-        <translation>Familie hinzufügen&#xa0;…</translation>
+        <translation>Hinzufügen&#xa0;…</translation>
     </message>
     <message>
         <source>Comparison</source>
@@ -4867,7 +4867,7 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     </message>
     <message>
         <source>Show in File Manager</source>
-        <translation>In der Dateiverwaltung zeigen</translation>
+        <translation>Im Dateimanager zeigen</translation>
     </message>
     <message>
         <source>Open in Browser</source>

@@ -3070,7 +3070,7 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation>このコンピューターのすべてのフォントを、編集できる組見本として表示します。パスまたは file: アドレスで指定したフォントファイルは、専用のウィンドウに表示します。</translation>
+        <translation>このコンピューターのすべてのフォントを、実際の書体で組んで表示します。パスまたは file: アドレスで指定したフォントファイルは、専用のウィンドウに表示します。</translation>
     </message>
 </context>
 <context>
@@ -4827,7 +4827,7 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     </message>
     <message>
         <source>More</source>
-        <translation>その他</translation>
+        <translation>もっと見る</translation>
     </message>
     <message>
         <source>Show in File Manager</source>

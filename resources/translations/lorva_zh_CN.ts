@@ -3070,7 +3070,7 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation>以可编辑的样张显示这台电脑上的所有字体；以路径或 file: 地址给出的字体文件则在单独的窗口中显示。</translation>
+        <translation>以实时样张显示这台电脑上的所有字体；以路径或 file: 地址给出的字体文件则在单独的窗口中显示。</translation>
     </message>
 </context>
 <context>

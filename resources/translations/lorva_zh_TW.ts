@@ -3070,7 +3070,7 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     </message>
     <message>
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
-        <translation>以可編輯的樣張顯示這台電腦的所有字型；以路徑或 file: 位址指定的字型檔，則在獨立的視窗中顯示。</translation>
+        <translation>以即時樣張顯示這台電腦的所有字型；以路徑或 file: 位址指定的字型檔，則在獨立的視窗中顯示。</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,16 @@ QString textLanguageFor(const QLocale &locale)
     return textLanguages().contains(code) ? code : QString();
 }
 
+/// Dates, numbers and lists stand in the texts and speak their language: in the way of the user's
+/// own region, where one speaks it there.
+void useLocaleOf(const QString &language)
+{
+    const QLocale system = QLocale::system();
+    const bool isNeutral = system.language() == QLocale::C && language == kEnglish;
+    if (!isNeutral && textLanguageFor(system) != language)
+        QLocale::setDefault(QLocale(language));
+}
+
 } // namespace
 
 QStringList textLanguages()
@@ -67,6 +77,7 @@ QString textLanguageFor(const QStringList &wanted)
 
 void installTranslations(const QString &language)
 {
+    useLocaleOf(language);
     // The one installed last is asked first: what a language lacks is said in English.
     const QString ours = QStringLiteral(":/translations");
     install(QStringLiteral("lorva_") + kEnglish, ours);

@@ -18,7 +18,8 @@ QStringList textLanguages();
 QString textLanguageFor(const QStringList &wanted);
 
 /// Lets tr() answer in `language`, one of textLanguages(); what the toolkit itself says follows
-/// where its own texts are installed. To be called once, with the application object and before
+/// where its own texts are installed. QLocale's default follows, too, unless the system's locale is
+/// one of that language. To be called once, with the application object and before
 /// the first text is made. Thread: main.
 void installTranslations(const QString &language);
 

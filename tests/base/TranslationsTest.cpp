@@ -3,6 +3,9 @@
 #include "base/Translations.h"
 #include "support/QtPrinters.h"
 
+#include <QDate>
+#include <QLocale>
+
 #include <gtest/gtest.h>
 
 namespace lorva {
@@ -42,6 +45,16 @@ INSTANTIATE_TEST_SUITE_P(Rows, TextLanguage,
                                          WantedRow{"TheSecondBest", {"fr_FR", "ko", "de"}, "ko"},
                                          WantedRow{"EnglishBeforeOthers", {"en_GB", "de"}, "en"}),
                          [](const auto &row) { return std::string(row.param.name); });
+
+TEST(Translations, BringTheirDatesAndLists)
+{
+    EXPECT_EQ(QLocale().language(), QLocale::C) << "English without a region stays as it is";
+    installTranslations(QStringLiteral("ja"));
+    EXPECT_EQ(QLocale().toString(QDate(2026, 11, 22), QLocale::LongFormat),
+              QStringLiteral("2026年11月22日日曜日"));
+    EXPECT_EQ(QLocale().createSeparatedList({"A", "B", "C"}), QStringLiteral("A、B、C"));
+    QLocale::setDefault(QLocale::system());
+}
 
 } // namespace
 } // namespace lorva
