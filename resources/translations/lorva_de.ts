@@ -444,6 +444,18 @@
         <source>Foundry</source>
         <translation>Gießerei</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>style</comment>
+        <extracomment>The family has no style category.</extracomment>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>foundry</comment>
+        <extracomment>The family has no foundry.</extracomment>
+        <translation>Keine</translation>
+    </message>
 </context>
 <context>
     <name>CharacterBlocks</name>
@@ -3868,14 +3880,6 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <message>
         <source>cannot write the trace %1: %2</source>
         <translation>das Ablaufprotokoll %1 kann nicht geschrieben werden: %2</translation>
-    </message>
-</context>
-<context>
-    <name>Texts</name>
-    <message>
-        <source>None</source>
-        <extracomment>No style, or no foundry, of a font family.</extracomment>
-        <translation>Ohne</translation>
     </message>
 </context>
 <context>

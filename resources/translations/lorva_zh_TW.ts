@@ -425,6 +425,18 @@
         <source>Foundry</source>
         <translation>字型廠商</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>style</comment>
+        <extracomment>The family has no style category.</extracomment>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>foundry</comment>
+        <extracomment>The family has no foundry.</extracomment>
+        <translation>無</translation>
+    </message>
 </context>
 <context>
     <name>CharacterBlocks</name>
@@ -3838,14 +3850,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>cannot write the trace %1: %2</source>
         <translation>無法寫入追蹤檔 %1：%2</translation>
-    </message>
-</context>
-<context>
-    <name>Texts</name>
-    <message>
-        <source>None</source>
-        <extracomment>No style, or no foundry, of a font family.</extracomment>
-        <translation>無</translation>
     </message>
 </context>
 <context>
