@@ -2739,6 +2739,14 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     </message>
 </context>
 <context>
+    <name>HelpText</name>
+    <message>
+        <source>Usage:</source>
+        <extracomment>before the ways in which a command is called, in its help</extracomment>
+        <translation>Aufruf:</translation>
+    </message>
+</context>
+<context>
     <name>HistoryReport</name>
     <message>
         <source>Activated %1</source>
@@ -5649,11 +5657,6 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     <message>
         <source>there is no foundry %1</source>
         <translation>es gibt keine Gießerei %1</translation>
-    </message>
-    <message>
-        <source>Usage:</source>
-        <extracomment>before the ways in which a command is called, in its help</extracomment>
-        <translation>Aufruf:</translation>
     </message>
     <message>
         <source>show this help</source>

@@ -2716,6 +2716,14 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     </message>
 </context>
 <context>
+    <name>HelpText</name>
+    <message>
+        <source>Usage:</source>
+        <extracomment>before the ways in which a command is called, in its help</extracomment>
+        <translation>用法：</translation>
+    </message>
+</context>
+<context>
     <name>HistoryReport</name>
     <message>
         <source>Activated %1</source>
@@ -6335,11 +6343,6 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>%1 is not in foundry %2</source>
         <translation>%1不在字体厂商%2中</translation>
-    </message>
-    <message>
-        <source>Usage:</source>
-        <extracomment>before the ways in which a command is called, in its help</extracomment>
-        <translation>用法：</translation>
     </message>
     <message>
         <source>show this help</source>
