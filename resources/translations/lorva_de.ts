@@ -444,6 +444,18 @@
         <source>Foundry</source>
         <translation>Gießerei</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>style</comment>
+        <extracomment>The family has no style category.</extracomment>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>foundry</comment>
+        <extracomment>The family has no foundry.</extracomment>
+        <translation>Keine</translation>
+    </message>
 </context>
 <context>
     <name>CharacterBlocks</name>
@@ -2727,6 +2739,14 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     </message>
 </context>
 <context>
+    <name>HelpText</name>
+    <message>
+        <source>Usage:</source>
+        <extracomment>before the ways in which a command is called, in its help</extracomment>
+        <translation>Aufruf:</translation>
+    </message>
+</context>
+<context>
     <name>HistoryReport</name>
     <message>
         <source>Activated %1</source>
@@ -3868,14 +3888,6 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <message>
         <source>cannot write the trace %1: %2</source>
         <translation>das Ablaufprotokoll %1 kann nicht geschrieben werden: %2</translation>
-    </message>
-</context>
-<context>
-    <name>Texts</name>
-    <message>
-        <source>None</source>
-        <extracomment>No style, or no foundry, of a font family.</extracomment>
-        <translation>Ohne</translation>
     </message>
 </context>
 <context>
@@ -5645,11 +5657,6 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     <message>
         <source>there is no foundry %1</source>
         <translation>es gibt keine Gießerei %1</translation>
-    </message>
-    <message>
-        <source>Usage:</source>
-        <extracomment>before the ways in which a command is called, in its help</extracomment>
-        <translation>Aufruf:</translation>
     </message>
     <message>
         <source>show this help</source>

@@ -425,6 +425,18 @@
         <source>Foundry</source>
         <translation>字型廠商</translation>
     </message>
+    <message>
+        <source>None</source>
+        <comment>style</comment>
+        <extracomment>The family has no style category.</extracomment>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>foundry</comment>
+        <extracomment>The family has no foundry.</extracomment>
+        <translation>無</translation>
+    </message>
 </context>
 <context>
     <name>CharacterBlocks</name>
@@ -2704,6 +2716,14 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     </message>
 </context>
 <context>
+    <name>HelpText</name>
+    <message>
+        <source>Usage:</source>
+        <extracomment>before the ways in which a command is called, in its help</extracomment>
+        <translation>用法：</translation>
+    </message>
+</context>
+<context>
     <name>HistoryReport</name>
     <message>
         <source>Activated %1</source>
@@ -3838,14 +3858,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>cannot write the trace %1: %2</source>
         <translation>無法寫入追蹤檔 %1：%2</translation>
-    </message>
-</context>
-<context>
-    <name>Texts</name>
-    <message>
-        <source>None</source>
-        <extracomment>No style, or no foundry, of a font family.</extracomment>
-        <translation>無</translation>
     </message>
 </context>
 <context>
@@ -6331,11 +6343,6 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>%1 is not in foundry %2</source>
         <translation>%1 不在字型廠商 %2 中</translation>
-    </message>
-    <message>
-        <source>Usage:</source>
-        <extracomment>before the ways in which a command is called, in its help</extracomment>
-        <translation>用法：</translation>
     </message>
     <message>
         <source>show this help</source>

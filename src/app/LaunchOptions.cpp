@@ -267,68 +267,6 @@ const Option *findOption(const QByteArray &name)
     return found == std::end(kOptions) ? nullptr : found;
 }
 
-/// One of --help's lines: an option, and what it does.
-struct HelpLine
-{
-    const char *option;
-    const char *text;
-};
-
-constexpr HelpLine kHelpLines[]{
-    {"--folder DIR",
-     QT_TRANSLATE_NOOP("LaunchOptions", "add the fonts of a folder for this start (repeatable)")},
-    {"--source SOURCE",
-     QT_TRANSLATE_NOOP("LaunchOptions",
-                       "start in all, active, inactive, style:ID, collection:NAME, "
-                       "foundry:ID or discover")},
-    {"--search TEXT",
-     QT_TRANSLATE_NOOP("LaunchOptions", "start with this text in the search field")},
-    {"--select NAME", QT_TRANSLATE_NOOP("LaunchOptions", "start with this family selected")},
-    {"--detail NAME", QT_TRANSLATE_NOOP("LaunchOptions", "open this family in the detail view")},
-    {"--stage STAGE",
-     QT_TRANSLATE_NOOP("LaunchOptions", "show it as text, waterfall or comparison there")},
-    {"--inspector TAB", QT_TRANSLATE_NOOP("LaunchOptions", "show its features or info beside it")},
-    {"--quiz PHASE",
-     QT_TRANSLATE_NOOP("LaunchOptions",
-                       "start in the font quiz: its intro, playing or its poster")},
-    {"--welcome scene|card",
-     QT_TRANSLATE_NOOP("LaunchOptions", "show the welcome, whether it was seen before or not")},
-    {"--no-welcome", QT_TRANSLATE_NOOP("LaunchOptions", "do not show it")},
-    {"--view grid|list", QT_TRANSLATE_NOOP("LaunchOptions", "start in this view")},
-    {"--point-size N",
-     QT_TRANSLATE_NOOP("LaunchOptions", "start with specimens of this size, in points")},
-    {"--weight N",
-     QT_TRANSLATE_NOOP("LaunchOptions", "start with specimens of this weight, 100 to 900")},
-    {"--color MODE",
-     QT_TRANSLATE_NOOP("LaunchOptions", "start with white, black or custom colours, or an image")},
-    {"--image ID",
-     QT_TRANSLATE_NOOP("LaunchOptions", "start with this background image (--color image)")},
-    {"--logo FILE", QT_TRANSLATE_NOOP("LaunchOptions", "start with this image as logo")},
-    {"--text TEXT", QT_TRANSLATE_NOOP("LaunchOptions", "start with this sample text")},
-    {"--appearance MODE",
-     QT_TRANSLATE_NOOP("LaunchOptions", "light or dark, whatever the desktop is")},
-    {"--screenshot FILE",
-     QT_TRANSLATE_NOOP("LaunchOptions",
-                       "show the window off screen, write its picture as PNG, and quit")},
-    {"--window-size WxH",
-     QT_TRANSLATE_NOOP("LaunchOptions", "size of that picture, in points (default 1720x920)")},
-    {"--sheet SHEET",
-     QT_TRANSLATE_NOOP("LaunchOptions",
-                       "open activate, deactivate (for --select), history or settings for it")},
-    {"--version", QT_TRANSLATE_NOOP("LaunchOptions", "print the version")},
-    {"--help", QT_TRANSLATE_NOOP("LaunchOptions", "print this help")},
-};
-
-QString optionHelp()
-{
-    constexpr int kColumn = 22;
-    QString help;
-    for (const HelpLine &line : kHelpLines)
-        help += u"  " % QString::fromLatin1(line.option).leftJustified(kColumn)
-            % Texts::tr(line.text) % u'\n';
-    return help;
-}
-
 /// RFC 3986 "Scheme", followed by an authority, or a file's.
 bool isAddress(const QByteArray &argument)
 {
@@ -417,26 +355,6 @@ Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
                                          const FilePath &workingFolder)
 {
     return Reader(arguments, workingFolder).read();
-}
-
-QString launchHelp()
-{
-    //: Options begin with "--", and words in capitals stand for what is typed after them; both, and
-    //: the words that an option takes, stay as they are.
-    return Texts::tr("Usage: lorva [options] [FILE|FOLDER]...") + u"\n\n"
-        + Texts::tr("Shows every font of this computer as a live specimen; font files that are "
-                    "given, by "
-                    "path or as a file: address, in a window of their own.")
-        + u"\n\n" + optionHelp() + u'\n'
-        + Texts::tr(
-               "If Lorva runs already, its window comes to the front and takes the options over.")
-        + u'\n'
-        + Texts::tr("QT_SCALE_FACTOR=2 makes the picture twice as dense. "
-                    "QT_LOGGING_RULES=\"lorva.*=true\" logs.")
-        + u'\n'
-        + Texts::tr("LORVA_TRACE=FILE writes down where the time of a start goes, as Chrome trace "
-                    "events.")
-        + u'\n';
 }
 
 } // namespace lorva

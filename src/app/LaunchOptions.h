@@ -90,7 +90,4 @@ inline bool opensPlacesAlone(const LaunchOptions &options)
 Result<LaunchOptions> parseLaunchOptions(std::span<const char *const> arguments,
                                          const FilePath &workingFolder);
 
-/// The text of --help.
-QString launchHelp();
-
 } // namespace lorva

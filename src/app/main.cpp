@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
+#include "app/LaunchHelp.h"
 #include "app/LaunchOptions.h"
 #include "app/LorvaApplicationDelegate.h"
 #include "app/ProgramServices.h"

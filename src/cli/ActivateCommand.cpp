@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/SwitchingCommand.h"
 #include "cli/Texts.h"
 #include "commands/ActivationPlans.h"

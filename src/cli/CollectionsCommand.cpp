@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/GroupingCommand.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Texts.h"
 #include "model/stores/OrganizationChanges.h"
 

@@ -6,7 +6,7 @@
 #include "cli/Console.h"
 #include "cli/DoctorChecks.h"
 #include "cli/EnglishTexts.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Texts.h"
 #include "platform/linux/XdgFolders.h"
 

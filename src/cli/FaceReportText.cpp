@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
+#include "base/TextColumns.h"
 #include "cli/FaceReport.h"
-#include "cli/TextColumns.h"
 #include "cli/Texts.h"
 #include "cli/Words.h"
 

@@ -4,7 +4,7 @@
 #include "cli/FamilyListing.h"
 #include "cli/GroupingListing.h"
 #include "cli/GroupingNames.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Library.h"
 #include "cli/Texts.h"
 #include "cli/UserOrganization.h"

@@ -4,7 +4,7 @@
 
 #include "base/Result.h"
 #include "cli/GroupingTexts.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/PreferenceKeys.h"
 #include "model/records/Organization.h"
 

@@ -4,7 +4,7 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Texts.h"
 #include "install/ActivationHistory.h"
 #include "platform/linux/XdgFolders.h"

@@ -6,7 +6,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/EditText.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Input.h"
 #include "cli/Texts.h"
 #include "cli/UserOrganization.h"

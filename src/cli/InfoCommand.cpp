@@ -5,7 +5,7 @@
 #include "cli/Console.h"
 #include "cli/EnglishTexts.h"
 #include "cli/FaceReport.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Texts.h"
 
 namespace lorva::cli {

@@ -3,7 +3,7 @@
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Report.h"
 #include "cli/Texts.h"
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 #include "base/JsonWriter.h"
+#include "base/TextColumns.h"
 #include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Library.h"
-#include "cli/TextColumns.h"
 #include "cli/Texts.h"
 #include "install/WatchedFontRegistrar.h"
 

@@ -3,7 +3,7 @@
 #include "cli/Commands.h"
 #include "cli/Console.h"
 #include "cli/FamilyListing.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Library.h"
 #include "cli/Texts.h"
 #include "model/records/RecordsJson.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/SpecimenOptions.h"
 #include "cli/Texts.h"
 

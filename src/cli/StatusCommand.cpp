@@ -4,7 +4,7 @@
 #include "cli/ActivationSubjects.h"
 #include "cli/Commands.h"
 #include "cli/Console.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/Texts.h"
 #include "cli/UserActivation.h"
 #include "model/records/RecordsJson.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "cli/ActivationReport.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 #include "cli/UserActivation.h"
 
 #include <span>

@@ -6,7 +6,7 @@
 #include "base/Result.h"
 #include "cli/Arguments.h"
 #include "cli/FamilyNames.h"
-#include "cli/HelpText.h"
+#include "cli/Help.h"
 
 #include <QStringList>
 

@@ -4,7 +4,9 @@
 // Every surface of the program in every language, and in one that is longer than any and like none:
 // what is left of English there went past the translation.
 
+#include "app/LaunchHelp.h"
 #include "app/LorvaApplicationDelegate.h"
+#include "base/TextColumns.h"
 #include "base/Translations.h"
 #include "platform/linux/XdgFolders.h"
 #include "platform/UserAccount.h"
@@ -332,6 +334,14 @@ TEST_P(Languages, CoversTheQuiz)
     root.quiz()->choose(2);
     settle();
     check("the poster");
+}
+
+TEST_P(Languages, LeavesHelpWithinATerminal)
+{
+    const QString help = launchHelp();
+    EXPECT_TRUE(help.contains(QLatin1String("\n  --help ")));
+    for (const QString &line : help.split(u'\n'))
+        EXPECT_LE(displayWidth(line), 80) << line.toStdString();
 }
 
 TEST_P(Languages, CoversDiscover)

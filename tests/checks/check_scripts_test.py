@@ -101,10 +101,12 @@ class CheckSleeps(CheckCase):
 SOURCE = """#include <QCoreApplication>
 struct Texts { Q_DECLARE_TR_FUNCTIONS(Texts) };
 QString text(int n) { return Texts::tr("&Open %1…") + Texts::tr("%n fonts", nullptr, n); }
+QString lines() { return Texts::tr("<b>One</b>\\ntwo\\nthree"); }
 """
 TS = """<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="{0}" sourcelanguage="en">
 <context><name>Texts</name>{1}<message numerus="yes"><source>%n fonts</source>
 <translation>{2}</translation></message></context></TS>"""
+LINES = "<message><source>&lt;b&gt;One&lt;/b&gt;\ntwo\nthree</source><translation>{}</translation></message>"
 FORM = "<numerusform>{}</numerusform>"
 OPEN = "<message><source>&amp;Open %1…</source><translation>{}</translation></message>"
 
@@ -115,10 +117,12 @@ class CheckTranslations(CheckCase):
         files = {f"scripts/{name}": (SCRIPTS / name).read_text(encoding="utf-8") for name in ("lib.sh", "translations")}
         files["src/a.cpp"] = changed.get("source", SOURCE)
         opening = {"de": changed.get("opening", "&amp;Öffnen: %1…")}
-        plural = {"en": FORM.format("1 font") + FORM.format("%n fonts"),
+        lines = {"de": changed.get("lines", "&lt;b&gt;Eins&lt;/b&gt;\nzwei\ndrei")}
+        plural = {"en": FORM.format("1 font") + FORM.format("%n fonts"), "ja": changed.get("only", FORM.format("%n")),
                   "de": changed.get("plural", FORM.format("Eine Schrift") + FORM.format("%n Schriften"))}
         for language in ("en", "de", "ja", "ko", "zh_CN", "zh_TW"):
-            first = "" if language == "en" else OPEN.format(opening.get(language, "%1(&amp;O)…"))
+            first = "" if language == "en" else (OPEN.format(opening.get(language, "%1(&amp;O)…")) +
+                                                 LINES.format(lines.get(language, "&lt;b&gt;1&lt;/b&gt;\n2\n3")))
             files[f"resources/translations/lorva_{language}.ts"] = TS.format(
                 language, first, plural.get(language, FORM.format("%n")))
         return files
@@ -130,10 +134,17 @@ class CheckTranslations(CheckCase):
         for changed, words in [({"opening": ""}, "no translation"), ({"opening": "&amp;Öffnen…"}, "places"),
                                ({"opening": "Öffnen: %1…"}, "mnemonics"), ({"opening": "&amp;Öffnen: %1"}, "ellipsis"),
                                ({"opening": "&amp;Öffnen: %1… "}, "white space"),
+                               ({"lines": "&lt;b&gt;Eins&lt;/b&gt;\nzwei, drei"}, "line breaks"),
+                               ({"lines": "Eins\nzwei\ndrei"}, "markup"),
                                ({"plural": FORM.format("%n Schriften")}, "1 forms"),
                                ({"plural": FORM.format("1") + FORM.format("Schriften")}, "places")]:
             with self.subTest(words=words):
                 self.assert_found("check-translations", self.tree(**changed), "lorva_de.ts: Texts", words)
+
+    def test_only_a_singular_may_do_without_its_number(self):
+        self.assert_clean("check-translations", self.tree(plural=FORM.format("Eine") + FORM.format("%n Schriften")))
+        tree = self.tree(only=FORM.format("フォント"))
+        self.assert_found("check-translations", tree, "lorva_ja.ts: Texts", "places")
 
     def test_texts_that_are_not_translated(self):
         more = SOURCE + 'QString more() { return Texts::tr("More"); }\n'
@@ -141,6 +152,18 @@ class CheckTranslations(CheckCase):
         self.assert_found("check-translations", self.tree(source=SOURCE.replace("Open", "Show")), "is not in the code")
         lost = "namespace lorva { class Lost { QString text() { return tr(\"Lost\"); } }; }\n"
         self.assert_found("check-translations", self.tree(source=SOURCE + lost), "lacks Q_OBJECT")
+
+    def test_a_context_that_nothing_declares(self):
+        template = """#include <QCoreApplication>
+        namespace lorva { namespace {
+        struct Others { Q_DECLARE_TR_FUNCTIONS(Menu) };
+        template <class T> void show(T object) {
+            QObject::connect(add(Others::tr("More")), object);
+        }
+        }}
+        """
+        files = dict(self.tree(), **{"src/b.cpp": template})
+        self.assert_found("check-translations", files, "Others: “More” is filed under a context that nothing declares")
 
 
 if __name__ == "__main__":

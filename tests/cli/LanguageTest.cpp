@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "cli/TextColumns.h"
+#include "base/TextColumns.h"
 #include "OrganizationHome.h"
 
 namespace lorva {
@@ -136,16 +136,18 @@ TEST_F(Language, IsEnglishForWhoeverWantsNoneThatIsThere)
 
 TEST_F(Language, LeavesHelpWithinATerminal)
 {
-    for (const char *command : {"", "list", "search", "scan", "info", "specimen", "collections",
-                                "styles", "foundries", "export", "import", "activate", "deactivate",
-                                "status", "folders", "history", "doctor", "updates"}) {
+    for (const char *command :
+         {"",        "list",      "search", "scan",    "info",      "specimen",   "collections",
+          "styles",  "foundries", "export", "import",  "activate",  "deactivate", "status",
+          "folders", "history",   "doctor", "updates", "thumbnail", "report"}) {
         QStringList arguments{QString::fromLatin1(command), "--help"};
         arguments.removeAll(QString());
-        for (const Wish &wish : {kEnglish, kGerman, Wish{"ja"}, Wish{"ko"}, Wish{"zh_CN"}}) {
+        for (const Wish &wish :
+             {kEnglish, kGerman, Wish{"ja"}, Wish{"ko"}, Wish{"zh_CN"}, Wish{"zh_TW"}}) {
             const QString help = QString::fromUtf8(said(arguments, wish).out);
             EXPECT_THAT(help.toStdString(), HasSubstr("lorvactl "));
             for (const QString &line : help.split(u'\n'))
-                EXPECT_LE(cli::displayWidth(line), 80) << line.toStdString();
+                EXPECT_LE(displayWidth(line), 80) << line.toStdString();
         }
     }
 }

@@ -45,16 +45,30 @@ QMenu *addSubmenu(QMenu &menu, const char *name, const QString &title,
     return submenu;
 }
 
-/// "None", and the options; `choose` gets the id of one of them.
-template <class Options, class Choose, class None>
-void fillChoice(QMenu &menu, const Options &options, const Choose &choose, const None &none)
+/// `none`, which chooses nothing, and the options; `choose` gets the id of one of them.
+template <class Options, class Choose, class ChooseNone>
+void fillChoice(QMenu &menu, const Options &options, const Choose &choose, const QString &none,
+                const ChooseNone &chooseNone)
 {
-    //: No style, or no foundry, of a font family.
-    QObject::connect(menu.addAction(Texts::tr("None")), &QAction::triggered, &menu, none);
+    QObject::connect(menu.addAction(none), &QAction::triggered, &menu, chooseNone);
     menu.addSeparator();
     for (const auto &option : options)
         QObject::connect(addOption(menu, option), &QAction::triggered, &menu,
                          [choose, id = option.id] { choose(id); });
+}
+
+void fillStyles(QMenu &menu, const SharedSubject &subject)
+{
+    fillChoice(menu, subject->styles(), subject->chooseStyle,
+               //: The family has no style category.
+               Texts::tr("None", "style"), [subject] { subject->chooseStyle(std::nullopt); });
+}
+
+void fillFoundries(QMenu &menu, const SharedSubject &subject)
+{
+    fillChoice(menu, subject->foundries(), subject->chooseFoundry,
+               //: The family has no foundry.
+               Texts::tr("None", "foundry"), [subject] { subject->chooseFoundry({}); });
 }
 
 void fillCollections(QMenu &menu, const SharedSubject &subject)
@@ -119,17 +133,13 @@ void fillFamilyMenu(QMenu &menu, const FamilyMenuSubject &subject)
 {
     const auto shared = std::make_shared<const FamilyMenuSubject>(subject);
     //: The style category of a family: Serif, Script and so on.
-    addSubmenu(menu, "styleMenu", Texts::tr("Style"), [shared](QMenu &submenu) {
-        fillChoice(submenu, shared->styles(), shared->chooseStyle,
-                   [shared] { shared->chooseStyle(std::nullopt); });
-    });
+    addSubmenu(menu, "styleMenu", Texts::tr("Style"),
+               [shared](QMenu &submenu) { fillStyles(submenu, shared); });
     addSubmenu(menu, "collectionsMenu", Texts::tr("Collections"), [shared](QMenu &submenu) {
         fillCollections(submenu, shared);
     })->setEnabled(subject.hasCollections);
-    addSubmenu(menu, "foundryMenu", Texts::tr("Foundry"), [shared](QMenu &submenu) {
-        fillChoice(submenu, shared->foundries(), shared->chooseFoundry,
-                   [shared] { shared->chooseFoundry({}); });
-    });
+    addSubmenu(menu, "foundryMenu", Texts::tr("Foundry"),
+               [shared](QMenu &submenu) { fillFoundries(submenu, shared); });
     addActivation(menu, subject);
 }
 

@@ -1,18 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "cli/TextColumns.h"
+#include "base/TextColumns.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
-namespace lorva::cli {
+namespace lorva {
 namespace {
 
 TEST(TextColumns, CountWhatATerminalShows)
 {
     const std::pair<QString, int> rows[]{
-        {"", 0},   {"naïve …", 7}, {"e\u0301", 1}, {"日本語", 6},  {"ﾊﾝｶｸ", 4},
-        {"Ａ", 2}, {"한글", 4},    {"𠀋", 2},      {"a\u200b", 1},
+        {"", 0},         {"naïve …", 7}, {"e\u0301", 1}, {"日本語", 6},  {"ﾊﾝｶｸ", 4},
+        {"Ａ", 2},       {"한글", 4},    {"𠀋", 2},      {"a\u200b", 1}, {"\u1112\u1161\u11ab", 2},
+        {"a\u00adb", 3},
     };
     for (const auto &[text, width] : rows)
         EXPECT_EQ(displayWidth(text), width) << text.toStdString();
@@ -51,4 +52,4 @@ TEST(TextColumns, AlignWhatFollowsTabs)
 }
 
 } // namespace
-} // namespace lorva::cli
+} // namespace lorva

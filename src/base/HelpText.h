@@ -6,10 +6,10 @@
 
 #include <initializer_list>
 
-namespace lorva::cli {
+namespace lorva {
 
-/// What a command tells of itself, laid out for a terminal of 80 columns: translators see whole
-/// paragraphs and explanations, and need not count columns.
+/// What a program or a command tells of itself, laid out for a terminal of 80 columns: translators
+/// see whole paragraphs and explanations, and need not count columns.
 ///
 /// Words in capitals, such as FAMILY, are places in the usage lines and stay as they are in every
 /// language; so do words in double quotes, which the command prints, and all options.
@@ -26,6 +26,9 @@ public:
 
     /// `usages`: the ways to call it, "lorvactl list [--json]". `column`: where explanations begin.
     explicit HelpText(std::initializer_list<const char *> usages, int column = 17);
+    /// `usage`: the only way to call it, where words of that are the user's, too:
+    /// "Usage: lorva [options]".
+    HelpText(const QString &usage, int column);
 
     HelpText &paragraph(const QString &text);
     HelpText &entries(std::initializer_list<Entry> entries);
@@ -39,14 +42,4 @@ private:
     QString m_text;
 };
 
-/// "--help", which every command has.
-HelpText::Entry helpEntry();
-/// "--folder DIR", where it adds to the watched folders.
-HelpText::Entry folderEntry();
-/// "--missing".
-HelpText::Entry missingEntry();
-
-/// Prints the help and ends the output; gives the exit code.
-int showHelp(const HelpText &help);
-
-} // namespace lorva::cli
+} // namespace lorva

@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-namespace lorva::cli {
+namespace lorva {
 
 // Text in the columns of a terminal, where the letters of East Asia are twice as wide as others and
 // marks that combine with a letter take no room.
@@ -23,4 +23,4 @@ QStringList wrapped(const QString &text, int columns);
 /// everywhere, which is `leastColumns` or as many as the longest beginning needs. Other lines stay.
 QString alignedAtTabs(const QString &lines, int leastColumns);
 
-} // namespace lorva::cli
+} // namespace lorva

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "cli/TextColumns.h"
+#include "base/TextColumns.h"
 
 #include <QTextBoundaryFinder>
 
@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace lorva::cli {
+namespace lorva {
 
 namespace {
 
@@ -18,10 +18,21 @@ bool isWide(char32_t character)
     return width == U_EA_WIDE || width == U_EA_FULLWIDTH;
 }
 
+/// Vowels and finals that stand in the syllable of the consonant before them.
+bool isInsideSyllable(char32_t character)
+{
+    const int type = u_getIntPropertyValue(UChar32(character), UCHAR_HANGUL_SYLLABLE_TYPE);
+    return type == U_HST_VOWEL_JAMO || type == U_HST_TRAILING_JAMO;
+}
+
 bool hasNoWidth(char32_t character)
 {
     constexpr uint32_t kNoWidth = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK | U_GC_CC_MASK;
-    return (U_GET_GC_MASK(UChar32(character)) & kNoWidth) != 0;
+    // Terminals show it as a hyphen wherever it stands.
+    constexpr char32_t kSoftHyphen = 0xAD;
+    if (character == kSoftHyphen)
+        return false;
+    return isInsideSyllable(character) || (U_GET_GC_MASK(UChar32(character)) & kNoWidth) != 0;
 }
 
 int widthOf(char32_t character)
@@ -116,4 +127,4 @@ QString alignedAtTabs(const QString &lines, int leastColumns)
     return all.join(u'\n');
 }
 
-} // namespace lorva::cli
+} // namespace lorva

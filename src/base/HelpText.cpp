@@ -1,19 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
-#include "cli/HelpText.h"
+#include "base/HelpText.h"
 
-#include "cli/Console.h"
-#include "cli/TextColumns.h"
-#include "cli/Texts.h"
+#include "base/TextColumns.h"
+
+#include <QCoreApplication>
 
 #include <utility>
 
-namespace lorva::cli {
+namespace lorva {
 
 namespace {
 
 constexpr int kColumns = 80;
 constexpr int kIndent = 2;
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(HelpText)
+};
 
 QString indent(int columns)
 {
@@ -33,6 +38,12 @@ HelpText::HelpText(std::initializer_list<const char *> usages, int column)
         m_text += before % lines.join(QString(u'\n' % indent(width + kIndent))) % u'\n';
         before = indent(width);
     }
+}
+
+HelpText::HelpText(const QString &usage, int column)
+    : m_column(column)
+    , m_text(wrapped(usage, kColumns).join(u'\n') % u'\n')
+{
 }
 
 HelpText &HelpText::paragraph(const QString &text)
@@ -58,27 +69,4 @@ void HelpText::add(const Entry &entry)
         m_text += padded(std::exchange(line, QString()), m_column) % part % u'\n';
 }
 
-HelpText::Entry helpEntry()
-{
-    return {"--help", Texts::tr("show this help")};
-}
-
-HelpText::Entry folderEntry()
-{
-    return {"--folder DIR",
-            Texts::tr("take in the fonts below DIR too, beside those of the watched folders")};
-}
-
-HelpText::Entry missingEntry()
-{
-    return {"--missing",
-            Texts::tr("take names of families that this machine lacks, for when their fonts come")};
-}
-
-int showHelp(const HelpText &help)
-{
-    printText(help.text());
-    return finish();
-}
-
-} // namespace lorva::cli
+} // namespace lorva
