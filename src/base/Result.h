@@ -23,6 +23,8 @@ enum class ErrorKind {
     typeMismatch,
     invalidValue,
 };
+/// For whoever has to tell a kind from any other number.
+inline constexpr ErrorKind kLastErrorKind = ErrorKind::invalidValue;
 
 /// One failure. `detail` is one line in the user's language without a final full stop, fit to
 /// follow "lorvactl: ".

@@ -38,18 +38,22 @@ struct ConfinedWork
     std::function<Result<QByteArray>()> work;
 };
 
-/// Does the work and gives its answer.
+/// Does the work and gives its answer. Whoever gets the work into his hands also writes the answer:
+/// the caller believes nothing of it. An error's words are short and without control characters.
 ///
 /// The process is limited as `limits` say, leaves no core dump, gains no rights by what it runs,
-/// has no descriptors but those that it opened, and ends with ours. After `prepare` the kernel
-/// stops it at once (where it has system-call filters; else the limits alone hold) for: opening a
-/// file for writing, making, renaming, linking, changing or removing one, sockets, starting a
-/// process or a program, tracing or signalling others. Opening files for reading and whatever else
-/// drawing does not need is refused.
+/// has no descriptors but those that it opened (standard input, output and errors lead nowhere; a
+/// sanitizer's errors go where ours go), and ends with ours. After `prepare` the kernel stops it at
+/// once (where it has system-call filters; else the limits alone hold) for: opening a file for
+/// writing, making, renaming, linking, changing or removing one, sockets, starting a process or a
+/// program, tracing or signalling others. Opening files for reading and whatever else drawing does
+/// not need is refused. What it still can is ask whether a file is there, how large and how old it
+/// is, since the C library asks the same way about its own descriptors.
 ///
-/// Errors of prepare() and work() are handed on. Beyond those: cancelled when the time is up,
-/// tooLarge for too much memory or too large an answer, invalidValue when the filter struck,
-/// malformed when the work crashed, ioFailure when there is no new process to be had.
+/// Errors of prepare() and work() are handed on. Beyond those: cancelled when the time is up or the
+/// kernel needed the memory, tooLarge for too much memory or too large an answer, invalidValue when
+/// the filter struck, malformed when the work crashed, ioFailure when there is no new process to be
+/// had, or none that can be confined.
 ///
 /// Thread: the only one of the process, which is copied as it is. Waits for the end.
 Result<QByteArray> runConfined(const ConfinedWork &work, const ConfinementLimits &limits);

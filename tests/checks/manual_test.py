@@ -25,12 +25,13 @@ SHELLS = {"bash": ("bash/lorva", "bash/lorvactl"), "zsh": ("zsh/_lorva", "zsh/_l
 FONTS = ("truetype/dejavu/DejaVuSans.ttf", "truetype/dejavu/DejaVuSansMono.ttf",
          "truetype/comfortaa/Comfortaa-Bold.ttf")
 ODD_NAME = "Ann's \"big\" $list"
+OPTION_LIKE_NAME = "-x"
 FONTCONFIG = ('<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd">'
               "<fontconfig><dir>{0}/system</dir><cachedir>{0}/cache</cachedir></fontconfig>")
 
 
 class Home:
-    """A library of three families: two of the system, one in a watched folder; and a collection."""
+    """A library of three families: two of the system, one in a watched folder; and two collections."""
 
     def __init__(self):
         self.folder = tempfile.TemporaryDirectory()
@@ -52,6 +53,7 @@ class Home:
         self.work = home / "work"
         self.run("folders", "add", str(home / "trial fonts"))
         self.run("collections", "create", ODD_NAME, "DejaVu Sans")
+        self.run("collections", "create", "--", OPTION_LIKE_NAME, "Comfortaa")
 
     def run(self, *words):
         subprocess.run(["lorvactl", *words], check=True, capture_output=True, env=self.environment)
@@ -116,6 +118,7 @@ LINES = [
     ("lorvactl collections add Ann\\'s\\ \\\"big\\\"\\ \\$list Com", {"Comfortaa"}),
     ("lorvactl collections remove Ann\\'s\\ \\\"big\\\"\\ \\$list ", {"DejaVu Sans"}),
     ("lorvactl collections remove \"Ann's \\\"big\\\" \\$list\" ", {"DejaVu Sans"}),
+    ("lorvactl collections remove -- -x ", {"Comfortaa"}),
     ("lorvactl collections list x ", set()),
     ("lorvactl collections create ", set()),
     ("lorvactl collections create new De", {"DejaVu Sans", "DejaVu Sans Mono"}),
@@ -140,7 +143,7 @@ LINES = [
     ("lorva --view=g", {"grid"}),
     ("lorva --source in", {"inactive"}),
     ("lorva --source style:d", {"style:display", "style:decorative"}),
-    ("lorva --source=collection:", {f"collection:{ODD_NAME}"}),
+    ("lorva --source=collection:", {f"collection:{ODD_NAME}", f"collection:{OPTION_LIKE_NAME}"}),
     ("lorva --image a", {"aurora"}),
     ("lorva --select C", {"Comfortaa"}),
     ("lorva --search ", set()),

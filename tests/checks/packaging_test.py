@@ -12,6 +12,7 @@ import json
 import os
 import pathlib
 import select
+import shlex
 import shutil
 import signal
 import struct
@@ -96,6 +97,21 @@ class Installed(unittest.TestCase):
         for key in ["GenericName", "Comment", "Keywords"]:
             for language in ["de", "ja", "ko", "zh_CN", "zh_TW"]:
                 self.assertIn(f"{key}[{language}]", parser["Desktop Entry"])
+
+    def test_thumbnailer_draws_what_the_program_opens(self):
+        entry = entries(self.share / f"thumbnailers/{ID}.thumbnailer")["Thumbnailer Entry"]
+        opened = entries(self.share / f"applications/{ID}.desktop")["Desktop Entry"]
+        self.assertEqual(opened["MimeType"], entry["MimeType"])
+        programs = {**os.environ, "PATH": f"{self.prefix}/bin", "LC_ALL": "C.UTF-8"}
+        self.assertTrue(shutil.which(entry["TryExec"], path=programs["PATH"]))
+        folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+        font, picture = folder / "a font's 100%.ttf", folder / "new.png"
+        shutil.copy("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf", font)
+        given = {"%s": "128", "%i": font, "%o": picture}
+        command = [given.get(word, word) for word in shlex.split(entry["Exec"])]
+        self.assertLessEqual(set(given.values()), set(command))
+        self.assertEqual("", run(*command, env=programs))
+        self.assertEqual((128, 128), struct.unpack(">II", picture.read_bytes()[16:24]))
 
     def test_metainfo(self):
         file = self.share / f"metainfo/{ID}.lorva.metainfo.xml"
@@ -203,6 +219,11 @@ class Flatpak(unittest.TestCase):
         self.assertIn(manifest["command"], " ".join(ours["post-install"]))
         for source in ours["sources"]:
             self.assertTrue((folder / source["path"]).exists(), source)
+        # Only what begins with the application's id reaches the host.
+        moves = [shlex.split(step)[1:] for step in ours["post-install"] if step.startswith("mv ")]
+        moved = {old.removeprefix("${FLATPAK_DEST}/"): pathlib.PurePath(new).name for old, new in moves}
+        self.assertEqual({f"share/mime/packages/{ID}.xml": f"{name}.xml"}, moved)
+        self.assertLessEqual(moved.keys(), set(LIST.read_text(encoding="utf-8").splitlines()))
 
 
 if __name__ == "__main__":

@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Lorva developers
 // SPDX-License-Identifier: MIT
 
-// ConfinementProbe ATTEMPT FILE: tries in a confined process what its name says, and prints what
-// came of it: "done", the system's refusal, or the number of the error's kind.
+// ConfinementProbe ATTEMPT FILE [SYSTEM-CALL…]: tries in a confined process what its name says, and
+// prints what came of it: "done", the system's refusal, or the number of the error's kind. The
+// system calls are such as the kernel does not have.
 #include "platform/Confinement.h"
 
+#include <seccomp.h>
+
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -13,6 +17,7 @@
 #include <cstring>
 #include <map>
 #include <new>
+#include <span>
 #include <string>
 #include <thread>
 #include <vector>
@@ -21,6 +26,7 @@
 #include <linux/sched.h>
 #include <poll.h>
 #include <sys/mman.h>
+#include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -35,13 +41,15 @@ using namespace lorva;
 struct Attempt
 {
     std::string (*run)();
-    std::chrono::seconds processorTime{60};
-    std::chrono::seconds wallTime{300};
+    std::chrono::seconds processorTime{10};
+    std::chrono::seconds wallTime{30};
 };
 
 std::string file;
 int kept = -1;
 int stray = -1;
+/// What prctl() told before the filter.
+std::map<std::string, int> processState;
 
 std::string outcome(long result)
 {
@@ -64,6 +72,32 @@ void waitForEver()
         ::poll(nullptr, 0, -1);
 }
 
+/// Waits from before the filter for its turn to open the file, and tells what came of it.
+class EarlyThread
+{
+public:
+    EarlyThread()
+        : m_thread([this] {
+            m_start.wait(false);
+            m_told = opened(O_WRONLY);
+        })
+    {
+    }
+    std::string told()
+    {
+        m_start = true;
+        m_start.notify_one();
+        m_thread.join();
+        return m_told;
+    }
+
+private:
+    std::atomic<bool> m_start = false;
+    std::string m_told;
+    std::thread m_thread;
+};
+EarlyThread *earlyThread = nullptr;
+
 const std::map<std::string, Attempt> kAttempts{
     {"read what was opened", {[] {
          char first = 0;
@@ -78,6 +112,15 @@ const std::map<std::string, Attempt> kAttempts{
          struct stat info;
          return outcome(::fstat(stray, &info));
      }}},
+    {"complain", {[] { return outcome(::write(STDERR_FILENO, "!", 1)); }}},
+    {"make a file longer than its answer", {[] {
+         ::lseek(kept, off_t(1) << 20, SEEK_SET);
+         return outcome(::write(kept, "x", 1));
+     }}},
+    {"open for writing in an earlier thread", {[] { return earlyThread->told(); }}},
+    {"gain no rights", {[] { return done(processState["no new rights"] == 1); }}},
+    {"end with its parent", {[] { return done(processState["signal"] == SIGKILL); }}},
+    {"hide its memory", {[] { return done(processState["dumpable"] == 0); }}},
     {"have no core dumps", {[] {
          rlimit core = {};
          return done(::getrlimit(RLIMIT_CORE, &core) == 0 && core.rlim_max == 0);
@@ -146,25 +189,43 @@ const std::map<std::string, Attempt> kAttempts{
     {"throw", {[]() -> std::string { throw std::bad_alloc(); }}},
 };
 
-Result<void> openFile()
+Result<void> prepare()
 {
-    kept = ::open(file.c_str(), O_RDONLY);
+    processState["no new rights"] = ::prctl(PR_GET_NO_NEW_PRIVS, 0, 0, 0, 0);
+    processState["dumpable"] = ::prctl(PR_GET_DUMPABLE, 0, 0, 0, 0);
+    ::prctl(PR_GET_PDEATHSIG, &processState["signal"]);
+    earlyThread = new EarlyThread;
+    kept = ::open(file.c_str(), O_RDWR);
     return kept >= 0 ? Result<void>()
                      : failure(ErrorKind::notFound, QStringLiteral("there is no such file"));
+}
+
+/// From here on the kernel does not know them.
+bool takeAway(std::span<char *const> calls)
+{
+    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+    const bool isAway = std::all_of(calls.begin(), calls.end(), [filter](const char *call) {
+        return seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), seccomp_syscall_resolve_name(call),
+                                0)
+            == 0;
+    });
+    const bool isLoaded = calls.empty() || seccomp_load(filter) == 0;
+    seccomp_release(filter);
+    return isAway && isLoaded;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const auto attempt = argc == 3 ? kAttempts.find(argv[1]) : kAttempts.end();
-    if (attempt == kAttempts.end())
+    const auto attempt = argc >= 3 ? kAttempts.find(argv[1]) : kAttempts.end();
+    if (attempt == kAttempts.end() || !takeAway({argv + 3, argv + argc}))
         return 2;
     file = argv[2];
     stray = ::dup2(STDIN_FILENO, 50);
     const auto &[run, processorTime, wallTime] = attempt->second;
     const ConfinementLimits limits{qint64(1) << 30, processorTime, wallTime, qint64(1) << 20};
-    const ConfinedWork work{QStringLiteral("it"), openFile, [run = run]() -> Result<QByteArray> {
+    const ConfinedWork work{QStringLiteral("it"), prepare, [run = run]() -> Result<QByteArray> {
                                 return QByteArray::fromStdString(run());
                             }};
     const Result<QByteArray> answer = runConfined(work, limits);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // What opened faces cost in memory that is this process's own.
+#include "base/Sanitizers.h"
 #include "text/GlyphPainter.h"
 #include "text/WarmFaces.h"
 
@@ -18,12 +19,6 @@ using namespace lorva;
 using namespace lorva::test;
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kIsMeasurable = false;
-#else
-constexpr bool kIsMeasurable = true;
-#endif
 
 constexpr double kBarMegabytes = 150;
 constexpr size_t kFaces = 100;
@@ -128,7 +123,7 @@ class FaceMemory : public ::testing::TestWithParam<size_t>
 
 TEST_P(FaceMemory, aHundredOpenedCjkFacesStayWithinTheBar)
 {
-    if (!kIsMeasurable)
+    if (kHasShadowMemory)
         GTEST_SKIP() << "a sanitizer keeps freed memory and shadows of all of it";
     const std::vector<CjkFace> faces = manyCjkFaces();
     const size_t threadCount = GetParam();

@@ -4,12 +4,18 @@
 # The words before the one that is typed, without options and their values: the command first.
 function __lorvactl_words
     set -l skips no
+    set -l hasOptions yes
     for word in (commandline -opc)[2..-1]
         if test $skips = yes
             set skips no
             continue
+        else if test $hasOptions = no
+            echo -- $word
+            continue
         end
         switch $word
+            case --
+                set hasOptions no
             case '--*=*' --json --missing --hidden --original --dry-run --replace --csv --glyphs --help
             case -
                 echo -- $word

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <limits>
 #include <optional>
 
@@ -31,27 +30,38 @@ int millisecondsUntil(Clock::time_point deadline)
     return int(std::clamp<qint64>(left, 0, std::numeric_limits<int>::max()));
 }
 
+/// How often is looked for what the system cannot tell of.
+constexpr int kPauseMilliseconds = 5;
+
+/// Waits until the descriptor has something; where there is none, or the kernel has no memory for
+/// the waiting, a moment. False when the time is up.
+bool hasWaited(int descriptor, Clock::time_point deadline)
+{
+    const int left = millisecondsUntil(deadline);
+    pollfd waiting{descriptor, POLLIN, 0};
+    if (descriptor < 0 || (::poll(&waiting, 1, left) < 0 && errno != EINTR))
+        ::poll(nullptr, 0, std::min(left, kPauseMilliseconds));
+    return left > 0;
+}
+
 enum class Reading { whole, late, tooLong };
 
-/// All that is written to the other end until that is closed.
+/// All that is written to the other end until that is closed. The descriptor does not block.
 Reading readAnswer(int descriptor, Clock::time_point deadline, qint64 mostBytes, QByteArray &answer)
 {
     char buffer[65536];
     for (;;) {
-        pollfd waiting{descriptor, POLLIN, 0};
-        const int ready = ::poll(&waiting, 1, millisecondsUntil(deadline));
-        if (ready == 0)
-            return Reading::late;
-        if (ready < 0)
-            continue;
         const ssize_t got = ::read(descriptor, buffer, sizeof buffer);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            return Reading::whole;
-        answer.append(buffer, got);
+        if (got > 0)
+            answer.append(buffer, got);
         if (answer.size() > mostBytes)
             return Reading::tooLong;
+        if (got > 0 || (got < 0 && errno == EINTR))
+            continue;
+        if (got == 0 || errno != EAGAIN)
+            return Reading::whole;
+        if (!hasWaited(descriptor, deadline))
+            return Reading::late;
     }
 }
 
@@ -70,9 +80,13 @@ tl::unexpected<Error> late(const QString &subject)
 tl::unexpected<Error> failureOf(int status, const QString &subject)
 {
     const int signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
-    // At the hard limit of processor time the kernel kills.
-    if (signal == SIGXCPU || signal == SIGKILL)
+    if (signal == SIGXCPU)
         return late(subject);
+    // The kernel kills at the hard limit of processor time, and when the machine's memory runs out.
+    if (signal == SIGKILL)
+        return failure(
+            ErrorKind::cancelled,
+            Texts::tr("%1: took too much time or memory to read and was given up").arg(subject));
     if (signal == SIGSYS)
         return failure(
             ErrorKind::invalidValue,
@@ -84,15 +98,28 @@ tl::unexpected<Error> failureOf(int status, const QString &subject)
                    Texts::tr("%1: is damaged; reading it failed").arg(subject));
 }
 
+/// One line, whatever the child wrote.
+QString words(const QByteArray &utf8)
+{
+    QString text = QString::fromUtf8(utf8.first(std::min(utf8.size(), kMostDetailBytes)));
+    for (QChar &each : text) {
+        const QChar::Category category = each.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line
+            || category == QChar::Separator_Paragraph)
+            each = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
 /// The child's words are only believed to be words.
 Result<QByteArray> decoded(const QByteArray &answer, const QString &subject)
 {
     if (answer.startsWith(kAnswerMark))
         return answer.mid(1);
     const int kind = answer.size() < 2 ? -1 : uchar(answer[1]);
-    if (!answer.startsWith(kErrorMark) || kind < 0 || kind > int(ErrorKind::invalidValue))
+    if (!answer.startsWith(kErrorMark) || kind < 0 || kind > int(kLastErrorKind))
         return failureOf(0, subject);
-    return failure(ErrorKind(kind), QString::fromUtf8(answer.mid(2)));
+    return failure(ErrorKind(kind), words(answer.mid(2)));
 }
 
 /// One that hangs on a dead volume does not even die; then the system sees it off some day.
@@ -103,21 +130,24 @@ void kill(pid_t child)
     ::waitpid(child, &status, WNOHANG);
 }
 
-/// Waits for a process that has closed its end. One that has been taken over may do so and go on.
-void waitUntil(Clock::time_point deadline, pid_t child)
-{
-    const FileDescriptor process(int(::syscall(SYS_pidfd_open, child, 0)));
-    pollfd waiting{process.number(), POLLIN, 0};
-    while (process.isOpen() && ::poll(&waiting, 1, millisecondsUntil(deadline)) < 0
-           && errno == EINTR) { }
-}
-
-/// Nothing for one that has not ended by then.
+/// Of a process that has closed its end; one that has been taken over may do so and go on. Nothing
+/// for one that has not ended by then.
 std::optional<int> statusOf(pid_t child, Clock::time_point deadline)
 {
-    waitUntil(deadline, child);
+    // Kernels before 5.3 have none.
+    const FileDescriptor process(int(::syscall(SYS_pidfd_open, child, 0)));
     int status = 0;
-    return ::waitpid(child, &status, WNOHANG) == child ? std::optional(status) : std::nullopt;
+    pid_t ended = 0;
+    do {
+        ended = ::waitpid(child, &status, WNOHANG);
+    } while (ended == 0 && hasWaited(process.number(), deadline));
+    return ended == child ? std::optional(status) : std::nullopt;
+}
+
+/// With the mark, or of an error.
+qint64 mostBytes(const ConfinementLimits &limits)
+{
+    return std::max<qint64>(limits.answerBytes, 1 + kMostDetailBytes) + 1;
 }
 
 Result<QByteArray> outcomeOf(pid_t child, int answerEnd, const QString &subject,
@@ -125,7 +155,7 @@ Result<QByteArray> outcomeOf(pid_t child, int answerEnd, const QString &subject,
 {
     const Clock::time_point deadline = Clock::now() + limits.wallTime;
     QByteArray answer;
-    switch (readAnswer(answerEnd, deadline, limits.answerBytes, answer)) {
+    switch (readAnswer(answerEnd, deadline, mostBytes(limits), answer)) {
     case Reading::late:
         kill(child);
         return late(subject);
@@ -145,12 +175,24 @@ Result<QByteArray> outcomeOf(pid_t child, int answerEnd, const QString &subject,
                                                                       : failureOf(*status, subject);
 }
 
-tl::unexpected<Error> noProcess()
+/// Whoever ignores the end of children, as who started us may have done, is not told how they
+/// ended (waitpid(2)). As it was again at the end of the scope.
+class HeardChildren
 {
-    return failure(ErrorKind::ioFailure,
-                   Texts::tr("no new process can be started: %1")
-                       .arg(QString::fromLocal8Bit(std::strerror(errno))));
-}
+public:
+    HeardChildren()
+    {
+        struct sigaction heard = {};
+        heard.sa_handler = SIG_DFL;
+        ::sigaction(SIGCHLD, &heard, &m_before);
+    }
+    ~HeardChildren() { ::sigaction(SIGCHLD, &m_before, nullptr); }
+    HeardChildren(const HeardChildren &) = delete;
+    HeardChildren &operator=(const HeardChildren &) = delete;
+
+private:
+    struct sigaction m_before = {};
+};
 
 } // namespace
 
@@ -161,6 +203,9 @@ Result<QByteArray> runConfined(const ConfinedWork &work, const ConfinementLimits
         return noProcess();
     const FileDescriptor readEnd(ends[0]);
     FileDescriptor writeEnd(ends[1]);
+    if (::fcntl(readEnd.number(), F_SETFL, O_NONBLOCK) != 0)
+        return noProcess();
+    const HeardChildren heard;
     const pid_t self = ::getpid();
     const pid_t child = ::fork();
     if (child < 0)

@@ -254,7 +254,9 @@ bool addOwnAffairs(const Filter &filter)
 bool installSystemCallFilter()
 {
     const Filter filter(seccomp_init(SCMP_ACT_ERRNO(ENOSYS)));
-    return filter && seccomp_attr_set(filter.get(), SCMP_FLTATR_ACT_BADARCH, kStop) == 0
+    // Threads that were there before as well.
+    return filter && seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0
+        && seccomp_attr_set(filter.get(), SCMP_FLTATR_ACT_BADARCH, kStop) == 0
         && addEach(filter, SCMP_ACT_ALLOW, kAllowed) && addEach(filter, kStop, kFatal)
         && addOpening(filter, SCMP_SYS(open), 1) && addOpening(filter, SCMP_SYS(openat), 2)
         && addThreads(filter) && addMappings(filter) && addOwnAffairs(filter)
