@@ -77,8 +77,8 @@ void ActivationCommands::start(Request request)
     });
 }
 
-/// `then` is called if there is something to be done; if not, the user is told, and `otherwise` is
-/// called, which may be empty.
+/// `then` is called if there is something to be done; if not, the user is told, unless nobody asks
+/// any more, and `otherwise` is called, which may be empty.
 void ActivationCommands::makePlan(const Request &request, std::function<void(const Plan &)> then,
                                   std::function<void()> otherwise)
 {
@@ -89,9 +89,13 @@ void ActivationCommands::makePlan(const Request &request, std::function<void(con
                              : planFor(request, *catalog, *books, *library);
     };
     runThen(m_pool, this, work,
-            [this, request, then = std::move(then), otherwise = std::move(otherwise)](Plan found) {
-                if (m_isFinishing)
+            [this, request, then = std::move(then), otherwise = std::move(otherwise),
+             edition = m_edition](Plan found) {
+                if (m_isFinishing || edition != m_edition) {
+                    if (otherwise)
+                        otherwise();
                     return;
+                }
                 const bool isNothing = found.families.empty();
                 // What is being switched already is not switched twice, and there is nothing to say
                 // about.
@@ -176,7 +180,7 @@ void ActivationCommands::runActivation(const Plan &plan, const QString &label, I
             outcome.failures.insert(failures.begin(), failures.end());
             m_failures = outcome.failures;
         }
-        m_presenter.showAlert(activationAlert(label, outcome), {});
+        return activationAlert(label, outcome);
     });
 }
 
@@ -234,7 +238,7 @@ void ActivationCommands::deactivateAgain(const Request &request,
                         [this, label, done](const InstallationOutcome &outcome) {
                             if (!outcome.withdrawn.isEmpty())
                                 pushUndo(label, done, outcome.withdrawn);
-                            m_presenter.showAlert(deactivationAlert(label, outcome), {});
+                            return deactivationAlert(label, outcome);
                         });
     });
 }
@@ -285,8 +289,7 @@ void ActivationCommands::restore(const std::shared_ptr<DeactivationRecord> &reco
     run(begin, words, [this, record](const InstallationOutcome &outcome) {
         record->isPending = false;
         record->withdrawn = stillWithdrawn(std::move(record->withdrawn), outcome);
-        if (const std::optional<Alert> alert = restorationAlert(record->label, outcome))
-            m_presenter.showAlert(*alert, {});
+        return restorationAlert(record->label, outcome);
     });
 }
 
@@ -308,10 +311,10 @@ void ActivationCommands::repeat(const std::shared_ptr<DeactivationRecord> &recor
         runDeactivation(plan, record->label, std::nullopt,
                         [this, record, end](const InstallationOutcome &outcome) {
                             addWithdrawn(outcome.withdrawn, record->withdrawn);
-                            if (!outcome.failures.empty() || !outcome.filesLeft.empty())
-                                m_presenter.showAlert(deactivationAlert(record->label, outcome),
-                                                      {});
                             end();
+                            return outcome.failures.empty() && outcome.filesLeft.empty()
+                                ? std::nullopt
+                                : std::optional(deactivationAlert(record->label, outcome));
                         });
     };
     makePlan(request, then, end);
@@ -373,11 +376,11 @@ void ActivationCommands::run(const Begin &begin, const Words &words, Outcome the
         if (const auto running = weak.lock())
             running->run.cancel();
     });
-    const auto done = [self = QPointer(this), live,
-                       then = std::move(then)](const InstallationOutcome &outcome) {
+    const auto done = [self = QPointer(this), live, then = std::move(then),
+                       edition = m_edition](const InstallationOutcome &outcome) {
         live->display.reset();
         if (self)
-            self->ended(outcome, then);
+            self->ended(outcome, then, edition);
     };
     const auto progress = [live, words](int filesDone, int total) {
         if (live->display)
@@ -387,15 +390,17 @@ void ActivationCommands::run(const Begin &begin, const Words &words, Outcome the
     Q_EMIT changed();
 }
 
-void ActivationCommands::ended(const InstallationOutcome &outcome, const Outcome &then)
+void ActivationCommands::ended(const InstallationOutcome &outcome, const Outcome &then,
+                               int edition)
 {
     --m_runs;
     if (!outcome.failures.empty())
         m_failures = outcome.failures;
     // Another command was quicker: there is nothing to tell about none.
     const bool hasTakenPart = !outcome.families.isEmpty() || !outcome.failures.empty();
-    if (hasTakenPart && !m_isFinishing)
-        then(outcome);
+    const std::optional<Alert> alert = hasTakenPart ? then(outcome) : std::nullopt;
+    if (alert && !m_isFinishing && edition == m_edition)
+        m_presenter.showAlert(*alert, {});
     Q_EMIT changed();
     if (m_runs == 0 && m_finished)
         std::exchange(m_finished, nullptr)();
@@ -410,6 +415,12 @@ void ActivationCommands::finish(std::function<void()> done)
         done();
     else
         m_finished = std::move(done);
+}
+
+void ActivationCommands::resume()
+{
+    m_isFinishing = false;
+    m_finished = nullptr;
 }
 
 // --- What was done ---

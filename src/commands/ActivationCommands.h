@@ -59,6 +59,11 @@ public:
     /// done; at once when nothing runs.
     /// Nothing that was asked for before begins any more.
     void finish(std::function<void()> done);
+    /// Takes commands again after finish(), whose `done` is not called any more.
+    void resume();
+    /// Nobody looks at the fonts any more that commands were given for: what has not begun is not
+    /// done, and of what runs only failures are kept. Questions that are open are the presenter's.
+    void forgetRequests() { ++m_edition; }
     /// Takes de-activations off the undo stack whose files have left the Trash. Looks on a worker.
     void refreshUndo();
 
@@ -69,7 +74,8 @@ Q_SIGNALS:
 private:
     using Request = ActivationRequest;
     using Plan = ActivationPlan;
-    using Outcome = std::function<void(const InstallationOutcome &)>;
+    /// Does what follows, and gives what is to be told.
+    using Outcome = std::function<std::optional<Alert>(const InstallationOutcome &)>;
 
     void start(Request request);
     void makePlan(const Request &request, std::function<void(const Plan &)> then,
@@ -96,7 +102,7 @@ private:
         FontInstallationService::Progress progress)>;
     using Words = std::function<ProgressState(int done, int total)>;
     void run(const Begin &begin, const Words &words, Outcome then);
-    void ended(const InstallationOutcome &outcome, const Outcome &then);
+    void ended(const InstallationOutcome &outcome, const Outcome &then, int edition);
     void saveHistory(const FilePath &target);
 
     LorvaAppModel &m_model;
@@ -105,6 +111,8 @@ private:
     /// Of the last run in which a file failed.
     InstallationFailures m_failures;
     int m_runs = 0;
+    /// Grows with forgetRequests().
+    int m_edition = 0;
     bool m_isFinishing = false;
     /// Waits for the runs to end.
     std::function<void()> m_finished;

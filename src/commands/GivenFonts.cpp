@@ -23,16 +23,34 @@ struct GivenBooks
     QSet<FilePath> filesWithoutPlace;
 };
 
-/// Nobody who opens a file is to be told that it is active when only its name is.
-void takeOutNamesakes(const std::vector<FilePath> &files, const ActivationBooks &books,
-                      ActivationBooks::Contents &contents, QSet<FilePath> &found)
+/// Nobody who opens a file is to be told that it is active when only its name is. Gives the files
+/// of which that is so.
+QSet<FilePath> takeOutNamesakes(const std::vector<FilePath> &files, const FontPlaces &places,
+                                ActivationBooks::Contents &contents)
 {
+    const ActivationBooks books(contents);
+    std::vector<FilePath> copies;
+    QSet<FilePath> namesakes;
+    QSet<QByteArray> names;
     for (const FilePath &file : files) {
-        if (books.classify(file) != FileActivationClass::copied || books.fontsFolderEntry(file))
+        if (books.classify(file) != FileActivationClass::copied)
             continue;
-        found.insert(file);
-        contents.fontsFolder.basenames.remove(file.fileName());
+        if (books.fontsFolderEntry(file)) {
+            copies.push_back(file);
+        } else {
+            namesakes.insert(file);
+            names.insert(file.fileName());
+        }
     }
+    contents.fontsFolder.basenames.subtract(names);
+    // Of what was known by the name alone, the file that was copied stays active.
+    for (const FilePath &file : copies) {
+        if (!names.contains(file.fileName()) || places.placeOf(file) != FontPlace::elsewhere)
+            continue;
+        contents.watchedFontURLs->remove(file);
+        contents.fontsFolder.files.insert(places.resolved(file));
+    }
+    return namesakes;
 }
 
 /// A file counts as one that can be switched on, unless it lies where files are active or the
@@ -52,7 +70,7 @@ GivenBooks booksFor(const GivenFonts &given, const ActivationBooks &books)
             contents.watchedFontURLs->insert(file);
     }
     GivenBooks found;
-    takeOutNamesakes(files, ActivationBooks(contents), contents, found.filesWithoutPlace);
+    found.filesWithoutPlace = takeOutNamesakes(files, places, contents);
     found.books = std::make_shared<const ActivationBooks>(std::move(contents));
     return found;
 }
@@ -62,6 +80,13 @@ InstallationError noPlace(const FilePath &file, const ActivationBooks &books)
     const Result<FilePath> entry = books.fontsFolderEntry(file);
     return {InstallationError::ownDomain(), InstallationError::otherFailure,
             entry ? QString() : entry.error().detail};
+}
+
+bool areOriginsKnown(const ActivationPlan &plan, const ActivationBooks &books)
+{
+    return std::ranges::all_of(plan.families, [&books](const FontFamilyRecord &family) {
+        return books.areAllOriginsKnown(family.styles);
+    });
 }
 
 void takeOutFailures(ActivationPlan &plan, const QSet<FilePath> &filesWithoutPlace,
@@ -93,6 +118,19 @@ QStringList othersIn(const GivenFonts &given, const ActivationPlan &plan)
     return others;
 }
 
+/// A family of which the system has some styles is not the library's to switch; of one whose files
+/// were opened the rest can follow.
+void addFamiliesOfTheSystem(const ActivationRequest &request, const GivenFonts &given,
+                            const ActivationBooks &books, ActivationPlan &plan)
+{
+    ActivationRequest rest = request;
+    rest.kind = ActivationRequest::Kind::complete;
+    const QStringList own = plan.names();
+    for (FontFamilyRecord &family : planAmong(rest, given.families, books).families)
+        if (!own.contains(family.familyName))
+            plan.families.push_back(std::move(family));
+}
+
 } // namespace
 
 GivenActivations givenActivations(const GivenFonts &given, const ActivationBooks &books)
@@ -113,7 +151,12 @@ ActivationPlan planForGiven(const ActivationRequest &request, const GivenFonts &
 {
     const GivenBooks own = booksFor(given, books);
     ActivationPlan plan = planAmong(request, given.families, *own.books);
-    if (request.kind != ActivationRequest::Kind::deactivate)
+    if (request.kind == ActivationRequest::Kind::activate)
+        addFamiliesOfTheSystem(request, given, *own.books, plan);
+    // Of a file whose namesake was opened, too, only the true books know the copy.
+    if (request.kind == ActivationRequest::Kind::deactivate)
+        plan.areOriginsKnown = areOriginsKnown(plan, books);
+    else
         takeOutFailures(plan, own.filesWithoutPlace, books);
     plan.others = othersIn(given, plan);
     return plan;

@@ -190,5 +190,74 @@ TEST_F(GivenFontsTest, AStrangeNamesakeIsToldAndStopsNoOther)
         QStringLiteral("is another font than")));
 }
 
+TEST_F(GivenFontsTest, OfTwoFilesOfOneNameTheOneThatWasCopiedIsActive)
+{
+    const FilePath one = add("one.ttf", FontBuilder("One").build());
+    std::filesystem::create_directory(downloads.child("sub").c_str());
+    const FilePath other =
+        writeFile(downloads.child("sub"), "one.ttf", FontBuilder("Other").build());
+    library.installation->setDefaultMethod(InstallMethod::copy);
+    give({one});
+    commands->activate({"One"});
+    ASSERT_TRUE(told("One installed"));
+
+    give({one, other});
+    EXPECT_EQ(activation("One"), active(InstallMethod::copy));
+    EXPECT_EQ(activation("Other"), FontFamilyActivation::inactive());
+    EXPECT_EQ(known().filesWithoutPlace, QSet<FilePath>{other});
+    commands->activate({"One"});
+    ASSERT_TRUE(told("Nothing to activate"));
+
+    // What was copied is not there any more: the copy is the only one.
+    writeFile(downloads, "one.ttf", readFile(one) + "changed");
+    commands->deactivate({"One"});
+    ASSERT_TRUE(waitUntil([&] { return presenter.alerts.size() > 2; }));
+    EXPECT_TRUE(presenter.lastAlert().body.contains(QStringLiteral("your only copy")));
+}
+
+TEST_F(GivenFontsTest, WhatTheSystemHasInPartIsCompleted)
+{
+    const FilePath one = add("one.ttf", FontBuilder("One").build());
+    const FilePath bold = add("bold.ttf", FontBuilder("One", "Bold").weightClass(700).build());
+    library.fonts->files = {one};
+    library.fonts->publish();
+    library.installation->setDefaultMethod(InstallMethod::copy);
+    give({one, bold});
+    EXPECT_EQ(activation("One"), active(std::nullopt, true));
+    commands->activate({"One"});
+    ASSERT_TRUE(told("One installed"));
+    EXPECT_TRUE(exists(fonts.child("bold.ttf")));
+    EXPECT_FALSE(exists(fonts.child("one.ttf"))) << "the system has it";
+}
+
+TEST_F(GivenFontsTest, WhatNobodyAsksAboutAnyMoreIsNeitherBegunNorTold)
+{
+    give({add("one.ttf", FontBuilder("One").build())});
+    commands->activate({"One"});
+    commands->forgetRequests();
+    library.installation->setDefaultMethod(InstallMethod::copy);
+    give({add("two.ttf", FontBuilder("Two").build())});
+    commands->activate({"Two"});
+    ASSERT_TRUE(waitUntil([&] { return commands->isRunning(); }));
+    EXPECT_TRUE(presenter.methodQuestions.empty()) << "the plan for One came first";
+    commands->forgetRequests();
+    ASSERT_TRUE(waitUntil([&] { return !commands->isRunning(); }));
+    EXPECT_TRUE(presenter.alerts.empty());
+    EXPECT_TRUE(exists(fonts.child("two.ttf"))) << "what has begun is done";
+    EXPECT_EQ(activation("Two"), active(InstallMethod::copy));
+}
+
+TEST_F(GivenFontsTest, CommandsAreTakenAgainAfterAnEndThatDidNotCome)
+{
+    give({add("one.ttf", FontBuilder("One").build())});
+    library.installation->setDefaultMethod(InstallMethod::copy);
+    int ends = 0;
+    commands->finish([&ends] { ++ends; });
+    commands->resume();
+    commands->activate({"One"});
+    EXPECT_TRUE(told("One installed"));
+    EXPECT_EQ(ends, 1) << "nothing ran at first";
+}
+
 } // namespace
 } // namespace lorva
