@@ -652,10 +652,6 @@
         <translation>%1: Lesen dauerte zu lange und wurde abgebrochen</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1: Lesen wurde abgebrochen: Es führte zu etwas, was dafür nie nötig ist</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: braucht mehr Speicher als erlaubt</translation>
     </message>
@@ -664,12 +660,16 @@
         <translation>%1: ist beschädigt; Lesen fehlgeschlagen</translation>
     </message>
     <message>
-        <source>%1: what is drawn of it is too large</source>
-        <translation>%1: das daraus Gezeichnete ist zu groß</translation>
-    </message>
-    <message>
         <source>no new process can be started: %1</source>
         <translation>kein neuer Prozess kann gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>%1: reading it needed something that fonts never need, so it was stopped</source>
+        <translation>%1: das Lesen verlangte etwas, was Schriften nie brauchen, und wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1: its picture is too large</source>
+        <translation>%1: das Bild davon ist zu groß</translation>
     </message>
 </context>
 <context>
@@ -2418,10 +2418,6 @@
         <translation>Sie dürfen diese Datei nicht lesen.</translation>
     </message>
     <message>
-        <source>This is no file that could hold a font.</source>
-        <translation>Das ist keine Datei, die eine Schrift enthalten könnte.</translation>
-    </message>
-    <message>
         <source>This file is too large to be a font.</source>
         <translation>Diese Datei ist zu groß für eine Schrift.</translation>
     </message>
@@ -2487,6 +2483,10 @@
             <numerusform>%n Schrift</numerusform>
             <numerusform>%n Schriften</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>This is a folder or a device, not a font file.</source>
+        <translation>Dies ist ein Ordner oder ein Gerät, keine Schriftdatei.</translation>
     </message>
 </context>
 <context>
@@ -3119,6 +3119,11 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
         <translation>Zeigt alle Schriften dieses Computers als lebendige Schriftmuster; Schriftdateien, die als Pfad oder file:-Adresse angegeben sind, in einem eigenen Fenster.</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words that an option takes.</extracomment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>LinkFolderRegistrar</name>
@@ -3454,6 +3459,14 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <message>
         <source>the database is damaged</source>
         <translation>die Datenbank ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>PreferenceFile</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A file, and what is wrong with it.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -4506,10 +4519,6 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
 <context>
     <name>lorva::FontFilesBar</name>
     <message>
-        <source>Information</source>
-        <translation>Info</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>Vorschau</translation>
     </message>
@@ -4520,6 +4529,10 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <message>
         <source>Waterfall</source>
         <translation>Wasserfall</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
     </message>
 </context>
 <context>
@@ -4555,6 +4568,11 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
         <source>Fonts in the Files</source>
         <translation>Schriften in den Dateien</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between what is said of a font in the list; spoken.</extracomment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
@@ -4577,6 +4595,11 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
     <message>
         <source>None of these files could be opened.</source>
         <translation>Keine dieser Dateien konnte geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A family, and one of its styles.</extracomment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -5261,6 +5284,22 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     </message>
 </context>
 <context>
+    <name>lorva::PanelLabel</name>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason becomes a sentence of its own.</extracomment>
+        <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>lorva::PopupButton</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A setting, and what is chosen for it; spoken.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>lorva::ProjectSidebarViewController</name>
     <message>
         <source>Rename Collection…</source>
@@ -5938,6 +5977,7 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     </message>
     <message>
         <source>%1: %2</source>
+        <extracomment>a file, and what is wrong with it</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
@@ -6577,10 +6617,6 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
         <translation>es gibt keinen Ordner %1</translation>
     </message>
     <message>
-        <source>they are no data</source>
-        <translation>sie sind keine Daten</translation>
-    </message>
-    <message>
         <source>--folder needs the name of a folder</source>
         <translation>--folder braucht den Namen eines Ordners</translation>
     </message>
@@ -7056,6 +7092,14 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     <message>
         <source>the picture cannot be encoded</source>
         <translation>das Bild kann nicht codiert werden</translation>
+    </message>
+    <message>
+        <source>Reasons stay in the language of whoever switched the fonts, with --json and --csv, too.</source>
+        <translation>Gründe bleiben in der Sprache dessen, der die Schriften ein- oder ausgeschaltet hat, auch mit --json und --csv.</translation>
+    </message>
+    <message>
+        <source>the stored value is of another type</source>
+        <translation>der gespeicherte Wert ist von anderer Art</translation>
     </message>
 </context>
 </TS>

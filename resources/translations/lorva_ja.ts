@@ -633,10 +633,6 @@
         <translation>%1: 読み込みに時間がかかりすぎたため中止しました</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1: 読み込みに必要のない動作が起きたため中止しました</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: 使用できる量を超えるメモリーが必要です</translation>
     </message>
@@ -645,12 +641,16 @@
         <translation>%1: 破損しているため読み込めませんでした</translation>
     </message>
     <message>
-        <source>%1: what is drawn of it is too large</source>
-        <translation>%1: 描画結果が大きすぎます</translation>
-    </message>
-    <message>
         <source>no new process can be started: %1</source>
         <translation>新しいプロセスを開始できません: %1</translation>
+    </message>
+    <message>
+        <source>%1: reading it needed something that fonts never need, so it was stopped</source>
+        <translation>%1: フォントには不要な動作が必要になったため、読み込みを中止しました</translation>
+    </message>
+    <message>
+        <source>%1: its picture is too large</source>
+        <translation>%1: 描画結果が大きすぎます</translation>
     </message>
 </context>
 <context>
@@ -2399,10 +2399,6 @@
         <translation>このファイルを読み込む権限がありません。</translation>
     </message>
     <message>
-        <source>This is no file that could hold a font.</source>
-        <translation>フォントを含むことのできるファイルではありません。</translation>
-    </message>
-    <message>
         <source>This file is too large to be a font.</source>
         <translation>このファイルは、フォントとしては大きすぎます。</translation>
     </message>
@@ -2467,6 +2463,10 @@
         <translation>
             <numerusform>%n 個のフォント</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>This is a folder or a device, not a font file.</source>
+        <translation>これはフォルダーまたはデバイスで、フォントファイルではありません。</translation>
     </message>
 </context>
 <context>
@@ -3092,6 +3092,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
         <translation>このコンピューターのすべてのフォントを、実際の書体で組んで表示します。パスまたは file: アドレスで指定したフォントファイルは、専用のウィンドウに表示します。</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words that an option takes.</extracomment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>LinkFolderRegistrar</name>
@@ -3427,6 +3432,14 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>the database is damaged</source>
         <translation>データベースが破損しています</translation>
+    </message>
+</context>
+<context>
+    <name>PreferenceFile</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A file, and what is wrong with it.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -4472,10 +4485,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 <context>
     <name>lorva::FontFilesBar</name>
     <message>
-        <source>Information</source>
-        <translation>情報</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>プレビュー</translation>
     </message>
@@ -4486,6 +4495,10 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Waterfall</source>
         <translation>ウォーターフォール</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクター</translation>
     </message>
 </context>
 <context>
@@ -4521,6 +4534,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Fonts in the Files</source>
         <translation>ファイル内のフォント</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between what is said of a font in the list; spoken.</extracomment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
@@ -4543,6 +4561,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>None of these files could be opened.</source>
         <translation>どのファイルも開けませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A family, and one of its styles.</extracomment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -5223,6 +5246,22 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
 </context>
 <context>
+    <name>lorva::PanelLabel</name>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason becomes a sentence of its own.</extracomment>
+        <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>lorva::PopupButton</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A setting, and what is chosen for it; spoken.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>lorva::ProjectSidebarViewController</name>
     <message>
         <source>Rename Collection…</source>
@@ -5745,6 +5784,7 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>%1: %2</source>
+        <extracomment>a file, and what is wrong with it</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
@@ -6457,10 +6497,6 @@ Browse, test and organise all the fonts of this computer.</source>
         <translation>フォルダー %1 はありません</translation>
     </message>
     <message>
-        <source>they are no data</source>
-        <translation>データではありません</translation>
-    </message>
-    <message>
         <source>--folder needs the name of a folder</source>
         <translation>--folder にはフォルダーの名前が必要です</translation>
     </message>
@@ -7003,6 +7039,14 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>the picture cannot be encoded</source>
         <translation>画像をエンコードできません</translation>
+    </message>
+    <message>
+        <source>Reasons stay in the language of whoever switched the fonts, with --json and --csv, too.</source>
+        <translation>理由は、フォントの有効/無効を切り替えた人の言語のまま残ります（--json と --csv でも同じ）。</translation>
+    </message>
+    <message>
+        <source>the stored value is of another type</source>
+        <translation>保存されている値の型が違います</translation>
     </message>
 </context>
 </TS>

@@ -633,10 +633,6 @@
         <translation>%1: 읽는 데 너무 오래 걸려 중단했습니다</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1: 읽기에 전혀 필요 없는 동작을 일으켜 중단했습니다</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: 허용된 것보다 많은 메모리를 씁니다</translation>
     </message>
@@ -645,12 +641,16 @@
         <translation>%1: 손상되어 읽지 못했습니다</translation>
     </message>
     <message>
-        <source>%1: what is drawn of it is too large</source>
-        <translation>%1: 그린 결과가 너무 큽니다</translation>
-    </message>
-    <message>
         <source>no new process can be started: %1</source>
         <translation>새 프로세스를 시작할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>%1: reading it needed something that fonts never need, so it was stopped</source>
+        <translation>%1: 글꼴에는 필요 없는 동작이 요구되어 읽기를 중단했습니다</translation>
+    </message>
+    <message>
+        <source>%1: its picture is too large</source>
+        <translation>%1: 그림이 너무 큽니다</translation>
     </message>
 </context>
 <context>
@@ -2399,10 +2399,6 @@
         <translation>이 파일을 읽을 권한이 없습니다.</translation>
     </message>
     <message>
-        <source>This is no file that could hold a font.</source>
-        <translation>글꼴이 들어 있을 수 있는 파일이 아닙니다.</translation>
-    </message>
-    <message>
         <source>This file is too large to be a font.</source>
         <translation>글꼴이라고 하기에는 파일이 너무 큽니다.</translation>
     </message>
@@ -2467,6 +2463,10 @@
         <translation>
             <numerusform>글꼴 %n개</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>This is a folder or a device, not a font file.</source>
+        <translation>폴더 또는 장치이며 글꼴 파일이 아닙니다.</translation>
     </message>
 </context>
 <context>
@@ -3092,6 +3092,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
         <translation>이 컴퓨터의 모든 글꼴을 살아 있는 견본으로 보여 줍니다. 경로나 file: 주소로 글꼴 파일을 지정하면 별도의 창에 보여 줍니다.</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words that an option takes.</extracomment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>LinkFolderRegistrar</name>
@@ -3427,6 +3432,14 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>the database is damaged</source>
         <translation>데이터베이스가 손상되었습니다</translation>
+    </message>
+</context>
+<context>
+    <name>PreferenceFile</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A file, and what is wrong with it.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -4472,10 +4485,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 <context>
     <name>lorva::FontFilesBar</name>
     <message>
-        <source>Information</source>
-        <translation>정보</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>미리 보기</translation>
     </message>
@@ -4486,6 +4495,10 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Waterfall</source>
         <translation>워터폴</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>인스펙터</translation>
     </message>
 </context>
 <context>
@@ -4521,6 +4534,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Fonts in the Files</source>
         <translation>파일에 든 글꼴</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between what is said of a font in the list; spoken.</extracomment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
@@ -4543,6 +4561,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>None of these files could be opened.</source>
         <translation>이 파일들을 하나도 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A family, and one of its styles.</extracomment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -5223,6 +5246,22 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
 </context>
 <context>
+    <name>lorva::PanelLabel</name>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason becomes a sentence of its own.</extracomment>
+        <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>lorva::PopupButton</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A setting, and what is chosen for it; spoken.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>lorva::ProjectSidebarViewController</name>
     <message>
         <source>Rename Collection…</source>
@@ -5745,6 +5784,7 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>%1: %2</source>
+        <extracomment>a file, and what is wrong with it</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
@@ -6457,10 +6497,6 @@ Browse, test and organise all the fonts of this computer.</source>
         <translation>폴더 %1이(가) 없습니다</translation>
     </message>
     <message>
-        <source>they are no data</source>
-        <translation>데이터가 아닙니다</translation>
-    </message>
-    <message>
         <source>--folder needs the name of a folder</source>
         <translation>--folder에는 폴더 이름이 필요합니다</translation>
     </message>
@@ -7003,6 +7039,14 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>the picture cannot be encoded</source>
         <translation>그림을 인코딩할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Reasons stay in the language of whoever switched the fonts, with --json and --csv, too.</source>
+        <translation>이유는 글꼴을 켜거나 끈 사람의 언어 그대로 남으며, --json과 --csv에서도 같습니다.</translation>
+    </message>
+    <message>
+        <source>the stored value is of another type</source>
+        <translation>저장된 값의 유형이 다릅니다</translation>
     </message>
 </context>
 </TS>

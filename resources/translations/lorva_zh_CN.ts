@@ -633,10 +633,6 @@
         <translation>%1：读取耗时过长，已放弃</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1：已放弃，读取时出现了读取绝不需要的操作</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1：所需内存超出允许的上限</translation>
     </message>
@@ -645,12 +641,16 @@
         <translation>%1：已损坏，读取失败</translation>
     </message>
     <message>
-        <source>%1: what is drawn of it is too large</source>
-        <translation>%1：绘制结果太大</translation>
-    </message>
-    <message>
         <source>no new process can be started: %1</source>
         <translation>无法启动新进程：%1</translation>
+    </message>
+    <message>
+        <source>%1: reading it needed something that fonts never need, so it was stopped</source>
+        <translation>%1：读取时需要字体从不需要的操作，因此已中止</translation>
+    </message>
+    <message>
+        <source>%1: its picture is too large</source>
+        <translation>%1：生成的图片太大</translation>
     </message>
 </context>
 <context>
@@ -2399,10 +2399,6 @@
         <translation>您没有读取此文件的权限。</translation>
     </message>
     <message>
-        <source>This is no file that could hold a font.</source>
-        <translation>这不是可包含字体的文件。</translation>
-    </message>
-    <message>
         <source>This file is too large to be a font.</source>
         <translation>此文件太大，不可能是字体。</translation>
     </message>
@@ -2467,6 +2463,10 @@
         <translation>
             <numerusform>%n 款字体</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>This is a folder or a device, not a font file.</source>
+        <translation>这是文件夹或设备，不是字体文件。</translation>
     </message>
 </context>
 <context>
@@ -3092,6 +3092,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
         <translation>以实时样张显示这台电脑上的所有字体；以路径或 file: 地址给出的字体文件则在单独的窗口中显示。</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words that an option takes.</extracomment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>LinkFolderRegistrar</name>
@@ -3427,6 +3432,14 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>the database is damaged</source>
         <translation>数据库已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>PreferenceFile</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A file, and what is wrong with it.</extracomment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -4472,10 +4485,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 <context>
     <name>lorva::FontFilesBar</name>
     <message>
-        <source>Information</source>
-        <translation>信息</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>预览</translation>
     </message>
@@ -4486,6 +4495,10 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Waterfall</source>
         <translation>字号阶梯</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>检查器</translation>
     </message>
 </context>
 <context>
@@ -4521,6 +4534,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Fonts in the Files</source>
         <translation>文件中的字体</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between what is said of a font in the list; spoken.</extracomment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
@@ -4543,6 +4561,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>None of these files could be opened.</source>
         <translation>这些文件都无法打开。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A family, and one of its styles.</extracomment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -5223,6 +5246,22 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
 </context>
 <context>
+    <name>lorva::PanelLabel</name>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason becomes a sentence of its own.</extracomment>
+        <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>lorva::PopupButton</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A setting, and what is chosen for it; spoken.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>lorva::ProjectSidebarViewController</name>
     <message>
         <source>Rename Collection…</source>
@@ -5745,6 +5784,7 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>%1: %2</source>
+        <extracomment>a file, and what is wrong with it</extracomment>
         <translation>%1：%2</translation>
     </message>
     <message>
@@ -6457,10 +6497,6 @@ Browse, test and organise all the fonts of this computer.</source>
         <translation>没有文件夹 %1</translation>
     </message>
     <message>
-        <source>they are no data</source>
-        <translation>它们不是数据</translation>
-    </message>
-    <message>
         <source>--folder needs the name of a folder</source>
         <translation>--folder 需要文件夹名称</translation>
     </message>
@@ -7003,6 +7039,14 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>the picture cannot be encoded</source>
         <translation>图片无法编码</translation>
+    </message>
+    <message>
+        <source>Reasons stay in the language of whoever switched the fonts, with --json and --csv, too.</source>
+        <translation>原因保留启用或停用字体的人所用的语言，使用 --json 和 --csv 时也一样。</translation>
+    </message>
+    <message>
+        <source>the stored value is of another type</source>
+        <translation>存储的值类型不符</translation>
     </message>
 </context>
 </TS>

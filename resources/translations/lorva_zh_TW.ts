@@ -633,10 +633,6 @@
         <translation>%1：讀取時間過長，已放棄</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1：已放棄，讀取時出現讀取絕不需要的動作</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1：所需的記憶體超過允許的上限</translation>
     </message>
@@ -645,12 +641,16 @@
         <translation>%1：已損毀，讀取失敗</translation>
     </message>
     <message>
-        <source>%1: what is drawn of it is too large</source>
-        <translation>%1：繪製結果太大</translation>
-    </message>
-    <message>
         <source>no new process can be started: %1</source>
         <translation>無法啟動新的處理程序：%1</translation>
+    </message>
+    <message>
+        <source>%1: reading it needed something that fonts never need, so it was stopped</source>
+        <translation>%1：讀取時需要字型從不需要的操作，因此已中止</translation>
+    </message>
+    <message>
+        <source>%1: its picture is too large</source>
+        <translation>%1：產生的圖片太大</translation>
     </message>
 </context>
 <context>
@@ -2399,10 +2399,6 @@
         <translation>您沒有讀取這個檔案的權限。</translation>
     </message>
     <message>
-        <source>This is no file that could hold a font.</source>
-        <translation>這不是可包含字型的檔案。</translation>
-    </message>
-    <message>
         <source>This file is too large to be a font.</source>
         <translation>這個檔案太大，不可能是字型。</translation>
     </message>
@@ -2467,6 +2463,10 @@
         <translation>
             <numerusform>%n 款字型</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>This is a folder or a device, not a font file.</source>
+        <translation>這是資料夾或裝置，不是字型檔。</translation>
     </message>
 </context>
 <context>
@@ -3092,6 +3092,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Shows every font of this computer as a live specimen; font files that are given, by path or as a file: address, in a window of their own.</source>
         <translation>以即時樣張顯示這台電腦的所有字型；以路徑或 file: 位址指定的字型檔，則在獨立的視窗中顯示。</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the words that an option takes.</extracomment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>LinkFolderRegistrar</name>
@@ -3427,6 +3432,14 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>the database is damaged</source>
         <translation>資料庫已損毀</translation>
+    </message>
+</context>
+<context>
+    <name>PreferenceFile</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>A file, and what is wrong with it.</extracomment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -4472,10 +4485,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 <context>
     <name>lorva::FontFilesBar</name>
     <message>
-        <source>Information</source>
-        <translation>資訊</translation>
-    </message>
-    <message>
         <source>Preview</source>
         <translation>預覽</translation>
     </message>
@@ -4486,6 +4495,10 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>Waterfall</source>
         <translation>字級階梯</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>檢閱器</translation>
     </message>
 </context>
 <context>
@@ -4521,6 +4534,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <source>Fonts in the Files</source>
         <translation>檔案中的字型</translation>
     </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between what is said of a font in the list; spoken.</extracomment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
@@ -4543,6 +4561,11 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
     <message>
         <source>None of these files could be opened.</source>
         <translation>這些檔案都無法開啟。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A family, and one of its styles.</extracomment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -5223,6 +5246,22 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
 </context>
 <context>
+    <name>lorva::PanelLabel</name>
+    <message>
+        <source>%1.</source>
+        <extracomment>A reason becomes a sentence of its own.</extracomment>
+        <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>lorva::PopupButton</name>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>A setting, and what is chosen for it; spoken.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>lorva::ProjectSidebarViewController</name>
     <message>
         <source>Rename Collection…</source>
@@ -5745,6 +5784,7 @@ Browse, test and organise all the fonts of this computer.</source>
     </message>
     <message>
         <source>%1: %2</source>
+        <extracomment>a file, and what is wrong with it</extracomment>
         <translation>%1：%2</translation>
     </message>
     <message>
@@ -6457,10 +6497,6 @@ Browse, test and organise all the fonts of this computer.</source>
         <translation>沒有資料夾 %1</translation>
     </message>
     <message>
-        <source>they are no data</source>
-        <translation>不是資料值</translation>
-    </message>
-    <message>
         <source>--folder needs the name of a folder</source>
         <translation>--folder 需要資料夾名稱</translation>
     </message>
@@ -7003,6 +7039,14 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>the picture cannot be encoded</source>
         <translation>無法編碼圖片</translation>
+    </message>
+    <message>
+        <source>Reasons stay in the language of whoever switched the fonts, with --json and --csv, too.</source>
+        <translation>原因會保留啟用或停用字型的人所用的語言，使用 --json 和 --csv 時也一樣。</translation>
+    </message>
+    <message>
+        <source>the stored value is of another type</source>
+        <translation>儲存的值類型不符</translation>
     </message>
 </context>
 </TS>

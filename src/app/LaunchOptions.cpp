@@ -150,7 +150,9 @@ Result<QString> parseImage(const QByteArray &value)
             return QString::fromUtf8(value);
         ids << QString::fromUtf8(image.id);
     }
-    return usage(Texts::tr("--image takes one of: %1").arg(ids.join(QStringLiteral(", "))));
+    //: Between the words that an option takes.
+    const QString comma = Texts::tr(", ");
+    return usage(Texts::tr("--image takes one of: %1").arg(ids.join(comma)));
 }
 
 Result<int> parseWeight(const QByteArray &value)

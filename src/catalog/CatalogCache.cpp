@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+#include <unistd.h>
+
 namespace lorva {
 
 Q_LOGGING_CATEGORY(snapshotLog, "lorva.catalog.snapshot", QtWarningMsg)
@@ -99,6 +101,10 @@ Result<CatalogSnapshot> readSnapshot(const FilePath &file)
 
 std::optional<CatalogSnapshot> loadSnapshot(const FilePath &file)
 {
+    // Of what every first start lacks nothing is said: a start reads while it still makes the
+    // application object, which words would have to be translated by.
+    if (::access(file.c_str(), F_OK) != 0)
+        return std::nullopt;
     Result<CatalogSnapshot> snapshot = readSnapshot(file);
     if (snapshot)
         return *std::move(snapshot);

@@ -4,6 +4,7 @@
 
 #include "base/JsonWriter.h"
 #include "cli/Console.h"
+#include "cli/Words.h"
 
 #include <algorithm>
 
@@ -99,7 +100,7 @@ int printReport(const ActivationReport &report, bool isJson, const QString &noth
     else
         printLines(report, nothingToDo);
     for (const auto &[file, reason] : report.failures)
-        warn(QString(file.displayText() % QStringLiteral(": ") % reason));
+        warn(aboutFile(file, reason));
     const int code = finish();
     return report.failures.empty() ? code : exitFailed;
 }

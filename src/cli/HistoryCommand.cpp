@@ -25,6 +25,8 @@ HelpText help()
             "tab, and where to. Then a line for each file, which begins with a tab: \"done\", "
             "\"skipped\" (its name was taken), \"failed\" or \"left\" (it was stopped before), a "
             "tab, the file; after \"failed\" a tab, and why."))
+        .paragraph(Texts::tr("Reasons stay in the language of whoever switched the fonts, with "
+                             "--json and --csv, too."))
         .entries({{"--limit N", Texts::tr("only the newest N times")},
                   {"--json", Texts::tr("one JSON array instead of lines")},
                   {"--csv", Texts::tr("a table for spreadsheets instead, one row for each file")},

@@ -40,7 +40,7 @@ Result<std::vector<WatchedFolder>> storedFolders()
     const std::optional<PreferenceValue> value = preferenceOfRow(row->second);
     const QByteArray *const json = value ? std::get_if<QByteArray>(&*value) : nullptr;
     if (!json)
-        return failure(ErrorKind::typeMismatch, Texts::tr("they are no data"));
+        return failure(ErrorKind::typeMismatch, Texts::tr("the stored value is of another type"));
     return decodeJson<std::vector<WatchedFolder>>(*json);
 }
 

@@ -7,6 +7,7 @@
 #include "cli/Help.h"
 #include "cli/Texts.h"
 #include "cli/UserActivation.h"
+#include "cli/Words.h"
 #include "model/records/RecordsJson.h"
 
 namespace lorva::cli {
@@ -168,7 +169,7 @@ Result<int> run(const Arguments &arguments)
     else
         printLines(*found, *books, !request->isEmpty());
     for (const auto &[file, reason] : found->unusableFiles)
-        warn(QString(file.displayText() % QStringLiteral(": ") % reason));
+        warn(aboutFile(file, reason));
     const int code = finish();
     return found->unusableFiles.empty() ? code : exitFailed;
 }

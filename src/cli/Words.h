@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/FilePath.h"
 #include "cli/Texts.h"
 
 #include <QString>
@@ -23,6 +24,13 @@ inline QString listed(const QStringList &parts)
 {
     //: between the parts of a list
     return parts.join(Texts::tr(", "));
+}
+
+/// What is wrong with a file.
+inline QString aboutFile(const FilePath &file, const QString &reason)
+{
+    //: a file, and what is wrong with it
+    return Texts::tr("%1: %2").arg(file.displayText(), reason);
 }
 
 /// "1 family", "2 families".

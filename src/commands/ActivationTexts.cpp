@@ -3,6 +3,8 @@
 
 #include "commands/ActivationTexts.h"
 
+#include "base/Sentence.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -99,7 +101,7 @@ QString asSentence(QString reason)
         return Texts::tr("The reason is not known.");
     reason[0] = reason[0].toUpper();
     //: A reason becomes a sentence of its own.
-    return reason.endsWith(u'.') ? reason : Texts::tr("%1.").arg(reason);
+    return endsSentence(reason) ? reason : Texts::tr("%1.").arg(reason);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/PreferenceFile.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <utility>
@@ -11,6 +12,11 @@ namespace lorva {
 Q_LOGGING_CATEGORY(preferenceFileLog, "lorva.platform.preferences", QtCriticalMsg)
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PreferenceFile)
+};
 
 /// A little less than the second after which whoever watches the file looks again.
 constexpr std::chrono::milliseconds kPauseBetweenLooks{900};
@@ -190,8 +196,8 @@ const std::optional<Error> &PreferenceFile::failure() const
 
 void PreferenceFile::noteFailure(std::optional<Error> &place, const Error &error) const
 {
-    const Error located{error.kind,
-                        QStringLiteral("%1: %2").arg(path().displayText(), error.detail)};
+    //: A file, and what is wrong with it.
+    const Error located{error.kind, Texts::tr("%1: %2").arg(path().displayText(), error.detail)};
     if (place == located)
         return;
     place = located;

@@ -100,7 +100,7 @@ Result<SqliteConnection> SqliteConnection::open(const FilePath &file, Access acc
     const int code = sqlite3_open_v2(url.constData(), &opened, flags, nullptr);
     SqliteConnection connection(opened, deadline);
     if (!opened)
-        return failure(ErrorKind::ioFailure, QStringLiteral("out of memory"));
+        return failure(ErrorKind::ioFailure, QString::fromUtf8(sqlite3_errstr(SQLITE_NOMEM)));
     if (code != SQLITE_OK)
         return tl::unexpected(connection.lastError());
     return connection;

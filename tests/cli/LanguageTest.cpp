@@ -82,9 +82,16 @@ TEST_F(Language, IsEnglishInWhatProgramsRead)
 {
     ASSERT_EQ(lorvactl({"collections", "create", "Posters", "Alpha"}).exitCode, 0);
     ASSERT_EQ(lorvactl({"folders", "add", path(data)}).exitCode, 0);
+    ASSERT_EQ(lorvactl({"activate", "Alpha", "--method", "copy"}).exitCode, 0);
     const QStringList rows[]{
         {"--version"},
+        {"list"},
         {"list", "--json"},
+        {"styles"},
+        {"foundries"},
+        {"status", "--json"},
+        {"folders", "--json"},
+        {"history", "--json"},
         {"info", "--json", font},
         {"doctor", "--json"},
         {"collections", "--json"},

@@ -242,15 +242,17 @@ TEST(ActivationTexts, ProgressAndFailures)
         {FilePath("/fonts/a.ttf"), {InstallationError::ownDomain(), 2, "File not found"}},
         {FilePath("/fonts/b.ttf"), {InstallationError::ownDomain(), 1, "the disk is full"}},
         {FilePath("/fonts/c.ttf"), {}},
+        {FilePath("/fonts/d.ttf"), {InstallationError::ownDomain(), 1, "ファイルがありません。"}},
     });
-    EXPECT_EQ(report.body, "3 files could not be switched on or off.");
+    EXPECT_EQ(report.body, "4 files could not be switched on or off.");
     EXPECT_EQ(report.rows,
               (std::vector<Report::Row>{{"/fonts/a.ttf", "File not found."},
                                         {"/fonts/b.ttf", "The disk is full."},
-                                        {"/fonts/c.ttf", "The reason is not known."}}));
+                                        {"/fonts/c.ttf", "The reason is not known."},
+                                        {"/fonts/d.ttf", "ファイルがありません。"}}));
     EXPECT_EQ(report.copyText,
               "/fonts/a.ttf\tFile not found.\n/fonts/b.ttf\tThe disk is full.\n"
-              "/fonts/c.ttf\tThe reason is not known.\n");
+              "/fonts/c.ttf\tThe reason is not known.\n/fonts/d.ttf\tファイルがありません。\n");
 }
 
 TEST(ActivationTexts, TheHistoryInWords)

@@ -46,6 +46,10 @@ INSTANTIATE_TEST_SUITE_P(
         EnvironmentRow{"AListComesFirst",
                        {{"LANGUAGE", "zh_TW::zh_CN"}, {"LANG", "de_DE.UTF-8"}},
                        {"zh_TW", "zh_CN", "de_DE.UTF-8"}},
+        EnvironmentRow{
+            "CEndsTheList", {{"LANGUAGE", "fr:C:de"}, {"LANG", "de_DE.UTF-8"}}, {"fr", "en"}},
+        EnvironmentRow{
+            "PosixEndsTheList", {{"LANGUAGE", "POSIX"}, {"LANG", "de_DE.UTF-8"}}, {"en"}},
         EnvironmentRow{"CAsksForNone", {{"LANGUAGE", "de"}, {"LC_ALL", "C"}}, {}},
         EnvironmentRow{"PosixAsksForNone", {{"LANGUAGE", "de"}, {"LANG", "POSIX"}}, {}}),
     [](const auto &row) { return std::string(row.param.name); });

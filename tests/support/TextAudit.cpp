@@ -46,13 +46,27 @@ public:
         const QTransform toDevice = painter()->deviceTransform();
         const QRectF box(at - QPointF(0, item.ascent()),
                          QSizeF(item.width(), item.ascent() + item.descent()));
-        texts.push_back({item.text(), toDevice.mapRect(box),
+        const QRectF where = toDevice.mapRect(box);
+        if (item.text() == u'…' && endsAt(where)) {
+            texts.back().text += item.text();
+            texts.back().rect |= where;
+            return;
+        }
+        texts.push_back({item.text(), where,
                          painter()->hasClipping() ? toDevice.mapRect(painter()->clipBoundingRect())
                                                   : QRectF()});
     }
     Type type() const override { return User; }
 
     std::vector<PaintedText> texts;
+
+private:
+    /// What was painted last goes on here: an ellipsis may come from another font.
+    bool endsAt(const QRectF &next) const
+    {
+        return !texts.empty() && std::abs(texts.back().rect.right() - next.left()) < 1
+            && texts.back().rect.top() < next.bottom() && next.top() < texts.back().rect.bottom();
+    }
 };
 
 class TextDevice final : public QPaintDevice
@@ -110,11 +124,15 @@ bool isPseudoText(const QString &text)
     return text.contains(u'[') || text.contains(u'~') || text.contains(u']');
 }
 
-/// Half a point is what rounding of advances makes.
+/// Room is made in whole points, so that a text may lack less than one to the right. In height the
+/// line of the interface's font counts, and what comes from another font (East Asian letters) has
+/// its ascent and descent a little outside of it, where there is no ink.
 bool exceeds(const QRectF &text, const QRectF &room)
 {
-    return text.left() < room.left() - 1 || text.right() > room.right() + 1
-        || text.top() < room.top() - 2 || text.bottom() > room.bottom() + 2;
+    constexpr double kRounding = 1;
+    constexpr double kOtherFont = 2;
+    return text.left() < room.left() - kRounding || text.right() > room.right() + kRounding
+        || text.top() < room.top() - kOtherFont || text.bottom() > room.bottom() + kOtherFont;
 }
 
 /// Content that scrolls is cut where it is looked at through.
@@ -154,7 +172,8 @@ void TextAudit::lookAtPainting(QWidget &widget, QStringList &found) const
         const QString where = nameOf(widget) + ": “" + each.text + u'”';
         if (isUntranslated(each.text))
             found << "not translated: " + where;
-        if (isPseudo && !isPseudoText(each.text))
+        const bool isElided = each.text.contains(u'…') && !isShortenedData(each.text);
+        if (isPseudo && !isPseudoText(each.text) && !isElided)
             continue;
         QRectF room = each.clip.isValid() ? whole & each.clip : whole;
         if (scrolls)
@@ -162,8 +181,7 @@ void TextAudit::lookAtPainting(QWidget &widget, QStringList &found) const
         // A field shows as much of its invitation as there is room for, and scrolls its text.
         if (qobject_cast<QLineEdit *>(&widget))
             continue;
-        if (each.text.contains(u'…') && !isShortenedData(each.text)
-            && !mayShorten.contains(widget.objectName()))
+        if (isElided && !mayShorten.contains(widget.objectName()))
             found << "elided: " + where;
         else if (exceeds(each.rect, room))
             found << QStringLiteral("cut: %1 by %2")
@@ -197,9 +215,15 @@ void TextAudit::lookAtProperties(const QWidget &widget, QStringList &found) cons
 
 bool TextAudit::isShortenedData(const QString &text) const
 {
-    return text.endsWith(u'…') && std::ranges::any_of(data, [&](const QString &word) {
-               return word.startsWith(QStringView(text).chopped(1));
-           });
+    // Less tells nobody what is meant. What is painted may begin anywhere in a word, where a font
+    // ends.
+    constexpr qsizetype kLeast = 4;
+    if (text.size() <= kLeast)
+        return false;
+    const QStringView shown = QStringView(text).chopped(1);
+    return std::ranges::any_of(data, [&](const QString &word) {
+        return word.contains(text) || (text.endsWith(u'…') && word.contains(shown));
+    });
 }
 
 bool TextAudit::isUntranslated(QString text) const

@@ -13,6 +13,12 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(RecordsJson)
 };
 
+/// What the reader itself says of the like.
+struct ReaderTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(JsonReader)
+};
+
 using SourceKind = BrowserSource::Kind;
 
 constexpr std::pair<WritingScript, std::string_view> kScriptNames[]{
@@ -163,13 +169,13 @@ void judgePayload(JsonReader &in, SourceKind kind, const SourcePayload &payload)
     const QString name = storedNameOf<SourceKind>(kSourceNames, kind);
     const QString idPlace = name + QLatin1String("._0");
     if (!payload.isObject)
-        in.fail(ErrorKind::typeMismatch, QStringLiteral("expected an object"), name);
+        in.fail(ErrorKind::typeMismatch, ReaderTexts::tr("expected an object"), name);
     else if (!BrowserSource::namesGrouping(kind))
         return;
     else if (!payload.hasId)
-        in.fail(ErrorKind::missingKey, QStringLiteral("missing"), idPlace);
+        in.fail(ErrorKind::missingKey, ReaderTexts::tr("missing"), idPlace);
     else if (!payload.isIdString)
-        in.fail(ErrorKind::typeMismatch, QStringLiteral("expected a string"), idPlace);
+        in.fail(ErrorKind::typeMismatch, ReaderTexts::tr("expected a string"), idPlace);
 }
 
 } // namespace

@@ -90,7 +90,8 @@ tl::unexpected<Error> failureOf(int status, const QString &subject)
     if (signal == SIGSYS)
         return failure(
             ErrorKind::invalidValue,
-            Texts::tr("%1: was given up: reading it led to what reading never needs").arg(subject));
+            Texts::tr("%1: reading it needed something that fonts never need, so it was stopped")
+                .arg(subject));
     if (WIFEXITED(status) && WEXITSTATUS(status) == kOutOfMemoryExit)
         return failure(ErrorKind::tooLarge,
                        Texts::tr("%1: takes more memory than it may have").arg(subject));
@@ -161,8 +162,7 @@ Result<QByteArray> outcomeOf(pid_t child, int answerEnd, const QString &subject,
         return late(subject);
     case Reading::tooLong:
         kill(child);
-        return failure(ErrorKind::tooLarge,
-                       Texts::tr("%1: what is drawn of it is too large").arg(subject));
+        return failure(ErrorKind::tooLarge, Texts::tr("%1: its picture is too large").arg(subject));
     case Reading::whole:
         break;
     }

@@ -18,14 +18,28 @@ QString messagesLocale()
     return QStringLiteral("C");
 }
 
+/// The locale that asks for no language: texts stay as they are in the code.
+bool isPlain(const QString &locale)
+{
+    return locale == QLatin1String("C") || locale == QLatin1String("POSIX");
+}
+
 } // namespace
 
 QStringList userLanguages()
 {
     const QString locale = messagesLocale();
-    if (locale == QLatin1String("C") || locale == QLatin1String("POSIX"))
+    if (isPlain(locale))
         return {};
-    return qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts) << locale;
+    const QStringList wanted = qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts)
+        << locale;
+    QStringList languages;
+    for (const QString &each : wanted) {
+        if (isPlain(each))
+            return languages << QStringLiteral("en");
+        languages << each;
+    }
+    return languages;
 }
 
 } // namespace lorva

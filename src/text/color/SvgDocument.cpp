@@ -44,6 +44,7 @@ QStringView bareName(const QString &name)
     return name.startsWith(style) ? QStringView(name).sliced(style.size()) : QStringView(name);
 }
 
+/// Not translated, like all that fails here: such a glyph is drawn otherwise, and nobody is told.
 tl::unexpected<Error> tooMuch()
 {
     return failure(ErrorKind::tooLarge, QStringLiteral("the SVG glyph is too complicated"));

@@ -20,6 +20,8 @@ constexpr QByteArrayView kGzipStart("\x1f\x8b", 2);
 /// Of zlib: a window of any size, and the header of gzip.
 constexpr int kGzipWindowBits = 16 + MAX_WBITS;
 
+// Not translated: nobody is told. A glyph whose document cannot be read is drawn without it.
+
 tl::unexpected<Error> tooMuch()
 {
     return failure(ErrorKind::tooLarge, QStringLiteral("the SVG document is too large"));

@@ -114,6 +114,7 @@ private:
     /// What cannot be read was inflated for nothing, as far as may be.
     Result<SvgDocument> read(QByteArrayView bytes)
     {
+        // Not translated: nobody is told.
         if (isUsedUp())
             return failure(ErrorKind::tooLarge, QStringLiteral("the text takes too many drawings"));
         Result<SvgDocument> document = SvgDocument::read(bytes);

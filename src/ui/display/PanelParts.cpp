@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/display/PanelParts.h"
 
+#include "base/Sentence.h"
 #include "ui/style/OverlayScrollBar.h"
 #include "ui/style/Style.h"
 
@@ -64,11 +65,9 @@ PanelLabel::PanelLabel(const QString &text, Kind kind, QWidget *parent)
 
 void PanelLabel::setProblem(const QString &words)
 {
-    QString sentence = words;
-    if (!sentence.isEmpty() && !sentence.endsWith(u'.'))
-        sentence.append(u'.');
-    setText(sentence);
-    setVisible(!sentence.isEmpty());
+    //: A reason becomes a sentence of its own.
+    setText(words.isEmpty() || endsSentence(words) ? words : tr("%1.").arg(words));
+    setVisible(!words.isEmpty());
 }
 
 void PanelLabel::changeEvent(QEvent *event)

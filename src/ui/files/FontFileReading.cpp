@@ -75,7 +75,7 @@ QString fontFileProblemText(FontFileProblem problem)
     case FontFileProblem::notAllowed:
         return Texts::tr("You are not allowed to read this file.");
     case FontFileProblem::noFile:
-        return Texts::tr("This is no file that could hold a font.");
+        return Texts::tr("This is a folder or a device, not a font file.");
     case FontFileProblem::tooLarge:
         return Texts::tr("This file is too large to be a font.");
     case FontFileProblem::noFont:

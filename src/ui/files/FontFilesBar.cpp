@@ -28,7 +28,7 @@ FontFilesBar::FontFilesBar(QWidget *parent)
     : QWidget(parent)
     , m_size(new SpecimenSlider(SpecimenSlider::Kind::detailSize, this))
     , m_stages(new SegmentedControl(this))
-    , m_inspector(new IconButton(QStringLiteral("sidebar.right"), tr("Information"), this))
+    , m_inspector(new IconButton(QStringLiteral("sidebar.right"), tr("Inspector"), this))
 {
     setObjectName(QStringLiteral("FontFilesBar"));
     m_size->setObjectName(QStringLiteral("fontFilesSize"));

@@ -105,7 +105,8 @@ private:
             parts << lineOf(m_rows[size_t(heading)].text);
         if (!shown.detail.isEmpty())
             parts << lineOf(shown.detail);
-        return parts.join(QStringLiteral(", "));
+        //: Between what is said of a font in the list; spoken.
+        return parts.join(FontFilesList::tr(", "));
     }
 
     std::vector<FontFilesRow> m_rows;

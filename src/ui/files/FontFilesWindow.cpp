@@ -248,7 +248,8 @@ void FontFilesWindow::showFace(const FontFamilyRecord &family, const FontStyleRe
     m_message->hide();
     m_page->show();
     m_page->showFace(family, style, m_edition);
-    m_bar->setTitle(QString(family.familyName % u' ' % style.label));
+    //: A family, and one of its styles.
+    m_bar->setTitle(tr("%1 %2").arg(family.familyName, style.label));
     m_bar->setControlsShown(true);
     applyActivations();
 }

@@ -55,7 +55,8 @@ void PopupButton::setCurrentIndex(int index)
 {
     m_current = std::clamp(index, 0, int(m_choices.size()) - 1);
     setText(m_choices.at(m_current));
-    setAccessibleName(QString(m_label % u' ' % text()));
+    //: A setting, and what is chosen for it; spoken.
+    setAccessibleName(tr("%1 %2").arg(m_label, text()));
     update();
 }
 
