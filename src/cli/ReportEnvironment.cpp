@@ -36,9 +36,8 @@ QString latin(const char *text)
 /// The digits and dots that it begins with.
 QString leadingVersion(const QString &text)
 {
-    const auto end = std::find_if(text.begin(), text.end(), [](QChar c) {
-        return c != u'.' && (c < u'0' || c > u'9');
-    });
+    const auto end = std::find_if(text.begin(), text.end(),
+                                  [](QChar c) { return c != u'.' && (c < u'0' || c > u'9'); });
     return text.left(end - text.begin());
 }
 

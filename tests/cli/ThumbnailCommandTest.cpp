@@ -184,7 +184,8 @@ TEST_F(ThumbnailCommand, ShowsColoursWithinItsConfinement)
     const FilePath collection = write("svg.ttc", FontBuilder::collection({large, svg}));
     const FilePath suitcase = write("svg.dfont", FontBuilder::dfont({large, svg}));
     for (const FilePath &each : {collection, suitcase})
-        EXPECT_GT(countPixels(drawn(each, {"--face", "1"}), isColored), 500) << each.bytes().constData();
+        EXPECT_GT(countPixels(drawn(each, {"--face", "1"}), isColored), 500)
+            << each.bytes().constData();
 }
 
 TEST_F(ThumbnailCommand, IsDrawnInAProcessOfItsOwn)
