@@ -652,6 +652,14 @@
         <translation>%1: Lesen dauerte zu lange und wurde abgebrochen</translation>
     </message>
     <message>
+        <source>%1: took too much time or memory to read and was given up</source>
+        <translation>%1: Lesen brauchte zu viel Zeit oder Speicher und wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1: was given up: reading it led to what reading never needs</source>
+        <translation>%1: Lesen wurde abgebrochen: Es führte zu etwas, was dafür nie nötig ist</translation>
+    </message>
+    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: braucht mehr Speicher als erlaubt</translation>
     </message>
@@ -7060,10 +7068,6 @@ Alle Schriften dieses Computers ansehen, ausprobieren und ordnen.</translation>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
         <translation>Sagt, was ein Fehlerbericht braucht: Versionen, den Desktop, Anzahlen, Größen, Zeiten, die Befunde von doctor und Einstellungen. Nichts darin nennt eine Schrift, eine Datei, einen Ordner, eine Sammlung oder eine Person, und kein eingegebener Text steht darin. Er ist in jeder Sprache auf Englisch.</translation>
-    </message>
-    <message>
-        <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation>Nichts hier nennt eine Schrift, eine Datei, einen Ordner oder eine Person. Fügen Sie alles in Ihren Bericht ein, unter dem, was Sie getan und gesehen haben.</translation>
     </message>
     <message>
         <source>report takes no words</source>

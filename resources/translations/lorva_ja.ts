@@ -633,6 +633,14 @@
         <translation>%1: 読み込みに時間がかかりすぎたため中止しました</translation>
     </message>
     <message>
+        <source>%1: took too much time or memory to read and was given up</source>
+        <translation>%1: 読み込みに時間またはメモリーがかかりすぎたため中止しました</translation>
+    </message>
+    <message>
+        <source>%1: was given up: reading it led to what reading never needs</source>
+        <translation>%1: 読み込みに必要のない動作が起きたため中止しました</translation>
+    </message>
+    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: 使用できる量を超えるメモリーが必要です</translation>
     </message>
@@ -7007,10 +7015,6 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
         <translation>不具合の報告に必要な情報を表示します: バージョン、デスクトップ、個数、サイズ、時間、doctor の診断結果、設定。フォント、ファイル、フォルダー、コレクション、人の名前や、入力されたテキストは含まれません。言語の設定にかかわらず英語で表示します。</translation>
-    </message>
-    <message>
-        <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation>ここには、フォント、ファイル、フォルダー、人の名前は含まれていません。行った操作と起きたことを書いた下に、全体を貼り付けて報告してください。</translation>
     </message>
     <message>
         <source>report takes no words</source>

@@ -633,6 +633,14 @@
         <translation>%1: 읽는 데 너무 오래 걸려 중단했습니다</translation>
     </message>
     <message>
+        <source>%1: took too much time or memory to read and was given up</source>
+        <translation>%1: 읽는 데 시간이나 메모리가 너무 많이 들어 중단했습니다</translation>
+    </message>
+    <message>
+        <source>%1: was given up: reading it led to what reading never needs</source>
+        <translation>%1: 읽기에 전혀 필요 없는 동작을 일으켜 중단했습니다</translation>
+    </message>
+    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: 허용된 것보다 많은 메모리를 씁니다</translation>
     </message>
@@ -7007,10 +7015,6 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
         <translation>오류 보고에 필요한 정보를 알려 줍니다: 버전, 데스크톱, 개수, 크기, 시간, doctor가 발견한 것, 설정. 글꼴, 파일, 폴더, 모음, 사람의 이름이나 입력한 텍스트는 들어 있지 않습니다. 언어와 상관없이 영어로 출력합니다.</translation>
-    </message>
-    <message>
-        <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation>여기에는 글꼴, 파일, 폴더, 사람의 이름이 없습니다. 보고서에 한 일과 본 것을 적고 그 아래에 이 내용을 모두 붙여 넣으세요.</translation>
     </message>
     <message>
         <source>report takes no words</source>

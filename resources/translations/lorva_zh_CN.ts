@@ -633,6 +633,14 @@
         <translation>%1：读取耗时过长，已放弃</translation>
     </message>
     <message>
+        <source>%1: took too much time or memory to read and was given up</source>
+        <translation>%1：读取耗费了过多的时间或内存，已放弃</translation>
+    </message>
+    <message>
+        <source>%1: was given up: reading it led to what reading never needs</source>
+        <translation>%1：已放弃，读取时出现了读取绝不需要的操作</translation>
+    </message>
+    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1：所需内存超出允许的上限</translation>
     </message>
@@ -7007,10 +7015,6 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
         <translation>给出问题报告所需的信息：版本、桌面、数量、大小、耗时、doctor 的检查结果和设置。其中不含字体、文件、文件夹、收藏集的名称和人名，也不含输入过的文本。无论使用何种语言，内容均为英文。</translation>
-    </message>
-    <message>
-        <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation>此处不含字体、文件、文件夹的名称和人名。请将全部内容粘贴到您的报告中，放在您的操作和所见情况之后。</translation>
     </message>
     <message>
         <source>report takes no words</source>

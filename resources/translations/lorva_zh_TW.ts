@@ -633,6 +633,14 @@
         <translation>%1：讀取時間過長，已放棄</translation>
     </message>
     <message>
+        <source>%1: took too much time or memory to read and was given up</source>
+        <translation>%1：讀取耗費過多時間或記憶體，已放棄</translation>
+    </message>
+    <message>
+        <source>%1: was given up: reading it led to what reading never needs</source>
+        <translation>%1：已放棄，讀取時出現讀取絕不需要的動作</translation>
+    </message>
+    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1：所需的記憶體超過允許的上限</translation>
     </message>
@@ -7007,10 +7015,6 @@ Browse, test and organise all the fonts of this computer.</source>
     <message>
         <source>Tells what a report of a fault needs: versions, the desktop, counts, sizes, times, what the doctor finds, and settings. Nothing in it names a font, a file, a folder, a collection or a person, and no text that was typed is in it. It is in English, whatever the language.</source>
         <translation>列出問題回報所需的資訊：版本、桌面、數量、大小、時間、doctor 的檢查結果與設定。其中不含字型、檔案、資料夾、收藏集的名稱與人名，也不含輸入過的文字。無論使用何種語言，內容一律為英文。</translation>
-    </message>
-    <message>
-        <source>Nothing here names a font, a file, a folder or a person. Paste all of it into your report, below what you did and saw.</source>
-        <translation>此處不含字型、檔案、資料夾的名稱與人名。請將全部內容貼到您的回報中，放在您的操作與所見情況之後。</translation>
     </message>
     <message>
         <source>report takes no words</source>

@@ -30,10 +30,9 @@ int run(bool isJson)
         return finish();
     }
     printText(reportText(report));
-    printText(QString(u'\n'
-                      % Texts::tr("Nothing here names a font, a file, a folder or a person. Paste "
-                                  "all of it into your report, below what you did and saw.")
-                      % u'\n'));
+    // In English as all of the report: whoever reads it need not know the user's language.
+    print("\nNothing here names a font, a file, a folder or a person. Paste all of it into your "
+          "report, below what you did and saw.\n");
     return finish();
 }
 

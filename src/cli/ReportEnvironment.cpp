@@ -33,6 +33,14 @@ QString latin(const char *text)
     return QString::fromLatin1(text);
 }
 
+/// The digits and dots that it begins with.
+QString leadingVersion(const QString &text)
+{
+    const auto end = std::find_if(text.begin(), text.end(),
+                                  [](QChar c) { return c != u'.' && (c < u'0' || c > u'9'); });
+    return text.left(end - text.begin());
+}
+
 QString fontconfigVersion()
 {
     const int version = FcGetVersion();
@@ -65,14 +73,20 @@ ReportValue svgLibraryVersion()
                    + number("rsvg_micro_version"));
 }
 
+/// The name of the machine stands there, too, and behind the release whatever its builder liked.
 ReportValue kernel()
 {
     utsname system = {};
     if (::uname(&system) != 0)
         return NothingThere{};
-    // The name of the machine stands there, too.
-    return QString(latin(system.sysname) + u' ' + latin(system.release) + u' '
+    return QString(latin(system.sysname) + u' ' + leadingVersion(latin(system.release)) + u' '
                    + latin(system.machine));
+}
+
+/// As os-release(5) tells it to programs; its words for people may be anybody's.
+QString distribution()
+{
+    return QString(QSysInfo::productType() + u' ' + QSysInfo::productVersion());
 }
 
 /// A word of the environment, if it is one that everybody has; anybody may write anything there.
@@ -148,7 +162,7 @@ ReportSection versionSection()
              {QStringLiteral("sqlite"), latin(sqlite3_libversion())},
              {QStringLiteral("librsvg"), svgLibraryVersion()},
              {QStringLiteral("kernel"), kernel()},
-             {QStringLiteral("distribution"), QSysInfo::prettyProductName()}}};
+             {QStringLiteral("distribution"), distribution()}}};
 }
 
 ReportSection environmentSection()

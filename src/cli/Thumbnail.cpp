@@ -53,6 +53,8 @@ public:
         return {};
     }
 
+    /// The pixels of drawnThumbnail(): of whatever was done to this process, no more than a picture
+    /// comes out.
     Result<QByteArray> draw() const
     {
         const auto read = FontFile::read(m_request.font, m_opening);
@@ -79,7 +81,8 @@ private:
             descriptors ? scriptOf(file, *descriptors, index) : std::nullopt;
         for (const ThumbnailLetters &letters : thumbnailLetters(**face, script)) {
             if (const auto picture = drawnThumbnail(*face, letters, m_request.sidePx))
-                return encodedThumbnail(*picture);
+                return QByteArray(reinterpret_cast<const char *>(picture->constBits()),
+                                  picture->sizeInBytes());
         }
         return failure(
             ErrorKind::unsupported,
@@ -99,9 +102,10 @@ Result<void> writeThumbnail(const ThumbnailRequest &request)
     FontDrawing drawing(request);
     const ConfinedWork work{request.font.displayText(), [&] { return drawing.open(); },
                             [&] { return drawing.draw(); }};
-    return runConfined(work, kThumbnailLimits).and_then([&](const QByteArray &png) {
-        return writeFileAtomically(request.picture, png);
-    });
+    return runConfined(work, kThumbnailLimits)
+        .and_then(
+            [&](const QByteArray &pixels) { return encodedThumbnail(pixels, request.sidePx); })
+        .and_then([&](const QByteArray &png) { return writeFileAtomically(request.picture, png); });
 }
 
 } // namespace lorva::cli

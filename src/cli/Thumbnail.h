@@ -24,8 +24,8 @@ inline constexpr ConfinementLimits kThumbnailLimits{
     std::chrono::seconds(5),
     // Slow volumes may think about it; nobody waits longer for a picture.
     std::chrono::seconds(20),
-    // 2048 by 2048 pixels that do not compress.
-    qint64(20) << 20,
+    // The pixels of the largest.
+    qint64(4) * kMostThumbnailSide *kMostThumbnailSide,
 };
 
 struct ThumbnailRequest
@@ -38,9 +38,10 @@ struct ThumbnailRequest
 };
 
 /// Draws letters of the font on a square sheet and writes it as a PNG, whole or not at all. The
-/// font is read in a confined process. Fails as FontFile::open() and runConfined() do, with
-/// unsupported for a font that has nothing to show, and for a picture that cannot be written or
-/// would take the place of a font; the detail names the file.
+/// font is read in a confined process, of which nothing but pixels is taken. Fails as
+/// FontFile::open() and runConfined() do, with unsupported for a font that has nothing to show, and
+/// for a picture that cannot be written or would take the place of a font; the detail names the
+/// file.
 Result<void> writeThumbnail(const ThumbnailRequest &request);
 
 } // namespace lorva::cli

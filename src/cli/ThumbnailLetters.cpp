@@ -3,12 +3,15 @@
 #include "cli/ThumbnailLetters.h"
 
 #include "text/CharacterSet.h"
+#include "text/FaceInformation.h"
 
 #include <QChar>
 
 #include <algorithm>
 #include <array>
 #include <map>
+#include <set>
+#include <utility>
 
 namespace lorva::cli {
 
@@ -158,6 +161,32 @@ QString lettersOf(const CharacterSet &characters, QChar::Script script)
     return firstLetters(characters, script);
 }
 
+/// Of OpenType `OS/2` ulCodePageRange1; Korean has two.
+constexpr std::pair<quint32, WritingScript> kCodePages[]{
+    {1U << 17, WritingScript::japanese},
+    {1U << 19 | 1U << 21, WritingScript::korean},
+    {1U << 18, WritingScript::simplifiedChinese},
+    {1U << 20, WritingScript::traditionalChinese},
+};
+const std::set<WritingScript> kChinese{WritingScript::simplifiedChinese,
+                                       WritingScript::traditionalChinese};
+
+/// What a face with letters of several East Asian scripts is made for, if its code pages tell; few
+/// names of families do.
+WritingScript scriptByCodePages(const FontFace &face, WritingScript script)
+{
+    const quint32 pages = readFaceInformation(face).codePages.value_or(0);
+    std::set<WritingScript> named;
+    for (const auto &[bits, each] : kCodePages) {
+        if ((pages & bits) != 0)
+            named.insert(each);
+    }
+    if (named.size() == 1)
+        return *named.begin();
+    return named == kChinese && !kChinese.contains(script) ? WritingScript::simplifiedChinese
+                                                           : script;
+}
+
 std::optional<ThumbnailLetters> eastAsianLetters(std::optional<WritingScript> script)
 {
     switch (script.value_or(WritingScript::latin)) {
@@ -266,8 +295,10 @@ std::vector<ThumbnailLetters> thumbnailLetters(const FontFace &face,
     const auto other = otherScript(stock);
     const QString otherLetters = other ? lettersOf(stock.characters, *other) : QString();
     Choice choice(stock.characters);
-    if (const auto eastAsian = eastAsianLetters(script))
-        choice.add(*eastAsian);
+    if (eastAsianLetters(script)) {
+        choice.add(*eastAsianLetters(scriptByCodePages(face, *script)));
+        choice.add(*eastAsianLetters(script));
+    }
     if (stock.symbolCount > kSymbolsPerLetter * stock.letterCount) {
         choice.add(ThumbnailLetters{emoji(stock.characters), {}});
         choice.addSymbols(isSymbol);

@@ -24,12 +24,16 @@ struct ThumbnailLetters
 };
 
 /// What would show the face best, the best first; the face maps all of it, but may have no ink for
-/// it. `script` is that of its family, if it is known.
+/// it. `script` is that of its family, if it is known; the code pages of an East Asian face
+/// (OpenType `OS/2`) know better, where they name one.
 ///
-///     a Latin face                                → "Aa"
 ///     Japanese, Korean, simplified or traditional → "永あ", "한글", "永汉", "永漢"
-///     more letters of another script than Latin   → letters of that script, such as "Αα" or "कख"
-///     emoji, other symbols                        → four of them
+///     far more symbols than letters, emoji        → four of them
+///     more letters of another script than Latin,
+///     or its alphabet and few Latin ones          → letters of that script, such as "अक" or "אב"
+///     "A" and "a"; Greek and Cyrillic beside them → "Aa"
+///     Greek, Cyrillic without them                → "Αα", "Аа"
+///     anything else                               → four characters, or the first one
 std::vector<ThumbnailLetters> thumbnailLetters(const FontFace &face,
                                                std::optional<WritingScript> script);
 

@@ -15,6 +15,7 @@ namespace lorva::cli {
 
 namespace {
 
+constexpr QImage::Format kFormat = QImage::Format_RGB32;
 constexpr QColor kSheet(255, 255, 255);
 constexpr QColor kInk(0x1D, 0x1D, 0x1F);
 /// 8.5 % of black: where the sheet ends on a white window.
@@ -82,7 +83,7 @@ std::vector<QRectF> boxes(qsizetype count, double side)
 
 QImage emptySheet(int sidePx)
 {
-    QImage sheet(sidePx, sidePx, QImage::Format_RGB32);
+    QImage sheet(sidePx, sidePx, kFormat);
     sheet.fill(kSheet);
     QPainter painter(&sheet);
     painter.setPen(kEdge);
@@ -106,8 +107,13 @@ std::optional<QImage> drawnThumbnail(const std::shared_ptr<const FontFace> &face
     return sheet;
 }
 
-Result<QByteArray> encodedThumbnail(const QImage &picture)
+Result<QByteArray> encodedThumbnail(const QByteArray &pixels, int sidePx)
 {
+    const qsizetype lineBytes = 4 * qsizetype(sidePx);
+    if (pixels.size() != lineBytes * sidePx)
+        return failure(ErrorKind::malformed, Texts::tr("the picture cannot be encoded"));
+    const QImage picture(reinterpret_cast<const uchar *>(pixels.constData()), sidePx, sidePx,
+                         lineBytes, kFormat);
     QByteArray png;
     QBuffer buffer(&png);
     if (!buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "PNG"))

@@ -122,7 +122,8 @@ ScriptMetrics scriptMetrics(const TableView &os2, quint64 at)
             double(os2.i16(at + 6))};
 }
 
-/// The first sixty-four bytes stand in every version, the vertical metrics in all but the earliest.
+/// The first sixty-four bytes stand in every version, the vertical metrics in all but the earliest,
+/// code pages from version 1 on.
 void readOs2(const TableView &os2, FaceInformation &information)
 {
     if (!os2.has(0, 64))
@@ -147,6 +148,8 @@ void readOs2(const TableView &os2, FaceInformation &information)
     information.typoMetrics =
         VerticalMetricsSet{double(os2.i16(68)), double(os2.i16(70)), double(os2.i16(72))};
     information.windowsMetrics = VerticalMetricsSet{double(os2.u16(74)), -double(os2.u16(76)), 0};
+    if (os2.u16(0) >= 1 && os2.has(78, 4))
+        information.codePages = os2.u32(78);
 }
 
 void readHhea(const TableView &hhea, FaceInformation &information)
@@ -233,7 +236,7 @@ FaceInformation readFaceInformation(const FontFace &face)
     const Table tags = read(fontTag('l', 't', 'a', 'g'), kMaxNameTableBytes);
     information.names = listNames(names.bytes(), tags.bytes());
     readHead(read(fontTag('h', 'e', 'a', 'd'), 54).view(), information);
-    readOs2(read(fontTag('O', 'S', '/', '2'), 78).view(), information);
+    readOs2(read(fontTag('O', 'S', '/', '2'), 82).view(), information);
     readHhea(read(fontTag('h', 'h', 'e', 'a'), 36).view(), information);
     readPost(read(fontTag('p', 'o', 's', 't'), 32).view(), information);
     const Table substitution = read(fontTag('G', 'S', 'U', 'B'), kMaxScriptListBytes);

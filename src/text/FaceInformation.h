@@ -115,6 +115,8 @@ struct FaceInformation
     bool usesTypoMetrics = false;
     /// Descender negative, as the others.
     std::optional<VerticalMetricsSet> windowsMetrics;
+    /// ulCodePageRange1: a bit for each code page of old that the face is made for.
+    std::optional<quint32> codePages;
     std::optional<ScriptMetrics> subscript;
     std::optional<ScriptMetrics> superscript;
     std::optional<StrokeMetrics> strikeout;

@@ -166,13 +166,15 @@ TEST_F(ReportCommand, LeavesEverythingAsItIs)
 
 TEST_F(ReportCommand, TellsVersionsAndTimes)
 {
+    const Environment german("LANGUAGE", "de");
     const std::string report = lorvactl({"report"}).out.toStdString();
     for (const char *line :
          {"\n  lorva +[0-9.]+\n", "\n  qt +6[0-9.]+\n", "\n  harfbuzz +[0-9.]+\n",
           "\n  fontconfig +2[0-9.]+\n", "\n  icu +[0-9.]+\n", "\n  sqlite +3[0-9.]+\n",
-          "\n  librsvg +2[0-9.]+\n", "\n  kernel +Linux ", "\n  scanInAll +[0-9.]+ ms\n",
-          "\n  families +[1-9]", "\n  faces +[1-9]", "\n  isWell +yes\n",
-          "\nNothing here names a font, [^\n]+\n$"})
+          "\n  librsvg +2[0-9.]+\n", "\n  kernel +Linux [0-9.]+ [a-z0-9_]+\n",
+          "\n  distribution +[a-z]+ [0-9.a-z]+\n", "\n  language +de\n",
+          "\n  scanInAll +[0-9.]+ ms\n", "\n  families +[1-9]", "\n  faces +[1-9]",
+          "\n  isWell +yes\n", "\nNothing here names a font, [^\n]+\n$"})
         EXPECT_THAT(report, ContainsRegex(line));
 }
 

@@ -11,6 +11,7 @@
 #include <random>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace lorva {
@@ -126,6 +127,8 @@ TEST_F(ThumbnailCommand, ShowsLettersThatTheFontIsMadeFor)
         {"truetype/dejavu/DejaVuSans.ttf", "Aa"},
         {"opentype/noto/NotoSansCJK-Regular.ttc", "永あ"},
         {"truetype/nanum/NanumMyeongjo.ttf", "한글"},
+        {"truetype/nanum/NanumBarunGothic.ttf", "한글"},
+        {"truetype/lxgw-wenkai/LXGWWenKai-Regular.ttf", "永汉"},
         {"opentype/fonts-hosny-amiri/Amiri-Regular.ttf", "أب"},
         {"truetype/lohit-devanagari/Lohit-Devanagari.ttf", "अक"},
         {"truetype/noto/NotoSansHebrew-Regular.ttf", "אב"},
@@ -175,6 +178,30 @@ TEST_F(ThumbnailCommand, ShowsColoursWithinItsConfinement)
     EXPECT_GT(countPixels(drawn(realFont("truetype/noto/NotoColorEmoji.ttf")), isColored), 5000);
     for (const char *name : {"svg.ttf", "sbix.ttf", "cbdt.ttf"})
         EXPECT_GT(countPixels(drawn(madeFont(name)), isColored), 500) << name;
+    // Where the tables are listed behind all of another font.
+    const QByteArray large = FontBuilder("Large").table("TEST", QByteArray(10000, 'x')).build();
+    const QByteArray svg = test::readFile(madeFont("svg.ttf"));
+    const FilePath collection = write("svg.ttc", FontBuilder::collection({large, svg}));
+    const FilePath suitcase = write("svg.dfont", FontBuilder::dfont({large, svg}));
+    for (const FilePath &each : {collection, suitcase})
+        EXPECT_GT(countPixels(drawn(each, {"--face", "1"}), isColored), 500)
+            << each.bytes().constData();
+}
+
+TEST_F(ThumbnailCommand, IsDrawnInAProcessOfItsOwn)
+{
+    QProcess process;
+    process.setChildProcessModifier([] {
+        const rlimit none{0, 0};
+        // Root may always have another one.
+        if (::geteuid() == 0 && ::setuid(65534) != 0)
+            ::_exit(99);
+        ::setrlimit(RLIMIT_NPROC, &none);
+    });
+    process.start(QStringLiteral(LORVACTL_PATH),
+                  {"thumbnail", path(realFont("truetype/dejavu/DejaVuSans.ttf")), path(picture)});
+    expectFailure(test::finished(process), 1, "no new process can be started");
+    EXPECT_EQ(written(), QStringList());
 }
 
 TEST_F(ThumbnailCommand, TakesPathsAddressesAndFaces)

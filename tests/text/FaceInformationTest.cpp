@@ -220,6 +220,7 @@ TEST(FaceInformation, TellsTheMetricsOfARealFont)
     EXPECT_EQ(it.averageCharacterWidth, 979);
     EXPECT_EQ(it.panose, (std::array<quint8, 10>{2, 11, 5, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(it.vendorId, QLatin1String("GOOG"));
+    EXPECT_EQ(it.codePages, 0x602E0107U);
     EXPECT_EQ(it.typoMetrics, (VerticalMetricsSet{880, -120, 0}));
     EXPECT_FALSE(it.usesTypoMetrics);
     EXPECT_EQ(it.windowsMetrics, (VerticalMetricsSet{1160, -288, 0}));
@@ -248,6 +249,7 @@ TEST(FaceInformation, LeavesOutWhatAFontDoesNotSay)
     EXPECT_FALSE(it.embedding || it.weightClass || it.panose || it.typoMetrics || it.windowsMetrics
                  || it.subscript || it.strikeout || it.underline);
     EXPECT_EQ(it.vendorId, QString());
+    EXPECT_FALSE(it.codePages || read(FontBuilder().os2Version(0)).codePages);
     EXPECT_TRUE(it.horizontalMetrics);
     EXPECT_THAT(it.axisValues, IsEmpty());
     EXPECT_THAT(
