@@ -5,31 +5,52 @@
 
 #include "base/RunThen.h"
 
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
 #include <sys/stat.h>
 
 namespace lorva {
 
 namespace {
 
-struct Sorted
-{
-    std::vector<FilePath> files;
-    std::vector<FilePath> folders;
-};
+/// Whoever opens files sees a window by then.
+constexpr std::chrono::milliseconds kPatience{300};
+/// One looks; the others are left to disks that hang.
+constexpr int kMostThreads = 8;
 
 /// What cannot be looked at counts as a file: its window says why it is not shown.
-Sorted sorted(const std::vector<FilePath> &places)
+bool isFolderOfDisk(const FilePath &place)
 {
-    Sorted found;
-    for (const FilePath &place : places) {
-        struct stat info = {};
-        const bool isFolder = ::stat(place.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
-        (isFolder ? found.folders : found.files).push_back(place);
-    }
-    return found;
+    struct stat info = {};
+    return ::stat(place.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
 } // namespace
+
+struct FileOpening::Sorted
+{
+    std::vector<FilePath> files;
+    std::vector<FilePath> folders;
+
+    Sorted(const std::vector<FilePath> &places, const IsFolder &isFolder)
+    {
+        for (const FilePath &place : places)
+            (isFolder(place) ? folders : files).push_back(place);
+    }
+};
+
+/// A request whose places are being looked at.
+struct FileOpening::Looking
+{
+    OpenRequest request;
+    Folders folders;
+    int number = 0;
+    /// It took too long, and all were shown as files.
+    bool isShown = false;
+};
 
 void useActivationToken(const QByteArray &token)
 {
@@ -37,12 +58,14 @@ void useActivationToken(const QByteArray &token)
         qputenv("XDG_ACTIVATION_TOKEN", token);
 }
 
-FileOpening::FileOpening(LorvaAppModel &model, std::function<FontFilesServices()> makeServices)
+FileOpening::FileOpening(LorvaAppModel &model, std::function<FontFilesServices()> makeServices,
+                         IsFolder isFolder)
     : m_model(model)
     , m_makeServices(std::move(makeServices))
+    , m_isFolder(isFolder ? std::move(isFolder) : IsFolder(isFolderOfDisk))
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.opening"));
-    m_pool.setMaxThreadCount(1);
+    m_pool.setMaxThreadCount(kMostThreads);
 }
 
 FileOpening::~FileOpening() = default;
@@ -59,14 +82,45 @@ void FileOpening::openDropped(const std::vector<FilePath> &places)
 
 void FileOpening::sortAndOpen(const OpenRequest &request, Folders folders)
 {
-    const auto work = [places = request.places](const std::stop_token &) { return sorted(places); };
-    runThen(m_pool, this, work, [this, request, folders](const Sorted &found) {
-        const bool hasFiles = !found.files.empty() || !request.foreign.isEmpty();
-        if (folders == Folders::areHandedOn && !found.folders.empty() && onFolders)
-            onFolders(found.folders, hasFiles);
-        if (hasFiles)
-            show(found.files, request);
+    const auto looking = std::make_shared<Looking>(Looking{request, folders, ++m_newest});
+    auto *patience = new QTimer(this);
+    patience->setSingleShot(true);
+    connect(patience, &QTimer::timeout, this, [this, looking] { openUnsorted(looking); });
+    patience->start(kPatience);
+    const auto work = [places = request.places, isFolder = m_isFolder](const std::stop_token &) {
+        return Sorted(places, isFolder);
+    };
+    runThen(m_pool, this, work, [this, looking, patience](const Sorted &found) {
+        delete patience;
+        openSorted(looking, found);
     });
+}
+
+void FileOpening::openUnsorted(const std::shared_ptr<Looking> &looking)
+{
+    looking->isShown = true;
+    if (looking->number > m_shown)
+        show(looking->request.places, *looking);
+}
+
+void FileOpening::openSorted(const std::shared_ptr<Looking> &looking, const Sorted &found)
+{
+    const OpenRequest &request = looking->request;
+    // Later ones were quicker, or the user has closed the window.
+    const bool wasReplaced = looking->number < m_shown || (looking->isShown && !isWindowOpen());
+    const bool hasFiles = wasReplaced || !found.files.empty() || !request.foreign.isEmpty();
+    const bool isHandedOn = looking->folders == Folders::areHandedOn && !found.folders.empty();
+    if (isHandedOn && onFolders) {
+        if (!hasFiles)
+            useActivationToken(request.activationToken);
+        onFolders(found.folders, hasFiles);
+    }
+    if (wasReplaced || (looking->isShown && found.folders.empty()))
+        return;
+    if (hasFiles)
+        show(found.files, *looking);
+    else if (looking->isShown && isHandedOn)
+        m_window->close();
 }
 
 void FileOpening::makeWindow()
@@ -83,14 +137,17 @@ void FileOpening::makeWindow()
             onQuitWanted();
     };
     m_window->onDropped = [this](const std::vector<FilePath> &dropped) { openDropped(dropped); };
+    if (onWindowMade)
+        onWindowMade(*m_window);
 }
 
-void FileOpening::show(const std::vector<FilePath> &files, const OpenRequest &request)
+void FileOpening::show(const std::vector<FilePath> &files, const Looking &looking)
 {
     if (!m_window)
         makeWindow();
-    m_window->open(files, request.foreign);
-    useActivationToken(request.activationToken);
+    m_shown = looking.number;
+    m_window->open(files, looking.request.foreign);
+    useActivationToken(looking.request.activationToken);
     m_window->present();
 }
 

@@ -29,21 +29,30 @@ struct OpenRequest
 /// Opens what file managers, other starts and drops hand over: files in a window of their own,
 /// which it makes when it is first needed; folders are handed on.
 ///
-/// Which are folders is found out on a worker. Holds the model, which outlives it. Thread: main.
+/// Which are folders is found out on a worker. A disk that hangs keeps nothing else from being
+/// opened: what is not known in a moment is shown as files, and folders among it follow. Holds the
+/// model, which outlives it. Thread: main.
 class FileOpening final : public QObject
 {
 public:
-    FileOpening(LorvaAppModel &model, std::function<FontFilesServices()> makeServices);
+    using IsFolder = std::function<bool(const FilePath &)>;
+
+    /// `isFolder` is asked on workers; empty: the disk.
+    FileOpening(LorvaAppModel &model, std::function<FontFilesServices()> makeServices,
+                IsFolder isFolder = {});
     ~FileOpening() override;
 
     /// Folders were among what is to be opened; `hasFiles`: and files, which have the front.
     std::function<void(const std::vector<FilePath> &folders, bool hasFiles)> onFolders;
     /// The user wants to see the library; the family, or an empty name.
     std::function<void(const QString &familyName)> onLibraryWanted;
+    /// The user wants to end the program.
+    std::function<void()> onQuitWanted;
+    /// The window is there, and not shown yet.
+    std::function<void(FontFilesWindow &window)> onWindowMade;
 
     /// For a picture: windows that are made from now on have this size and no other.
     void setFixedWindowSize(QSize size) { m_fixedSize = size; }
-    std::function<void()> onQuitWanted;
 
     void open(const OpenRequest &request);
     /// Files alone; folders are passed over.
@@ -55,14 +64,23 @@ public:
 private:
     enum class Folders { areHandedOn, arePassedOver };
 
+    struct Sorted;
+    struct Looking;
+
     void sortAndOpen(const OpenRequest &request, Folders folders);
+    void openUnsorted(const std::shared_ptr<Looking> &looking);
+    void openSorted(const std::shared_ptr<Looking> &looking, const Sorted &found);
     void makeWindow();
-    void show(const std::vector<FilePath> &files, const OpenRequest &request);
+    void show(const std::vector<FilePath> &files, const Looking &looking);
 
     LorvaAppModel &m_model;
     const std::function<FontFilesServices()> m_makeServices;
+    const IsFolder m_isFolder;
     std::optional<QSize> m_fixedSize;
     std::unique_ptr<FontFilesWindow> m_window;
+    /// Of the newest request, and of that whose files the window shows.
+    int m_newest = 0;
+    int m_shown = 0;
     QThreadPool m_pool;
 };
 

@@ -269,7 +269,7 @@ const Option *findOption(const QByteArray &name)
     return found == std::end(kOptions) ? nullptr : found;
 }
 
-/// RFC 3986 "Scheme", followed by an authority, or a file's.
+/// RFC 3986 "Scheme", followed by an authority or an absolute path, or a file's.
 bool isAddress(const QByteArray &argument)
 {
     const qsizetype colon = argument.indexOf(':');
@@ -280,7 +280,7 @@ bool isAddress(const QByteArray &argument)
     // A single letter is no scheme that anybody has.
     if (colon < 2 || !std::all_of(argument.begin(), argument.begin() + colon, isSchemeByte))
         return false;
-    return argument.mid(colon).startsWith("://") || argument.left(colon).toLower() == "file";
+    return argument.mid(colon).startsWith(":/") || argument.left(colon).toLower() == "file";
 }
 
 void addPlace(LaunchOptions &options, const QByteArray &argument, const FilePath &workingFolder)

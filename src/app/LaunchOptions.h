@@ -43,8 +43,8 @@ struct LaunchOptions
     /// Show the main window off screen, write its picture here, and quit.
     std::optional<FilePath> screenshot;
     static constexpr QSize kWindowSize{1720, 920};
-    /// Content size for the picture, in points.
-    QSize windowSize = kWindowSize;
+    /// Content size for the picture, in points; each window has its own where none is asked for.
+    std::optional<QSize> windowSize;
     /// Opened for the picture, for the selected family.
     std::optional<LaunchSheet> sheet;
     /// Whether the desktop is to be taken for a dark one.
@@ -79,10 +79,15 @@ struct LaunchOptions
     std::optional<QString> sampleText;
 };
 
+inline bool opensPlaces(const LaunchOptions &options)
+{
+    return !options.places.empty() || !options.foreignPlaces.isEmpty();
+}
+
 /// What is opened without any word about the library's window.
 inline bool opensPlacesAlone(const LaunchOptions &options)
 {
-    return (!options.places.empty() || !options.foreignPlaces.isEmpty()) && !options.isAboutLibrary;
+    return opensPlaces(options) && !options.isAboutLibrary;
 }
 
 /// Reads the arguments after the program's name. Fails with usage; the detail says what was wrong.

@@ -5,11 +5,9 @@
 
 #include "app/FrameTrace.h"
 #include "app/MainMenu.h"
-#include "app/WindowPlacement.h"
 #include "base/Trace.h"
 #include "catalog/CatalogCache.h"
 #include "commands/LorvaSettingsViewModel.h"
-#include "model/stores/WindowGeometry.h"
 #include "platform/linux/FontconfigOrthographies.h"
 #include "platform/linux/XdgDesktopOpener.h"
 #include "platform/linux/XdgFolders.h"
@@ -28,7 +26,6 @@
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QPointer>
-#include <QScreen>
 #include <QTimer>
 
 #include <chrono>
@@ -42,20 +39,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kSettleLook{4};
 constexpr qsizetype kLongestTitle = 300;
-/// After the last of the moves of a window that is dragged.
-constexpr std::chrono::milliseconds kFrameRest{500};
-constexpr std::chrono::milliseconds kClosePatience{5000};
 /// The call for which the bus has started a process waits for it already; whoever only inherits the
 /// bus's word for it must not wait long.
 constexpr std::chrono::milliseconds kCallPatience{500};
-
-std::vector<QRect> visibleFrames()
-{
-    std::vector<QRect> frames;
-    for (const QScreen *screen : QGuiApplication::screens())
-        frames.push_back(screen->availableGeometry());
-    return frames;
-}
 
 } // namespace
 
@@ -82,6 +68,8 @@ LorvaApplicationDelegate::LorvaApplicationDelegate(LaunchOptions options,
     , m_windowFrameStore(*m_preferences)
     , m_choices(*m_model)
 {
+    m_closePatience.setSingleShot(true);
+    connect(&m_closePatience, &QTimer::timeout, this, [this] { m_window->close(); });
     traceMoment("model made");
 }
 
@@ -138,6 +126,7 @@ void LorvaApplicationDelegate::openLibrary()
                 m_model->becomeActive();
                 m_root->activation().refreshUndo();
             });
+    watchRuns(m_root->activation());
     connect(new FontFileDrop(*m_window), &FontFileDrop::dropped, &m_files,
             [this](const std::vector<FilePath> &files) { m_files.openDropped(files); });
 }
@@ -260,66 +249,6 @@ void LorvaApplicationDelegate::showSettings()
         m_settings = std::make_unique<SettingsWindow>(*m_settingsViewModel, m_window.get());
     }
     m_settings->present();
-}
-
-/// The file that is being copied is finished and written down first. A disk that hangs is not
-/// waited for: the next start brings the books into line.
-bool LorvaApplicationDelegate::closesNow()
-{
-    // The program goes on while files are open.
-    if (m_isClosing || m_files.isWindowOpen() || !m_root->activation().isRunning())
-        return true;
-    m_isClosing = true;
-    m_window->setEnabled(false);
-    const auto close = [window = QPointer<QMainWindow>(m_window.get())] {
-        if (window)
-            window->close();
-    };
-    m_root->activation().finish(
-        [this, close] { QMetaObject::invokeMethod(m_window.get(), close, Qt::QueuedConnection); });
-    QTimer::singleShot(kClosePatience, m_window.get(), close);
-    return false;
-}
-
-void LorvaApplicationDelegate::placeWindow()
-{
-    if (m_options.screenshot) {
-        m_window->setFixedSize(m_options.windowSize);
-        return;
-    }
-    m_window->setMinimumSize(kMinimumContentSize);
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    const std::optional<QRect> saved = plausibleFrame(m_windowFrameStore.load());
-    const QRect frame = mainWindowFrame(saved, screen ? screen->availableGeometry() : QRect(),
-                                        kMinimumContentSize, kWantedContentSize);
-    m_window->setGeometry(saved ? keptReachable(frame, visibleFrames()) : frame);
-    // Not only when it is closed: a session that ends, or a crash, does not ask.
-    m_frameRest.setSingleShot(true);
-    m_frameRest.setInterval(kFrameRest);
-    connect(&m_frameRest, &QTimer::timeout, this, &LorvaApplicationDelegate::saveFrame);
-    m_window->installEventFilter(this);
-}
-
-void LorvaApplicationDelegate::saveFrame()
-{
-    m_frameRest.stop();
-    const QRect normal = m_window->normalGeometry();
-    m_windowFrameStore.save(normal.isValid() ? normal : m_window->geometry());
-}
-
-bool LorvaApplicationDelegate::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != m_window.get())
-        return QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Close) {
-        saveFrame();
-        if (!closesNow()) {
-            event->ignore();
-            return true;
-        }
-    } else if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
-        m_frameRest.start();
-    return QObject::eventFilter(watched, event);
 }
 
 void LorvaApplicationDelegate::windowRendered()

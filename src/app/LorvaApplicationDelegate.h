@@ -94,7 +94,11 @@ private:
     void buildMenu();
     DetailCommands detailCommands();
     void showSettings();
+    bool isSwitching() const;
+    void watchRuns(const ActivationCommands &commands);
     bool closesNow();
+    void closeWhenDone();
+    void stopClosing();
     void placeWindow();
     void saveFrame();
     void windowRendered();
@@ -134,6 +138,7 @@ private:
     std::unique_ptr<SettingsWindow> m_settings;
     /// The window waits for the end of what is being switched.
     bool m_isClosing = false;
+    QTimer m_closePatience;
     QElapsedTimer m_sinceCatalog;
     /// They may still fade in.
     bool m_specimensAreDrawn = false;

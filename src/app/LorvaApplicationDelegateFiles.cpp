@@ -41,29 +41,23 @@ void LorvaApplicationDelegate::connectFiles()
             presentLibrary();
     };
     m_files.onQuitWanted = [this] { quit(); };
+    m_files.onWindowMade = [this](FontFilesWindow &window) {
+        watchRuns(window.activation());
+        window.mustWait = [this] { return !(m_window && m_window->isVisible()) && isSwitching(); };
+    };
     m_files.onLibraryWanted = [this](const QString &family) { showInLibrary(family); };
-}
-
-/// A window that is still switching fonts stays until they are done, and the program with it.
-void LorvaApplicationDelegate::quit()
-{
-    if (m_files.isWindowOpen())
-        m_files.window()->close();
-    if (m_window)
-        m_window->close();
 }
 
 void LorvaApplicationDelegate::openPlaces(const LaunchOptions &options,
                                           const QByteArray &activationToken)
 {
-    if (!options.places.empty() || !options.foreignPlaces.isEmpty())
+    if (opensPlaces(options))
         m_files.open({options.places, options.foreignPlaces, activationToken});
 }
 
 void LorvaApplicationDelegate::takeFilesPicture()
 {
-    const bool hasOwnSize = m_options.windowSize != LaunchOptions::kWindowSize;
-    m_files.setFixedWindowSize(hasOwnSize ? m_options.windowSize : FontFilesWindow::kStandardSize);
+    m_files.setFixedWindowSize(m_options.windowSize.value_or(FontFilesWindow::kStandardSize));
     auto *look = new QTimer(this);
     connect(look, &QTimer::timeout, this, [this, look] {
         FontFilesWindow *shown = m_files.window();
@@ -95,7 +89,9 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
     }
     if (options)
         m_model->addFoldersForThisRun(options->folders);
-    useActivationToken(start.activationToken);
+    // Of what is to be opened besides, that comes to the front.
+    if (!options || !opensPlaces(*options))
+        useActivationToken(start.activationToken);
     presentLibrary();
     if (options)
         openPlaces(*options, start.activationToken);
@@ -103,6 +99,7 @@ void LorvaApplicationDelegate::takeOver(const ProgramStart &start)
 
 void LorvaApplicationDelegate::presentLibrary()
 {
+    stopClosing();
     // While the welcome is shown, the window cannot be seen.
     QWidget *overlay = m_onboardingController ? m_onboardingController->overlay() : nullptr;
     QWidget *front = overlay ? overlay->window() : m_window.get();

@@ -390,8 +390,7 @@ void ActivationCommands::run(const Begin &begin, const Words &words, Outcome the
     Q_EMIT changed();
 }
 
-void ActivationCommands::ended(const InstallationOutcome &outcome, const Outcome &then,
-                               int edition)
+void ActivationCommands::ended(const InstallationOutcome &outcome, const Outcome &then, int edition)
 {
     --m_runs;
     if (!outcome.failures.empty())

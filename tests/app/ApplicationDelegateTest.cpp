@@ -4,6 +4,7 @@
 #include "app/LorvaApplicationDelegate.h"
 #include "catalog/CatalogCache.h"
 #include "platform/linux/XdgFolders.h"
+#include "platform/RunLock.h"
 #include "platform/SqlitePreferenceStore.h"
 #include "support/FontBuilder.h"
 #include "support/TestHome.h"
@@ -316,6 +317,106 @@ TEST_F(ApplicationDelegate, FilesComeWithoutTheLibraryWhichFollowsWhenItIsWanted
     EXPECT_TRUE(m_delegate->window()->isVisible());
 }
 
+/// A family that is not active, in the library and in a window of its own, and a run of another
+/// process that keeps everything from beginning.
+class ApplicationDelegateRuns : public ApplicationDelegate
+{
+protected:
+    ApplicationDelegateRuns()
+    {
+        const auto &home = test::TestHome::instance();
+        QDir(home.userFonts().displayText()).remove(QStringLiteral("three.ttf"));
+        const FilePath more = home.makeFolder("to-be-switched");
+        m_file = test::writeFile(more, "three.ttf", test::FontBuilder("Three").build());
+        m_held = RunLock::take(xdgFolders().activationLock(), std::chrono::seconds(10), {});
+        LaunchOptions options;
+        options.skipsWelcome = true;
+        options.folders = {more};
+        launch(options);
+        m_delegate->model().installationService()->setDefaultMethod(InstallMethod::copy);
+    }
+    void switchInLibrary()
+    {
+        ASSERT_TRUE(test::waitUntil([this] {
+            return !m_delegate->model().isLoading()
+                && m_delegate->model().allFamilies()->size() == 3;
+        }));
+        m_delegate->rootController()->activation().activate({QStringLiteral("Three")});
+        ASSERT_TRUE(isRunning(m_delegate->rootController()->activation()));
+    }
+    void openFiles()
+    {
+        m_delegate->takeOver({{m_file.bytes()}, FilePath("/"), {}});
+        openedFiles(*m_delegate);
+    }
+    void switchInFiles()
+    {
+        QTest::mouseClick(m_delegate->filesWindow()->findChild<QAbstractButton *>(
+                              QStringLiteral("fontFilesActivate")),
+                          Qt::LeftButton);
+        ASSERT_TRUE(isRunning(m_delegate->filesWindow()->activation()));
+    }
+    static bool isRunning(const ActivationCommands &commands)
+    {
+        return test::waitUntil([&] { return commands.isRunning(); });
+    }
+    bool closes(const QWidget *window)
+    {
+        return test::waitUntil([&] { return !window->isVisible(); });
+    }
+    bool isSwitching() const { return m_delegate->model().installationService()->hasRuns(); }
+
+    FilePath m_file;
+    std::optional<Result<RunLock>> m_held;
+};
+
+TEST_F(ApplicationDelegateRuns, TheLastWindowWaitsForTheRunOfTheOther)
+{
+    switchInLibrary();
+    openFiles();
+    FontFilesWindow *files = m_delegate->filesWindow();
+    m_delegate->window()->close();
+    EXPECT_FALSE(m_delegate->window()->isVisible()) << "the program goes on";
+    files->close();
+    EXPECT_TRUE(files->isVisible());
+    m_held.reset();
+    EXPECT_TRUE(closes(files));
+    EXPECT_FALSE(isSwitching());
+}
+
+TEST_F(ApplicationDelegateRuns, QuittingWaitsForWhatTheFilesBegan)
+{
+    openFiles();
+    switchInFiles();
+    FontFilesWindow *files = m_delegate->filesWindow();
+    QTest::keyClick(files, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(files->isVisible());
+    EXPECT_TRUE(isSwitching());
+    m_held.reset();
+    EXPECT_TRUE(closes(files));
+    EXPECT_FALSE(m_delegate->window()->isVisible());
+    EXPECT_FALSE(isSwitching());
+}
+
+TEST_F(ApplicationDelegateRuns, TheLibraryComesBackAsItWas)
+{
+    switchInLibrary();
+    QMainWindow *window = m_delegate->window();
+    window->close();
+    ASSERT_FALSE(window->isEnabled()) << "it waits";
+    m_delegate->takeOver({});
+    EXPECT_TRUE(window->isEnabled());
+    ASSERT_TRUE(test::waitUntil([this] { return !isSwitching(); }));
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+
+    m_delegate->takeOver({});
+    m_held.reset();
+    switchInLibrary();
+    EXPECT_TRUE(test::waitUntil([&] { return hasAlertSheet(*window); })) << "what came of it";
+    EXPECT_TRUE(window->isVisible() && window->isEnabled());
+}
+
 TEST_F(ApplicationDelegate, HandedOverFilesAreShownAndFoldersAdded)
 {
     const auto &home = test::TestHome::instance();
@@ -330,6 +431,12 @@ TEST_F(ApplicationDelegate, HandedOverFilesAreShownAndFoldersAdded)
     const FontFilesWindow *files = openedFiles(*m_delegate);
     EXPECT_EQ(files->state().faceCount(), 1);
     EXPECT_EQ(files->state().problems.size(), 1U);
+
+    m_delegate->takeOver({{"--view", "list", "three.ttf"}, more, "permission"});
+    EXPECT_TRUE(qEnvironmentVariableIsEmpty("XDG_ACTIVATION_TOKEN")) << "the files have the front";
+    EXPECT_TRUE(test::waitUntil(
+        [] { return qgetenv("XDG_ACTIVATION_TOKEN") == QByteArray("permission"); }));
+    qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
 TEST_F(ApplicationDelegate, FontFilesThatAreDroppedOnTheWindowAreShownByThemselves)

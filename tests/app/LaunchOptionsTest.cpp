@@ -109,6 +109,8 @@ TEST(LaunchOptions, TakesWhatIsToBeOpenedByPathOrAddress)
     EXPECT_FALSE(opensPlacesAlone(*parse({"a.ttf", "--search", "x"})));
     EXPECT_FALSE(opensPlacesAlone(*parse({"--folder", "a"})));
     EXPECT_TRUE(opensPlacesAlone(*parse({"file://elsewhere/a.ttf"})));
+    EXPECT_EQ(parse({"trash:/a/b.ttf"})->foreignPlaces, QStringList("trash:/a/b.ttf"));
+    EXPECT_FALSE(parse({"a.ttf"})->windowSize) << "the window's own";
 }
 
 TEST(LaunchOptions, RefusesWhatItDoesNotUnderstand)

@@ -198,8 +198,9 @@ TEST(FontFiles, OffersWhatCanBeDone)
         {active(InstallMethod::registerInPlace, false), true, Main::deactivate},
         {active(InstallMethod::copy, true), true, Main::activateRemaining},
         {active(std::optional<InstallMethod>(), false), true, Main::none},
+        {active(std::optional<InstallMethod>(), true), true, Main::activate},
     };
-    std::set<QString> texts;
+    std::set<std::pair<QString, Main>> texts;
     for (const auto &row : rows) {
         GivenActivations known;
         known.activationByFamily.insert(one.familyName, row.activation);
@@ -208,7 +209,7 @@ TEST(FontFiles, OffersWhatCanBeDone)
         const FontFilesOffer offer = fontFilesOffer({one}, &one, known);
         EXPECT_EQ(offer.main, row.main);
         EXPECT_FALSE(offer.offersAll);
-        texts.insert(offer.status);
+        texts.emplace(offer.status, offer.main);
         known.activationByFamily.insert(two.familyName, row.activation);
         EXPECT_EQ(fontFilesOffer({one, two}, nullptr, known).offersAll, row.main == Main::activate);
     }

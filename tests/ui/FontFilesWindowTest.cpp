@@ -4,31 +4,17 @@
 // Font files are opened, looked through and switched as a person does it: with keys, clicks and
 // drops on the window.
 
-#include "ui/files/FontFilesWindow.h"
-#include "support/LibraryFixture.h"
+#include "FontFilesFixture.h"
 #include "ui/detail/CharacterGridView.h"
-#include "ui/detail/DetailPreviewView.h"
-#include "ui/detail/StyleRowsView.h"
 #include "ui/detail/WaterfallView.h"
-#include "ui/files/FontFilesFooter.h"
 #include "ui/files/FontFilesList.h"
-#include "ui/files/FontFilesPage.h"
-#include "ui/sheets/Sheet.h"
 #include "ui/style/Palette.h"
-#include "ui/style/ReducedMotion.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QTest>
 #include <QTextEdit>
 
 #include <gmock/gmock.h>
-
-#include <filesystem>
-
-#include <unistd.h>
 
 namespace lorva {
 namespace {
@@ -39,104 +25,8 @@ using test::writeFile;
 using testing::Contains;
 using testing::ElementsAre;
 
-class FontFilesWindowTest : public testing::Test
+class FontFilesWindowTest : public test::FontFilesFixture
 {
-protected:
-    FontFilesWindowTest()
-    {
-        setReducedMotionOverride(true);
-        std::filesystem::remove_all(library.folders.userFonts.c_str());
-        static int cases = 0;
-        const QByteArray number = QByteArray::number(++cases);
-        folder = test::TestHome::instance().makeFolder("downloads" + number);
-        library.restart(test::TestHome::instance().makeFolder("files-support" + number));
-        add("one.ttf", FontBuilder("One").codePoints(U"Aabc 123"));
-        add("one-bold.ttf", FontBuilder("One", "Bold").weightClass(700).codePoints(U"Aabc 123"));
-        add("two.ttf", FontBuilder("Two").codePoints(U"Aa"));
-        makeWindow();
-    }
-    ~FontFilesWindowTest() override { setReducedMotionOverride(std::nullopt); }
-
-    void add(const QByteArray &name, FontBuilder builder)
-    {
-        writeFile(folder, name, builder.build());
-    }
-    void makeWindow()
-    {
-        window = std::make_unique<FontFilesWindow>(
-            *library.model, FontFilesServices{library.fonts, library.systemFont, nullptr, nullptr});
-        window->onLibraryWanted = [this](const QString &family) { wanted << family; };
-        window->onDropped = [this](const std::vector<FilePath> &files) { dropped = files; };
-    }
-    void open(std::initializer_list<const char *> names)
-    {
-        std::vector<FilePath> files;
-        for (const char *name : names)
-            files.push_back(folder.child(name));
-        window->open(files);
-        window->present();
-        settle();
-    }
-    void settle()
-    {
-        EXPECT_TRUE(waitUntil([this] { return window->isSettled(); }));
-    }
-
-    template <class Widget>
-    Widget &part(const char *name)
-    {
-        auto *found = window->findChild<Widget *>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return *found;
-    }
-    QAbstractButton &button(const char *name) { return part<QAbstractButton>(name); }
-    void click(const char *name) { QTest::mouseClick(&button(name), Qt::LeftButton); }
-    QAbstractItemView &list() { return part<QAbstractItemView>("FontFilesListView"); }
-    FontFilesPage &page() { return part<FontFilesPage>("FontFilesPage"); }
-    DetailPreviewView &preview() { return *window->findChild<DetailPreviewView *>(); }
-    std::string shown()
-    {
-        if (!page().isVisible())
-            return window->findChild<QWidget *>(QStringLiteral("BrowserEmptyStateView"))
-                ->accessibleName()
-                .toStdString();
-        const DisplayedFace &face = page().face();
-        return QStringList{face.familyName, face.style.label}.join(u' ').toStdString();
-    }
-    QString status() { return part<FontFilesFooter>("FontFilesFooter").offer().status; }
-    bool becomes(const char *text)
-    {
-        return waitUntil([&] { return status() == QString::fromUtf8(text); });
-    }
-    /// The sheet that is open: presses the button of that text.
-    void answer(const QString &text)
-    {
-        ASSERT_TRUE(waitUntil([&] { return sheetButton(text) != nullptr; })) << text.toStdString();
-        QTest::mouseClick(sheetButton(text), Qt::LeftButton);
-    }
-    QAbstractButton *sheetButton(const QString &text)
-    {
-        const auto *sheet = window->findChild<Sheet *>();
-        if (!sheet || sheet->isDismissed())
-            return nullptr;
-        for (auto *each : sheet->findChildren<QAbstractButton *>())
-            if (each->isVisible() && (each->text() == text || each->accessibleName() == text))
-                return each;
-        return nullptr;
-    }
-    void copyShownFamily()
-    {
-        click("fontFilesActivate");
-        answer(QStringLiteral("Copy to Fonts Folder"));
-        answer(QStringLiteral("Done"));
-        EXPECT_TRUE(becomes("Active, copied to the Fonts folder"));
-    }
-
-    test::LibraryFixture library;
-    FilePath folder;
-    std::unique_ptr<FontFilesWindow> window;
-    QStringList wanted;
-    std::vector<FilePath> dropped;
 };
 
 TEST_F(FontFilesWindowTest, ShowsOneFaceWithoutAListAndEverythingAboutIt)
@@ -182,8 +72,10 @@ TEST_F(FontFilesWindowTest, KeysLeadFromFaceToFacePastHeadingsAndDamagedFiles)
     EXPECT_TRUE(button("fontFilesActivateAll").isVisible()) << "the others can be switched";
     QTest::keyClick(&list(), Qt::Key_Home);
     EXPECT_EQ(shown(), "One Regular");
-    Q_EMIT window->findChild<StyleRowsView *>()->styleChosen(
-        window->state().families.front().styles.back());
+    // The row of before is on its way out.
+    QTest::mouseClick(
+        window->findChildren<QAbstractButton *>(QStringLiteral("styleRow Bold")).last(),
+        Qt::LeftButton);
     EXPECT_EQ(shown(), "One Bold");
     EXPECT_EQ(list().currentIndex().row(), 2) << "the list follows the rows of the page";
 }

@@ -62,9 +62,12 @@ bool FontFileDrop::eventFilter(QObject *, QEvent *event)
         files = droppedFontFiles(*drop.mimeData());
         m_isWelcome = !files.empty();
     }
-    drop.setDropAction(Qt::CopyAction);
-    drop.setAccepted(m_isWelcome);
-    if (type == QEvent::Drop && m_isWelcome)
+    // Whoever moves files away when they are dropped must not.
+    const bool isCopied = m_isWelcome && drop.possibleActions().testFlag(Qt::CopyAction);
+    if (isCopied)
+        drop.setDropAction(Qt::CopyAction);
+    drop.setAccepted(isCopied);
+    if (type == QEvent::Drop && isCopied)
         Q_EMIT dropped(files);
     return true;
 }

@@ -71,7 +71,7 @@ QString fontFileProblemText(FontFileProblem problem)
 {
     switch (problem) {
     case FontFileProblem::gone:
-        return Texts::tr("This file is not there any more.");
+        return Texts::tr("There is no such file.");
     case FontFileProblem::notAllowed:
         return Texts::tr("You are not allowed to read this file.");
     case FontFileProblem::noFile:

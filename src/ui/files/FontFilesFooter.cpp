@@ -47,8 +47,9 @@ Main mainOf(const FontFamilyActivation &activation)
 {
     if (!activation.isActive())
         return Main::activate;
+    // Some styles are the system's, and the others nobody's yet.
     if (!activation.method())
-        return Main::none;
+        return activation.isMixed() ? Main::activate : Main::none;
     return activation.isMixed() ? Main::activateRemaining : Main::deactivate;
 }
 
@@ -56,6 +57,9 @@ Main mainOf(const FontFamilyActivation &activation)
 bool hasNoPlace(const FontFamilyRecord &family, const GivenActivations &known)
 {
     return std::ranges::all_of(family.styles, [&](const FontStyleRecord &style) {
+        const auto found = known.styles.activationByStyleID.constFind(style.id);
+        if (found != known.styles.activationByStyleID.cend() && found->isActive())
+            return true;
         return style.fileURL && known.filesWithoutPlace.contains(*style.fileURL);
     });
 }

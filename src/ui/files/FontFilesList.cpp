@@ -7,6 +7,7 @@
 #include "ui/style/Hairline.h"
 #include "ui/style/OverlayScrollBar.h"
 #include "ui/style/Palette.h"
+#include "ui/style/PlainToolTip.h"
 #include "ui/style/Style.h"
 
 #include <QAbstractListModel>
@@ -84,7 +85,8 @@ public:
         case Qt::DisplayRole:
             return lineOf(shown.text);
         case Qt::ToolTipRole:
-            return shown.kind == FontFilesRow::Kind::problem ? lineOf(shown.text) : QVariant();
+            return shown.kind == FontFilesRow::Kind::problem ? plainToolTip(lineOf(shown.text))
+                                                             : QVariant();
         case Qt::AccessibleTextRole:
             return accessibleText(index.row());
         default:

@@ -98,6 +98,21 @@ void FontFilesPage::showFace(const FontFamilyRecord &family, const FontStyleReco
     m_page->layOut();
 }
 
+void FontFilesPage::clear()
+{
+    m_family = {};
+    m_face = {};
+    m_activations = {};
+    m_features.reset();
+    m_axes.clear();
+    m_specimen.font = {};
+    applyRows();
+    m_preview->apply(m_specimen);
+    m_waterfall->apply(m_specimen);
+    m_grid->setPreviewFace({});
+    m_grid->requestCharacterGrid({}, {});
+}
+
 void FontFilesPage::showActivations(const StyleActivations &activations)
 {
     if (std::exchange(m_activations, activations) != activations)

@@ -37,6 +37,8 @@ public:
 
     /// `edition`: another one for files that were read anew.
     void showFace(const FontFamilyRecord &family, const FontStyleRecord &style, int edition);
+    /// Lets go of the face; what is typed stays.
+    void clear();
     void showActivations(const StyleActivations &activations);
     double pointSize() const { return m_pointSize; }
     void setPointSize(double pointSize);

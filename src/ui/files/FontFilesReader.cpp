@@ -11,6 +11,10 @@ namespace {
 
 constexpr size_t kFirstPart = 16;
 constexpr size_t kGrowth = 4;
+/// One reads; the others are left to files that hang.
+constexpr int kMostThreads = 8;
+/// An address may be of any length.
+constexpr qsizetype kLongestName = 300;
 
 } // namespace
 
@@ -43,7 +47,7 @@ FontFilesReader::FontFilesReader(FontLibraryService &service)
     : m_service(service)
 {
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.font-files"));
-    m_pool.setMaxThreadCount(1);
+    m_pool.setMaxThreadCount(kMostThreads);
 }
 
 FontFilesReader::~FontFilesReader()
@@ -56,14 +60,20 @@ void FontFilesReader::read(std::vector<FilePath> files, const QStringList &forei
 {
     const auto progress = std::make_shared<Progress>();
     for (const QString &name : foreign)
-        progress->problems.push_back({{}, name, FontFileProblem::notHere});
+        progress->problems.push_back({{}, name.left(kLongestName), FontFileProblem::notHere});
     for (size_t i = kMostFiles; i < files.size(); ++i)
         progress->problems.push_back({files[i], {}, FontFileProblem::tooMany});
     files.resize(std::min(files.size(), kMostFiles));
     progress->files = std::move(files);
-    m_run.cancel();
+    cancel();
     m_isReading = true;
     readNext(progress);
+}
+
+void FontFilesReader::cancel()
+{
+    m_run.cancel();
+    m_isReading = false;
 }
 
 void FontFilesReader::readNext(const std::shared_ptr<Progress> &progress)

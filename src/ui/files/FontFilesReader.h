@@ -15,7 +15,7 @@
 namespace lorva {
 
 /// Reads files that were opened, on a worker, and tells what there is as it comes: the first few at
-/// once, hundreds of others in ever larger parts.
+/// once, hundreds of others in ever larger parts. A disk that hangs keeps nobody from other files.
 ///
 /// Holds the library service, which outlives it. Waits for the file that is being read when it
 /// ends. Thread: main.
@@ -41,6 +41,8 @@ public:
     /// In place of what was asked for before. `foreign`: what was given besides and is no file of
     /// this computer, by name.
     void read(std::vector<FilePath> files, const QStringList &foreign);
+    /// Nothing more is told of what was asked for.
+    void cancel();
     bool isReading() const { return m_isReading; }
 
 private:

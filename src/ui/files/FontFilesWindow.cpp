@@ -13,7 +13,7 @@
 #include "ui/files/FontFilesFooter.h"
 #include "ui/files/FontFilesList.h"
 #include "ui/files/FontFilesPage.h"
-#include "ui/sheets/AlertSheet.h"
+#include "ui/sheets/SheetQueue.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
 
@@ -36,6 +36,8 @@ using Kind = FontFilesRow::Kind;
 constexpr auto kMessageDelay = 300ms;
 /// A display closes the connection on a title of megabytes.
 constexpr qsizetype kLongestTitle = 300;
+/// For the footer's words, which may be cut.
+constexpr int kStatusRoom = 120;
 
 FontLibraryService::Dependencies libraryOf(const FontFilesServices &services)
 {
@@ -59,13 +61,13 @@ FontFilesWindow::FontFilesWindow(LorvaAppModel &model, FontFilesServices service
     , m_reader(m_library)
 {
     setObjectName(QStringLiteral("FontFilesWindow"));
-    setWindowTitle(tr("Font Files"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(kSmallestSize);
     resize(kStandardSize);
     m_pool.setObjectName(QStringLiteral("vantrel.lorva.font-file-activations"));
     m_pool.setMaxThreadCount(1);
     m_messageDelay.setSingleShot(true);
+    m_closePatience.setSingleShot(true);
     m_inspector->setSelectedTab(FontInspectorViewController::Tab::info);
     m_inspector->setDelegate(this);
     m_bar->setPointSize(m_page->pointSize());
@@ -77,6 +79,7 @@ FontFilesWindow::FontFilesWindow(LorvaAppModel &model, FontFilesServices service
 
 FontFilesWindow::~FontFilesWindow()
 {
+    m_look.cancel();
     m_pool.waitForDone();
     // They report to members that go before the children do.
     delete m_list;
@@ -141,23 +144,33 @@ void FontFilesWindow::connectFooter()
             onLibraryWanted(family ? family->familyName : QString());
     });
     connect(&m_activation, &ActivationCommands::changed, this, &FontFilesWindow::applyActivations);
+    connect(&m_activation, &ActivationCommands::changed, this, &FontFilesWindow::closeWhenDone,
+            Qt::QueuedConnection);
+    connect(&m_closePatience, &QTimer::timeout, this, &QWidget::close);
 }
 
 void FontFilesWindow::open(const std::vector<FilePath> &files, const QStringList &foreign)
 {
-    ++m_edition;
+    stopClosing();
     clear();
     m_messageDelay.start(kMessageDelay);
     m_reader.read(files, foreign);
 }
 
-/// Nothing is shown, and nothing kept of what was.
+/// Nothing is shown, nothing kept of what was, and nothing asked about it any more.
 void FontFilesWindow::clear()
 {
+    ++m_edition;
     m_messageDelay.stop();
+    m_reader.cancel();
+    m_look.cancel();
+    m_activation.forgetRequests();
+    SheetQueue::of(*this).cancelAll();
+    setWindowTitle(fontFilesTitle({}));
     m_state = {};
     m_rows.clear();
     m_row.reset();
+    m_isRowChosen = false;
     m_known = {};
     m_areActivationsKnown = false;
     m_given.reset();
@@ -166,10 +179,26 @@ void FontFilesWindow::clear()
     m_bar->setTitle({});
     m_bar->setControlsShown(false);
     m_page->hide();
+    m_page->clear();
     m_message->hide();
     m_footer->apply({});
     applyInspector();
+    m_library.setFamilies(std::make_shared<const std::vector<FontFamilyRecord>>());
     layOut();
+}
+
+/// The row of what was shown of `before`.
+bool FontFilesWindow::isChosen(const FontFilesRow &row, const FontFilesRow &chosen,
+                               const FontFilesState &before) const
+{
+    if (row.kind != chosen.kind || row.kind == Kind::heading)
+        return false;
+    if (row.kind == Kind::problem)
+        return m_isRowChosen && m_state.problems[row.index] == before.problems[chosen.index];
+    const FontFamilyRecord &family = m_state.families[row.index];
+    const FontFamilyRecord &other = before.families[chosen.index];
+    return family.familyName == other.familyName
+        && family.styles[row.style] == other.styles[chosen.style];
 }
 
 void FontFilesWindow::take(FontFilesReader::Part part)
@@ -177,22 +206,15 @@ void FontFilesWindow::take(FontFilesReader::Part part)
     const TraceStage stage("font files: take");
     m_messageDelay.stop();
     // What is chosen stays so while more files come in.
-    const FontFilesRow chosen = m_row ? m_rows[*m_row] : FontFilesRow();
-    const DisplayedFace face = m_page->face();
-    const bool hadChosen = m_row.has_value();
+    const FontFilesRow chosen = m_row ? m_rows[*m_row] : FontFilesRow{Kind::heading, {}};
     m_library.setFamilies(std::move(part.families));
-    m_state = std::move(part.state);
+    const FontFilesState before = std::exchange(m_state, std::move(part.state));
     m_rows = fontFilesRows(m_state);
     m_list->setRows(m_rows);
     m_row = firstRow(m_state, m_rows);
-    for (size_t i = 0; hadChosen && i < m_rows.size(); ++i) {
-        const FontFilesRow &row = m_rows[i];
-        const bool isSameFace = row.kind == Kind::face && chosen.kind == Kind::face
-            && m_state.families[row.index].familyName == face.familyName
-            && m_state.families[row.index].styles[row.style] == face.style;
-        if (isSameFace)
+    for (size_t i = 0; i < m_rows.size(); ++i)
+        if (isChosen(m_rows[i], chosen, before))
             m_row = i;
-    }
     setWindowTitle(fontFilesTitle(m_state).left(kLongestTitle));
     GivenFonts given{m_state.families, m_services.availableFonts};
     m_given = std::make_shared<const GivenFonts>(std::move(given));
@@ -207,6 +229,7 @@ void FontFilesWindow::choose(size_t row)
     if (row >= m_rows.size() || m_rows[row].kind == Kind::heading)
         return;
     m_row = row;
+    m_isRowChosen = true;
     showRow();
 }
 
@@ -292,10 +315,20 @@ bool FontFilesWindow::isSettled() const
 }
 
 /// One face, or one problem, needs no list.
+int FontFilesWindow::listWidth() const
+{
+    return m_rows.size() > 2 ? FontFilesList::kWidth : 0;
+}
+
+bool FontFilesWindow::isNarrow() const
+{
+    const int middle = width() - listWidth() - FontInspectorViewController::kWidth;
+    return width() < kInspectorWidth || middle < m_footer->leastWidth() + kStatusRoom;
+}
+
 void FontFilesWindow::layOut()
 {
-    const bool hasList = m_rows.size() > 2;
-    const int left = hasList ? FontFilesList::kWidth : 0;
+    const int left = listWidth();
     const bool hasInspector = showsInspector();
     const int right = hasInspector && !isNarrow() ? FontInspectorViewController::kWidth : 0;
     const int middle = std::max(width() - left - right, 0);
@@ -314,7 +347,7 @@ void FontFilesWindow::layOut()
     place(m_inspector,
           {width() - FontInspectorViewController::kWidth, inspectorTop,
            FontInspectorViewController::kWidth, height() - inspectorTop - (isNarrow() ? foot : 0)});
-    m_list->setVisible(hasList);
+    m_list->setVisible(left > 0);
     m_footer->setVisible(foot > 0);
     // A picture's size is fixed.
     const int least = std::max(kSmallestSize.width(), left + m_footer->leastWidth());

@@ -49,7 +49,8 @@ class FontFilesWindow final : public QWidget, private FontInspectorDelegate
 public:
     static constexpr QSize kStandardSize{1160, 760};
     static constexpr QSize kSmallestSize{660, 420};
-    /// Narrower windows have the inspector over the page.
+    /// Narrower windows have the inspector over the page, as have those whose footer would not find
+    /// room beside it.
     static constexpr int kInspectorWidth = 1000;
 
     FontFilesWindow(LorvaAppModel &model, FontFilesServices services);
@@ -65,11 +66,16 @@ public:
     std::function<void(const QString &familyName)> onLibraryWanted;
     /// The user wants to end the program.
     std::function<void()> onQuitWanted;
+    /// Something else is to end before this window may, which is the program's last; empty:
+    /// nothing.
+    std::function<bool()> mustWait;
     /// Font files were dropped here.
     std::function<void(const std::vector<FilePath> &files)> onDropped;
 
     const FontFilesState &state() const { return m_state; }
     ActivationCommands &activation() { return m_activation; }
+    /// What this window waits for before it closes may have ended.
+    void closeWhenDone();
     /// Everything that is in sight is there.
     bool isSettled() const;
 
@@ -93,12 +99,17 @@ private:
     void lookAtActivations();
     void applyActivations();
     void applyInspector();
-    bool isNarrow() const { return width() < kInspectorWidth; }
+    int listWidth() const;
+    bool isNarrow() const;
     bool showsInspector() const;
     void toggleInspector();
     void layOut();
+    bool isSwitching() const;
     bool closesNow();
+    void stopClosing();
     void clear();
+    bool isChosen(const FontFilesRow &row, const FontFilesRow &chosen,
+                  const FontFilesState &before) const;
     void inspectorFeaturesChanged(const std::optional<std::vector<FeaturePair>> &enabled) override;
     void inspectorAxesChanged(const std::vector<VariationSetting> &values) override;
     void inspectorFileWanted(const FilePath &file) override;
@@ -113,6 +124,8 @@ private:
     FontFilesState m_state;
     std::vector<FontFilesRow> m_rows;
     std::optional<size_t> m_row;
+    /// By the user; what else is shown gives way to the first font that comes.
+    bool m_isRowChosen = false;
     std::shared_ptr<const GivenFonts> m_given;
     GivenActivations m_known;
     bool m_areActivationsKnown = false;
@@ -121,6 +134,7 @@ private:
     bool m_isInspectorWanted = true;
     bool m_isInspectorOverPage = false;
     bool m_isClosing = false;
+    QTimer m_closePatience;
     QTimer m_messageDelay;
 
     FontFilesList *m_list;
@@ -129,6 +143,7 @@ private:
     BrowserEmptyStateView *m_message;
     FontFilesFooter *m_footer;
     FontInspectorViewController *m_inspector;
+    RunHandle m_look;
     QThreadPool m_pool;
     /// Uses m_library.
     FontFilesReader m_reader;

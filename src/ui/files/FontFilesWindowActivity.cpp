@@ -11,9 +11,9 @@
 #include "ui/files/FontFilesPage.h"
 
 #include <QCloseEvent>
-#include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 namespace lorva {
 
@@ -33,9 +33,8 @@ void FontFilesWindow::lookAtActivations()
     const auto look = [given = m_given, books = service->books()](const std::stop_token &) {
         return givenActivations(*given, *books);
     };
-    runThen(m_pool, this, look, [this, given = m_given](GivenActivations known) {
-        if (given != m_given)
-            return;
+    m_look.cancel();
+    m_look = runThen(m_pool, this, look, [this](GivenActivations known) {
         m_known = std::move(known);
         m_areActivationsKnown = true;
         applyActivations();
@@ -104,21 +103,35 @@ void FontFilesWindow::inspectorLinkWanted(const QUrl &link)
 
 // --- The end ---
 
+bool FontFilesWindow::isSwitching() const
+{
+    return m_activation.isRunning() || (mustWait && mustWait());
+}
+
 /// The files that are being switched are finished and written down first. A disk that hangs is not
 /// waited for.
 bool FontFilesWindow::closesNow()
 {
-    if (m_isClosing || !m_activation.isRunning())
+    if (m_isClosing || !isSwitching())
         return true;
     m_isClosing = true;
     setEnabled(false);
-    connect(&m_activation, &ActivationCommands::changed, this, &QWidget::close,
-            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-    QTimer::singleShot(kClosePatience, this, [this] {
-        if (m_isClosing)
-            close();
-    });
+    m_closePatience.start(kClosePatience);
     return false;
+}
+
+void FontFilesWindow::closeWhenDone()
+{
+    if (m_isClosing && !isSwitching())
+        close();
+}
+
+/// It is wanted again, or has closed.
+void FontFilesWindow::stopClosing()
+{
+    m_closePatience.stop();
+    if (std::exchange(m_isClosing, false))
+        setEnabled(true);
 }
 
 void FontFilesWindow::closeEvent(QCloseEvent *event)
@@ -127,9 +140,7 @@ void FontFilesWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    m_isClosing = false;
-    setEnabled(true);
-    ++m_edition;
+    stopClosing();
     clear();
 }
 

@@ -3,7 +3,10 @@
 
 #include "ui/sheets/SheetQueue.h"
 
+#include "ui/sheets/Sheet.h"
+
 #include <QApplication>
+#include <QDialog>
 #include <QEvent>
 #include <QWidget>
 
@@ -62,6 +65,19 @@ void SheetQueue::finish(const std::function<void()> &answer)
         answer();
     if (self && !m_isShowing)
         showNext();
+}
+
+void SheetQueue::cancelAll()
+{
+    m_waiting.clear();
+    const QPointer<QObject> shown = m_shown;
+    finish();
+    if (auto *sheet = qobject_cast<Sheet *>(shown.data())) {
+        sheet->dismiss();
+    } else if (auto *dialog = qobject_cast<QDialog *>(shown.data())) {
+        disconnect(dialog, &QDialog::finished, nullptr, nullptr);
+        dialog->reject();
+    }
 }
 
 Qt::FocusReason SheetQueue::focusReason() const

@@ -33,6 +33,8 @@ public:
     /// What is shown has gone. `answer` is called before the next one comes: what it says may
     /// decide about that.
     void finish(const std::function<void()> &answer = {});
+    /// Takes away what is shown, and what waits, unanswered: whom it was for has gone.
+    void cancelAll();
     bool isShowing() const { return m_isShowing; }
     /// The reason for which a control that is shown now gets the focus: the keyboard, if it was
     /// used last.

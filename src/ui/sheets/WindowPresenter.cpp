@@ -170,6 +170,7 @@ void WindowPresenter::showReport(const Report &report, std::function<void(FilePa
         sheet->onExport = [&queue, &window, sheet, save, last, title = report.exportLabel,
                            name = exportFileName(report.exportName, report.title)] {
             QFileDialog *dialog = openSaveDialog(window, title, name, last->exported);
+            QObject::connect(sheet, &QObject::destroyed, dialog, &QDialog::reject);
             onFinished(*dialog,
                        [&queue, sheet = QPointer<Sheet>(sheet), save,
                         last](const std::vector<FilePath> &chosen) {
