@@ -656,10 +656,6 @@
         <translation>%1: Lesen brauchte zu viel Zeit oder Speicher und wurde abgebrochen</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1: Lesen wurde abgebrochen: Es führte zu etwas, was dafür nie nötig ist</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: braucht mehr Speicher als erlaubt</translation>
     </message>
@@ -2418,10 +2414,6 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>Diese Datei ist nicht mehr da.</translation>
-    </message>
-    <message>
         <source>You are not allowed to read this file.</source>
         <translation>Sie dürfen diese Datei nicht lesen.</translation>
     </message>
@@ -2495,6 +2487,10 @@
     <message>
         <source>This is a folder or a device, not a font file.</source>
         <translation>Dies ist ein Ordner oder ein Gerät, keine Schriftdatei.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
     </message>
 </context>
 <context>
@@ -3083,8 +3079,8 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
         <translation>das Fenster unsichtbar zeigen, sein Bild als PNG schreiben und beenden</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>Größe dieses Bildes, in Punkt (Standard: 1720x920)</translation>
+        <source>size of that picture, in points (default 1720x920; of files 1160x760)</source>
+        <translation>Größe dieses Bildes, in Punkt (Standard: 1720x920; für Dateien 1160x760)</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4584,10 +4580,6 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>Schriftdateien</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>Dateien werden gelesen</translation>

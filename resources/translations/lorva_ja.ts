@@ -637,10 +637,6 @@
         <translation>%1: 読み込みに時間またはメモリーがかかりすぎたため中止しました</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1: 読み込みに必要のない動作が起きたため中止しました</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: 使用できる量を超えるメモリーが必要です</translation>
     </message>
@@ -2399,10 +2395,6 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>このファイルはもうありません。</translation>
-    </message>
-    <message>
         <source>You are not allowed to read this file.</source>
         <translation>このファイルを読み込む権限がありません。</translation>
     </message>
@@ -2475,6 +2467,10 @@
     <message>
         <source>This is a folder or a device, not a font file.</source>
         <translation>これはフォルダーまたはデバイスで、フォントファイルではありません。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>このファイルはありません。</translation>
     </message>
 </context>
 <context>
@@ -3056,8 +3052,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>ウィンドウを画面外に表示し、その画像を PNG で保存して終了</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>その画像のサイズ (ポイント、デフォルトは 1720x920)</translation>
+        <source>size of that picture, in points (default 1720x920; of files 1160x760)</source>
+        <translation>その画像のサイズ (ポイント、デフォルトは 1720x920、ファイルでは 1160x760)</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4546,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>フォントファイル</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>ファイルを読み込み中</translation>

@@ -637,10 +637,6 @@
         <translation>%1: 읽는 데 시간이나 메모리가 너무 많이 들어 중단했습니다</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1: 읽기에 전혀 필요 없는 동작을 일으켜 중단했습니다</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1: 허용된 것보다 많은 메모리를 씁니다</translation>
     </message>
@@ -2399,10 +2395,6 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>이 파일이 더는 없습니다.</translation>
-    </message>
-    <message>
         <source>You are not allowed to read this file.</source>
         <translation>이 파일을 읽을 권한이 없습니다.</translation>
     </message>
@@ -2475,6 +2467,10 @@
     <message>
         <source>This is a folder or a device, not a font file.</source>
         <translation>폴더 또는 장치이며 글꼴 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>해당 파일이 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -3056,8 +3052,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>창을 화면 밖에 띄워 그림을 PNG로 쓰고 끝내기</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>그 그림의 크기(포인트, 기본값 1720x920)</translation>
+        <source>size of that picture, in points (default 1720x920; of files 1160x760)</source>
+        <translation>그 그림의 크기(포인트, 기본값 1720x920, 파일은 1160x760)</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4546,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>글꼴 파일</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>파일 읽는 중</translation>

@@ -637,10 +637,6 @@
         <translation>%1：读取耗费了过多的时间或内存，已放弃</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1：已放弃，读取时出现了读取绝不需要的操作</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1：所需内存超出允许的上限</translation>
     </message>
@@ -2399,10 +2395,6 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>此文件已不存在。</translation>
-    </message>
-    <message>
         <source>You are not allowed to read this file.</source>
         <translation>您没有读取此文件的权限。</translation>
     </message>
@@ -2475,6 +2467,10 @@
     <message>
         <source>This is a folder or a device, not a font file.</source>
         <translation>这是文件夹或设备，不是字体文件。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>没有这个文件。</translation>
     </message>
 </context>
 <context>
@@ -3056,8 +3052,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>在屏幕外显示窗口，将其图片写为 PNG，然后退出</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>该图片的大小，单位为点（默认 1720x920）</translation>
+        <source>size of that picture, in points (default 1720x920; of files 1160x760)</source>
+        <translation>该图片的大小，单位为点（默认 1720x920；文件为 1160x760）</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4546,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>字体文件</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>正在读取文件</translation>

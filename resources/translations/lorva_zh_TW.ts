@@ -637,10 +637,6 @@
         <translation>%1：讀取耗費過多時間或記憶體，已放棄</translation>
     </message>
     <message>
-        <source>%1: was given up: reading it led to what reading never needs</source>
-        <translation>%1：已放棄，讀取時出現讀取絕不需要的動作</translation>
-    </message>
-    <message>
         <source>%1: takes more memory than it may have</source>
         <translation>%1：所需的記憶體超過允許的上限</translation>
     </message>
@@ -2399,10 +2395,6 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>這個檔案已不存在。</translation>
-    </message>
-    <message>
         <source>You are not allowed to read this file.</source>
         <translation>您沒有讀取這個檔案的權限。</translation>
     </message>
@@ -2475,6 +2467,10 @@
     <message>
         <source>This is a folder or a device, not a font file.</source>
         <translation>這是資料夾或裝置，不是字型檔。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>沒有這個檔案。</translation>
     </message>
 </context>
 <context>
@@ -3056,8 +3052,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>在畫面外顯示視窗，將其畫面存為 PNG 後結束</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>圖片大小，以點為單位（預設 1720x920）</translation>
+        <source>size of that picture, in points (default 1720x920; of files 1160x760)</source>
+        <translation>圖片大小，以點為單位（預設 1720x920；檔案為 1160x760）</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4546,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>字型檔</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>正在讀取檔案</translation>
