@@ -24,7 +24,6 @@
 namespace lorva {
 namespace {
 
-using test::kSans;
 using test::kSerif;
 
 class Languages : public test::Languages
