@@ -2418,8 +2418,8 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>Diese Datei ist nicht mehr da.</translation>
+        <source>There is no such file.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>

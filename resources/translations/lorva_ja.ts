@@ -2399,8 +2399,8 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>このファイルはもうありません。</translation>
+        <source>There is no such file.</source>
+        <translation>このファイルはありません。</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>

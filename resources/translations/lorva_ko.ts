@@ -2399,8 +2399,8 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>이 파일이 더는 없습니다.</translation>
+        <source>There is no such file.</source>
+        <translation>이 파일이 없습니다.</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>

@@ -2399,8 +2399,8 @@
 <context>
     <name>FontFiles</name>
     <message>
-        <source>This file is not there any more.</source>
-        <translation>此文件已不存在。</translation>
+        <source>There is no such file.</source>
+        <translation>此文件不存在。</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
