@@ -203,7 +203,7 @@ Result<void> prepare()
 /// From here on the kernel does not know them.
 bool takeAway(std::span<char *const> calls)
 {
-    const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
+    void *const filter = seccomp_init(SCMP_ACT_ALLOW);
     const bool isAway = std::all_of(calls.begin(), calls.end(), [filter](const char *call) {
         return seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), seccomp_syscall_resolve_name(call),
                                 0)
