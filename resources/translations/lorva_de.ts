@@ -3083,8 +3083,8 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
         <translation>das Fenster unsichtbar zeigen, sein Bild als PNG schreiben und beenden</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>Größe dieses Bildes, in Punkt (Standard: 1720x920)</translation>
+        <source>size of that picture, in points (default 1720x920, of font files 1160x760)</source>
+        <translation>Größe dieses Bildes, in Punkt (Standard: 1720x920, bei Schriftdateien 1160x760)</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4584,10 +4584,6 @@ Bereit für jedes Projekt, das da kommen mag. Und nicht vergessen: Schön soll e
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>Schriftdateien</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>Dateien werden gelesen</translation>

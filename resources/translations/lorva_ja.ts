@@ -3056,8 +3056,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>ウィンドウを画面外に表示し、その画像を PNG で保存して終了</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>その画像のサイズ (ポイント、デフォルトは 1720x920)</translation>
+        <source>size of that picture, in points (default 1720x920, of font files 1160x760)</source>
+        <translation>その画像のサイズ (ポイント、デフォルトは 1720x920、フォントファイルでは 1160x760)</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4550,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>フォントファイル</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>ファイルを読み込み中</translation>

@@ -3056,8 +3056,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>창을 화면 밖에 띄워 그림을 PNG로 쓰고 끝내기</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>그 그림의 크기(포인트, 기본값 1720x920)</translation>
+        <source>size of that picture, in points (default 1720x920, of font files 1160x760)</source>
+        <translation>그 그림의 크기(포인트, 기본값 1720x920, 글꼴 파일은 1160x760)</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4550,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>글꼴 파일</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>파일 읽는 중</translation>

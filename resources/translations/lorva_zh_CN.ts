@@ -3056,8 +3056,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>在屏幕外显示窗口，将其图片写为 PNG，然后退出</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>该图片的大小，单位为点（默认 1720x920）</translation>
+        <source>size of that picture, in points (default 1720x920, of font files 1160x760)</source>
+        <translation>该图片的大小，单位为点（默认 1720x920，字体文件为 1160x760）</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4550,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>字体文件</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>正在读取文件</translation>

@@ -3056,8 +3056,8 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
         <translation>在畫面外顯示視窗，將其畫面存為 PNG 後結束</translation>
     </message>
     <message>
-        <source>size of that picture, in points (default 1720x920)</source>
-        <translation>圖片大小，以點為單位（預設 1720x920）</translation>
+        <source>size of that picture, in points (default 1720x920, of font files 1160x760)</source>
+        <translation>圖片大小，以點為單位（預設 1720x920，字型檔為 1160x760）</translation>
     </message>
     <message>
         <source>open activate, deactivate (for --select), history or settings for it</source>
@@ -4550,10 +4550,6 @@ Ready and waiting for use in whatever project may come. Remember to make it nice
 </context>
 <context>
     <name>lorva::FontFilesWindow</name>
-    <message>
-        <source>Font Files</source>
-        <translation>字型檔</translation>
-    </message>
     <message>
         <source>Reading Files</source>
         <translation>正在讀取檔案</translation>

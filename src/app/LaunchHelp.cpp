@@ -52,7 +52,9 @@ QString launchHelp()
              {"--appearance MODE", Texts::tr("light or dark, whatever the desktop is")},
              {"--screenshot FILE",
               Texts::tr("show the window off screen, write its picture as PNG, and quit")},
-             {"--window-size WxH", Texts::tr("size of that picture, in points (default 1720x920)")},
+             {"--window-size WxH",
+              Texts::tr(
+                  "size of that picture, in points (default 1720x920, of font files 1160x760)")},
              {"--sheet SHEET",
               Texts::tr("open activate, deactivate (for --select), history or settings for it")},
              {"--version", Texts::tr("print the version")},
