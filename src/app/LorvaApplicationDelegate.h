@@ -95,7 +95,7 @@ private:
     DetailCommands detailCommands();
     void showSettings();
     bool isSwitching() const;
-    void watchRuns(const ActivationCommands &commands);
+    void watchRuns(const ActivationCommands &commands) const;
     bool closesNow();
     void closeWhenDone();
     void stopClosing();

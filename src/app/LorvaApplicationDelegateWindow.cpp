@@ -112,7 +112,7 @@ bool LorvaApplicationDelegate::isSwitching() const
 }
 
 /// Either window may wait for the runs of both.
-void LorvaApplicationDelegate::watchRuns(const ActivationCommands &commands)
+void LorvaApplicationDelegate::watchRuns(const ActivationCommands &commands) const
 {
     connect(&commands, &ActivationCommands::changed, this, &LorvaApplicationDelegate::closeWhenDone,
             Qt::QueuedConnection);

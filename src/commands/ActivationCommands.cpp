@@ -286,7 +286,7 @@ void ActivationCommands::restore(const std::shared_ptr<DeactivationRecord> &reco
     const auto words = [label = record->label](int done, int total) {
         return restorationProgress(label, done, total);
     };
-    run(begin, words, [this, record](const InstallationOutcome &outcome) {
+    run(begin, words, [record](const InstallationOutcome &outcome) {
         record->isPending = false;
         record->withdrawn = stillWithdrawn(std::move(record->withdrawn), outcome);
         return restorationAlert(record->label, outcome);
@@ -309,7 +309,7 @@ void ActivationCommands::repeat(const std::shared_ptr<DeactivationRecord> &recor
             return;
         }
         runDeactivation(plan, record->label, std::nullopt,
-                        [this, record, end](const InstallationOutcome &outcome) {
+                        [record, end](const InstallationOutcome &outcome) {
                             addWithdrawn(outcome.withdrawn, record->withdrawn);
                             end();
                             return outcome.failures.empty() && outcome.filesLeft.empty()

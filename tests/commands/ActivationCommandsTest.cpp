@@ -6,6 +6,7 @@
 
 #include "commands/ActivationCommands.h"
 #include "commands/ActivationTexts.h"
+#include "Existing.h"
 #include "platform/RunLock.h"
 #include "ScriptedPresenter.h"
 #include "support/LibraryFixture.h"
@@ -21,17 +22,13 @@
 namespace lorva {
 namespace {
 
+using test::exists;
 using test::FontBuilder;
 using test::listedFontFiles;
 using test::readFile;
 using test::ScriptedPresenter;
 using test::waitUntil;
 using test::writeFile;
-
-bool exists(const FilePath &file)
-{
-    return std::filesystem::exists(std::filesystem::symlink_status(file.c_str()));
-}
 
 /// A watched folder with the families One (two files), Two and Three, and a collection file that
 /// holds Four and Five.

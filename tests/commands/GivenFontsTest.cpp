@@ -8,6 +8,7 @@
 #include "catalog/FaceReading.h"
 #include "catalog/FamilyAccumulator.h"
 #include "commands/ActivationCommands.h"
+#include "Existing.h"
 #include "ScriptedPresenter.h"
 #include "support/LibraryFixture.h"
 #include "support/ListedFonts.h"
@@ -19,16 +20,12 @@
 namespace lorva {
 namespace {
 
+using test::exists;
 using test::FontBuilder;
 using test::readFile;
 using test::ScriptedPresenter;
 using test::waitUntil;
 using test::writeFile;
-
-bool exists(const FilePath &file)
-{
-    return std::filesystem::exists(std::filesystem::symlink_status(file.c_str()));
-}
 
 class GivenFontsTest : public testing::Test
 {

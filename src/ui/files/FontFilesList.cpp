@@ -4,6 +4,7 @@
 #include "ui/files/FontFilesList.h"
 
 #include "ui/style/ControlColors.h"
+#include "ui/style/GroundlessList.h"
 #include "ui/style/Hairline.h"
 #include "ui/style/OverlayScrollBar.h"
 #include "ui/style/Palette.h"
@@ -123,15 +124,9 @@ public:
     {
         setObjectName(QStringLiteral("FontFilesListView"));
         setAccessibleName(FontFilesList::tr("Fonts in the Files"));
-        setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollMode(ScrollPerPixel);
-        setSelectionMode(SingleSelection);
+        makeGroundless(*this);
         setEditTriggers(NoEditTriggers);
         viewport()->setBackgroundRole(QPalette::Window);
-        viewport()->setAutoFillBackground(false);
-        viewport()->setAttribute(Qt::WA_Hover);
     }
     bool showsFocus() const { return hasFocus() && m_showsFocus; }
 

@@ -5,6 +5,7 @@
 
 #include "ui/settings/WatchedFolderDelegate.h"
 #include "ui/style/ControlColors.h"
+#include "ui/style/GroundlessList.h"
 #include "ui/style/OverlayScrollBar.h"
 #include "ui/style/Palette.h"
 #include "ui/style/Style.h"
@@ -42,15 +43,8 @@ public:
     {
         setObjectName(QStringLiteral("Settings.FolderList"));
         setAccessibleName(WatchedFolderList::tr("Watched Folders"));
-        setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollMode(ScrollPerPixel);
+        makeGroundless(*this);
         setUniformItemSizes(true);
-        setSelectionMode(SingleSelection);
-        setAutoFillBackground(false);
-        viewport()->setAutoFillBackground(false);
-        viewport()->setAttribute(Qt::WA_Hover);
         setItemDelegate(
             new WatchedFolderDelegate([this] { return hasFocus() && m_showsFocus; }, this));
     }
