@@ -43,11 +43,23 @@ QString textLanguageFor(const QLocale &locale)
     return textLanguages().contains(code) ? code : QString();
 }
 
+/// What POSIX calls the locale of numbers; the system's QLocale names the language of LANGUAGE
+/// instead, and writes numbers by this one all the same.
+QLocale localeOfNumbers()
+{
+    for (const char *variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return localeOf(name);
+    }
+    return QLocale::c();
+}
+
 /// Dates, numbers and lists stand in the texts and speak their language: in the way of the user's
 /// own region, where one speaks it there.
 void useLocaleOf(const QString &language)
 {
-    const QLocale system = QLocale::system();
+    const QLocale system = localeOfNumbers();
     const bool isNeutral = system.language() == QLocale::C && language == kEnglish;
     if (!isNeutral && textLanguageFor(system) != language)
         QLocale::setDefault(QLocale(language));

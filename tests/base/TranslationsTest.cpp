@@ -49,11 +49,13 @@ INSTANTIATE_TEST_SUITE_P(Rows, TextLanguage,
 TEST(Translations, BringTheirDatesAndLists)
 {
     EXPECT_EQ(QLocale().language(), QLocale::C) << "English without a region stays as it is";
+    qputenv("LANGUAGE", "ja");
     installTranslations(QStringLiteral("ja"));
     EXPECT_EQ(QLocale().toString(QDate(2026, 11, 22), QLocale::LongFormat),
               QStringLiteral("2026年11月22日日曜日"));
     EXPECT_EQ(QLocale().createSeparatedList({"A", "B", "C"}), QStringLiteral("A、B、C"));
     QLocale::setDefault(QLocale::system());
+    qunsetenv("LANGUAGE");
 }
 
 } // namespace
