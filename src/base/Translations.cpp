@@ -7,8 +7,6 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include <memory>
-
 namespace lorva {
 
 namespace {
@@ -17,9 +15,10 @@ const QString kEnglish = QStringLiteral("en");
 
 void install(const QString &file, const QString &folder)
 {
-    auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
-    if (translator->load(file, folder) && QCoreApplication::installTranslator(translator.get()))
-        translator.release();
+    // Owned by the application.
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (!translator->load(file, folder) || !QCoreApplication::installTranslator(translator))
+        delete translator;
 }
 
 /// The locale that a name means, whatever encoding or variant it has behind it.
